@@ -1,0 +1,178 @@
+// Border-extending copies: a source that lands inside a larger destination, whose surroundings are a constant, the
+// nearest edge pixel, or the source repeated periodically.
+// Checks: null, step, size; a destination that is too small for the source and its borders is a size error.
+
+#include <algorithm>
+#include <cstring>
+
+#include "core/checks.h"
+#include "core/exports.h"
+#include "core/image.h"
+#include "core/map_row.h"
+#include "core/rows.h"
+#include "vemi/core.h"
+
+namespace vemi {
+namespace {
+
+/// Where the source lies in the destination: border widths in pixels around it.
+struct Placement {
+  ptrdiff_t left, width, right;
+  ptrdiff_t top, height, bottom;
+};
+
+Placement placementOf(VemiSize srcRoiSize, VemiSize dstRoiSize, int topBorderHeight, int leftBorderWidth) {
+  return {leftBorderWidth, srcRoiSize.width,  ptrdiff_t{dstRoiSize.width} - leftBorderWidth - srcRoiSize.width,
+          topBorderHeight, srcRoiSize.height, ptrdiff_t{dstRoiSize.height} - topBorderHeight - srcRoiSize.height};
+}
+
+/// The sums are exact: they may exceed 32 bits.
+VemiStatus checkBorders(VemiSize srcRoiSize, VemiSize dstRoiSize, int topBorderHeight, int leftBorderWidth) {
+  const bool fits = topBorderHeight >= 0 && leftBorderWidth >= 0 &&
+                    dstRoiSize.width >= Vemi64s{leftBorderWidth} + srcRoiSize.width &&
+                    dstRoiSize.height >= Vemi64s{topBorderHeight} + srcRoiSize.height;
+  return fits ? vemiOk : vemiErrSize;
+}
+
+template <class T, class L>
+void copyPixels(ptrdiff_t width, const T* src, T* dst) {
+  if constexpr (L::keepsAlpha) {
+    mapRow<L>(width, [](auto, auto v) HWY_ATTR { return v; }, dst, src);
+  } else {
+    rowCopyBytes(src, dst, width * pixelBytes<T, L>);
+  }
+}
+
+/// Rows above and below the finished ones are copies of the row that lies `period` rows towards these.
+template <class T, class L>
+void copyFinishedRows(Image<T> dst, Placement p, ptrdiff_t period) {
+  const ptrdiff_t width = p.left + p.width + p.right;
+  const ptrdiff_t end = p.top + p.height + p.bottom;
+  for (ptrdiff_t y = p.top - 1; y >= 0; --y) copyPixels<T, L>(width, dst.row(y + period), dst.row(y));
+  for (ptrdiff_t y = p.top + p.height; y < end; ++y) copyPixels<T, L>(width, dst.row(y - period), dst.row(y));
+}
+
+template <class T, class L>
+VemiStatus copyConstBorder(Image<const T> src, VemiSize srcRoiSize, Image<T> dst, VemiSize dstRoiSize,
+                           int topBorderHeight, int leftBorderWidth, const T* value) {
+  if (const VemiStatus bad =
+          firstOf(checkNull(src, dst, value), checkStep(src, dst), checkSize(srcRoiSize, dstRoiSize),
+                  checkBorders(srcRoiSize, dstRoiSize, topBorderHeight, leftBorderWidth))) {
+    return bad;
+  }
+  const Placement p = placementOf(srcRoiSize, dstRoiSize, topBorderHeight, leftBorderWidth);
+  const Constants<T, L> constants(value);
+  for (ptrdiff_t y = 0; y < dstRoiSize.height; ++y) {
+    T* const row = dst.row(y);
+    if (y < p.top || y >= p.top + p.height) {
+      fillRow(dstRoiSize.width, constants, row);
+      continue;
+    }
+    fillRow(p.left, constants, row);
+    copyPixels<T, L>(p.width, src.row(y - p.top), row + p.left * L::elements);
+    fillRow(p.right, constants, row + (p.left + p.width) * L::elements);
+  }
+  return vemiOk;
+}
+
+template <class T, class L>
+VemiStatus copyReplicateBorder(Image<const T> src, VemiSize srcRoiSize, Image<T> dst, VemiSize dstRoiSize,
+                               int topBorderHeight, int leftBorderWidth) {
+  if (const VemiStatus bad = firstOf(checkNull(src, dst), checkStep(src, dst), checkSize(srcRoiSize, dstRoiSize),
+                                     checkBorders(srcRoiSize, dstRoiSize, topBorderHeight, leftBorderWidth))) {
+    return bad;
+  }
+  const Placement p = placementOf(srcRoiSize, dstRoiSize, topBorderHeight, leftBorderWidth);
+  for (ptrdiff_t y = 0; y < p.height; ++y) {
+    const T* const from = src.row(y);
+    T* const row = dst.row(p.top + y);
+    fillRow(p.left, Constants<T, L>(from), row);
+    copyPixels<T, L>(p.width, from, row + p.left * L::elements);
+    fillRow(p.right, Constants<T, L>(from + (p.width - 1) * L::elements), row + (p.left + p.width) * L::elements);
+  }
+  copyFinishedRows<T, L>(dst, p, 1);
+  return vemiOk;
+}
+
+/// Extends a row whose middle stands. What is finished already is the source of the next stretch.
+template <class T>
+void wrapRow(T* row, Placement p) {
+  for (ptrdiff_t done = p.left; done > 0;) {
+    const ptrdiff_t n = std::min(done, p.width);
+    done -= n;
+    rowCopyBytes(row + done + p.width, row + done, n * ptrdiff_t{sizeof(T)});
+  }
+  const ptrdiff_t end = p.left + p.width + p.right;
+  for (ptrdiff_t done = p.left + p.width; done < end;) {
+    const ptrdiff_t n = std::min(end - done, p.width);
+    rowCopyBytes(row + done - p.width, row + done, n * ptrdiff_t{sizeof(T)});
+    done += n;
+  }
+}
+
+template <class T>
+VemiStatus copyWrapBorder(Image<const T> src, VemiSize srcRoiSize, Image<T> dst, VemiSize dstRoiSize,
+                          int topBorderHeight, int leftBorderWidth) {
+  if (const VemiStatus bad = firstOf(checkNull(src, dst), checkStep(src, dst), checkSize(srcRoiSize, dstRoiSize),
+                                     checkBorders(srcRoiSize, dstRoiSize, topBorderHeight, leftBorderWidth))) {
+    return bad;
+  }
+  const Placement p = placementOf(srcRoiSize, dstRoiSize, topBorderHeight, leftBorderWidth);
+  for (ptrdiff_t y = 0; y < p.height; ++y) {
+    T* const row = dst.row(p.top + y);
+    copyPixels<T, C1>(p.width, src.row(y), row + p.left);
+    wrapRow(row, p);
+  }
+  copyFinishedRows<T, C1>(dst, p, p.height);
+  return vemiOk;
+}
+
+/// The source is in its place already; the destination begins `topBorderHeight` rows and `leftBorderWidth` elements in
+/// front of it.
+template <class T>
+VemiStatus wrapBorderInPlace(Image<T> srcDst, VemiSize srcRoiSize, VemiSize dstRoiSize, int topBorderHeight,
+                             int leftBorderWidth) {
+  if (const VemiStatus bad = firstOf(checkNull(srcDst), checkStep(srcDst), checkSize(srcRoiSize, dstRoiSize),
+                                     checkBorders(srcRoiSize, dstRoiSize, topBorderHeight, leftBorderWidth))) {
+    return bad;
+  }
+  const Placement p = placementOf(srcRoiSize, dstRoiSize, topBorderHeight, leftBorderWidth);
+  const Image<T> dst = {srcDst.row(-p.top) - p.left, srcDst.step};
+  for (ptrdiff_t y = 0; y < p.height; ++y) wrapRow(dst.row(p.top + y), p);
+  copyFinishedRows<T, C1>(dst, p, p.height);
+  return vemiOk;
+}
+
+}  // namespace
+}  // namespace vemi
+
+using namespace vemi;
+
+VEMI_BORDER_VALUE(vemiCopyConstBorder_8u_C1R, Vemi8u, copyConstBorder<Vemi8u, C1>)
+VEMI_BORDER_VALUE(vemiCopyConstBorder_16s_C1R, Vemi16s, copyConstBorder<Vemi16s, C1>)
+VEMI_BORDER_VALUE(vemiCopyConstBorder_32s_C1R, Vemi32s, copyConstBorder<Vemi32s, C1>)
+VEMI_BORDER_VALUES(vemiCopyConstBorder_8u_C3R, Vemi8u, copyConstBorder<Vemi8u, C3>)
+VEMI_BORDER_VALUES(vemiCopyConstBorder_16s_C3R, Vemi16s, copyConstBorder<Vemi16s, C3>)
+VEMI_BORDER_VALUES(vemiCopyConstBorder_32s_C3R, Vemi32s, copyConstBorder<Vemi32s, C3>)
+VEMI_BORDER_VALUES(vemiCopyConstBorder_8u_C4R, Vemi8u, copyConstBorder<Vemi8u, C4>)
+VEMI_BORDER_VALUES(vemiCopyConstBorder_16s_C4R, Vemi16s, copyConstBorder<Vemi16s, C4>)
+VEMI_BORDER_VALUES(vemiCopyConstBorder_32s_C4R, Vemi32s, copyConstBorder<Vemi32s, C4>)
+VEMI_BORDER_VALUES(vemiCopyConstBorder_8u_AC4R, Vemi8u, copyConstBorder<Vemi8u, AC4>)
+VEMI_BORDER_VALUES(vemiCopyConstBorder_16s_AC4R, Vemi16s, copyConstBorder<Vemi16s, AC4>)
+VEMI_BORDER_VALUES(vemiCopyConstBorder_32s_AC4R, Vemi32s, copyConstBorder<Vemi32s, AC4>)
+
+VEMI_BORDER(vemiCopyReplicateBorder_8u_C1R, Vemi8u, copyReplicateBorder<Vemi8u, C1>)
+VEMI_BORDER(vemiCopyReplicateBorder_16s_C1R, Vemi16s, copyReplicateBorder<Vemi16s, C1>)
+VEMI_BORDER(vemiCopyReplicateBorder_32s_C1R, Vemi32s, copyReplicateBorder<Vemi32s, C1>)
+VEMI_BORDER(vemiCopyReplicateBorder_8u_C3R, Vemi8u, copyReplicateBorder<Vemi8u, C3>)
+VEMI_BORDER(vemiCopyReplicateBorder_16s_C3R, Vemi16s, copyReplicateBorder<Vemi16s, C3>)
+VEMI_BORDER(vemiCopyReplicateBorder_32s_C3R, Vemi32s, copyReplicateBorder<Vemi32s, C3>)
+VEMI_BORDER(vemiCopyReplicateBorder_8u_C4R, Vemi8u, copyReplicateBorder<Vemi8u, C4>)
+VEMI_BORDER(vemiCopyReplicateBorder_16s_C4R, Vemi16s, copyReplicateBorder<Vemi16s, C4>)
+VEMI_BORDER(vemiCopyReplicateBorder_32s_C4R, Vemi32s, copyReplicateBorder<Vemi32s, C4>)
+VEMI_BORDER(vemiCopyReplicateBorder_8u_AC4R, Vemi8u, copyReplicateBorder<Vemi8u, AC4>)
+VEMI_BORDER(vemiCopyReplicateBorder_16s_AC4R, Vemi16s, copyReplicateBorder<Vemi16s, AC4>)
+VEMI_BORDER(vemiCopyReplicateBorder_32s_AC4R, Vemi32s, copyReplicateBorder<Vemi32s, AC4>)
+
+VEMI_BORDER(vemiCopyWrapBorder_32s_C1R, Vemi32s, copyWrapBorder<Vemi32s>)
+VEMI_BORDER_IN_PLACE(vemiCopyWrapBorder_32s_C1IR, Vemi32s, wrapBorderInPlace<Vemi32s>)

@@ -1,0 +1,181 @@
+// vemiCopy: regions copied whole, under a mask, channel by channel, and between pixels and planes.
+// Checks: null, size, step. Where the rows of all images are contiguous, the region is one long row.
+
+#include "core/checks.h"
+#include "core/exports.h"
+#include "core/image.h"
+#include "core/interleave.h"
+#include "core/map_row.h"
+#include "core/masked_row.h"
+#include "core/rows.h"
+#include "vemi/core.h"
+
+namespace vemi {
+namespace {
+
+template <class T, class L>
+VemiStatus copy(Image<const T> src, Image<T> dst, VemiSize roiSize) {
+  if (const VemiStatus bad = firstOf(checkNull(src, dst), checkSize(roiSize), checkStep(src, dst))) return bad;
+  const Extent extent = mergedExtent(roiSize, isContiguous<L>(src, roiSize) && isContiguous<L>(dst, roiSize));
+  const ptrdiff_t rowBytes = extent.width * pixelBytes<T, L>;
+  const auto copyBytes = rowBytes * extent.height >= streamedBytes ? rowStreamBytes : rowCopyBytes;
+  for (ptrdiff_t y = 0; y < extent.height; ++y) copyBytes(src.row(y), dst.row(y), rowBytes);
+  return vemiOk;
+}
+
+template <class T>
+VemiStatus copyBesideAlpha(Image<const T> src, Image<T> dst, VemiSize roiSize) {
+  if (const VemiStatus bad = firstOf(checkNull(src, dst), checkSize(roiSize), checkStep(src, dst))) return bad;
+  const Extent extent = mergedExtent(roiSize, isContiguous<AC4>(src, roiSize) && isContiguous<AC4>(dst, roiSize));
+  const auto same = [](auto, auto v) HWY_ATTR { return v; };
+  for (ptrdiff_t y = 0; y < extent.height; ++y) mapRow<AC4>(extent.width, same, dst.row(y), src.row(y));
+  return vemiOk;
+}
+
+template <class T, class L>
+VemiStatus copyMasked(Image<const T> src, Image<T> dst, VemiSize roiSize, Image<const Vemi8u> mask) {
+  if (const VemiStatus bad = firstOf(checkNull(src, dst, mask), checkSize(roiSize), checkStep(src, dst, mask))) {
+    return bad;
+  }
+  for (int y = 0; y < roiSize.height; ++y) copyRowMasked<L>(roiSize.width, mask.row(y), dst.row(y), src.row(y));
+  return vemiOk;
+}
+
+/// What moves one row from a layout SL to a layout DL.
+template <class T>
+using RowMove = void (*)(ptrdiff_t width, const T* src, T* dst);
+
+/// The forms that change the layout or pick a channel. Their rows merge where both images are contiguous; for a channel
+/// of interest the long row ends with the last pixel's element too.
+template <class T, class SL, class DL, RowMove<T> moveRow>
+VemiStatus copyRelaid(Image<const T> src, Image<T> dst, VemiSize roiSize) {
+  if (const VemiStatus bad = firstOf(checkNull(src, dst), checkSize(roiSize), checkStep(src, dst))) return bad;
+  const Extent extent = mergedExtent(roiSize, isContiguous<SL>(src, roiSize) && isContiguous<DL>(dst, roiSize));
+  for (ptrdiff_t y = 0; y < extent.height; ++y) moveRow(extent.width, src.row(y), dst.row(y));
+  return vemiOk;
+}
+
+template <class T, class L>
+VemiStatus copyChannel(Image<const T> src, Image<T> dst, VemiSize roiSize) {
+  return copyRelaid<T, L, L, copyChannelRow<L::elements, L::elements, T>>(src, dst, roiSize);
+}
+
+template <class T, class L>
+VemiStatus extractChannel(Image<const T> src, Image<T> dst, VemiSize roiSize) {
+  return copyRelaid<T, L, C1, extractChannelRow<L::elements, T>>(src, dst, roiSize);
+}
+
+template <class T, class L>
+VemiStatus insertChannel(Image<const T> src, Image<T> dst, VemiSize roiSize) {
+  return copyRelaid<T, C1, L, copyChannelRow<1, L::elements, T>>(src, dst, roiSize);
+}
+
+template <class T>
+VemiStatus dropAlpha(Image<const T> src, Image<T> dst, VemiSize roiSize) {
+  return copyRelaid<T, C4, C3, dropAlphaRow<T>>(src, dst, roiSize);
+}
+
+template <class T>
+VemiStatus copyBeneathAlpha(Image<const T> src, Image<T> dst, VemiSize roiSize) {
+  return copyRelaid<T, C3, C4, beneathAlphaRow<T>>(src, dst, roiSize);
+}
+
+template <class T, int channels>
+VemiStatus split(Image<const T> src, Planes<T, channels> dst, VemiSize roiSize) {
+  if (const VemiStatus bad = firstOf(checkNull(src, dst), checkSize(roiSize), checkStep(src, dst))) return bad;
+  const bool contiguous =
+      isContiguous<Interleaved<channels>>(src, roiSize) && isContiguous<C1>(dst[0], roiSize);
+  const Extent extent = mergedExtent(roiSize, contiguous);
+  for (ptrdiff_t y = 0; y < extent.height; ++y) {
+    if constexpr (channels == 3) splitRow(extent.width, src.row(y), dst[0].row(y), dst[1].row(y), dst[2].row(y));
+    if constexpr (channels == 4) {
+      splitRow(extent.width, src.row(y), dst[0].row(y), dst[1].row(y), dst[2].row(y), dst[3].row(y));
+    }
+  }
+  return vemiOk;
+}
+
+template <class T, int channels>
+VemiStatus merge(Planes<const T, channels> src, Image<T> dst, VemiSize roiSize) {
+  if (const VemiStatus bad = firstOf(checkNull(src, dst), checkSize(roiSize), checkStep(src, dst))) return bad;
+  const bool contiguous =
+      isContiguous<C1>(src[0], roiSize) && isContiguous<Interleaved<channels>>(dst, roiSize);
+  const Extent extent = mergedExtent(roiSize, contiguous);
+  for (ptrdiff_t y = 0; y < extent.height; ++y) {
+    if constexpr (channels == 3) mergeRow(extent.width, dst.row(y), src[0].row(y), src[1].row(y), src[2].row(y));
+    if constexpr (channels == 4) {
+      mergeRow(extent.width, dst.row(y), src[0].row(y), src[1].row(y), src[2].row(y), src[3].row(y));
+    }
+  }
+  return vemiOk;
+}
+
+}  // namespace
+}  // namespace vemi
+
+using namespace vemi;
+
+VEMI_SRC_DST(vemiCopy_8u_C1R, Vemi8u, copy<Vemi8u, C1>)
+VEMI_SRC_DST(vemiCopy_16s_C1R, Vemi16s, copy<Vemi16s, C1>)
+VEMI_SRC_DST(vemiCopy_32f_C1R, Vemi32f, copy<Vemi32f, C1>)
+VEMI_SRC_DST(vemiCopy_8u_C3R, Vemi8u, copy<Vemi8u, C3>)
+VEMI_SRC_DST(vemiCopy_16s_C3R, Vemi16s, copy<Vemi16s, C3>)
+VEMI_SRC_DST(vemiCopy_32f_C3R, Vemi32f, copy<Vemi32f, C3>)
+VEMI_SRC_DST(vemiCopy_8u_C4R, Vemi8u, copy<Vemi8u, C4>)
+VEMI_SRC_DST(vemiCopy_16s_C4R, Vemi16s, copy<Vemi16s, C4>)
+VEMI_SRC_DST(vemiCopy_32f_C4R, Vemi32f, copy<Vemi32f, C4>)
+VEMI_SRC_DST(vemiCopy_8u_AC4R, Vemi8u, copyBesideAlpha<Vemi8u>)
+VEMI_SRC_DST(vemiCopy_16s_AC4R, Vemi16s, copyBesideAlpha<Vemi16s>)
+VEMI_SRC_DST(vemiCopy_32f_AC4R, Vemi32f, copyBesideAlpha<Vemi32f>)
+
+VEMI_SRC_DST_MASK(vemiCopy_8u_C1MR, Vemi8u, copyMasked<Vemi8u, C1>)
+VEMI_SRC_DST_MASK(vemiCopy_16s_C1MR, Vemi16s, copyMasked<Vemi16s, C1>)
+VEMI_SRC_DST_MASK(vemiCopy_32f_C1MR, Vemi32f, copyMasked<Vemi32f, C1>)
+VEMI_SRC_DST_MASK(vemiCopy_8u_C3MR, Vemi8u, copyMasked<Vemi8u, C3>)
+VEMI_SRC_DST_MASK(vemiCopy_16s_C3MR, Vemi16s, copyMasked<Vemi16s, C3>)
+VEMI_SRC_DST_MASK(vemiCopy_32f_C3MR, Vemi32f, copyMasked<Vemi32f, C3>)
+VEMI_SRC_DST_MASK(vemiCopy_8u_C4MR, Vemi8u, copyMasked<Vemi8u, C4>)
+VEMI_SRC_DST_MASK(vemiCopy_16s_C4MR, Vemi16s, copyMasked<Vemi16s, C4>)
+VEMI_SRC_DST_MASK(vemiCopy_32f_C4MR, Vemi32f, copyMasked<Vemi32f, C4>)
+VEMI_SRC_DST_MASK(vemiCopy_8u_AC4MR, Vemi8u, copyMasked<Vemi8u, AC4>)
+VEMI_SRC_DST_MASK(vemiCopy_16s_AC4MR, Vemi16s, copyMasked<Vemi16s, AC4>)
+VEMI_SRC_DST_MASK(vemiCopy_32f_AC4MR, Vemi32f, copyMasked<Vemi32f, AC4>)
+
+VEMI_SRC_DST(vemiCopy_8u_C3CR, Vemi8u, copyChannel<Vemi8u, C3>)
+VEMI_SRC_DST(vemiCopy_16s_C3CR, Vemi16s, copyChannel<Vemi16s, C3>)
+VEMI_SRC_DST(vemiCopy_32f_C3CR, Vemi32f, copyChannel<Vemi32f, C3>)
+VEMI_SRC_DST(vemiCopy_8u_C4CR, Vemi8u, copyChannel<Vemi8u, C4>)
+VEMI_SRC_DST(vemiCopy_16s_C4CR, Vemi16s, copyChannel<Vemi16s, C4>)
+VEMI_SRC_DST(vemiCopy_32f_C4CR, Vemi32f, copyChannel<Vemi32f, C4>)
+VEMI_SRC_DST(vemiCopy_8u_C3C1R, Vemi8u, extractChannel<Vemi8u, C3>)
+VEMI_SRC_DST(vemiCopy_16s_C3C1R, Vemi16s, extractChannel<Vemi16s, C3>)
+VEMI_SRC_DST(vemiCopy_32f_C3C1R, Vemi32f, extractChannel<Vemi32f, C3>)
+VEMI_SRC_DST(vemiCopy_8u_C4C1R, Vemi8u, extractChannel<Vemi8u, C4>)
+VEMI_SRC_DST(vemiCopy_16s_C4C1R, Vemi16s, extractChannel<Vemi16s, C4>)
+VEMI_SRC_DST(vemiCopy_32f_C4C1R, Vemi32f, extractChannel<Vemi32f, C4>)
+VEMI_SRC_DST(vemiCopy_8u_C1C3R, Vemi8u, insertChannel<Vemi8u, C3>)
+VEMI_SRC_DST(vemiCopy_16s_C1C3R, Vemi16s, insertChannel<Vemi16s, C3>)
+VEMI_SRC_DST(vemiCopy_32f_C1C3R, Vemi32f, insertChannel<Vemi32f, C3>)
+VEMI_SRC_DST(vemiCopy_8u_C1C4R, Vemi8u, insertChannel<Vemi8u, C4>)
+VEMI_SRC_DST(vemiCopy_16s_C1C4R, Vemi16s, insertChannel<Vemi16s, C4>)
+VEMI_SRC_DST(vemiCopy_32f_C1C4R, Vemi32f, insertChannel<Vemi32f, C4>)
+
+VEMI_SRC_DST(vemiCopy_8u_AC4C3R, Vemi8u, dropAlpha<Vemi8u>)
+VEMI_SRC_DST(vemiCopy_16s_AC4C3R, Vemi16s, dropAlpha<Vemi16s>)
+VEMI_SRC_DST(vemiCopy_32f_AC4C3R, Vemi32f, dropAlpha<Vemi32f>)
+VEMI_SRC_DST(vemiCopy_8u_C3AC4R, Vemi8u, copyBeneathAlpha<Vemi8u>)
+VEMI_SRC_DST(vemiCopy_16s_C3AC4R, Vemi16s, copyBeneathAlpha<Vemi16s>)
+VEMI_SRC_DST(vemiCopy_32f_C3AC4R, Vemi32f, copyBeneathAlpha<Vemi32f>)
+
+VEMI_SRC_PLANES(vemiCopy_8u_C3P3R, Vemi8u, 3, split<Vemi8u, 3>)
+VEMI_SRC_PLANES(vemiCopy_16s_C3P3R, Vemi16s, 3, split<Vemi16s, 3>)
+VEMI_SRC_PLANES(vemiCopy_32f_C3P3R, Vemi32f, 3, split<Vemi32f, 3>)
+VEMI_SRC_PLANES(vemiCopy_8u_C4P4R, Vemi8u, 4, split<Vemi8u, 4>)
+VEMI_SRC_PLANES(vemiCopy_16s_C4P4R, Vemi16s, 4, split<Vemi16s, 4>)
+VEMI_SRC_PLANES(vemiCopy_32f_C4P4R, Vemi32f, 4, split<Vemi32f, 4>)
+VEMI_PLANES_DST(vemiCopy_8u_P3C3R, Vemi8u, 3, merge<Vemi8u, 3>)
+VEMI_PLANES_DST(vemiCopy_16s_P3C3R, Vemi16s, 3, merge<Vemi16s, 3>)
+VEMI_PLANES_DST(vemiCopy_32f_P3C3R, Vemi32f, 3, merge<Vemi32f, 3>)
+VEMI_PLANES_DST(vemiCopy_8u_P4C4R, Vemi8u, 4, merge<Vemi8u, 4>)
+VEMI_PLANES_DST(vemiCopy_16s_P4C4R, Vemi16s, 4, merge<Vemi16s, 4>)
+VEMI_PLANES_DST(vemiCopy_32f_P4C4R, Vemi32f, 4, merge<Vemi32f, 4>)

@@ -1,0 +1,142 @@
+// One macro for each shape of signature. A family's export table names the function in full, its element type and the
+// template instance that does the work; the macro spells the parameters once. No name is pasted together.
+//
+// A table stands behind `using namespace vemi;`, so that the instances can be named as the family's file names them.
+#pragma once
+
+#include "core/image.h"
+
+// One source, one destination.
+#define VEMI_SRC_DST(name, T, ...)                                                                     \
+  VemiStatus name(const T* pSrc, int srcStep, T* pDst, int dstStep, VemiSize roiSize) {                \
+    return __VA_ARGS__(Image<const T>{pSrc, srcStep}, Image<T>{pDst, dstStep}, roiSize);               \
+  }
+#define VEMI_SRC_DST_MASK(name, T, ...)                                                                \
+  VemiStatus name(const T* pSrc, int srcStep, T* pDst, int dstStep, VemiSize roiSize,                  \
+                  const Vemi8u* pMask, int maskStep) {                                                 \
+    return __VA_ARGS__(Image<const T>{pSrc, srcStep}, Image<T>{pDst, dstStep}, roiSize,                \
+                       Image<const Vemi8u>{pMask, maskStep});                                          \
+  }
+#define VEMI_SRC_PLANES(name, T, planes, ...)                                                          \
+  VemiStatus name(const T* pSrc, int srcStep, T* const pDst[planes], int dstStep, VemiSize roiSize) {  \
+    return __VA_ARGS__(Image<const T>{pSrc, srcStep}, Planes<T, planes>{pDst, dstStep}, roiSize);      \
+  }
+#define VEMI_PLANES_DST(name, T, planes, ...)                                                          \
+  VemiStatus name(const T* const pSrc[planes], int srcStep, T* pDst, int dstStep, VemiSize roiSize) {  \
+    return __VA_ARGS__(Planes<const T, planes>{pSrc, srcStep}, Image<T>{pDst, dstStep}, roiSize);      \
+  }
+
+// A constant (one value, or one for each channel) and a destination. A single value is handed on by its address, so
+// that one implementation serves both.
+#define VEMI_VALUE_DST(name, T, ...)                                                                   \
+  VemiStatus name(T value, T* pDst, int dstStep, VemiSize roiSize) {                                   \
+    return __VA_ARGS__(&value, Image<T>{pDst, dstStep}, roiSize);                                      \
+  }
+#define VEMI_VALUES_DST(name, T, ...)                                                                  \
+  VemiStatus name(const T* value, T* pDst, int dstStep, VemiSize roiSize) {                            \
+    return __VA_ARGS__(value, Image<T>{pDst, dstStep}, roiSize);                                       \
+  }
+#define VEMI_VALUE_DST_MASK(name, T, ...)                                                              \
+  VemiStatus name(T value, T* pDst, int dstStep, VemiSize roiSize, const Vemi8u* pMask, int maskStep) { \
+    return __VA_ARGS__(&value, Image<T>{pDst, dstStep}, roiSize, Image<const Vemi8u>{pMask, maskStep}); \
+  }
+#define VEMI_VALUES_DST_MASK(name, T, ...)                                                             \
+  VemiStatus name(const T* value, T* pDst, int dstStep, VemiSize roiSize, const Vemi8u* pMask,         \
+                  int maskStep) {                                                                      \
+    return __VA_ARGS__(value, Image<T>{pDst, dstStep}, roiSize, Image<const Vemi8u>{pMask, maskStep}); \
+  }
+
+// A source that lands inside a larger destination.
+#define VEMI_BORDER(name, T, ...)                                                                      \
+  VemiStatus name(const T* pSrc, int srcStep, VemiSize srcRoiSize, T* pDst, int dstStep,               \
+                  VemiSize dstRoiSize, int topBorderHeight, int leftBorderWidth) {                     \
+    return __VA_ARGS__(Image<const T>{pSrc, srcStep}, srcRoiSize, Image<T>{pDst, dstStep}, dstRoiSize, \
+                       topBorderHeight, leftBorderWidth);                                              \
+  }
+#define VEMI_BORDER_VALUE(name, T, ...)                                                                \
+  VemiStatus name(const T* pSrc, int srcStep, VemiSize srcRoiSize, T* pDst, int dstStep,               \
+                  VemiSize dstRoiSize, int topBorderHeight, int leftBorderWidth, T value) {            \
+    return __VA_ARGS__(Image<const T>{pSrc, srcStep}, srcRoiSize, Image<T>{pDst, dstStep}, dstRoiSize, \
+                       topBorderHeight, leftBorderWidth, &value);                                      \
+  }
+#define VEMI_BORDER_VALUES(name, T, ...)                                                               \
+  VemiStatus name(const T* pSrc, int srcStep, VemiSize srcRoiSize, T* pDst, int dstStep,               \
+                  VemiSize dstRoiSize, int topBorderHeight, int leftBorderWidth, const T* value) {     \
+    return __VA_ARGS__(Image<const T>{pSrc, srcStep}, srcRoiSize, Image<T>{pDst, dstStep}, dstRoiSize, \
+                       topBorderHeight, leftBorderWidth, value);                                       \
+  }
+
+#define VEMI_BORDER_IN_PLACE(name, T, ...)                                                             \
+  VemiStatus name(T* pSrc, int srcDstStep, VemiSize srcRoiSize, VemiSize dstRoiSize,                   \
+                  int topBorderHeight, int leftBorderWidth) {                                          \
+    return __VA_ARGS__(Image<T>{pSrc, srcDstStep}, srcRoiSize, dstRoiSize, topBorderHeight,            \
+                       leftBorderWidth);                                                               \
+  }
+
+// Two sources; in place, the destination is the second of them.
+#define VEMI_2SRC_DST(name, T, ...)                                                                    \
+  VemiStatus name(const T* pSrc1, int src1Step, const T* pSrc2, int src2Step, T* pDst, int dstStep,    \
+                  VemiSize roiSize) {                                                                  \
+    return __VA_ARGS__(Image<const T>{pSrc1, src1Step}, Image<const T>{pSrc2, src2Step},               \
+                       Image<T>{pDst, dstStep}, roiSize);                                              \
+  }
+#define VEMI_SRC_SRCDST(name, T, ...)                                                                  \
+  VemiStatus name(const T* pSrc, int srcStep, T* pSrcDst, int srcDstStep, VemiSize roiSize) {          \
+    return __VA_ARGS__(Image<const T>{pSrc, srcStep}, Image<const T>{pSrcDst, srcDstStep},             \
+                       Image<T>{pSrcDst, srcDstStep}, roiSize);                                        \
+  }
+#define VEMI_2SRC_DST_SFS(name, T, ...)                                                                \
+  VemiStatus name(const T* pSrc1, int src1Step, const T* pSrc2, int src2Step, T* pDst, int dstStep,    \
+                  VemiSize roiSize, int scaleFactor) {                                                 \
+    return __VA_ARGS__(Image<const T>{pSrc1, src1Step}, Image<const T>{pSrc2, src2Step},               \
+                       Image<T>{pDst, dstStep}, roiSize, scaleFactor);                                 \
+  }
+#define VEMI_SRC_SRCDST_SFS(name, T, ...)                                                              \
+  VemiStatus name(const T* pSrc, int srcStep, T* pSrcDst, int srcDstStep, VemiSize roiSize,            \
+                  int scaleFactor) {                                                                   \
+    return __VA_ARGS__(Image<const T>{pSrc, srcStep}, Image<const T>{pSrcDst, srcDstStep},             \
+                       Image<T>{pSrcDst, srcDstStep}, roiSize, scaleFactor);                           \
+  }
+
+// A source and a constant; in place, the source is the destination.
+#define VEMI_SRC_VALUE_DST(name, T, ...)                                                               \
+  VemiStatus name(const T* pSrc, int srcStep, T value, T* pDst, int dstStep, VemiSize roiSize) {       \
+    return __VA_ARGS__(Image<const T>{pSrc, srcStep}, &value, Image<T>{pDst, dstStep}, roiSize);       \
+  }
+#define VEMI_VALUE_SRCDST(name, T, ...)                                                                \
+  VemiStatus name(T value, T* pSrcDst, int srcDstStep, VemiSize roiSize) {                             \
+    return __VA_ARGS__(Image<const T>{pSrcDst, srcDstStep}, &value, Image<T>{pSrcDst, srcDstStep},     \
+                       roiSize);                                                                       \
+  }
+#define VEMI_SRC_VALUES_DST(name, T, ...)                                                              \
+  VemiStatus name(const T* pSrc, int srcStep, const T* value, T* pDst, int dstStep,                    \
+                  VemiSize roiSize) {                                                                  \
+    return __VA_ARGS__(Image<const T>{pSrc, srcStep}, value, Image<T>{pDst, dstStep}, roiSize);        \
+  }
+#define VEMI_VALUES_SRCDST(name, T, ...)                                                               \
+  VemiStatus name(const T* value, T* pSrcDst, int srcDstStep, VemiSize roiSize) {                      \
+    return __VA_ARGS__(Image<const T>{pSrcDst, srcDstStep}, value, Image<T>{pSrcDst, srcDstStep},      \
+                       roiSize);                                                                       \
+  }
+#define VEMI_SRC_VALUE_DST_SFS(name, T, ...)                                                           \
+  VemiStatus name(const T* pSrc, int srcStep, T value, T* pDst, int dstStep, VemiSize roiSize,         \
+                  int scaleFactor) {                                                                   \
+    return __VA_ARGS__(Image<const T>{pSrc, srcStep}, &value, Image<T>{pDst, dstStep}, roiSize,        \
+                       scaleFactor);                                                                   \
+  }
+#define VEMI_VALUE_SRCDST_SFS(name, T, ...)                                                            \
+  VemiStatus name(T value, T* pSrcDst, int srcDstStep, VemiSize roiSize, int scaleFactor) {            \
+    return __VA_ARGS__(Image<const T>{pSrcDst, srcDstStep}, &value, Image<T>{pSrcDst, srcDstStep},     \
+                       roiSize, scaleFactor);                                                          \
+  }
+#define VEMI_SRC_VALUES_DST_SFS(name, T, ...)                                                          \
+  VemiStatus name(const T* pSrc, int srcStep, const T* value, T* pDst, int dstStep, VemiSize roiSize,  \
+                  int scaleFactor) {                                                                   \
+    return __VA_ARGS__(Image<const T>{pSrc, srcStep}, value, Image<T>{pDst, dstStep}, roiSize,         \
+                       scaleFactor);                                                                   \
+  }
+#define VEMI_VALUES_SRCDST_SFS(name, T, ...)                                                           \
+  VemiStatus name(const T* value, T* pSrcDst, int srcDstStep, VemiSize roiSize, int scaleFactor) {     \
+    return __VA_ARGS__(Image<const T>{pSrcDst, srcDstStep}, value, Image<T>{pSrcDst, srcDstStep},      \
+                       roiSize, scaleFactor);                                                          \
+  }

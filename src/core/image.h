@@ -1,0 +1,57 @@
+// How a call describes its images: a pointer to the region's first pixel and a distance in bytes from row to row.
+#pragma once
+
+#include <cstddef>
+#include <type_traits>
+
+#include "core/layout.h"
+#include "vemi/types.h"
+
+namespace vemi {
+
+/// T is const for a source. Addresses are formed in pointer-sized integers: row times step overflows 32 bits on real
+/// images. A row may be misaligned for T, so elements are reached through lanes or memcpy only.
+template <class T>
+struct Image {
+  T* first;
+  int step;
+
+  T* row(ptrdiff_t y) const {
+    using Byte = std::conditional_t<std::is_const_v<T>, const char, char>;
+    return reinterpret_cast<T*>(reinterpret_cast<Byte*>(first) + y * step);
+  }
+};
+
+/// Separate planes with one step for all of them.
+template <class T, int planeCount>
+struct Planes {
+  T* const* plane;
+  int step;
+
+  Image<T> operator[](int index) const { return {plane[index], step}; }
+};
+
+/// What one pixel needs of a region's row, in bytes.
+template <class T, class L>
+inline constexpr ptrdiff_t pixelBytes = static_cast<ptrdiff_t>(sizeof(T)) * L::elements;
+
+/// True where the rows of an image follow each other without a gap.
+template <class L, class T>
+bool isContiguous(Image<T> image, VemiSize roiSize) {
+  return image.step == roiSize.width * pixelBytes<T, L>;
+}
+
+/// The extent of a region in pixels, at pointer width, so that many rows can become one.
+struct Extent {
+  ptrdiff_t width, height;
+};
+
+inline Extent extentOf(VemiSize roiSize) { return {roiSize.width, roiSize.height}; }
+
+/// Contiguous rows are one long row.
+inline Extent mergedExtent(VemiSize roiSize, bool contiguous) {
+  const Extent whole = extentOf(roiSize);
+  return contiguous ? Extent{whole.width * whole.height, 1} : whole;
+}
+
+}  // namespace vemi

@@ -1,0 +1,156 @@
+// Rounding and saturation, each as a scalar and as lanes beside each other, and the approximate reciprocal.
+#pragma once
+
+#include <bit>
+#include <cmath>
+#include <cstdint>
+#include <limits>
+#include <type_traits>
+
+#include "core/lanes.h"
+
+namespace vemi {
+
+// ---- Saturation ---------------------------------------------------------------------------------------------------
+
+/// The nearest value that T holds.
+template <class T, class Wide>
+constexpr T saturate(Wide value) {
+  static_assert(std::is_integral_v<Wide> && sizeof(Wide) > sizeof(T));
+  constexpr Wide low = std::numeric_limits<T>::min();
+  constexpr Wide high = std::numeric_limits<T>::max();
+  return static_cast<T>(value < low ? low : value > high ? high : value);
+}
+
+template <class D, class V>
+HWY_INLINE hn::Vec<D> saturate(D d, Widened<V> wide) {
+  return narrow(d, wide);
+}
+
+// ---- Scaling by a power of two ------------------------------------------------------------------------------------
+
+/// value / 2^shift to nearest, ties to even; 0 < shift < bits of the type.
+template <class T>
+constexpr T roundShift(T value, int shift) {
+  return static_cast<T>((value + (T{1} << (shift - 1)) - 1 + ((value >> shift) & 1)) >> shift);
+}
+
+/// In lanes the sum must not leave the lane: |value| + 2^(shift - 1) has to fit.
+template <class D, class V = hn::Vec<D>>
+HWY_INLINE V roundShift(D d, V value, int shift) {
+  const V one = hn::Set(d, 1);
+  const V bias = hn::Sub(hn::ShiftLeftSame(one, shift - 1), one);
+  const V odd = hn::And(hn::ShiftRightSame(value, shift), one);
+  return hn::ShiftRightSame(hn::Add(value, hn::Add(bias, odd)), shift);
+}
+
+/// value * 2^shift, saturated; shift >= 0.
+template <class T>
+constexpr T saturateShiftLeft(T value, int shift) {
+  return saturate<T>(static_cast<std::int64_t>(value) * (std::int64_t{1} << (shift < 32 ? shift : 32)));
+}
+
+/// The same in lanes, for one shift: its limits are prepared once in a call.
+template <class T>
+struct SaturatingShiftLeft {
+  static constexpr int bits = 8 * sizeof(T);
+  static constexpr T typeLowest = std::numeric_limits<T>::min();
+  static constexpr T typeHighest = std::numeric_limits<T>::max();
+
+  int shift;
+  T lowest, highest;  // what the shift leaves within the type
+
+  explicit SaturatingShiftLeft(int count)
+      : shift(count < bits ? count : bits - 1),
+        lowest(static_cast<T>(count < bits ? typeLowest >> count : 0)),
+        highest(static_cast<T>(count < bits ? typeHighest >> count : 0)) {}
+
+  template <class D, class V = hn::Vec<D>>
+  HWY_INLINE V operator()(D d, V value) const {
+    const V tooHigh = hn::IfThenElse(hn::Gt(value, hn::Set(d, highest)), hn::Set(d, typeHighest),
+                                     hn::ShiftLeftSame(value, shift));
+    if constexpr (std::is_unsigned_v<T>) return tooHigh;
+    return hn::IfThenElse(hn::Lt(value, hn::Set(d, lowest)), hn::Set(d, typeLowest), tooHigh);
+  }
+};
+
+// ---- Float to integer ---------------------------------------------------------------------------------------------
+
+/// To the nearest integer, ties to even, whatever rounding mode the caller has set: the remainder decides, not the
+/// processor's mode.
+inline float roundTiesEven(float value) {
+  const float down = std::floor(value);
+  const float rest = value - down;
+  const float half = down * 0.5f;
+  const bool up = rest > 0.5f || (rest == 0.5f && std::floor(half) != half);
+  return up ? down + 1.0f : down;
+}
+
+template <class D, class V = hn::Vec<D>>
+HWY_INLINE V roundTiesEven(D d, V value) {
+  const V down = hn::Floor(value);
+  const V rest = hn::Sub(value, down);
+  const V half = hn::Mul(down, hn::Set(d, 0.5f));
+  const V point5 = hn::Set(d, 0.5f);
+  const auto odd = hn::Ne(hn::Floor(half), half);
+  const auto up = hn::Or(hn::Gt(rest, point5), hn::And(hn::Eq(rest, point5), odd));
+  return hn::Add(down, hn::IfThenElseZero(up, hn::Set(d, 1.0f)));
+}
+
+// ---- The approximate reciprocal -----------------------------------------------------------------------------------
+//
+// Processors differ in theirs, so it is computed by its classic definition. For a normal x = (1 + f) 2^e let i be the
+// top 11 bits of f and M = 4097 + 2 i, the middle of the interval in units of 2^-12; the result is q 2^-13 2^-e with
+// q = floor((2^25 + (M >> 1)) / M). Zeros and denormals give an infinity and infinities a zero of x's sign, a result
+// below the normal range is a zero of x's sign, a NaN stays a quiet NaN.
+
+inline float approximateReciprocal(float x) {
+  const std::uint32_t bits = std::bit_cast<std::uint32_t>(x);
+  const std::uint32_t sign = bits & 0x80000000u;
+  const int exponent = static_cast<int>(bits >> 23 & 0xff);
+  const std::uint32_t fraction = bits & 0x7fffffu;
+  if (exponent == 0) return std::bit_cast<float>(sign | 0x7f800000u);
+  if (exponent == 0xff) return std::bit_cast<float>(fraction != 0 ? bits | 0x400000u : sign);
+  const std::uint32_t m = 4097 + 2 * (fraction >> 12);
+  const std::uint32_t q = ((std::uint32_t{1} << 25) + (m >> 1)) / m;
+  // 4096 < q < 8192: q 2^-13 lies in (0.5, 1), so its exponent is one below that of 2^-e.
+  const int resultExponent = 127 - 1 - (exponent - 127);
+  if (resultExponent < 1) return std::bit_cast<float>(sign);
+  return std::bit_cast<float>(sign | static_cast<std::uint32_t>(resultExponent) << 23 | (q - 4096) << 11);
+}
+
+/// floor(n / m) in 32-bit lanes, 0 < n < 2^26 and 4096 < m: a single-precision quotient is off by one at most, whatever
+/// the rounding mode, and the remainder tells.
+template <class D, class V = hn::Vec<D>>
+HWY_INLINE V divideFloor(D di, V n, V m) {
+  const hn::RebindToFloat<D> df;
+  const V q = hn::ConvertTo(di, hn::Div(hn::ConvertTo(df, n), hn::ConvertTo(df, m)));
+  const V rest = hn::Sub(n, hn::Mul(q, m));
+  const V tooLarge = hn::VecFromMask(di, hn::Lt(rest, hn::Zero(di)));
+  const V tooSmall = hn::VecFromMask(di, hn::Ge(rest, m));
+  return hn::Sub(hn::Add(q, tooLarge), tooSmall);
+}
+
+template <class D>
+HWY_INLINE hn::Vec<D> approximateReciprocal(D d, hn::Vec<D> x) {
+  const hn::RebindToUnsigned<D> du;
+  const hn::RebindToSigned<D> di;
+  const auto bits = hn::BitCast(du, x);
+  const auto sign = hn::And(bits, hn::Set(du, 0x80000000u));
+  const auto exponent = hn::And(hn::ShiftRight<23>(bits), hn::Set(du, 0xff));
+  const auto fraction = hn::And(bits, hn::Set(du, 0x7fffffu));
+  const auto m = hn::Add(hn::Set(du, 4097), hn::ShiftLeft<1>(hn::ShiftRight<12>(fraction)));
+  const auto numerator = hn::Add(hn::Set(du, 1u << 25), hn::ShiftRight<1>(m));
+  const auto q = hn::BitCast(du, divideFloor(di, hn::BitCast(di, numerator), hn::BitCast(di, m)));
+  const auto resultExponent = hn::Sub(hn::Set(du, 253), exponent);
+  auto result = hn::Or(hn::ShiftLeft<23>(resultExponent), hn::ShiftLeft<11>(hn::Sub(q, hn::Set(du, 4096))));
+  const auto infinity = hn::Set(du, 0x7f800000u);
+  result = hn::IfThenElse(hn::Gt(exponent, hn::Set(du, 252)), hn::Zero(du), result);
+  result = hn::IfThenElse(hn::Eq(exponent, hn::Zero(du)), infinity, result);
+  result = hn::Or(result, sign);
+  const auto nan = hn::And(hn::Eq(exponent, hn::Set(du, 0xff)), hn::Ne(fraction, hn::Zero(du)));
+  result = hn::IfThenElse(nan, hn::Or(bits, hn::Set(du, 0x400000u)), result);
+  return hn::BitCast(d, result);
+}
+
+}  // namespace vemi

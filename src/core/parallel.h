@@ -1,0 +1,123 @@
+// The parallel regions of the heavier families, in four forms. A region is opened once in a call, after all checks; the
+// OpenMP runtime decides on the team, and where it allows no team the same body runs in the calling thread. Results
+// never depend on the size of the team.
+#pragma once
+
+#include <omp.h>
+
+#include <algorithm>
+#include <cstddef>
+
+#include "core/alloc.h"
+#include "vemi/status.h"
+#include "vemi/types.h"
+
+namespace vemi {
+
+/// Small images of the one-to-one arithmetic families stay in the calling thread: a rule of the contract, in bytes so
+/// that it is one rule for all element types.
+inline bool belowSerialThreshold(int height, ptrdiff_t rowBytes) { return (height >> 2) + (rowBytes >> 4) <= 20; }
+
+/// Form A, the row loop: each thread runs row(y) over one contiguous block of rows.
+template <class Row>
+void rowsInTeam(int height, const Row& row) {
+#pragma omp parallel for schedule(static)
+  for (int y = 0; y < height; ++y) row(y);
+}
+
+template <class Row>
+void rowsSerially(int height, const Row& row) {
+  for (int y = 0; y < height; ++y) row(y);
+}
+
+/// Form B, contiguous bands: band(first row, rows) once in each thread. All bands have the same height but the last,
+/// which takes the rest too; with more threads than rows all bands but the last are empty.
+template <class Band>
+void bandsInTeam(int height, const Band& band) {
+  int nThreads, bandRows, bandRest;
+#pragma omp parallel
+  {
+#pragma omp single
+    {
+      nThreads = omp_get_num_threads();
+      bandRows = height / nThreads;
+      bandRest = height % nThreads;
+    }
+    const int t = omp_get_thread_num();
+    band(t * bandRows, t == nThreads - 1 ? bandRows + bandRest : bandRows);
+  }
+}
+
+/// Form C, team scratch with a row loop: row(y, slice), the slice being the thread's own `sliceElements` floats.
+template <class Row>
+VemiStatus scratchRowsInTeam(int height, int sliceElements, const Row& row) {
+  Vemi32f* pScratch = nullptr;
+  bool failed = false;
+#pragma omp parallel
+  {
+#pragma omp single
+    {
+      const Vemi64s bytes = Vemi64s{sliceElements} * sizeof(Vemi32f) * omp_get_num_threads();
+      pScratch = static_cast<Vemi32f*>(alignedAllocBytes(bytes));
+      failed = pScratch == nullptr;
+    }
+    if (!failed) {
+      Vemi32f* const slice = pScratch + ptrdiff_t{omp_get_thread_num()} * sliceElements;
+#pragma omp for schedule(static)
+      for (int y = 0; y < height; ++y) row(y, slice);
+    }
+  }
+  vemiAlignedFree(pScratch);
+  return failed ? vemiErrMemAlloc : vemiOk;
+}
+
+/// The tiles of form D and the memory that they need: one block that all tiles read, one slice for each thread.
+struct TileGrid {
+  int across, down;
+  Vemi64s sharedBytes, sliceBytes;
+};
+
+/// Form D, team scratch with a cyclic tile loop: one thread prepares the shared block, then thread t of n works on the
+/// tiles t, t + n, t + 2n, ... with its own slice. prepare(shared) and tile(row, column, shared, slice) return a status;
+/// the smallest is kept, so an error wins over a warning, and a tile's error stops no other tile. A failed preparation
+/// starts no tile.
+template <class Prepare, class Tile>
+VemiStatus tilesInTeam(TileGrid grid, const Prepare& prepare, const Tile& tile) {
+  constexpr Vemi64s alignment = 32;
+  const auto aligned = [](Vemi64s bytes) { return (bytes + alignment - 1) / alignment * alignment; };
+  const int nTiles = grid.across * grid.down;
+  char* pScratch = nullptr;
+  int nThreads = 0;
+  VemiStatus prepared = vemiErrMemAlloc;
+#pragma omp parallel
+  {
+    const int t = omp_get_thread_num();
+    char* shared = nullptr;
+    const auto sharedBlock = [&] { return pScratch + aligned(nThreads * Vemi64s{sizeof(VemiStatus)}); };
+#pragma omp single
+    {
+      nThreads = omp_get_num_threads();
+      const Vemi64s head = aligned(nThreads * Vemi64s{sizeof(VemiStatus)});
+      const Vemi64s bytes = head + aligned(grid.sharedBytes) + nThreads * aligned(grid.sliceBytes);
+      pScratch = static_cast<char*>(alignedAllocBytes(bytes));
+      if (pScratch != nullptr) prepared = prepare(sharedBlock());
+    }
+    if (pScratch != nullptr) {
+      VemiStatus& status = reinterpret_cast<VemiStatus*>(pScratch)[t];
+      status = vemiOk;
+      shared = sharedBlock();
+      char* const slice = shared + aligned(grid.sharedBytes) + t * aligned(grid.sliceBytes);
+      for (int i = t; prepared >= vemiOk && i < nTiles; i += nThreads) {
+        status = std::min(status, tile(i / grid.across, i % grid.across, shared, slice));
+      }
+    }
+  }
+  VemiStatus status = std::min(prepared, static_cast<VemiStatus>(vemiOk));
+  for (int t = 0; pScratch != nullptr && t < nThreads; ++t) {
+    status = std::min(status, reinterpret_cast<const VemiStatus*>(pScratch)[t]);
+  }
+  vemiAlignedFree(pScratch);
+  return status;
+}
+
+}  // namespace vemi

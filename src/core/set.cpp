@@ -1,0 +1,97 @@
+// vemiSet: regions filled with a constant, whole, under a mask, or in one channel.
+// Checks: null, size, step. Only the one-channel 8-bit form merges rows.
+
+#include <cstring>
+
+#include "core/checks.h"
+#include "core/exports.h"
+#include "core/image.h"
+#include "core/map_row.h"
+#include "core/masked_row.h"
+#include "core/rows.h"
+#include "vemi/core.h"
+
+namespace vemi {
+namespace {
+
+VemiStatus setBytes(const Vemi8u* value, Image<Vemi8u> dst, VemiSize roiSize) {
+  if (const VemiStatus bad = firstOf(checkNull(dst), checkSize(roiSize), checkStep(dst))) return bad;
+  const Extent extent = mergedExtent(roiSize, isContiguous<C1>(dst, roiSize));
+  for (ptrdiff_t y = 0; y < extent.height; ++y) rowSet8(*value, dst.row(y), extent.width);
+  return vemiOk;
+}
+
+/// Long rows of a large region are filled faster by copies of the first one: a long copy takes the C library's path
+/// that claims whole lines without reading them. Measured.
+constexpr ptrdiff_t copiedRowBytes = 4096;
+constexpr ptrdiff_t copiedRegionBytes = ptrdiff_t{4} << 20;
+
+template <class T, class L>
+VemiStatus set(const T* value, Image<T> dst, VemiSize roiSize) {
+  if (const VemiStatus bad = firstOf(checkNull(value, dst), checkSize(roiSize), checkStep(dst))) return bad;
+  const Constants<T, L> constants(value);
+  const ptrdiff_t rowBytes = roiSize.width * pixelBytes<T, L>;
+  const bool copiesRows =
+      !L::keepsAlpha && rowBytes >= copiedRowBytes && rowBytes * roiSize.height >= copiedRegionBytes;
+  const int filledRows = copiesRows ? 1 : roiSize.height;
+  for (int y = 0; y < filledRows; ++y) fillRow(roiSize.width, constants, dst.row(y));
+  for (int y = filledRows; y < roiSize.height; ++y) rowCopyBytes(dst.row(0), dst.row(y), rowBytes);
+  return vemiOk;
+}
+
+template <class T, class L>
+VemiStatus setMasked(const T* value, Image<T> dst, VemiSize roiSize, Image<const Vemi8u> mask) {
+  if (const VemiStatus bad = firstOf(checkNull(value, dst, mask), checkSize(roiSize), checkStep(dst, mask))) return bad;
+  const Constants<T, L> constants(value);
+  for (int y = 0; y < roiSize.height; ++y) fillRowMasked(roiSize.width, mask.row(y), constants, dst.row(y));
+  return vemiOk;
+}
+
+/// One element of each pixel; the others may be in use by other threads.
+template <class T, class L>
+VemiStatus setChannel(const T* value, Image<T> dst, VemiSize roiSize) {
+  if (const VemiStatus bad = firstOf(checkNull(dst), checkSize(roiSize), checkStep(dst))) return bad;
+  for (int y = 0; y < roiSize.height; ++y) {
+    T* const row = dst.row(y);
+    for (ptrdiff_t x = 0; x < roiSize.width; ++x) std::memcpy(row + x * L::elements, value, sizeof(T));
+  }
+  return vemiOk;
+}
+
+}  // namespace
+}  // namespace vemi
+
+using namespace vemi;
+
+VEMI_VALUE_DST(vemiSet_8u_C1R, Vemi8u, setBytes)
+VEMI_VALUE_DST(vemiSet_16s_C1R, Vemi16s, set<Vemi16s, C1>)
+VEMI_VALUE_DST(vemiSet_32f_C1R, Vemi32f, set<Vemi32f, C1>)
+VEMI_VALUES_DST(vemiSet_8u_C3R, Vemi8u, set<Vemi8u, C3>)
+VEMI_VALUES_DST(vemiSet_16s_C3R, Vemi16s, set<Vemi16s, C3>)
+VEMI_VALUES_DST(vemiSet_32f_C3R, Vemi32f, set<Vemi32f, C3>)
+VEMI_VALUES_DST(vemiSet_8u_C4R, Vemi8u, set<Vemi8u, C4>)
+VEMI_VALUES_DST(vemiSet_16s_C4R, Vemi16s, set<Vemi16s, C4>)
+VEMI_VALUES_DST(vemiSet_32f_C4R, Vemi32f, set<Vemi32f, C4>)
+VEMI_VALUES_DST(vemiSet_8u_AC4R, Vemi8u, set<Vemi8u, AC4>)
+VEMI_VALUES_DST(vemiSet_16s_AC4R, Vemi16s, set<Vemi16s, AC4>)
+VEMI_VALUES_DST(vemiSet_32f_AC4R, Vemi32f, set<Vemi32f, AC4>)
+
+VEMI_VALUE_DST_MASK(vemiSet_8u_C1MR, Vemi8u, setMasked<Vemi8u, C1>)
+VEMI_VALUE_DST_MASK(vemiSet_16s_C1MR, Vemi16s, setMasked<Vemi16s, C1>)
+VEMI_VALUE_DST_MASK(vemiSet_32f_C1MR, Vemi32f, setMasked<Vemi32f, C1>)
+VEMI_VALUES_DST_MASK(vemiSet_8u_C3MR, Vemi8u, setMasked<Vemi8u, C3>)
+VEMI_VALUES_DST_MASK(vemiSet_16s_C3MR, Vemi16s, setMasked<Vemi16s, C3>)
+VEMI_VALUES_DST_MASK(vemiSet_32f_C3MR, Vemi32f, setMasked<Vemi32f, C3>)
+VEMI_VALUES_DST_MASK(vemiSet_8u_C4MR, Vemi8u, setMasked<Vemi8u, C4>)
+VEMI_VALUES_DST_MASK(vemiSet_16s_C4MR, Vemi16s, setMasked<Vemi16s, C4>)
+VEMI_VALUES_DST_MASK(vemiSet_32f_C4MR, Vemi32f, setMasked<Vemi32f, C4>)
+VEMI_VALUES_DST_MASK(vemiSet_8u_AC4MR, Vemi8u, setMasked<Vemi8u, AC4>)
+VEMI_VALUES_DST_MASK(vemiSet_16s_AC4MR, Vemi16s, setMasked<Vemi16s, AC4>)
+VEMI_VALUES_DST_MASK(vemiSet_32f_AC4MR, Vemi32f, setMasked<Vemi32f, AC4>)
+
+VEMI_VALUE_DST(vemiSet_8u_C3CR, Vemi8u, setChannel<Vemi8u, C3>)
+VEMI_VALUE_DST(vemiSet_16s_C3CR, Vemi16s, setChannel<Vemi16s, C3>)
+VEMI_VALUE_DST(vemiSet_32f_C3CR, Vemi32f, setChannel<Vemi32f, C3>)
+VEMI_VALUE_DST(vemiSet_8u_C4CR, Vemi8u, setChannel<Vemi8u, C4>)
+VEMI_VALUE_DST(vemiSet_16s_C4CR, Vemi16s, setChannel<Vemi16s, C4>)
+VEMI_VALUE_DST(vemiSet_32f_C4CR, Vemi32f, setChannel<Vemi32f, C4>)
