@@ -3,7 +3,8 @@
 // A kernel handles exactly one block: a fixed number of items (elements or pixels) that it reads through lanes and then
 // writes. The row is cut into whole blocks; the last one ends with the row and overlaps its predecessor. Its inputs are
 // set aside before anything is written, so a row may be its own source. A row shorter than a block goes through blocks
-// on the stack. A kernel therefore has one arithmetic and no scalar twin, and touches no byte outside the row.
+// on the stack. A kernel therefore has one arithmetic and no scalar twin, and touches no byte outside the row. It meets
+// no item that is not in the row, though it may meet one twice: what it collects across blocks must not count.
 #pragma once
 
 #include <cstddef>
@@ -39,8 +40,10 @@ struct StackBlock<items, Strand<T, elementsPerItem>> {
   StackBlock(S strand, ptrdiff_t count) {
     // An output is loaded too: a kernel may leave some of its items alone.
     std::memcpy(element, strand.first, static_cast<size_t>(count * elementsPerItem) * sizeof(T));
-    if constexpr (!isOutput) {
-      for (ptrdiff_t i = count * elementsPerItem; i < items * elementsPerItem; ++i) element[i] = T();
+    if constexpr (!isOutput) {  // behind the row's end its first item is repeated
+      for (ptrdiff_t i = count * elementsPerItem; i < items * elementsPerItem; ++i) {
+        element[i] = element[i % elementsPerItem];
+      }
     }
   }
 
@@ -78,6 +81,8 @@ struct LastBlock<items, Strand<T, elementsPerItem>> {
 
 template <ptrdiff_t items, class Kernel, class... S>
 HWY_NOINLINE void shortRow(ptrdiff_t count, const Kernel& kernel, S... strand) {
+  if (count < 1) return;
+  if (count >= items) __builtin_unreachable();  // bounds the copies for the compiler's warnings
   [&](auto... block) {
     kernel(block.at()...);
     (block.writeBack(strand, count), ...);

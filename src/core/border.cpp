@@ -37,10 +37,21 @@ VemiStatus checkBorders(VemiSize srcRoiSize, VemiSize dstRoiSize, int topBorderH
 template <class T, class L>
 void copyPixels(ptrdiff_t width, const T* src, T* dst) {
   if constexpr (L::keepsAlpha) {
-    mapRow<L>(width, [](auto, auto v) HWY_ATTR { return v; }, dst, src);
+    mapRow<L>(width, eachVector(Same()), dst, src);
   } else {
     rowCopyBytes(src, dst, width * pixelBytes<T, L>);
   }
+}
+
+/// A stretch of one pixel. Borders are often shorter than a block of lanes, and there are two to a row.
+template <class T, class L>
+void repeatPixel(ptrdiff_t width, const T* pixel, T* dst) {
+  const auto constant = constantPixel<L>(pixel);
+  if (L::keepsAlpha || width * L::elements > constant.vectors * laneCount<T>) return mapRow<L>(width, constant, dst);
+  alignas(laneAlignment) T block[constant.vectors * laneCount<T>];
+  unrolled<constant.vectors>(
+      [&](auto k) HWY_ATTR { hn::Store(constant.constants.v[k], Lanes<T>(), block + k * laneCount<T>); });
+  rowCopyBytes(block, dst, width * pixelBytes<T, L>);
 }
 
 /// Rows above and below the finished ones are copies of the row that lies `period` rows towards these.
@@ -61,17 +72,19 @@ VemiStatus copyConstBorder(Image<const T> src, VemiSize srcRoiSize, Image<T> dst
     return bad;
   }
   const Placement p = placementOf(srcRoiSize, dstRoiSize, topBorderHeight, leftBorderWidth);
-  const Constants<T, L> constants(value);
-  for (ptrdiff_t y = 0; y < dstRoiSize.height; ++y) {
-    T* const row = dst.row(y);
-    if (y < p.top || y >= p.top + p.height) {
-      fillRow(dstRoiSize.width, constants, row);
-      continue;
-    }
-    fillRow(p.left, constants, row);
-    copyPixels<T, L>(p.width, src.row(y - p.top), row + p.left * L::elements);
-    fillRow(p.right, constants, row + (p.left + p.width) * L::elements);
+  const auto pixel = constantPixel<L>(value);
+  for (ptrdiff_t y = 0; y < p.top; ++y) mapRow<L>(dstRoiSize.width, pixel, dst.row(y));
+  const ptrdiff_t right = (p.left + p.width) * L::elements;
+  T* const first = dst.row(p.top);
+  mapRow<L>(p.left, pixel, first);
+  mapRow<L>(p.right, pixel, first + right);
+  for (ptrdiff_t y = 0; y < p.height; ++y) {
+    T* const row = dst.row(p.top + y);
+    if (y > 0) copyPixels<T, L>(p.left, first, row);
+    copyPixels<T, L>(p.width, src.row(y), row + p.left * L::elements);
+    if (y > 0) copyPixels<T, L>(p.right, first + right, row + right);
   }
+  for (ptrdiff_t y = p.top + p.height; y < dstRoiSize.height; ++y) mapRow<L>(dstRoiSize.width, pixel, dst.row(y));
   return vemiOk;
 }
 
@@ -86,9 +99,9 @@ VemiStatus copyReplicateBorder(Image<const T> src, VemiSize srcRoiSize, Image<T>
   for (ptrdiff_t y = 0; y < p.height; ++y) {
     const T* const from = src.row(y);
     T* const row = dst.row(p.top + y);
-    fillRow(p.left, Constants<T, L>(from), row);
+    repeatPixel<T, L>(p.left, from, row);
     copyPixels<T, L>(p.width, from, row + p.left * L::elements);
-    fillRow(p.right, Constants<T, L>(from + (p.width - 1) * L::elements), row + (p.left + p.width) * L::elements);
+    repeatPixel<T, L>(p.right, from + (p.width - 1) * L::elements, row + (p.left + p.width) * L::elements);
   }
   copyFinishedRows<T, L>(dst, p, 1);
   return vemiOk;

@@ -140,3 +140,93 @@
     return __VA_ARGS__(Image<const T>{pSrcDst, srcDstStep}, value, Image<T>{pSrcDst, srcDstStep},      \
                        roiSize, scaleFactor);                                                          \
   }
+
+// In place without a second operand: the source is the destination.
+#define VEMI_SRCDST(name, T, ...)                                                                      \
+  VemiStatus name(T* pSrcDst, int srcDstStep, VemiSize roiSize) {                                      \
+    return __VA_ARGS__(Image<const T>{pSrcDst, srcDstStep}, Image<T>{pSrcDst, srcDstStep}, roiSize);   \
+  }
+
+// A source and a count (or one for each channel).
+#define VEMI_SRC_COUNT_DST(name, T, ...)                                                               \
+  VemiStatus name(const T* pSrc, int srcStep, Vemi32u value, T* pDst, int dstStep, VemiSize roiSize) { \
+    return __VA_ARGS__(Image<const T>{pSrc, srcStep}, &value, Image<T>{pDst, dstStep}, roiSize);       \
+  }
+#define VEMI_COUNT_SRCDST(name, T, ...)                                                                \
+  VemiStatus name(Vemi32u value, T* pSrcDst, int srcDstStep, VemiSize roiSize) {                       \
+    return __VA_ARGS__(Image<const T>{pSrcDst, srcDstStep}, &value, Image<T>{pSrcDst, srcDstStep},     \
+                       roiSize);                                                                       \
+  }
+#define VEMI_SRC_COUNTS_DST(name, T, ...)                                                              \
+  VemiStatus name(const T* pSrc, int srcStep, const Vemi32u* value, T* pDst, int dstStep,              \
+                  VemiSize roiSize) {                                                                  \
+    return __VA_ARGS__(Image<const T>{pSrc, srcStep}, value, Image<T>{pDst, dstStep}, roiSize);        \
+  }
+#define VEMI_COUNTS_SRCDST(name, T, ...)                                                               \
+  VemiStatus name(const Vemi32u* value, T* pSrcDst, int srcDstStep, VemiSize roiSize) {                \
+    return __VA_ARGS__(Image<const T>{pSrcDst, srcDstStep}, value, Image<T>{pSrcDst, srcDstStep},      \
+                       roiSize);                                                                       \
+  }
+
+// One source, one destination, and a scale factor.
+#define VEMI_SRC_DST_SFS(name, T, ...)                                                                 \
+  VemiStatus name(const T* pSrc, int srcStep, T* pDst, int dstStep, VemiSize roiSize,                  \
+                  int scaleFactor) {                                                                   \
+    return __VA_ARGS__(Image<const T>{pSrc, srcStep}, Image<T>{pDst, dstStep}, roiSize, scaleFactor);  \
+  }
+#define VEMI_SRCDST_SFS(name, T, ...)                                                                  \
+  VemiStatus name(T* pSrcDst, int srcDstStep, VemiSize roiSize, int scaleFactor) {                     \
+    return __VA_ARGS__(Image<const T>{pSrcDst, srcDstStep}, Image<T>{pSrcDst, srcDstStep}, roiSize,    \
+                       scaleFactor);                                                                   \
+  }
+
+// Two sources and the type of a composite, without and with an alpha for each source, and of four planes each.
+#define VEMI_COMPOSITE(name, T, ...)                                                                   \
+  VemiStatus name(const T* pSrc1, int src1Step, const T* pSrc2, int src2Step, T* pDst, int dstStep,    \
+                  VemiSize roiSize, int alphaType) {                                                   \
+    return __VA_ARGS__(Image<const T>{pSrc1, src1Step}, Image<const T>{pSrc2, src2Step},               \
+                       Image<T>{pDst, dstStep}, roiSize, alphaType);                                   \
+  }
+#define VEMI_COMPOSITE_PLANES(name, T, ...)                                                            \
+  VemiStatus name(const T* const pSrc1[4], int src1Step, const T* const pSrc2[4], int src2Step,        \
+                  T* const pDst[4], int dstStep, VemiSize roiSize, int alphaType) {                    \
+    return __VA_ARGS__(Planes<const T, 4>{pSrc1, src1Step}, Planes<const T, 4>{pSrc2, src2Step},       \
+                       Planes<T, 4>{pDst, dstStep}, roiSize, alphaType);                               \
+  }
+#define VEMI_COMPOSITE_C(name, T, ...)                                                                 \
+  VemiStatus name(const T* pSrc1, int src1Step, T alpha1, const T* pSrc2, int src2Step, T alpha2,      \
+                  T* pDst, int dstStep, VemiSize roiSize, int alphaType) {                             \
+    return __VA_ARGS__(Image<const T>{pSrc1, src1Step}, alpha1, Image<const T>{pSrc2, src2Step},       \
+                       alpha2, Image<T>{pDst, dstStep}, roiSize, alphaType);                           \
+  }
+#define VEMI_COMPOSITE_PLANES_C(name, T, ...)                                                          \
+  VemiStatus name(const T* const pSrc1[4], int src1Step, T alpha1, const T* const pSrc2[4],            \
+                  int src2Step, T alpha2, T* const pDst[4], int dstStep, VemiSize roiSize,             \
+                  int alphaType) {                                                                     \
+    return __VA_ARGS__(Planes<const T, 4>{pSrc1, src1Step}, alpha1,                                    \
+                       Planes<const T, 4>{pSrc2, src2Step}, alpha2, Planes<T, 4>{pDst, dstStep},       \
+                       roiSize, alphaType);                                                            \
+  }
+
+// Planes to planes, without and with a constant; in place, the source is the destination.
+#define VEMI_PLANES_PLANES(name, T, planes, ...)                                                       \
+  VemiStatus name(const T* const pSrc[planes], int srcStep, T* const pDst[planes], int dstStep,        \
+                  VemiSize roiSize) {                                                                  \
+    return __VA_ARGS__(Planes<const T, planes>{pSrc, srcStep}, Planes<T, planes>{pDst, dstStep}, roiSize);\
+  }
+#define VEMI_PLANES_SRCDST(name, T, planes, ...)                                                       \
+  VemiStatus name(T* const pSrcDst[planes], int srcDstStep, VemiSize roiSize) {                        \
+    return __VA_ARGS__(Planes<const T, planes>{pSrcDst, srcDstStep}, Planes<T, planes>{pSrcDst, srcDstStep},\
+                       roiSize);                                                                       \
+  }
+#define VEMI_PLANES_VALUE_PLANES(name, T, planes, ...)                                                 \
+  VemiStatus name(const T* const pSrc[planes], int srcStep, T value, T* const pDst[planes], int dstStep,\
+                  VemiSize roiSize) {                                                                  \
+    return __VA_ARGS__(Planes<const T, planes>{pSrc, srcStep}, &value, Planes<T, planes>{pDst, dstStep},\
+                       roiSize);                                                                       \
+  }
+#define VEMI_VALUE_PLANES_SRCDST(name, T, planes, ...)                                                 \
+  VemiStatus name(T value, T* const pSrcDst[planes], int srcDstStep, VemiSize roiSize) {               \
+    return __VA_ARGS__(Planes<const T, planes>{pSrcDst, srcDstStep}, &value,                           \
+                       Planes<T, planes>{pSrcDst, srcDstStep}, roiSize);                               \
+  }

@@ -31,6 +31,12 @@ struct Planes {
   Image<T> operator[](int index) const { return {plane[index], step}; }
 };
 
+/// The same image under a step that is rounded down to whole elements, for the families that read it so.
+template <class T>
+Image<T> wholeElements(Image<T> image) {
+  return {image.first, image.step & -static_cast<int>(sizeof(T))};
+}
+
 /// What one pixel needs of a region's row, in bytes.
 template <class T, class L>
 inline constexpr ptrdiff_t pixelBytes = static_cast<ptrdiff_t>(sizeof(T)) * L::elements;
@@ -39,6 +45,11 @@ inline constexpr ptrdiff_t pixelBytes = static_cast<ptrdiff_t>(sizeof(T)) * L::e
 template <class L, class T>
 bool isContiguous(Image<T> image, VemiSize roiSize) {
   return image.step == roiSize.width * pixelBytes<T, L>;
+}
+
+template <class T, class U>
+bool isSameImage(Image<T> a, Image<U> b) {
+  return static_cast<const void*>(a.first) == static_cast<const void*>(b.first);
 }
 
 /// The extent of a region in pixels, at pointer width, so that many rows can become one.

@@ -6,6 +6,8 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <limits>
+#include <type_traits>
 #include <utility>
 
 #include <hwy/highway.h>
@@ -40,7 +42,8 @@ struct Vectors {
 };
 
 /// All lanes of one vector at twice their width, as two vectors. Which lanes stand in which half is the business of
-/// widen and narrow alone: they are each other's inverse, and the pair costs no move across 128-bit blocks.
+/// widen and narrow alone: they are each other's inverse, and the pair costs no move across 128-bit blocks. Bytes are
+/// the even ones and the odd ones, which takes no packing instruction; others the halves of each 128-bit block.
 template <class V>
 struct Widened {
   V lower, upper;
@@ -49,8 +52,12 @@ struct Widened {
 template <class D, class V, class T = hn::TFromD<D>, class DW = hn::RepartitionToWide<D>>
 HWY_INLINE auto widen(D d, V v) {
   const DW dWide;
-  if constexpr (std::is_signed_v<T>) {
-    constexpr int bits = 8 * sizeof(T);
+  constexpr int bits = 8 * sizeof(T);
+  if constexpr (sizeof(T) == 1) {
+    const auto odd = hn::BitCast(dWide, v);
+    const auto even = hn::ShiftLeft<8>(odd);
+    return Widened<hn::Vec<DW>>{hn::ShiftRight<8>(even), hn::ShiftRight<8>(odd)};
+  } else if constexpr (std::is_signed_v<T>) {
     return Widened<hn::Vec<DW>>{hn::ShiftRight<bits>(hn::BitCast(dWide, hn::InterleaveLower(d, v, v))),
                                 hn::ShiftRight<bits>(hn::BitCast(dWide, hn::InterleaveUpper(d, v, v)))};
   } else {
@@ -59,10 +66,21 @@ HWY_INLINE auto widen(D d, V v) {
   }
 }
 
-/// Saturates signed wide lanes to the element type of `d`.
-template <class D, class V>
+/// Saturates wide lanes to the element type of `d`: of a byte, signed or unsigned lanes, else signed ones.
+template <class D, class V, class T = hn::TFromD<D>>
 HWY_INLINE hn::Vec<D> narrow(D d, Widened<V> wide) {
-  return hn::ReorderDemote2To(d, wide.lower, wide.upper);
+  if constexpr (sizeof(T) == 1) {
+    static_assert(std::is_unsigned_v<T>);
+    using Wide = hn::TFromV<V>;
+    const hn::DFromV<V> dWide;
+    const auto limited = [&](V v) HWY_ATTR {
+      if constexpr (std::is_signed_v<Wide>) v = hn::Max(v, hn::Zero(dWide));
+      return hn::Min(v, hn::Set(dWide, Wide{255}));
+    };
+    return hn::BitCast(d, hn::Or(limited(wide.lower), hn::ShiftLeft<8>(limited(wide.upper))));
+  } else {
+    return hn::ReorderDemote2To(d, wide.lower, wide.upper);
+  }
 }
 
 }  // namespace vemi

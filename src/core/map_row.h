@@ -1,7 +1,11 @@
-// Element-wise rows: destination = op(sources), the sources being rows or constants per channel.
+// Element-wise rows: destination = op(sources), with constants per channel where an operation has them.
+//
+// An operation is a function object on lanes, op(d, v...). The rows run an indexed one, op(d, k, v...), which is told
+// the vector's place in its block: eachVector(op) ignores it, withConstants(op, ...) finds its constants by it.
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <cstring>
 
 #include "core/blocks.h"
@@ -10,96 +14,152 @@
 
 namespace vemi {
 
-/// Vectors to a block of a row: a whole number of pixels, and two vectors at least, which keeps the stores busy.
-template <class L>
-inline constexpr int vectorsPerBlock = L::elements == 3 ? 3 : 2;
+template <class Op>
+struct EachVector {
+  static constexpr int vectors = 2;  // to a block: two keep the stores busy
+  static constexpr int period = 1;   // elements after which the operation repeats
+  Op op;
 
-/// Per-channel constants, repeated over the vectors of one block, so that any block that begins with a pixel finds
-/// them in phase.
-template <class T, class L>
-struct Constants {
-  static constexpr ptrdiff_t count = vectorsPerBlock<L> * laneCount<T>;
-  alignas(laneAlignment) T element[count];
-
-  /// `value` holds L::channels constants; the elements of an alpha that stays are zero.
-  explicit Constants(const T* value) {
-    for (int c = 0; c < L::elements; ++c) element[c] = T();
-    std::memcpy(element, value, L::channels * sizeof(T));
-    ptrdiff_t filled = L::elements;
-    for (; 2 * filled <= count; filled *= 2) copyElements(filled, filled);
-    copyElements(filled, count - filled);
-  }
-
-  template <class D>
-  HWY_INLINE Vectors<hn::Vec<D>, vectorsPerBlock<L>> load(D d) const {
-    Vectors<hn::Vec<D>, vectorsPerBlock<L>> all;
-    unrolled<vectorsPerBlock<L>>([&](auto k) { all.v[k] = hn::Load(d, element + k * laneCount<T>); });
-    return all;
-  }
-
- private:
-  void copyElements(ptrdiff_t to, ptrdiff_t n) {
-    std::memcpy(element + to, element, static_cast<size_t>(n) * sizeof(T));
+  template <class D, class K, class... V>
+  HWY_INLINE auto operator()(D d, K, V... v) const {
+    return op(d, v...);
   }
 };
 
-/// Lanes that belong to a channel which is worked on, in any vector that begins with a pixel.
-template <class L, class D>
-HWY_INLINE auto workedLanes(D d) {
-  const hn::RebindToUnsigned<D> dBits;
-  const auto channel = hn::And(hn::Iota(dBits, 0), hn::Set(dBits, L::elements - 1));
-  return hn::RebindMask(d, hn::Ne(channel, hn::Set(dBits, L::channels)));
+template <class Op>
+EachVector<Op> eachVector(Op op) {
+  return {op};
 }
+
+/// The constants of a block's vectors stand behind the sources' lanes: op(d, v..., constants). Two vectors hold a whole
+/// number of pixels of one, two or four elements, three vectors one of three.
+template <int vectorsPerBlock, class T, class Op>
+struct WithConstants {
+  static constexpr int vectors = vectorsPerBlock;
+  static constexpr int period = vectors == 3 ? 3 : 4;
+  Op op;
+  Vectors<hn::Vec<Lanes<T>>, vectors> constants;
+
+  template <class D, class K, class... V>
+  HWY_INLINE auto operator()(D d, K k, V... v) const {
+    return op(d, v..., constants.v[k % vectors]);
+  }
+};
 
 namespace detail {
 
-/// op(d, k, lanes of each source) is the k-th vector of a block.
-template <class L, class T, class Op, class... Src>
-HWY_INLINE void mapBlocks(ptrdiff_t width, const Op& op, T* dst, const Src*... src) {
-  const Lanes<T> d;
-  constexpr ptrdiff_t N = laneCount<T>;
-  constexpr ptrdiff_t items = vectorsPerBlock<L> * N;
-  if constexpr (L::keepsAlpha) {
-    const auto worked = workedLanes<L>(d);
-    const auto kernel = [&](T* out, const T* old, const Src*... in) HWY_ATTR {
-      unrolled<vectorsPerBlock<L>>([&](auto k) HWY_ATTR {
-        const auto result = op(d, k, hn::LoadU(d, in + k * N)...);
-        hn::StoreU(hn::IfThenElse(worked, result, hn::LoadU(d, old + k * N)), d, out + k * N);
-      });
-    };
-    forBlocks<items>(width * L::elements, kernel, Strand<T>{dst}, Strand<const T>{dst}, Strand<const Src>{src}...);
-  } else {
-    const auto kernel = [&](T* out, const Src*... in) HWY_ATTR {
-      unrolled<vectorsPerBlock<L>>(
-          [&](auto k) HWY_ATTR { hn::StoreU(op(d, k, hn::LoadU(d, in + k * N)...), d, out + k * N); });
-    };
-    forBlocks<items>(width * L::elements, kernel, Strand<T>{dst}, Strand<const Src>{src}...);
+/// Byte indices that repeat a pixel of `pixelSize` bytes over the vectors of a block.
+template <int pixelSize, ptrdiff_t bytes>
+struct PixelPhase {
+  alignas(laneAlignment) uint8_t index[bytes];
+
+  constexpr PixelPhase() : index() {
+    for (ptrdiff_t i = 0; i < bytes; ++i) index[i] = static_cast<uint8_t>(i % pixelSize);
   }
-}
+};
+
+template <int pixelSize, ptrdiff_t bytes>
+inline constexpr PixelPhase<pixelSize, bytes> pixelPhase;
 
 }  // namespace detail
 
-/// destination = op(d, lanes of each source), `width` pixels of layout L. A source row may be the destination row.
-template <class L, class T, class Op, class... Src>
-void mapRow(ptrdiff_t width, const Op& op, T* dst, const Src*... src) {
-  const auto indexed = [&](auto d, auto, auto... v) HWY_ATTR { return op(d, v...); };
-  detail::mapBlocks<L>(width, indexed, dst, src...);
-}
-
-/// destination = constants.
-template <class L, class T>
-void fillRow(ptrdiff_t width, const Constants<T, L>& constants, T* dst) {
-  const auto c = constants.load(Lanes<T>());
-  const auto indexed = [&](auto, auto k) HWY_ATTR { return c.v[k]; };
-  detail::mapBlocks<L>(width, indexed, dst);
-}
-
-/// destination = op(d, lanes of the source, lanes of the constants).
+/// `value` holds L::channels constants, repeated here so that any block that begins with a pixel finds them in phase.
+/// An alpha that stays has zero.
 template <class L, class T, class Op>
-void mapRowC(ptrdiff_t width, const Op& op, const Constants<T, L>& constants, T* dst, const T* src) {
-  const auto c = constants.load(Lanes<T>());
-  const auto indexed = [&](auto d, auto k, auto v) HWY_ATTR { return op(d, v, c.v[k]); };
-  detail::mapBlocks<L>(width, indexed, dst, src);
+auto withConstants(Op op, const T* value) {
+  constexpr int vectors = L::elements == 3 ? 3 : 2;
+  constexpr size_t pixelSize = L::elements * sizeof(T);
+  WithConstants<vectors, T, Op> bound = {op, {}};
+  if constexpr (!L::keepsAlpha && (pixelSize == 1 || pixelSize == 2 || pixelSize == 4 || pixelSize == 8)) {
+    using Pixel = hwy::UnsignedFromSize<pixelSize>;
+    Pixel pixel;
+    std::memcpy(&pixel, value, pixelSize);
+    const auto repeated = hn::BitCast(Lanes<T>(), hn::Set(Lanes<Pixel>(), pixel));
+    unrolled<vectors>([&](auto k) { bound.constants.v[k] = repeated; });
+  } else if constexpr (pixelSize > 16) {  // complex elements: a pixel does not repeat within blocks of 16 bytes
+    alignas(laneAlignment) T element[vectors * laneCount<T> + 4] = {};
+    std::memcpy(element, value, L::channels * sizeof(T));
+    for (ptrdiff_t i = L::elements; i < vectors * laneCount<T>; ++i) element[i] = element[i - L::elements];
+    unrolled<vectors>([&](auto k) HWY_ATTR { bound.constants.v[k] = hn::Load(Lanes<T>(), element + k * laneCount<T>); });
+  } else {
+    const hn::Repartition<uint8_t, Lanes<T>> dBytes;
+    constexpr ptrdiff_t vectorBytes = laneCount<uint8_t>;
+    const uint8_t* const index = detail::pixelPhase<pixelSize, vectors * vectorBytes>.index;
+    alignas(16) T pixel[16 / sizeof(T)] = {};
+    std::memcpy(pixel, value, L::channels * sizeof(T));
+    const auto pixels = hn::LoadDup128(dBytes, reinterpret_cast<const uint8_t*>(pixel));
+    unrolled<vectors>([&](auto k) HWY_ATTR {
+      const auto phase = hn::Load(dBytes, index + k * vectorBytes);
+      bound.constants.v[k] = hn::BitCast(Lanes<T>(), hn::TableLookupBytes(pixels, phase));
+    });
+  }
+  return bound;
+}
+
+/// The operation of a fill: nothing but the constants.
+struct Constant {
+  template <class D, class V>
+  HWY_INLINE V operator()(D, V constant) const {
+    return constant;
+  }
+};
+
+template <class L, class T>
+auto constantPixel(const T* value) {
+  return withConstants<L>(Constant(), value);
+}
+
+/// The operation of a copy.
+struct Same {
+  template <class D, class V>
+  HWY_INLINE V operator()(D, V v) const {
+    return v;
+  }
+};
+
+/// Lanes of the first three of four channels, in a vector whose first lane is an element of this channel.
+template <class D>
+HWY_INLINE auto colourLanes(D d, int firstChannel = 0) {
+  const hn::RebindToUnsigned<D> dBits;
+  using Bits = hn::TFromD<decltype(dBits)>;
+  const auto channel = hn::And(hn::Iota(dBits, static_cast<Bits>(firstChannel)), hn::Set(dBits, 3));
+  return hn::RebindMask(d, hn::Ne(channel, hn::Set(dBits, 3)));
+}
+
+/// What becomes of the elements that an operation does not work on.
+enum class Alpha { none, kept };
+
+template <class L>
+inline constexpr Alpha alphaOf = L::keepsAlpha ? Alpha::kept : Alpha::none;
+
+/// A row of `count` elements. Layouts differ in the operation's constants alone, or in an alpha channel that stays.
+template <Alpha alpha, class T, class IndexedOp, class... Src>
+HWY_NOINLINE void mapElements(ptrdiff_t count, const IndexedOp& indexedOp, T* dst, const Src*... src) {
+  const IndexedOp op = indexedOp;  // a local, which no store to the destination can change
+  const Lanes<T> d;
+  constexpr ptrdiff_t N = laneCount<T>;
+  constexpr int vectors = IndexedOp::vectors;
+  if constexpr (alpha == Alpha::kept) {
+    const auto kernel = [&](T* out, const T* old, const Src*... in) HWY_ATTR {
+      unrolled<vectors>([&](auto k) HWY_ATTR {
+        const auto colour = colourLanes(d, k * N % 4);  // a vector may hold half a pixel of wide elements
+        const auto result = op(d, k, hn::LoadU(d, in + k * N)...);
+        hn::StoreU(hn::IfThenElse(colour, result, hn::LoadU(d, old + k * N)), d, out + k * N);
+      });
+    };
+    forBlocks<vectors * N>(count, kernel, Strand<T>{dst}, Strand<const T>{dst}, Strand<const Src>{src}...);
+  } else {
+    const auto kernel = [&](T* out, const Src*... in) HWY_ATTR {
+      unrolled<vectors>([&](auto k) HWY_ATTR { hn::StoreU(op(d, k, hn::LoadU(d, in + k * N)...), d, out + k * N); });
+    };
+    forBlocks<vectors * N>(count, kernel, Strand<T>{dst}, Strand<const Src>{src}...);
+  }
+}
+
+/// destination = indexedOp(sources), `width` pixels of layout L. A source row may be the destination row.
+template <class L, class T, class IndexedOp, class... Src>
+void mapRow(ptrdiff_t width, const IndexedOp& indexedOp, T* dst, const Src*... src) {
+  mapElements<alphaOf<L>>(width * L::elements, indexedOp, dst, src...);
 }
 
 }  // namespace vemi

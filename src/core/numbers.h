@@ -44,6 +44,28 @@ HWY_INLINE V roundShift(D d, V value, int shift) {
   return hn::ShiftRightSame(hn::Add(value, hn::Add(bias, odd)), shift);
 }
 
+/// The same for any value of an unsigned lane, 2 <= shift <= bits: the processor's average adds without overflow.
+template <class T>
+struct RoundingShift {
+  static_assert(std::is_unsigned_v<T>);
+  static constexpr int bits = 8 * sizeof(T);
+
+  int shift, shiftToOdd;
+  T oddMask, bias;
+
+  explicit RoundingShift(int count)
+      : shift(count),
+        shiftToOdd(count < bits ? count : 0),
+        oddMask(count < bits),
+        bias(static_cast<T>((1u << (count - 1)) - 2)) {}
+
+  template <class D, class V = hn::Vec<D>>
+  HWY_INLINE V operator()(D d, V value) const {
+    const V odd = hn::And(hn::ShiftRightSame(value, shiftToOdd), hn::Set(d, oddMask));
+    return hn::ShiftRightSame(hn::AverageRound(value, hn::Add(odd, hn::Set(d, bias))), shift - 1);
+  }
+};
+
 /// value * 2^shift, saturated; shift >= 0.
 template <class T>
 constexpr T saturateShiftLeft(T value, int shift) {
@@ -127,7 +149,7 @@ HWY_INLINE V divideFloor(D di, V n, V m) {
   const V q = hn::ConvertTo(di, hn::Div(hn::ConvertTo(df, n), hn::ConvertTo(df, m)));
   const V rest = hn::Sub(n, hn::Mul(q, m));
   const V tooLarge = hn::VecFromMask(di, hn::Lt(rest, hn::Zero(di)));
-  const V tooSmall = hn::VecFromMask(di, hn::Ge(rest, m));
+  const V tooSmall = hn::VecFromMask(di, hn::Gt(rest, hn::Sub(m, hn::Set(di, 1))));
   return hn::Sub(hn::Add(q, tooLarge), tooSmall);
 }
 

@@ -18,17 +18,50 @@ namespace vemi {
 /// that it is one rule for all element types.
 inline bool belowSerialThreshold(int height, ptrdiff_t rowBytes) { return (height >> 2) + (rowBytes >> 4) <= 20; }
 
-/// Form A, the row loop: each thread runs row(y) over one contiguous block of rows.
-template <class Row>
-void rowsInTeam(int height, const Row& row) {
-#pragma omp parallel for schedule(static)
-  for (int y = 0; y < height; ++y) row(y);
+struct Nothing {
+  void operator()() const {}
+};
+
+/// Form A, the row loop: each thread runs row(y) over one contiguous block of rows, then finish() once.
+template <class Row, class Finish = Nothing>
+void rowsInTeam(ptrdiff_t height, const Row& row, const Finish& finish = {}) {
+#pragma omp parallel
+  {
+#pragma omp for schedule(static) nowait
+    for (ptrdiff_t y = 0; y < height; ++y) row(y);
+    finish();
+  }
 }
 
-template <class Row>
-void rowsSerially(int height, const Row& row) {
-  for (int y = 0; y < height; ++y) row(y);
+template <class Row, class Finish = Nothing>
+void rowsSerially(ptrdiff_t height, const Row& row, const Finish& finish = {}) {
+  for (ptrdiff_t y = 0; y < height; ++y) row(y);
+  finish();
 }
+
+/// Who runs the rows of a member: the calling thread alone, or, unless the image is small, a team.
+struct CallerRows {
+  static bool inOneThread(bool /*small*/) { return true; }
+
+  template <class Row, class Finish = Nothing>
+  static void run(ptrdiff_t height, bool /*small*/, const Row& row, const Finish& finish = {}) {
+    rowsSerially(height, row, finish);
+  }
+};
+
+struct TeamRows {
+  /// A region of one thread is left out: opening it takes as long as some ten thousand bytes of work.
+  static bool inOneThread(bool small) { return small || omp_get_max_threads() == 1; }
+
+  template <class Row, class Finish = Nothing>
+  static void run(ptrdiff_t height, bool small, const Row& row, const Finish& finish = {}) {
+    if (inOneThread(small)) {
+      rowsSerially(height, row, finish);
+    } else {
+      rowsInTeam(height, row, finish);
+    }
+  }
+};
 
 /// Form B, contiguous bands: band(first row, rows) once in each thread. All bands have the same height but the last,
 /// which takes the rest too; with more threads than rows all bands but the last are empty.

@@ -24,38 +24,39 @@ void rowStreamBytes(const void* pSrc, void* pDst, ptrdiff_t lenBytes) {
   for (; i + 4 * N <= lenBytes; i += 4 * N) {
     unrolled<4>([&](auto k) HWY_ATTR { hn::Stream(hn::LoadU(d, src + i + k * N), d, dst + i + k * N); });
   }
-  hwy::FlushStream();
   std::memcpy(dst + i, src + i, static_cast<size_t>(lenBytes - i));
 }
 
+void finishStreaming() { hwy::FlushStream(); }
+
 void rowSet8(Vemi8u value, Vemi8u* pDst, ptrdiff_t len) { std::memset(pDst, value, static_cast<size_t>(len)); }
 
-void rowSet16(Vemi16u value, Vemi16u* pDst, ptrdiff_t len) { fillRow(len, Constants<Vemi16u, C1>(&value), pDst); }
+void rowSet16(Vemi16u value, Vemi16u* pDst, ptrdiff_t len) { mapRow<C1>(len, constantPixel<C1>(&value), pDst); }
 
-void rowSet32(Vemi32u value, Vemi32u* pDst, ptrdiff_t len) { fillRow(len, Constants<Vemi32u, C1>(&value), pDst); }
+void rowSet32(Vemi32u value, Vemi32u* pDst, ptrdiff_t len) { mapRow<C1>(len, constantPixel<C1>(&value), pDst); }
 
 void rowSet8x3(const Vemi8u* pValue, Vemi8u* pDst, ptrdiff_t len) {
-  fillRow(len / 3, Constants<Vemi8u, C3>(pValue), pDst);
+  mapRow<C3>(len / 3, constantPixel<C3>(pValue), pDst);
 }
 
 void rowSet16x3(const Vemi16u* pValue, Vemi16u* pDst, ptrdiff_t len) {
-  fillRow(len / 3, Constants<Vemi16u, C3>(pValue), pDst);
+  mapRow<C3>(len / 3, constantPixel<C3>(pValue), pDst);
 }
 
 void rowSet32x3(const Vemi32u* pValue, Vemi32u* pDst, ptrdiff_t len) {
-  fillRow(len / 3, Constants<Vemi32u, C3>(pValue), pDst);
+  mapRow<C3>(len / 3, constantPixel<C3>(pValue), pDst);
 }
 
 void rowSet16x4(uint64_t pixel, Vemi16u* pDst, ptrdiff_t lenPixels) {
   Vemi16u value[4];
   for (int c = 0; c < 4; ++c) value[c] = static_cast<Vemi16u>(pixel >> 16 * c);
-  fillRow(lenPixels, Constants<Vemi16u, C4>(value), pDst);
+  mapRow<C4>(lenPixels, constantPixel<C4>(value), pDst);
 }
 
 void rowSet32x4(uint64_t lowerPixel, uint64_t upperPixel, Vemi32u* pDst, ptrdiff_t lenPixels) {
   const Vemi32u value[4] = {static_cast<Vemi32u>(lowerPixel), static_cast<Vemi32u>(lowerPixel >> 32),
                             static_cast<Vemi32u>(upperPixel), static_cast<Vemi32u>(upperPixel >> 32)};
-  fillRow(lenPixels, Constants<Vemi32u, C4>(value), pDst);
+  mapRow<C4>(lenPixels, constantPixel<C4>(value), pDst);
 }
 
 }  // namespace vemi

@@ -12,12 +12,11 @@ namespace vemi {
 /// Source and destination must not overlap.
 void rowCopyBytes(const void* pSrc, void* pDst, ptrdiff_t lenBytes);
 
-/// The same past the caches, for destinations that would only displace what they hold.
+/// The same with stores past the caches. They are ordered before what the thread does next by finishStreaming alone,
+/// which costs as much as thousands of them: it is called once, behind a thread's last row.
 void rowStreamBytes(const void* pSrc, void* pDst, ptrdiff_t lenBytes);
 
-/// A destination of this size or more is written past the caches: it would not stay in them, and a store that bypasses
-/// them spares the read of its line. Measured.
-inline constexpr ptrdiff_t streamedBytes = ptrdiff_t{32} << 20;
+void finishStreaming();
 
 void rowSet8(Vemi8u value, Vemi8u* pDst, ptrdiff_t len);
 void rowSet16(Vemi16u value, Vemi16u* pDst, ptrdiff_t len);

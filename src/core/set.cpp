@@ -29,12 +29,12 @@ constexpr ptrdiff_t copiedRegionBytes = ptrdiff_t{4} << 20;
 template <class T, class L>
 VemiStatus set(const T* value, Image<T> dst, VemiSize roiSize) {
   if (const VemiStatus bad = firstOf(checkNull(value, dst), checkSize(roiSize), checkStep(dst))) return bad;
-  const Constants<T, L> constants(value);
+  const auto pixel = constantPixel<L>(value);
   const ptrdiff_t rowBytes = roiSize.width * pixelBytes<T, L>;
   const bool copiesRows =
       !L::keepsAlpha && rowBytes >= copiedRowBytes && rowBytes * roiSize.height >= copiedRegionBytes;
   const int filledRows = copiesRows ? 1 : roiSize.height;
-  for (int y = 0; y < filledRows; ++y) fillRow(roiSize.width, constants, dst.row(y));
+  for (int y = 0; y < filledRows; ++y) mapRow<L>(roiSize.width, pixel, dst.row(y));
   for (int y = filledRows; y < roiSize.height; ++y) rowCopyBytes(dst.row(0), dst.row(y), rowBytes);
   return vemiOk;
 }
@@ -42,8 +42,8 @@ VemiStatus set(const T* value, Image<T> dst, VemiSize roiSize) {
 template <class T, class L>
 VemiStatus setMasked(const T* value, Image<T> dst, VemiSize roiSize, Image<const Vemi8u> mask) {
   if (const VemiStatus bad = firstOf(checkNull(value, dst, mask), checkSize(roiSize), checkStep(dst, mask))) return bad;
-  const Constants<T, L> constants(value);
-  for (int y = 0; y < roiSize.height; ++y) fillRowMasked(roiSize.width, mask.row(y), constants, dst.row(y));
+  const auto pixel = constantPixel<L>(value);
+  for (int y = 0; y < roiSize.height; ++y) mapRowMasked<L>(roiSize.width, mask.row(y), pixel, dst.row(y));
   return vemiOk;
 }
 

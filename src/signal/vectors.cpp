@@ -4,6 +4,7 @@
 
 #include "core/checks.h"
 #include "core/rows.h"
+#include "core/streaming.h"
 
 namespace vemi {
 namespace {
@@ -14,8 +15,9 @@ template <class T>
 VemiStatus copyVector(const T* pSrc, T* pDst, int len) {
   if (const VemiStatus bad = firstOf(checkNull(pSrc, pDst), checkLength(len))) return bad;
   const ptrdiff_t lenBytes = len * ptrdiff_t{sizeof(T)};
-  if (lenBytes >= streamedBytes) {
+  if (2 * Vemi64s{lenBytes} >= streamedTraffic) {
     rowStreamBytes(pSrc, pDst, lenBytes);
+    finishStreaming();
   } else {
     rowCopyBytes(pSrc, pDst, lenBytes);
   }

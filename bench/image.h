@@ -1,0 +1,58 @@
+// Images as users have them: one block, rows without gaps, the first pixel on a cache line.
+#pragma once
+
+#include <cstdint>
+#include <cstdlib>
+#include <cstring>
+#include <memory>
+#include <new>
+
+#include "contest.h"
+#include "vemi/vemi.h"
+
+namespace bench {
+
+// Copies share the pixels, so that a callable can own the images that it works on.
+template <class T>
+struct Image {
+  VemiSize size;
+  int channels;
+  int step;
+  std::shared_ptr<T> pixels;
+
+  T* data() const { return pixels.get(); }
+  size_t elements() const { return static_cast<size_t>(size.width) * static_cast<size_t>(size.height * channels); }
+  Bytes bytes() const { return {data(), elements() * sizeof(T)}; }
+};
+
+// All pages are touched: none is first met while the clock runs.
+template <class T>
+Image<T> blankImage(VemiSize size, int channels) {
+  constexpr size_t cacheLine = 64;
+  Image<T> image{size, channels, size.width * channels * static_cast<int>(sizeof(T)), nullptr};
+  const size_t count = image.bytes().count;
+  void* block = std::aligned_alloc(cacheLine, (count + cacheLine - 1) / cacheLine * cacheLine);
+  if (!block) throw std::bad_alloc();
+  std::memset(block, 0, count);
+  image.pixels.reset(static_cast<T*>(block), std::free);
+  return image;
+}
+
+// The upper bits of a linear congruential sequence: integers over their whole range, floats from 0 to 65535.
+template <class T>
+Image<T> randomImage(VemiSize size, int channels) {
+  constexpr int unusedBits = sizeof(T) == 1 ? 24 : 16;
+  const Image<T> image = blankImage<T>(size, channels);
+  uint32_t state = 1;
+  for (size_t i = 0; i < image.elements(); ++i) {
+    state = state * 1664525u + 1013904223u;
+    image.data()[i] = static_cast<T>(state >> unusedBits);
+  }
+  return image;
+}
+
+// The constants of fills, borders and sums; float represents them exactly.
+template <class T>
+inline constexpr T constants[4] = {11, 22, 33, 44};
+
+}  // namespace bench

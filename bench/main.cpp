@@ -1,0 +1,175 @@
+// Times the library against its peers, single-threaded, and prints how many times as fast it is.
+
+#include <omp.h>
+
+#include <algorithm>
+#include <cmath>
+#include <cstdio>
+#include <cstdlib>
+#include <exception>
+#include <optional>
+#include <utility>
+
+#include "contest.h"
+#include "peers.h"
+#include "race.h"
+
+namespace bench {
+namespace {
+
+using FamilyTable = Family (*)();
+constexpr FamilyTable families[] = {
+    copyFamily,   setFamily, planesFamily,      channelsFamily,  maskedCopyFamily, maskedSetFamily,
+    borderFamily, addFamily, addConstantFamily, addScaledFamily, scalingFamily,
+};
+
+constexpr const char* usage =
+    "usage: vemi_bench [--quick] [--size WIDTHxHEIGHT]... [WORD]...\n"
+    "  Runs the rows whose family, name or peer contains all of the WORDs; without one, all rows.\n"
+    "  --size   an image size; default 320x240, 1920x1080 and 4096x4096\n"
+    "  --quick  fewer and shorter batches: rougher figures in a fifth of the time\n";
+
+struct Options {
+  std::vector<VemiSize> sizes;
+  std::vector<std::string> words;
+  Effort effort = {.batchSeconds = 0.002, .patience = 15};
+};
+
+std::optional<Options> parse(int count, char** arguments) {
+  Options options;
+  for (int i = 1; i < count; ++i) {
+    const std::string argument = arguments[i];
+    if (argument == "--quick") {
+      options.effort = {.batchSeconds = 0.001, .patience = 4};
+    } else if (argument == "--size" && i + 1 < count) {
+      VemiSize size{};
+      if (std::sscanf(arguments[++i], "%dx%d", &size.width, &size.height) != 2) return std::nullopt;
+      if (size.width < 1 || size.height < 1) return std::nullopt;
+      options.sizes.push_back(size);
+    } else if (argument.starts_with("-")) {
+      return std::nullopt;
+    } else {
+      options.words.push_back(argument);
+    }
+  }
+  if (options.sizes.empty()) options.sizes = {{320, 240}, {1920, 1080}, {4096, 4096}};
+  return options;
+}
+
+bool selected(const Family& family, const Row& row, const std::vector<std::string>& words) {
+  const std::string text = family.name + " " + row.name + " " + row.peer;
+  for (const std::string& word : words) {
+    if (text.find(word) == std::string::npos) return false;
+  }
+  return true;
+}
+
+std::string sizeName(VemiSize size) { return std::to_string(size.width) + "x" + std::to_string(size.height); }
+
+// Geometric means of ratios, one for each size.
+class Means {
+ public:
+  explicit Means(size_t sizes) : logSums_(sizes) {}
+
+  void add(const std::vector<double>& ratios) {
+    for (size_t i = 0; i < ratios.size(); ++i) logSums_[i] += std::log(ratios[i]);
+    ++rows_;
+  }
+
+  void print(const std::string& title) const {
+    if (rows_ == 0) return;
+    std::printf("%-48s", title.c_str());
+    for (const double logSum : logSums_) std::printf("%7.2f         ", std::exp(logSum / rows_));
+    std::printf("\n");
+  }
+
+ private:
+  std::vector<double> logSums_;
+  int rows_ = 0;
+};
+
+class Report {
+ public:
+  explicit Report(const Options& options) : options_(options), overall_(options.sizes.size()) {}
+
+  void run(const Family& family) {
+    Means means(options_.sizes.size());
+    for (const Row& row : family.rows) {
+      if (!selected(family, row, options_.words)) continue;
+      if (!headed_) printHead();
+      const std::vector<double> ratios = run(row, family.against);
+      means.add(ratios);
+      if (family.against == Against::peers) overall_.add(ratios);
+    }
+    means.print("= " + family.name);
+  }
+
+  // Returns whether every row was a fair one.
+  bool finish() {
+    overall_.print("== all families against peers");
+    std::sort(slower_.begin(), slower_.end());
+    if (!slower_.empty()) std::printf("\nBelow 1.0, the slowest first:\n");
+    for (const auto& [ratio, line] : slower_) std::printf("%7.2f  %s\n", ratio, line.c_str());
+    if (!unfair_.empty()) std::printf("\nA failed call, or not the same result on both sides:\n");
+    for (const std::string& line : unfair_) std::printf("         %s\n", line.c_str());
+    return unfair_.empty();
+  }
+
+ private:
+  void printHead() {
+    std::printf("Each column: peer's time / our time, and our megapixels a second.\n%-27s%-21s", "row", "peer");
+    for (const VemiSize size : options_.sizes) std::printf("%14s  ", sizeName(size).c_str());
+    std::printf("\n");
+    headed_ = true;
+  }
+
+  std::vector<double> run(const Row& row, Against against) {
+    std::printf("%-27s%-21s", row.name.c_str(), row.peer.c_str());
+    std::vector<double> ratios;
+    for (const VemiSize size : options_.sizes) {
+      const Contest contest = row.prepare(size);
+      const std::string line = sizeName(size) + "  " + row.name + ", " + row.peer;
+      if (!agree(contest)) unfair_.push_back(line);
+      const Times times = race(contest, options_.effort);
+      ratios.push_back(times.peers / times.ours);
+      std::printf("%7.2f%7.0f  ", ratios.back(), 1e-6 * size.width * size.height / times.ours);
+      std::fflush(stdout);
+      if (against == Against::peers && ratios.back() < 1) slower_.emplace_back(ratios.back(), line);
+    }
+    std::printf("\n");
+    return ratios;
+  }
+
+  const Options& options_;
+  Means overall_;
+  bool headed_ = false;
+  std::vector<std::pair<double, std::string>> slower_;
+  std::vector<std::string> unfair_;
+};
+
+int run(const Options& options) {
+  omp_set_num_threads(1);
+#ifdef VEMI_BENCH_OPENCV
+  cv::setNumThreads(1);
+#endif
+  Report report(options);
+  for (const FamilyTable family : families) report.run(family());
+  return report.finish() ? EXIT_SUCCESS : EXIT_FAILURE;
+}
+
+}  // namespace
+}  // namespace bench
+
+int main(int count, char** arguments) {
+  const std::optional<bench::Options> options = bench::parse(count, arguments);
+  if (!options) {
+    std::fputs(bench::usage, stderr);
+    return EXIT_FAILURE;
+  }
+  try {
+    return bench::run(*options);
+  } catch (const std::exception& error) {
+    std::fprintf(stderr, "\nvemi_bench: %s\n", error.what());
+    return EXIT_FAILURE;
+  }
+}

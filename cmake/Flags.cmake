@@ -1,0 +1,48 @@
+# vemi_flags: what every translation unit that sees the library's internals is compiled with: the processor level, the
+# rules for floating point and for the lane library, OpenMP, warnings.
+find_path(VEMI_HIGHWAY_INCLUDE_DIR hwy/highway.h DOC "Folder of Google Highway's headers (Debian: libhwy-dev)" REQUIRED)
+
+add_library(vemi_flags INTERFACE)
+
+if(VEMI_LEVEL STREQUAL "x86-64-v2")
+  set(lanes HWY_SSE4)
+elseif(VEMI_LEVEL STREQUAL "x86-64-v3")
+  set(lanes HWY_AVX2)
+elseif(VEMI_LEVEL STREQUAL "x86-64-v4")
+  set(lanes HWY_AVX3)
+elseif(VEMI_LEVEL STREQUAL "ia32")
+  set(lanes HWY_SSSE3)
+else()
+  message(FATAL_ERROR "VEMI_LEVEL is '${VEMI_LEVEL}'; it must be x86-64-v2, x86-64-v3, x86-64-v4 or ia32")
+endif()
+if(NOT VEMI_LEVEL STREQUAL "ia32")  # ia32 has its flags from the toolchain file
+  target_compile_options(vemi_flags INTERFACE -march=${VEMI_LEVEL})
+endif()
+
+# Highway's AVX2 and AVX-512 targets also want AES and PCLMUL, which the levels lack: without the first definition they
+# silently fall back to 16-byte lanes. VEMI_LANES lets core/lanes.h assert the outcome. Highway's debug assertions live
+# in its own library, which is not linked.
+target_compile_definitions(vemi_flags INTERFACE HWY_DISABLE_PCLMUL_AES HWY_IS_DEBUG_BUILD=0 VEMI_LANES=${lanes})
+target_include_directories(vemi_flags SYSTEM INTERFACE ${VEMI_HIGHWAY_INCLUDE_DIR})
+
+# No contraction of a*b+c into one rounding: the same bits on every level.
+target_compile_options(vemi_flags INTERFACE -ffp-contract=off)
+
+target_compile_options(vemi_flags INTERFACE -fopenmp)
+target_link_options(vemi_flags INTERFACE -fopenmp)
+target_link_libraries(vemi_flags INTERFACE m)
+
+# vemi_warnings is also for code that stays outside the library: tests, benchmarks, examples.
+add_library(vemi_warnings INTERFACE)
+target_compile_options(vemi_warnings INTERFACE
+  -Wall -Wextra -Wconversion -Wshadow -Wpointer-arith -Wno-psabi $<$<BOOL:${VEMI_WERROR}>:-Werror>)
+target_link_libraries(vemi_flags INTERFACE vemi_warnings)
+
+if(VEMI_SANITIZE)
+  # Rows may start at any byte, so element pointers are legally unaligned on the processors that the library supports.
+  # The checks for null and for object sizes double the compile time of templates and find what the address sanitizer
+  # finds as well.
+  add_compile_options(-fsanitize=address,undefined -fno-sanitize=alignment,null,object-size
+                      -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  add_link_options(-fsanitize=address,undefined)
+endif()

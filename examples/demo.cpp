@@ -1,0 +1,124 @@
+// vemi_demo [IMAGE.png] [--out FOLDER]: runs the library on a picture and writes a page that shows what came out.
+
+#include "demo.h"
+
+#include <cstdio>
+#include <exception>
+#include <optional>
+#include <string>
+
+#include "png_file.h"
+#include "prepare.h"
+#include "scene.h"
+
+namespace demo {
+namespace {
+
+constexpr const char* usage = "usage: vemi_demo [IMAGE.png] [--out FOLDER]";
+
+struct Options {
+  std::optional<std::string> picture;
+  std::string folder = "vemi-demo";
+  bool help = false;
+};
+
+struct Section {
+  const char* title;
+  const char* text;
+  void (*show)(const Demo& demo);
+};
+
+constexpr Section sections[] = {
+    {"Memory, regions, steps",
+     "An image is a pointer, a step in bytes and a size in pixels. vemiMalloc gives rows that begin on 32-byte "
+     "boundaries, but memory and step may be anything.",
+     demoMemory},
+    {"Statuses",
+     "Each call returns a status, and nothing else reports. All arguments are tested before anything is written.",
+     demoStatus},
+    {"Channels and planes", "Copies between interleaved channels, single channels and separate planes.", demoChannels},
+    {"Fills and masks", "Constants and copies, on a region, on one channel, or only where a mask is not zero.",
+     demoFill},
+    {"Borders", "Filters read around their region; these copies make the pixels that they read there.", demoBorder},
+    {"Adding",
+     "Sums of two images, or of an image and a constant. The exact sum is multiplied by 2 to the power of minus the "
+     "scale factor, rounded, and limited to the range of the type.",
+     demoAdd},
+};
+
+Options optionsFrom(int argc, char** argv) {
+  Options options;
+  for (int n = 1; n < argc; n++) {
+    const std::string argument = argv[n];
+    if (argument == "--help" || argument == "-h") {
+      options.help = true;
+    } else if (argument == "--out") {
+      if (++n == argc) throw Failure("--out needs a folder");
+      options.folder = argv[n];
+    } else if (argument.size() > 1 && argument[0] == '-') {
+      throw Failure("unknown option " + argument + "; " + usage);
+    } else if (options.picture) {
+      throw Failure("one picture at a time, not both " + *options.picture + " and " + argument);
+    } else {
+      options.picture = argument;
+    }
+  }
+  return options;
+}
+
+Image8u withoutAlpha(const Image8u& rgba) {
+  Image8u rgb(rgba.size(), 3);
+  CALL(vemiCopy_8u_AC4C3R(rgba.data(), rgba.step(), rgb.data(), rgb.step(), rgba.size()));
+  return rgb;
+}
+
+void showPicture(const Image8u& rgba, const std::string& origin, Page& page) {
+  page.lead(std::string("Image-processing primitives behind a flat C interface, ") + vemiGetLibVersion()->Version +
+            ". Each picture stands beside the calls that made it.");
+  page.section("The picture", origin + "; here " + toText(rgba.size()) + " pixels.");
+  page.show(rgba, "What the others start from",
+            "In the calls, photo is this picture with three channels, and rgba has a fourth, alpha. The library takes "
+            "an image as a pointer, a step in bytes and a size in pixels, which are data(), step() and size() here; "
+            "at(x, y) is the pointer to the pixel in column x of row y. Names of functions end in the type, the layout "
+            "of the channels, and the shape of the call: 8u_C3R is a region of three interleaved 8-bit channels.",
+            {});
+}
+
+void run(const Options& options) {
+  const Image8u original = options.picture ? readPng(*options.picture) : drawScene();
+  const std::string origin = (options.picture ? *options.picture : "A scene drawn with the library's own calls") +
+                             ", " + toText(original.size()) + ", channels: " + std::to_string(original.channels());
+  std::printf("%s\n", origin.c_str());
+
+  const Image8u rgba = prepare(original);
+  const Image8u photo = withoutAlpha(rgba);
+  Page page(options.folder);
+  showPicture(rgba, origin, page);
+  for (const Section& section : sections) {
+    std::printf("  %s\n", section.title);
+    std::fflush(stdout);
+    page.section(section.title, section.text);
+    section.show({rgba, photo, page});
+  }
+  const std::string index = page.write().string();
+  std::printf("%d pictures; open %s\n", page.pictures(), index.c_str());
+}
+
+}  // namespace
+}  // namespace demo
+
+int main(int argc, char** argv) {
+  try {
+    const demo::Options options = demo::optionsFrom(argc, argv);
+    if (options.help) {
+      std::printf("%s\nWithout a picture it draws one. The page goes to %s/index.html.\n", demo::usage,
+                  options.folder.c_str());
+      return 0;
+    }
+    demo::run(options);
+    return 0;
+  } catch (const std::exception& failure) {
+    std::fprintf(stderr, "vemi_demo: %s\n", failure.what());
+    return 1;
+  }
+}

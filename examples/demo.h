@@ -1,0 +1,24 @@
+// The sections of the demo's page. A family of functions adds one: a file demo_<family>.cpp with its function, a line
+// here, and a line in the table of demo.cpp.
+#pragma once
+
+#include "image.h"
+#include "page.h"
+
+namespace demo {
+
+/// What a section works on, and where it shows its results.
+struct Demo {
+  const Image8u& rgba;   ///< the picture; four channels, at least 64 pixels wide and high
+  const Image8u& photo;  ///< the same without alpha: three channels
+  Page& page;
+};
+
+void demoMemory(const Demo& demo);
+void demoStatus(const Demo& demo);
+void demoChannels(const Demo& demo);
+void demoFill(const Demo& demo);
+void demoBorder(const Demo& demo);
+void demoAdd(const Demo& demo);
+
+}  // namespace demo

@@ -1,0 +1,52 @@
+// Writing past the caches. A call that moves more than the caches hold gains by stores that do not read the lines they
+// write and do not displace what is in use. Nothing of this shows in a result.
+#pragma once
+
+#include <algorithm>
+#include <cstddef>
+#include <cstdint>
+
+#include "core/image.h"
+#include "core/lanes.h"
+#include "core/rows.h"
+
+namespace vemi {
+
+namespace detail {
+
+template <class T, ptrdiff_t count>
+struct Scratch {
+  alignas(laneAlignment) T element[count];
+};
+
+}  // namespace detail
+
+/// Bytes read and written in one call from which on its destination is streamed. Measured: about one and a half times
+/// the last cache.
+inline constexpr Vemi64s streamedTraffic = Vemi64s{48} << 20;
+
+/// Bytes of all pixels of a region, where a pixel has `pixelBytes` in all images together.
+inline Vemi64s trafficOf(Extent extent, Vemi64s pixelBytes) { return pixelBytes * extent.width * extent.height; }
+
+/// Runs row(first element, elements, out...) over rows of `count` elements in stretches that stay in the first cache,
+/// and streams each to its destination. Stretches begin at multiples of `period`. finishStreaming follows behind the
+/// thread's last row.
+template <int period, class Row, class... T>
+void streamRow(ptrdiff_t count, const Row& row, T*... dst) {
+  constexpr ptrdiff_t line = 64;
+  constexpr ptrdiff_t elementSize = std::max({sizeof(T)...});
+  constexpr ptrdiff_t stretch = 2048 / (elementSize * line * period) * line * period;
+  // The first stretch ends with a line of the first destination, if that is possible: the others are whole lines then.
+  const auto isLine = [](const auto* p, auto...) { return reinterpret_cast<uintptr_t>(p) % line == 0; };
+  ptrdiff_t n = stretch;
+  while (n > period && !isLine(dst + n...)) n -= period;
+  [&](auto... scratch) {
+    for (ptrdiff_t i = 0; i < count; i += n, n = stretch) {
+      n = std::min(n, count - i);
+      row(i, n, scratch.element...);
+      (rowStreamBytes(scratch.element, dst + i, n * ptrdiff_t{sizeof(T)}), ...);
+    }
+  }(detail::Scratch<T, stretch>()...);
+}
+
+}  // namespace vemi

@@ -1,0 +1,277 @@
+#include "support/call.h"
+
+#include <signal.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <cmath>
+#include <functional>
+#include <stdexcept>
+
+#include "support/families.h"
+
+namespace vemi::test {
+namespace {
+
+// ---- Naming the call that touched a guard page ----
+
+char currentCall[512];
+struct sigaction formerAction;
+
+void reportCall(int signal) {
+  if (write(STDERR_FILENO, currentCall, std::strlen(currentCall)) < 0) _exit(1);
+  sigaction(signal, &formerAction, nullptr);  // returning repeats the access, and the former action ends the program
+}
+
+void noteCall(const std::string& text) {
+  static const bool installed = [] {
+    struct sigaction action = {};
+    action.sa_handler = reportCall;
+    return sigaction(SIGSEGV, &action, &formerAction) == 0;
+  }();
+  const std::string line = installed ? "\nmemory outside of the images was touched by " + text + "\n" : "";
+  currentCall[line.copy(currentCall, sizeof currentCall - 1)] = '\0';
+}
+
+uint64_t hashOf(const std::string& text) {
+  uint64_t hash = 0xcbf29ce484222325u;
+  for (const char c : text) hash = (hash ^ static_cast<unsigned char>(c)) * 0x100000001b3u;
+  return hash;
+}
+
+int stepFor(const Image& image, Rows rows, int64_t rowBytes, int index) {
+  const int elementBytes = bytesOf(image.element);
+  if (rows == Rows::overlapping && !image.written) return 3;
+  const bool gaps = rows != Rows::contiguous && (rows != Rows::mixed || image.written);
+  const int64_t gap = rows == Rows::odd ? elementBytes * index + 1 : elementBytes * (index + 1);
+  return static_cast<int>(rowBytes + (gaps ? gap : 0));
+}
+
+}  // namespace
+
+std::string Scenario::text() const {
+  static const char* const rowNames[] = {"contiguous", "padded", "odd", "mixed", "overlapping"};
+  return std::to_string(roiSize.width) + "x" + std::to_string(roiSize.height) + ", " +
+         rowNames[static_cast<int>(rows)] + " rows, " + (edge == Edge::front ? "front" : "back") + " guard, seed " +
+         std::to_string(seed) + ", scaleFactor " + std::to_string(scaleFactor);
+}
+
+std::string Call::text() const { return function.name + " (" + scenario.text() + ")"; }
+
+View Image::view(std::vector<std::byte> Plane::*bytes) {
+  View view = {};
+  view.step = step;
+  view.pixelBytes = bytesOf(element) * (layout.planar ? 1 : layout.elements);
+  view.element = element;
+  view.channels = layout.channels;
+  view.size = size;
+  for (int channel = 0; channel < layout.channels; ++channel) {
+    Plane& plane = planes[static_cast<size_t>(layout.planar ? channel : 0)];
+    view.origin[channel] =
+        (plane.*bytes).data() + (plane.first - plane.memory.begin()) + (layout.planar ? 0 : channel * bytesOf(element));
+  }
+  return view;
+}
+
+// ---- Building the arguments ----
+
+Call::Call(const Export& called, const Scenario& how)
+    : function(called), scenario(how), random(how.seed ^ hashOf(called.name)), arguments(called.parameters.size()) {
+  if (function.call == nullptr) throw std::logic_error(function.name + " returns no status");
+  for (size_t n = 0; n < function.parameters.size(); ++n) addArgument(function.parameters[n], static_cast<int>(n));
+  if (const Family& family = familyOf(function); family.shape != nullptr) family.shape(*this);
+  if (!undecided_.empty()) {
+    throw std::logic_error(function.name + ": its family's shape must set " + *undecided_.begin());
+  }
+  for (Image& each : images) {
+    layOut(each);
+    fill(each);
+    pass(each);
+    if (each.role == Role::mask) mask_ = each.view(&Image::Plane::before);
+  }
+  if (const int index = function.indexOf("value"); index >= 0) {
+    const Parameter& value = function.parameters[static_cast<size_t>(index)];
+    constants_ = value.role == Role::constant ? arguments[static_cast<size_t>(index)].bytes
+                                              : image("value").view(&Image::Plane::before).at(0, 0);
+    constantBytes_ = bytesOf(value.element);
+  }
+}
+
+void Call::fillRead(Element element, std::byte* place) {
+  fillElement(element, place, random);
+  if (scenario.oneNaN) unifyNaNs(element, place);
+}
+
+void Call::addArgument(const Parameter& parameter, int index) {
+  Slot& slot = arguments[static_cast<size_t>(index)];
+  switch (parameter.role) {
+    case Role::size:
+      slot.put(scenario.roiSize);
+      break;
+    case Role::constant:
+      fillRead(parameter.element, slot.bytes);
+      break;
+    case Role::step:
+      images.back().stepParameter = index;
+      break;
+    case Role::number:
+      slot.put(parameter.name == "scaleFactor" ? scenario.scaleFactor : 0);
+      if (parameter.name != "scaleFactor") undecided_.insert(parameter.name);
+      break;
+    case Role::image:
+    case Role::mask:
+    case Role::array: {
+      Image added;
+      added.parameter = index;
+      added.role = parameter.role;
+      added.element = parameter.element;
+      added.written = !parameter.isConst;
+      if (parameter.role == Role::image) added.layout = added.written ? function.destination : function.source;
+      if (parameter.role != Role::array) added.size = scenario.roiSize;
+      if (parameter.name == "value") added.size = {function.destination.channels, 1};
+      images.push_back(std::move(added));
+      break;
+    }
+    case Role::other:
+      undecided_.insert(parameter.name);
+      break;
+  }
+}
+
+Image& Call::image(const std::string& parameter) {
+  for (Image& each : images) {
+    if (each.parameter == function.indexOf(parameter)) return each;
+  }
+  throw std::logic_error(function.name + " has no image " + parameter);
+}
+
+/// What the call may touch, from the first byte to the last, lies against a guard page.
+void Call::layOut(Image& image) {
+  if (image.size.width < 1) {
+    throw std::logic_error(function.name + ": its family's shape must give a size to " +
+                           function.parameters[static_cast<size_t>(image.parameter)].name);
+  }
+  const Margin& margin = image.margin;
+  const int64_t elementBytes = bytesOf(image.element);
+  const int64_t pixelBytes = elementBytes * (image.layout.planar ? 1 : image.layout.elements);
+  // Of a channel of interest the call may touch its own elements only; an alpha channel belongs to the last pixel.
+  const int64_t lastBytes = image.layout.channels == 1 ? elementBytes : pixelBytes;
+  const int64_t width = margin.left + image.size.width + margin.right;
+  const int64_t height = margin.top + image.size.height + margin.bottom;
+  image.step = stepFor(image, scenario.rows, width * pixelBytes, image.parameter);
+  const int64_t extent = (height - 1) * image.step + (width - 1) * pixelBytes + lastBytes;
+  const int64_t first = margin.top * int64_t{image.step} + margin.left * pixelBytes;
+  const int planeCount = image.layout.planar ? image.layout.elements : 1;
+  for (int n = 0; n < planeCount; ++n) {
+    GuardedMemory memory(static_cast<size_t>(extent));
+    std::byte* const begin = scenario.edge == Edge::front ? memory.begin() : memory.end() - extent;
+    image.planes.push_back({std::move(memory), begin + first, {}, {}});
+  }
+}
+
+void Call::fill(Image& image) {
+  for (Image::Plane& plane : image.planes) {
+    plane.before.resize(plane.memory.size());
+    random.fill(plane.before.data(), plane.before.size());
+  }
+  const View view = image.view(&Image::Plane::before);
+  const Margin& margin = image.margin;
+  const bool isRead = !image.written || function.inPlace;  // what is only written may hold anything
+  for (int y = -margin.top; isRead && y < image.size.height + margin.bottom; ++y) {
+    for (int x = -margin.left; x < image.size.width + margin.right; ++x) {
+      for (int channel = 0; channel < view.channels; ++channel) {
+        fillRead(image.element, view.at(x, y, channel));
+      }
+    }
+    if (image.role != Role::mask) continue;
+    // Runs of eight that are all clear, all set or neither, since kernels may look at several mask bytes at a time.
+    for (int x = 0, kind = 0; x < image.size.width; ++x) {
+      if (x % 8 == 0) kind = random.below(3);
+      const int value = kind == 0 || (kind == 1 && random.below(2) == 0) ? 0 : 1 + random.below(255);
+      *view.at(x, y) = static_cast<std::byte>(value);
+    }
+  }
+  for (Image::Plane& plane : image.planes) {
+    plane.expected = plane.before;
+    std::memcpy(plane.memory.begin(), plane.before.data(), plane.before.size());
+  }
+}
+
+void Call::pass(Image& image) {
+  Slot& pointer = arguments[static_cast<size_t>(image.parameter)];
+  if (image.layout.planar) {
+    for (const Image::Plane& plane : image.planes) image.pointers.push_back(plane.first);
+    pointer.put(image.pointers.data());
+  } else {
+    pointer.put(image.planes.front().first);
+  }
+  if (image.stepParameter >= 0) arguments[static_cast<size_t>(image.stepParameter)].put(image.step);
+}
+
+// ---- What references read and write ----
+
+View Call::source(int index) {
+  for (Image& each : images) {
+    const bool isSource = each.role == Role::image && (!each.written || function.inPlace);
+    if (isSource && index-- == 0) return each.view(&Image::Plane::before);
+  }
+  throw std::logic_error(function.name + " has fewer sources");
+}
+
+View Call::destination() {
+  for (Image& each : images) {
+    if (each.role == Role::image && each.written) return each.view(&Image::Plane::expected);
+  }
+  throw std::logic_error(function.name + " has no destination");
+}
+
+// ---- Calling and comparing ----
+
+VemiStatus Call::invoke() {
+  noteCall(text());
+  const VemiStatus status = function.call(function.function, arguments.data());
+  currentCall[0] = '\0';
+  return status;
+}
+
+/// Expects the NaN that is there wherever any NaN is expected.
+void Call::acceptNaNs(Image& image) {
+  const View view = image.view(&Image::Plane::expected);
+  const int parts = partsIn(view.element);
+  for (int y = 0; y < image.size.height; ++y) {
+    for (int x = 0; x < image.size.width; ++x) {
+      for (int n = 0; n < view.channels * parts; ++n) {
+        Image::Plane& plane = image.planes[image.layout.planar ? static_cast<size_t>(n / parts) : 0];
+        std::byte* const expected = view.at(x, y, n / parts) + n % parts * 4;
+        const std::byte* const actual = plane.memory.begin() + (expected - plane.expected.data());
+        if (std::isnan(load<float>(expected)) && std::isnan(load<float>(actual))) std::memcpy(expected, actual, 4);
+      }
+    }
+  }
+}
+
+std::string Call::difference() {
+  for (Image& image : images) {
+    const std::string name = function.parameters[static_cast<size_t>(image.parameter)].name;
+    for (size_t n = 0; n < image.planes.size(); ++n) {
+      Image::Plane& plane = image.planes[n];
+      const auto isEqual = [&] {
+        return std::equal(plane.expected.begin(), plane.expected.end(), plane.memory.begin());
+      };
+      if (isEqual()) continue;
+      if (anyNaN && image.written && partOf(image.element) == Element::f32) acceptNaNs(image);
+      if (isEqual()) continue;
+      const auto at = std::mismatch(plane.expected.begin(), plane.expected.end(), plane.memory.begin()).first -
+                      plane.expected.begin();
+      const ptrdiff_t offset = at - (plane.first - plane.memory.begin());
+      const ptrdiff_t row = image.step > 0 ? offset / image.step : 0;
+      return text() + ": " + name + (image.layout.planar ? " plane " + std::to_string(n) : "") + ", byte " +
+             std::to_string(offset - row * image.step) + " of row " + std::to_string(row) + " is " +
+             std::to_string(static_cast<int>(plane.memory.begin()[at])) + ", not " +
+             std::to_string(static_cast<int>(plane.expected[static_cast<size_t>(at)]));
+    }
+  }
+  return {};
+}
+
+}  // namespace vemi::test
