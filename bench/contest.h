@@ -55,8 +55,12 @@ Family mulFamily();
 Family subMulScalingFamily();
 Family logicalFamily();
 Family shiftFamily();
+Family divideFamily();
+Family divideByConstantFamily();
+Family divideScalingFamily();
 Family unaryFamily();
 Family mulScaleFamily();
 Family unaryScalingFamily();
+Family alphaFamily();
 
 }  // namespace bench

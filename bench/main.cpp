@@ -21,6 +21,10 @@ using FamilyTable = Family (*)();
 constexpr FamilyTable families[] = {
     copyFamily,   setFamily, planesFamily,      channelsFamily,  maskedCopyFamily, maskedSetFamily,
     borderFamily, addFamily, addConstantFamily, addScaledFamily, scalingFamily,
+    divideFamily, divideByConstantFamily, divideScalingFamily,
+    unaryFamily,  mulScaleFamily, unaryScalingFamily,
+    subFamily,    mulFamily, subMulScalingFamily, logicalFamily, shiftFamily,
+    alphaFamily,
 };
 
 constexpr const char* usage =

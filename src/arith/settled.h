@@ -16,10 +16,14 @@ using MovedAs = std::conditional_t<sizeof(T) == 1, Vemi8u, std::conditional_t<si
 /// The one of four functions that is for layout L.
 template <class L, class C1Form, class C3Form, class C4Form, class AC4Form>
 constexpr auto formOf(C1Form c1, C3Form c3, C4Form c4, AC4Form ac4) {
-  if constexpr (L::keepsAlpha) return ac4;
-  else if constexpr (L::elements == 4) return c4;
-  else if constexpr (L::elements == 3) return c3;
-  else return c1;
+  if constexpr (L::keepsAlpha)
+    return ac4;
+  else if constexpr (L::elements == 4)
+    return c4;
+  else if constexpr (L::elements == 3)
+    return c3;
+  else
+    return c1;
 }
 
 /// Every worked channel of the region takes `value`.
@@ -29,8 +33,10 @@ VemiStatus fillRegion(T value, Image<T> dst, VemiSize roiSize) {
   const MovedAs<T> values[4] = {moved, moved, moved, moved};
   const auto fill = [&](auto set) {
     auto* const first = reinterpret_cast<MovedAs<T>*>(dst.first);
-    if constexpr (L::elements == 1) return set(moved, first, dst.step, roiSize);
-    else return set(values, first, dst.step, roiSize);
+    if constexpr (L::elements == 1)
+      return set(moved, first, dst.step, roiSize);
+    else
+      return set(values, first, dst.step, roiSize);
   };
   if constexpr (sizeof(T) == 1) {
     return fill(formOf<L>(vemiSet_8u_C1R, vemiSet_8u_C3R, vemiSet_8u_C4R, vemiSet_8u_AC4R));
@@ -46,8 +52,8 @@ template <class L, class T>
 VemiStatus copyRegion(Image<const T> src, Image<T> dst, VemiSize roiSize) {
   if (isSameImage(src, dst) && src.step == dst.step) return vemiOk;
   const auto copy = [&](auto copyForm) {
-    return copyForm(reinterpret_cast<const MovedAs<T>*>(src.first), src.step,
-                    reinterpret_cast<MovedAs<T>*>(dst.first), dst.step, roiSize);
+    return copyForm(reinterpret_cast<const MovedAs<T>*>(src.first), src.step, reinterpret_cast<MovedAs<T>*>(dst.first),
+                    dst.step, roiSize);
   };
   if constexpr (sizeof(T) == 1) {
     return copy(formOf<L>(vemiCopy_8u_C1R, vemiCopy_8u_C3R, vemiCopy_8u_C4R, vemiCopy_8u_AC4R));

@@ -111,9 +111,6 @@ struct DifferenceTerms {
   }
 };
 
-template <class T>
-inline constexpr int largestSumScale = SumTerms::largestScale<T>;
-
 // ---- The kernels --------------------------------------------------------------------------------------------------
 
 /// Scale factor 1: a tie goes up from an odd half. The largest difference leaves its lane by that.

@@ -39,8 +39,10 @@ VemiStatus copyMasked(Image<const T> src, Image<T> dst, VemiSize roiSize, Image<
   if (const VemiStatus bad = firstOf(checkNull(src, dst, mask), checkSize(roiSize), checkStep(src, dst, mask))) {
     return bad;
   }
-  for (int y = 0; y < roiSize.height; ++y) {
-    mapRowMasked<L>(roiSize.width, mask.row(y), eachVector(Same()), dst.row(y), src.row(y));
+  const bool contiguous = isContiguous<L>(src, roiSize) && isContiguous<L>(dst, roiSize) && isContiguous<C1>(mask, roiSize);
+  const Extent extent = mergedExtent(roiSize, contiguous);
+  for (ptrdiff_t y = 0; y < extent.height; ++y) {
+    mapRowMasked<L>(extent.width, mask.row(y), eachVector(Same()), dst.row(y), src.row(y));
   }
   return vemiOk;
 }
@@ -86,7 +88,7 @@ VemiStatus copyBeneathAlpha(Image<const T> src, Image<T> dst, VemiSize roiSize) 
 
 /// From this traffic on the planes' lines are streamed: with several streams of stores the caches give out earlier.
 /// Measured.
-constexpr Vemi64s streamedPlaneTraffic = Vemi64s{16} << 20;
+constexpr Vemi64s streamedPlaneTraffic = Vemi64s{20} << 20;
 
 /// Calls f(plane index as a constant...).
 template <int planes, class F>
@@ -102,18 +104,15 @@ VemiStatus split(Image<const T> src, Planes<T, channels> dst, VemiSize roiSize) 
   const bool contiguous = isContiguous<Interleaved<channels>>(src, roiSize) && isContiguous<C1>(dst[0], roiSize);
   const Extent extent = mergedExtent(roiSize, contiguous);
   const bool streamed = trafficOf(extent, 2 * pixelBytes<T, Interleaved<channels>>) >= streamedPlaneTraffic;
-  for (ptrdiff_t y = 0; y < extent.height; ++y) {
-    const auto splitTo = [&](ptrdiff_t x, ptrdiff_t n, auto*... plane) {
-      splitRow(n, src.row(y) + x * channels, plane...);
-    };
-    forPlanes<channels>([&](auto... n) {
+  forPlanes<channels>([&](auto... n) {
+    for (ptrdiff_t y = 0; y < extent.height; ++y) {
       if (streamed) {
-        streamRow<1>(extent.width, splitTo, dst[n].row(y)...);
+        splitRowStreamed(extent.width, src.row(y), dst[n].row(y)...);
       } else {
-        splitTo(0, extent.width, dst[n].row(y)...);
+        splitRow(extent.width, src.row(y), dst[n].row(y)...);
       }
-    });
-  }
+    }
+  });
   if (streamed) finishStreaming();
   return vemiOk;
 }
@@ -124,16 +123,15 @@ VemiStatus merge(Planes<const T, channels> src, Image<T> dst, VemiSize roiSize) 
   const bool contiguous = isContiguous<C1>(src[0], roiSize) && isContiguous<Interleaved<channels>>(dst, roiSize);
   const Extent extent = mergedExtent(roiSize, contiguous);
   const bool streamed = trafficOf(extent, 2 * pixelBytes<T, Interleaved<channels>>) >= streamedPlaneTraffic;
-  for (ptrdiff_t y = 0; y < extent.height; ++y) {
-    const auto mergeTo = [&](ptrdiff_t i, ptrdiff_t elements, T* pixels) {
-      forPlanes<channels>([&](auto... n) { mergeRow(elements / channels, pixels, src[n].row(y) + i / channels...); });
-    };
-    if (streamed) {
-      streamRow<channels>(extent.width * channels, mergeTo, dst.row(y));
-    } else {
-      mergeTo(0, extent.width * channels, dst.row(y));
+  forPlanes<channels>([&](auto... n) {
+    for (ptrdiff_t y = 0; y < extent.height; ++y) {
+      if (streamed) {
+        mergeRowStreamed(extent.width, dst.row(y), src[n].row(y)...);
+      } else {
+        mergeRow(extent.width, dst.row(y), src[n].row(y)...);
+      }
     }
-  }
+  });
   if (streamed) finishStreaming();
   return vemiOk;
 }

@@ -2,9 +2,12 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
+#include <cstring>
 
 #include "core/blocks.h"
 #include "core/lanes.h"
+#include "core/streaming.h"
 
 namespace vemi {
 
@@ -54,9 +57,68 @@ void mergeRow(ptrdiff_t width, T* dst, const Plane*... plane) {
   forBlocks<laneCount<T>>(width, kernel, Strand<T, channels>{dst}, Strand<const T>{plane}...);
 }
 
+/// The two with stores past the caches. A block fills whole lines of every plane.
+template <class T, class... Plane>
+void splitRowStreamed(ptrdiff_t width, const T* src, Plane*... plane) {
+  constexpr int channels = sizeof...(Plane);
+  constexpr ptrdiff_t N = laneCount<T>;
+  constexpr int vectors = static_cast<int>(laneAlignment / sizeof(T) / N);
+  const Lanes<T> d;
+  const auto plain = [&](ptrdiff_t x, ptrdiff_t n) { splitRow(n, src + x * channels, plane + x...); };
+  const auto kernel = [&](const T* in, Plane*... out) HWY_ATTR {
+    unrolled<vectors>([&](auto k) HWY_ATTR {
+      withChannels<channels>(d, in + k * N * channels,
+                             [&](auto... v) HWY_ATTR { (hn::Stream(v, d, out + k * N), ...); });
+    });
+  };
+  forStreamedBlocks<vectors * N, 1>(width, plain, kernel, Strand<const T, channels>{src}, Strand<T>{plane}...);
+}
+
+template <class T, class... Plane>
+void mergeRowStreamed(ptrdiff_t width, T* dst, const Plane*... plane) {
+  constexpr int channels = sizeof...(Plane);
+  constexpr ptrdiff_t N = laneCount<T>;
+  const Lanes<T> d;
+  const auto plain = [&](ptrdiff_t x, ptrdiff_t n) { mergeRow(n, dst + x * channels, plane + x...); };
+  const auto kernel = [&](T* out, const Plane*... in) HWY_ATTR {
+    alignas(laneAlignment) T pixels[channels * N];
+    storePixels(d, pixels, hn::LoadU(d, in)...);
+    unrolled<channels>([&](auto k) HWY_ATTR { hn::Stream(hn::Load(d, pixels + k * N), d, out + k * N); });
+  };
+  forStreamedBlocks<N, 1>(width, plain, kernel, Strand<T, channels>{dst}, Strand<const T>{plane}...);
+}
+
+/// dropAlphaRow for bytes. The pixels of a vector are packed to its front; whole vectors are stored, each over the empty
+/// end of the one before, but the last of a block is cut.
+inline void dropAlphaBytes(ptrdiff_t width, const uint8_t* src, uint8_t* dst) {
+  const Lanes<uint8_t> d;
+  const Lanes<uint32_t> dPixels;
+  constexpr ptrdiff_t N = laneCount<uint8_t>, packed = N / 4 * 3;
+  constexpr int vectors = 4;
+  alignas(16) static constexpr uint8_t frontOfBlock[16] = {0, 1, 2, 4, 5, 6, 8, 9, 10, 12, 13, 14, 3, 7, 11, 15};
+  alignas(laneAlignment) uint32_t frontOfVector[laneCount<uint32_t>];
+  for (uint32_t i = 0; i < laneCount<uint32_t>; ++i) {
+    frontOfVector[i] = i < packed / 4 ? i / 3 * 4 + i % 3 : 3;
+  }
+  const auto blocks = hn::LoadDup128(d, frontOfBlock);
+  const auto lanes = hn::SetTableIndices(dPixels, frontOfVector);
+  const auto kernel = [&](const uint8_t* in, uint8_t* out) HWY_ATTR {
+    const auto pack = [&](auto k) HWY_ATTR {
+      const auto inBlocks = hn::TableLookupBytes(hn::LoadU(d, in + k * N), blocks);
+      return hn::BitCast(d, hn::TableLookupLanes(hn::BitCast(dPixels, inBlocks), lanes));
+    };
+    alignas(laneAlignment) uint8_t last[N];
+    hn::Store(pack(std::integral_constant<int, vectors - 1>()), d, last);
+    unrolled<vectors - 1>([&](auto k) HWY_ATTR { hn::StoreU(pack(k), d, out + k * packed); });
+    std::memcpy(out + (vectors - 1) * packed, last, packed);
+  };
+  forBlocks<vectors * N / 4>(width, kernel, Strand<const uint8_t, 4>{src}, Strand<uint8_t, 3>{dst});
+}
+
 /// The first three channels of four-channel pixels.
 template <class T>
 void dropAlphaRow(ptrdiff_t width, const T* src, T* dst) {
+  if constexpr (sizeof(T) == 1) return dropAlphaBytes(width, src, dst);
   const Lanes<T> d;
   const auto kernel = [&](const T* in, T* out) HWY_ATTR {
     withChannels<4>(d, in, [&](auto c0, auto c1, auto c2, auto) HWY_ATTR { storePixels(d, out, c0, c1, c2); });
@@ -76,7 +138,7 @@ void beneathAlphaRow(ptrdiff_t width, const T* src, T* dst) {
   forBlocks<laneCount<T>>(width, kernel, Strand<const T, 3>{src}, Strand<const T, 4>{dst}, Strand<T, 4>{dst});
 }
 
-/// One channel of interleaved pixels, from the element that `src` addresses. The blocks leave the last pixel out: what
+/// One channel of at least one interleaved pixel, from the element that `src` addresses. The blocks leave the last pixel out: what
 /// lies behind its element may not belong to the image.
 template <int channels, class T>
 void extractChannelRow(ptrdiff_t width, const T* src, T* dst) {
@@ -93,7 +155,15 @@ void extractChannelRow(ptrdiff_t width, const T* src, T* dst) {
 /// may be in use by other threads.
 template <int srcElements, int dstElements, class T>
 void copyChannelRow(ptrdiff_t width, const T* src, T* dst) {
-  for (ptrdiff_t x = 0; x < width; ++x) std::memcpy(dst + x * dstElements, src + x * srcElements, sizeof(T));
+  ptrdiff_t x = 0;
+  if constexpr (srcElements == 1 && sizeof(T) == 1) {  // one load for 16 pixels
+    const hn::FixedTag<uint8_t, 16> d;
+    for (; x + 16 <= width; x += 16) {
+      const auto pixels = hn::LoadU(d, src + x);
+      unrolled<16>([&](auto k) HWY_ATTR { dst[(x + k) * dstElements] = hn::ExtractLane(pixels, k); });
+    }
+  }
+  for (; x < width; ++x) std::memcpy(dst + x * dstElements, src + x * srcElements, sizeof(T));
 }
 
 }  // namespace vemi

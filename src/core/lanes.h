@@ -66,7 +66,7 @@ HWY_INLINE auto widen(D d, V v) {
   }
 }
 
-/// Saturates wide lanes to the element type of `d`: of a byte, signed or unsigned lanes, else signed ones.
+/// Saturates wide lanes to the element type of `d`: signed or unsigned lanes to 8u, signed ones to 16s.
 template <class D, class V, class T = hn::TFromD<D>>
 HWY_INLINE hn::Vec<D> narrow(D d, Widened<V> wide) {
   if constexpr (sizeof(T) == 1) {
@@ -81,6 +81,31 @@ HWY_INLINE hn::Vec<D> narrow(D d, Widened<V> wide) {
   } else {
     return hn::ReorderDemote2To(d, wide.lower, wide.upper);
   }
+}
+
+namespace detail {
+
+/// The lane library has no name for this instruction.
+template <class V>
+HWY_INLINE auto packBytes(V lower, V upper) {
+#if !HWY_ARCH_X86
+#error "packBytes is to be written for this processor"
+#endif
+  if constexpr (sizeof(V) == 16) return _mm_packus_epi16(lower.raw, upper.raw);
+#if HWY_TARGET <= HWY_AVX2
+  if constexpr (sizeof(V) == 32) return _mm256_packus_epi16(lower.raw, upper.raw);
+#endif
+#if HWY_TARGET <= HWY_AVX3
+  if constexpr (sizeof(V) == 64) return _mm512_packus_epi16(lower.raw, upper.raw);
+#endif
+}
+
+}  // namespace detail
+
+/// Saturates signed lanes of 16 bits to bytes. The vectors are the halves of each 128-bit block.
+template <class D, class V>
+HWY_INLINE hn::Vec<D> packBytes(D, V lower, V upper) {
+  return hn::Vec<D>{detail::packBytes(lower, upper)};
 }
 
 }  // namespace vemi

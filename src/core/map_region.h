@@ -10,17 +10,31 @@ namespace vemi {
 
 namespace detail {
 
+/// mapElements with stores past the caches.
+template <class T, class IndexedOp, class... Src>
+HWY_NOINLINE void streamElements(ptrdiff_t count, const IndexedOp& indexedOp, T* dst, const Src*... src) {
+  const IndexedOp op = indexedOp;
+  const Lanes<T> d;
+  constexpr ptrdiff_t N = laneCount<T>;
+  constexpr int vectors = IndexedOp::vectors;
+  const auto plain = [&]([[maybe_unused]] ptrdiff_t i, ptrdiff_t n) {
+    mapElements<Alpha::none>(n, indexedOp, dst + i, src + i...);
+  };
+  const auto kernel = [&](T* out, const Src*... in) HWY_ATTR {
+    unrolled<vectors>([&](auto k) HWY_ATTR { hn::Stream(op(d, k, hn::LoadU(d, in + k * N)...), d, out + k * N); });
+  };
+  forStreamedBlocks<vectors * N, IndexedOp::period>(count, plain, kernel, Strand<T>{dst}, Strand<const Src>{src}...);
+}
+
 template <Alpha alpha, class Rows, class T, class IndexedOp, class... Src>
 HWY_NOINLINE void mapRows(const Rows& rows, Extent elements, bool small, const IndexedOp& op, Image<T> dst,
                           Image<const Src>... src) {
   const bool inPlace = (isSameImage(src, dst) || ...);
   const Vemi64s traffic = trafficOf(elements, (sizeof(T) + ... + sizeof(Src)));
   if (alpha == Alpha::none && !inPlace && traffic >= streamedTraffic) {
-    const auto streamedRow = [&](ptrdiff_t y) {
-      const auto map = [&]([[maybe_unused]] ptrdiff_t i, ptrdiff_t n, T* out) { mapElements<alpha>(n, op, out, src.row(y) + i...); };
-      streamRow<IndexedOp::period>(elements.width, map, dst.row(y));
-    };
-    rows.run(elements.height, small, streamedRow, finishStreaming);
+    rows.run(
+        elements.height, small, [&](ptrdiff_t y) { streamElements(elements.width, op, dst.row(y), src.row(y)...); },
+        finishStreaming);
   } else {
     rows.run(elements.height, small,
              [&](ptrdiff_t y) { mapElements<alpha>(elements.width, op, dst.row(y), src.row(y)...); });
@@ -37,6 +51,43 @@ void mapRegion(VemiSize roiSize, bool small, const IndexedOp& op, Image<T> dst, 
   const Extent pixels = mergedExtent(roiSize, contiguous && Rows::inOneThread(small));
   const Extent elements = {pixels.width * L::elements, pixels.height};
   detail::mapRows<alphaOf<L>>(Rows(), elements, small, op, dst, src...);
+}
+
+namespace detail {
+
+/// An operation that notes where test(d, v...), a mask, holds for an element that is worked on. Each vector of a block has
+/// a place of its own in memory, so that none waits for another.
+template <class L, class T, class IndexedOp, class Test>
+struct Tested {
+  static constexpr int vectors = IndexedOp::vectors;
+  static constexpr int period = L::keepsAlpha ? 4 : IndexedOp::period;
+  IndexedOp op;
+  Test test;
+  Vectors<hn::Vec<Lanes<T>>, vectors>& found;
+
+  template <class D, class K, class... V>
+  HWY_INLINE auto operator()(D d, K k, V... v) const {
+    auto here = hn::VecFromMask(d, test(d, v...));
+    if constexpr (L::keepsAlpha) here = hn::IfThenElseZero(colourLanes(d, k * laneCount<T> % 4), here);
+    found.v[k % vectors] = hn::Or(found.v[k % vectors], here);
+    return op(d, k, v...);
+  }
+};
+
+}  // namespace detail
+
+/// mapRegion in the calling thread, and whether test(d, lanes of the sources), a mask, holds for any element that is
+/// worked on.
+template <class L, class T, class IndexedOp, class Test, class... Src>
+bool mapRegionTested(VemiSize roiSize, const IndexedOp& op, const Test& test, Image<T> dst, Image<const Src>... src) {
+  const Lanes<T> d;
+  Vectors<hn::Vec<Lanes<T>>, IndexedOp::vectors> found;
+  unrolled<IndexedOp::vectors>([&](auto k) HWY_ATTR { found.v[k] = hn::Zero(d); });
+  const detail::Tested<L, T, IndexedOp, Test> tested = {op, test, found};
+  mapRegion<L, CallerRows>(roiSize, false, tested, dst, src...);
+  bool any = false;
+  unrolled<IndexedOp::vectors>([&](auto k) HWY_ATTR { any |= !hn::AllFalse(d, hn::MaskFromVec(found.v[k])); });
+  return any;
 }
 
 namespace detail {
@@ -59,8 +110,8 @@ struct WatchedRows {
 
 }  // namespace detail
 
-/// The same for members that can warn: watch(row of each source, elements) looks at a row before it is written and gives
-/// its status. The first one that is not vemiOk is returned; all rows are computed.
+/// For members whose warning depends on whole rows: watch(row of each source, elements) looks at a row before it is
+/// written and gives its status. The first one that is not vemiOk is returned; all rows are computed.
 template <class L, class T, class IndexedOp, class Watch, class... Src>
 VemiStatus mapRegionWatched(VemiSize roiSize, const IndexedOp& op, const Watch& watch, Image<T> dst,
                             Image<const Src>... src) {

@@ -14,9 +14,9 @@
 
 namespace vemi {
 
-template <class Op>
+template <class Op, int vectorsPerBlock>
 struct EachVector {
-  static constexpr int vectors = 2;  // to a block: two keep the stores busy
+  static constexpr int vectors = vectorsPerBlock;
   static constexpr int period = 1;   // elements after which the operation repeats
   Op op;
 
@@ -26,8 +26,9 @@ struct EachVector {
   }
 };
 
-template <class Op>
-EachVector<Op> eachVector(Op op) {
+/// Two vectors to a block keep the stores busy.
+template <int vectors = 2, class Op>
+EachVector<Op, vectors> eachVector(Op op) {
   return {op};
 }
 

@@ -7,6 +7,7 @@
 #include "core/lanes.h"
 #include "core/layout.h"
 #include "core/map_row.h"
+#include "vemi/types.h"
 
 namespace vemi {
 
@@ -31,7 +32,10 @@ HWY_NOINLINE void mapRowMasked(ptrdiff_t width, const Vemi8u* mask, const Indexe
   const hn::Rebind<int8_t, decltype(d)> dMask;
   using Flag = hn::TFromD<decltype(dFlags)>;
   constexpr ptrdiff_t N = laneCount<T>;
+  static_assert(!L::keepsAlpha || N % 4 == 0, "every vector begins with a pixel");
   constexpr int vectors = L::elements;
+  // Short elements of one channel: a blend costs less than the breaks that skipped blocks make in the streams of loads.
+  constexpr bool blendsAll = L::elements == 1 && sizeof(T) <= 2 && sizeof...(Src) > 0;
   const auto colour = colourLanes(d);
 
   const auto kernel = [&](T* out, const T* old, const Vemi8u* selection, const Src*... in) HWY_ATTR {
@@ -41,21 +45,27 @@ HWY_NOINLINE void mapRowMasked(ptrdiff_t width, const Vemi8u* mask, const Indexe
     };
     const auto chosenPixels = hn::VecFromMask(
         dMask, hn::Ne(hn::LoadU(dMask, reinterpret_cast<const int8_t*>(selection)), hn::Zero(dMask)));
-    if (hn::AllTrue(dMask, hn::Eq(chosenPixels, hn::Zero(dMask)))) return;
-    if (hn::AllTrue(dMask, hn::Ne(chosenPixels, hn::Zero(dMask)))) {
-      if constexpr (L::keepsAlpha) {
-        unrolled<vectors>([&](auto k) HWY_ATTR { store(colour, k); });
-      } else {
-        unrolled<vectors>([&](auto k) HWY_ATTR { hn::StoreU(result(k), d, out + k * N); });
+    if constexpr (!blendsAll) {
+      if (hn::AllTrue(dMask, hn::Eq(chosenPixels, hn::Zero(dMask)))) return;
+      if (hn::AllTrue(dMask, hn::Ne(chosenPixels, hn::Zero(dMask)))) {
+        if constexpr (L::keepsAlpha) {
+          unrolled<vectors>([&](auto k) HWY_ATTR { store(colour, k); });
+        } else {
+          unrolled<vectors>([&](auto k) HWY_ATTR { hn::StoreU(result(k), d, out + k * N); });
+        }
+        return;
       }
+    }
+    const auto pixelFlags = [&] {
+      if constexpr (sizeof(T) == 1) return chosenPixels;
+      else return hn::PromoteTo(dFlags, chosenPixels);
+    }();
+    if constexpr (L::elements == 1) {
+      store(hn::RebindMask(d, hn::MaskFromVec(pixelFlags)), std::integral_constant<int, 0>());
       return;
     }
     alignas(laneAlignment) Flag flags[vectors * N];
-    if constexpr (sizeof(T) == 1) {
-      detail::storeRepeated<L>(dFlags, chosenPixels, flags);
-    } else {
-      detail::storeRepeated<L>(dFlags, hn::PromoteTo(dFlags, chosenPixels), flags);
-    }
+    detail::storeRepeated<L>(dFlags, pixelFlags, flags);
     unrolled<vectors>([&](auto k) HWY_ATTR {
       const auto chosen = hn::RebindMask(d, hn::MaskFromVec(hn::Load(dFlags, flags + k * N)));
       if constexpr (L::keepsAlpha) {

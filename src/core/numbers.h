@@ -13,10 +13,11 @@ namespace vemi {
 
 // ---- Saturation ---------------------------------------------------------------------------------------------------
 
-/// The nearest value that T holds.
+/// The nearest value that T holds. In lanes this is narrow, or saturate where it stands beside other numbers.
 template <class T, class Wide>
 constexpr T saturate(Wide value) {
   static_assert(std::is_integral_v<Wide> && sizeof(Wide) > sizeof(T));
+  static_assert(std::is_signed_v<Wide> || std::is_unsigned_v<T>, "the lowest value of T must fit");
   constexpr Wide low = std::numeric_limits<T>::min();
   constexpr Wide high = std::numeric_limits<T>::max();
   return static_cast<T>(value < low ? low : value > high ? high : value);
@@ -32,7 +33,8 @@ HWY_INLINE hn::Vec<D> saturate(D d, Widened<V> wide) {
 /// value / 2^shift to nearest, ties to even; 0 < shift < bits of the type.
 template <class T>
 constexpr T roundShift(T value, int shift) {
-  return static_cast<T>((value + (T{1} << (shift - 1)) - 1 + ((value >> shift) & 1)) >> shift);
+  const std::int64_t wide = value;  // elements of 64 bits keep the room for the sum themselves
+  return static_cast<T>((wide + (std::int64_t{1} << (shift - 1)) - 1 + ((wide >> shift) & 1)) >> shift);
 }
 
 /// In lanes the sum must not leave the lane: |value| + 2^(shift - 1) has to fit.
@@ -51,17 +53,16 @@ struct RoundingShift {
   static constexpr int bits = 8 * sizeof(T);
 
   int shift, shiftToOdd;
-  T oddMask, bias;
+  T bias;
 
   explicit RoundingShift(int count)
       : shift(count),
-        shiftToOdd(count < bits ? count : 0),
-        oddMask(count < bits),
+        shiftToOdd(count < bits ? count : 0),  // at the whole width the bit decides nothing
         bias(static_cast<T>((1u << (count - 1)) - 2)) {}
 
   template <class D, class V = hn::Vec<D>>
   HWY_INLINE V operator()(D d, V value) const {
-    const V odd = hn::And(hn::ShiftRightSame(value, shiftToOdd), hn::Set(d, oddMask));
+    const V odd = hn::And(hn::ShiftRightSame(value, shiftToOdd), hn::Set(d, 1));
     return hn::ShiftRightSame(hn::AverageRound(value, hn::Add(odd, hn::Set(d, bias))), shift - 1);
   }
 };
@@ -69,6 +70,7 @@ struct RoundingShift {
 /// value * 2^shift, saturated; shift >= 0.
 template <class T>
 constexpr T saturateShiftLeft(T value, int shift) {
+  static_assert(sizeof(T) < 4 || std::is_signed_v<T>, "the product must fit 64 bits");
   return saturate<T>(static_cast<std::int64_t>(value) * (std::int64_t{1} << (shift < 32 ? shift : 32)));
 }
 
@@ -89,17 +91,17 @@ struct SaturatingShiftLeft {
 
   template <class D, class V = hn::Vec<D>>
   HWY_INLINE V operator()(D d, V value) const {
-    const V tooHigh = hn::IfThenElse(hn::Gt(value, hn::Set(d, highest)), hn::Set(d, typeHighest),
-                                     hn::ShiftLeftSame(value, shift));
-    if constexpr (std::is_unsigned_v<T>) return tooHigh;
-    return hn::IfThenElse(hn::Lt(value, hn::Set(d, lowest)), hn::Set(d, typeLowest), tooHigh);
+    const V limitedAbove = hn::IfThenElse(hn::Gt(value, hn::Set(d, highest)), hn::Set(d, typeHighest),
+                                          hn::ShiftLeftSame(value, shift));
+    if constexpr (std::is_unsigned_v<T>) return limitedAbove;
+    return hn::IfThenElse(hn::Lt(value, hn::Set(d, lowest)), hn::Set(d, typeLowest), limitedAbove);
   }
 };
 
 // ---- Float to integer ---------------------------------------------------------------------------------------------
 
 /// To the nearest integer, ties to even, whatever rounding mode the caller has set: the remainder decides, not the
-/// processor's mode.
+/// processor's mode. The sign of a zero is not defined.
 inline float roundTiesEven(float value) {
   const float down = std::floor(value);
   const float rest = value - down;

@@ -110,46 +110,55 @@ struct TileGrid {
   Vemi64s sharedBytes, sliceBytes;
 };
 
+/// The one block of form D: a status word for each thread, the shared memory, the threads' slices.
+struct TeamBlock {
+  TileGrid grid;
+  int nThreads = 0;
+  char* base = nullptr;
+
+  static ptrdiff_t aligned(Vemi64s bytes) { return static_cast<ptrdiff_t>((bytes + 31) / 32 * 32); }
+
+  ptrdiff_t headBytes() const { return aligned(Vemi64s{sizeof(VemiStatus)} * nThreads); }
+
+  void allocate() {
+    base = static_cast<char*>(alignedAllocBytes(headBytes() + aligned(grid.sharedBytes) +
+                                                Vemi64s{aligned(grid.sliceBytes)} * nThreads));
+  }
+
+  VemiStatus& status(int t) const { return reinterpret_cast<VemiStatus*>(base)[t]; }
+  char* shared() const { return base + headBytes(); }
+  char* slice(int t) const { return shared() + aligned(grid.sharedBytes) + aligned(grid.sliceBytes) * t; }
+};
+
 /// Form D, team scratch with a cyclic tile loop: one thread prepares the shared block, then thread t of n works on the
 /// tiles t, t + n, t + 2n, ... with its own slice. prepare(shared) and tile(row, column, shared, slice) return a status;
 /// the smallest is kept, so an error wins over a warning, and a tile's error stops no other tile. A failed preparation
 /// starts no tile.
 template <class Prepare, class Tile>
 VemiStatus tilesInTeam(TileGrid grid, const Prepare& prepare, const Tile& tile) {
-  constexpr Vemi64s alignment = 32;
-  const auto aligned = [](Vemi64s bytes) { return (bytes + alignment - 1) / alignment * alignment; };
-  const int nTiles = grid.across * grid.down;
-  char* pScratch = nullptr;
-  int nThreads = 0;
+  TeamBlock block = {grid};
   VemiStatus prepared = vemiErrMemAlloc;
 #pragma omp parallel
   {
-    const int t = omp_get_thread_num();
-    char* shared = nullptr;
-    const auto sharedBlock = [&] { return pScratch + aligned(nThreads * Vemi64s{sizeof(VemiStatus)}); };
 #pragma omp single
     {
-      nThreads = omp_get_num_threads();
-      const Vemi64s head = aligned(nThreads * Vemi64s{sizeof(VemiStatus)});
-      const Vemi64s bytes = head + aligned(grid.sharedBytes) + nThreads * aligned(grid.sliceBytes);
-      pScratch = static_cast<char*>(alignedAllocBytes(bytes));
-      if (pScratch != nullptr) prepared = prepare(sharedBlock());
+      block.nThreads = omp_get_num_threads();
+      block.allocate();
+      if (block.base != nullptr) prepared = prepare(block.shared());
     }
-    if (pScratch != nullptr) {
-      VemiStatus& status = reinterpret_cast<VemiStatus*>(pScratch)[t];
-      status = vemiOk;
-      shared = sharedBlock();
-      char* const slice = shared + aligned(grid.sharedBytes) + t * aligned(grid.sliceBytes);
-      for (int i = t; prepared >= vemiOk && i < nTiles; i += nThreads) {
-        status = std::min(status, tile(i / grid.across, i % grid.across, shared, slice));
+    if (block.base != nullptr) {
+      const int t = omp_get_thread_num();
+      VemiStatus status = vemiOk;
+      for (int i = t; prepared >= vemiOk && i < grid.across * grid.down; i += block.nThreads) {
+        const VemiStatus tileStatus = tile(i / grid.across, i % grid.across, block.shared(), block.slice(t));
+        status = std::min(status, tileStatus);
       }
+      block.status(t) = status;
     }
   }
-  VemiStatus status = std::min(prepared, static_cast<VemiStatus>(vemiOk));
-  for (int t = 0; pScratch != nullptr && t < nThreads; ++t) {
-    status = std::min(status, reinterpret_cast<const VemiStatus*>(pScratch)[t]);
-  }
-  vemiAlignedFree(pScratch);
+  VemiStatus status = std::min<VemiStatus>(prepared, vemiOk);
+  for (int t = 0; block.base != nullptr && t < block.nThreads; ++t) status = std::min(status, block.status(t));
+  vemiAlignedFree(block.base);
   return status;
 }
 

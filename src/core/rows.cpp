@@ -9,7 +9,12 @@
 namespace vemi {
 
 void rowCopyBytes(const void* pSrc, void* pDst, ptrdiff_t lenBytes) {
-  std::memcpy(pDst, pSrc, static_cast<size_t>(lenBytes));
+  // In pieces: the C library leaves its fastest way of copying for lengths of about a mebibyte and more. Measured.
+  constexpr ptrdiff_t piece = ptrdiff_t{64} << 10;
+  const auto* src = static_cast<const char*>(pSrc);
+  auto* dst = static_cast<char*>(pDst);
+  for (; lenBytes > piece; lenBytes -= piece, src += piece, dst += piece) std::memcpy(dst, src, piece);
+  std::memcpy(dst, src, static_cast<size_t>(lenBytes));
 }
 
 void rowStreamBytes(const void* pSrc, void* pDst, ptrdiff_t lenBytes) {

@@ -1,6 +1,7 @@
 // vemiSet: regions filled with a constant, whole, under a mask, or in one channel.
-// Checks: null, size, step. Only the one-channel 8-bit form merges rows.
+// Checks: null, size, step. Contiguous rows are one long row.
 
+#include <algorithm>
 #include <cstring>
 
 #include "core/checks.h"
@@ -9,6 +10,7 @@
 #include "core/map_row.h"
 #include "core/masked_row.h"
 #include "core/rows.h"
+#include "core/streaming.h"
 #include "vemi/core.h"
 
 namespace vemi {
@@ -21,21 +23,33 @@ VemiStatus setBytes(const Vemi8u* value, Image<Vemi8u> dst, VemiSize roiSize) {
   return vemiOk;
 }
 
-/// Long rows of a large region are filled faster by copies of the first one: a long copy takes the C library's path
-/// that claims whole lines without reading them. Measured.
-constexpr ptrdiff_t copiedRowBytes = 4096;
-constexpr ptrdiff_t copiedRegionBytes = ptrdiff_t{4} << 20;
+/// A large region is filled faster by copies of its beginning: a long copy takes the C library's path that claims whole
+/// lines without reading them. Measured.
+constexpr Vemi64s copiedRegionBytes = Vemi64s{4} << 20;
+constexpr ptrdiff_t shortestCopiedRow = 4096;
+constexpr ptrdiff_t copiedPiece = ptrdiff_t{12} << 10;  // stays in the first cache; whole pixels of any layout
 
 template <class T, class L>
 VemiStatus set(const T* value, Image<T> dst, VemiSize roiSize) {
   if (const VemiStatus bad = firstOf(checkNull(value, dst), checkSize(roiSize), checkStep(dst))) return bad;
   const auto pixel = constantPixel<L>(value);
-  const ptrdiff_t rowBytes = roiSize.width * pixelBytes<T, L>;
-  const bool copiesRows =
-      !L::keepsAlpha && rowBytes >= copiedRowBytes && rowBytes * roiSize.height >= copiedRegionBytes;
-  const int filledRows = copiesRows ? 1 : roiSize.height;
-  for (int y = 0; y < filledRows; ++y) mapRow<L>(roiSize.width, pixel, dst.row(y));
-  for (int y = filledRows; y < roiSize.height; ++y) rowCopyBytes(dst.row(0), dst.row(y), rowBytes);
+  const Extent extent = mergedExtent(roiSize, isContiguous<L>(dst, roiSize));
+  const ptrdiff_t rowBytes = extent.width * pixelBytes<T, L>;
+  const bool copied = !L::keepsAlpha && rowBytes >= shortestCopiedRow &&
+                      trafficOf(extent, pixelBytes<T, L>) >= copiedRegionBytes;
+  if (!copied) {
+    for (ptrdiff_t y = 0; y < extent.height; ++y) mapRow<L>(extent.width, pixel, dst.row(y));
+    return vemiOk;
+  }
+  const ptrdiff_t pieceBytes = std::min(rowBytes, copiedPiece);
+  T* const piece = dst.row(0);
+  mapRow<L>(pieceBytes / pixelBytes<T, L>, pixel, piece);
+  for (ptrdiff_t y = 0; y < extent.height; ++y) {
+    auto* const row = reinterpret_cast<char*>(dst.row(y));
+    for (ptrdiff_t i = y == 0 ? pieceBytes : 0; i < rowBytes; i += pieceBytes) {
+      rowCopyBytes(piece, row + i, std::min(pieceBytes, rowBytes - i));
+    }
+  }
   return vemiOk;
 }
 
@@ -43,7 +57,9 @@ template <class T, class L>
 VemiStatus setMasked(const T* value, Image<T> dst, VemiSize roiSize, Image<const Vemi8u> mask) {
   if (const VemiStatus bad = firstOf(checkNull(value, dst, mask), checkSize(roiSize), checkStep(dst, mask))) return bad;
   const auto pixel = constantPixel<L>(value);
-  for (int y = 0; y < roiSize.height; ++y) mapRowMasked<L>(roiSize.width, mask.row(y), pixel, dst.row(y));
+  const bool contiguous = isContiguous<L>(dst, roiSize) && isContiguous<C1>(mask, roiSize);
+  const Extent extent = mergedExtent(roiSize, contiguous);
+  for (ptrdiff_t y = 0; y < extent.height; ++y) mapRowMasked<L>(extent.width, mask.row(y), pixel, dst.row(y));
   return vemiOk;
 }
 

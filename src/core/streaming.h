@@ -5,7 +5,9 @@
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
+#include <type_traits>
 
+#include "core/blocks.h"
 #include "core/image.h"
 #include "core/lanes.h"
 #include "core/rows.h"
@@ -28,7 +30,30 @@ inline constexpr Vemi64s streamedTraffic = Vemi64s{48} << 20;
 /// Bytes of all pixels of a region, where a pixel has `pixelBytes` in all images together.
 inline Vemi64s trafficOf(Extent extent, Vemi64s pixelBytes) { return pixelBytes * extent.width * extent.height; }
 
-/// Runs row(first element, elements, out...) over rows of `count` elements in stretches that stay in the first cache,
+namespace detail {
+
+template <class T, int elementsPerItem>
+bool isLineOrInput(Strand<T, elementsPerItem> strand, ptrdiff_t item) {
+  return std::is_const_v<T> || reinterpret_cast<uintptr_t>(strand.at(item)) % laneAlignment == 0;
+}
+
+}  // namespace detail
+
+/// forBlocks for a kernel that writes its outputs by hn::Stream, and so wants them aligned: plainRow(first item, items)
+/// does what lies in front of the first line and behind the last block, or the whole row where the outputs never begin
+/// a line together. Blocks begin at multiples of `period`. finishStreaming follows behind the thread's last row.
+template <ptrdiff_t items, int period, class PlainRow, class Kernel, class... S>
+HWY_INLINE void forStreamedBlocks(ptrdiff_t count, const PlainRow& plainRow, const Kernel& kernel, S... strand) {
+  ptrdiff_t i = 0;
+  const auto isReady = [&] { return (detail::isLineOrInput(strand, i) && ...); };
+  while (i < period * static_cast<ptrdiff_t>(laneAlignment) && !isReady()) i += period;
+  if (!isReady() || i + items > count) return plainRow(0, count);
+  plainRow(0, i);
+  for (; i + items <= count; i += items) kernel(strand.at(i)...);
+  plainRow(i, count - i);
+}
+
+/// For kernels that cannot stream. Runs row(first element, elements, out...) over rows of `count` elements in stretches that stay in the first cache,
 /// and streams each to its destination. Stretches begin at multiples of `period`. finishStreaming follows behind the
 /// thread's last row.
 template <int period, class Row, class... T>

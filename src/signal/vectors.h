@@ -1,5 +1,5 @@
 // One-dimensional moves and fills of the signal layer. Lengths are in elements. All return vemiErrNullPtr for a null
-// pointer, then vemiErrSize for a length below 1. Long vectors go past the caches; where that begins is chosen by
+// pointer, then vemiErrSize for a length below 1. Long copies go past the caches; where that begins is chosen by
 // measurement and shows in no result.
 #pragma once
 

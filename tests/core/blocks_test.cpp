@@ -30,15 +30,11 @@ void forRows(ptrdiff_t blockItems, const F& f) {
   for (const Place place : places) {
     for (ptrdiff_t width = 0; width <= 3 * blockItems + 1; ++width) {
       f(width, place);
-      if (::testing::Test::HasFatalFailure())
-        FAIL() << "width " << width << ", end " << place.atEnd << " " << place.slack;
+      if (::testing::Test::HasFatalFailure()) {
+        FAIL() << "width " << width << ", end " << place.atEnd << ", slack " << place.slack;
+      }
     }
   }
-}
-
-template <class F>
-void forElements(const F& f) {
-  forTypes<Vemi8u, Vemi16s, Vemi32f>(f);
 }
 
 // ---- forBlocks ----------------------------------------------------------------------------------------------------
@@ -76,13 +72,16 @@ TEST(ForBlocks, AKernelMeetsEveryItemOfTheRowAndNoOther) {
     for (size_t i = 0; i < numbers.size(); ++i) numbers[i] = static_cast<Vemi16u>(i / 2 + 1);
     const GuardedRow<Vemi16u> row(numbers, place);
     std::set<ptrdiff_t> met;
+    ptrdiff_t blocks = 0;
     const auto kernel = [&](const Vemi16u* in) {
+      blocks += 1;
       for (ptrdiff_t i = 0; i < blockItems; ++i) {
         ASSERT_EQ(in[2 * i], in[2 * i + 1]);
         met.insert(in[2 * i]);
       }
     };
     forBlocks<blockItems>(count, kernel, Strand<const Vemi16u, 2>{row.data()});
+    ASSERT_EQ(blocks, (count + blockItems - 1) / blockItems);
     ASSERT_EQ(met.size(), static_cast<size_t>(count));
     if (count > 0) {
       ASSERT_TRUE(*met.begin() == 1 && *met.rbegin() == count);
@@ -279,7 +278,7 @@ void splitAndMerge(std::index_sequence<c...>) {
 }
 
 TEST(Interleave, SplitAndMergeAreInverse) {
-  forElements([](auto element) {
+  forTypes<Vemi8u, Vemi16s, Vemi32f>([](auto element) {
     splitAndMerge<decltype(element)>(std::make_index_sequence<2>());
     splitAndMerge<decltype(element)>(std::make_index_sequence<3>());
     splitAndMerge<decltype(element)>(std::make_index_sequence<4>());
@@ -287,7 +286,7 @@ TEST(Interleave, SplitAndMergeAreInverse) {
 }
 
 TEST(Interleave, BetweenThreeAndFourChannelsTheAlphaStays) {
-  forElements([](auto element) {
+  forTypes<Vemi8u, Vemi16s, Vemi32f>([](auto element) {
     using T = decltype(element);
     forRows(laneCount<T>, [](ptrdiff_t width, Place place) {
       const GuardedRow<T> four(4 * width, place), three(3 * width, place), dst3(3 * width, place),
@@ -331,7 +330,7 @@ void singleChannels() {
 }
 
 TEST(Interleave, OneChannelMovesAlone) {
-  forElements([](auto element) {
+  forTypes<Vemi8u, Vemi16s, Vemi32f>([](auto element) {
     singleChannels<3, decltype(element)>();
     singleChannels<4, decltype(element)>();
   });

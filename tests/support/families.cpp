@@ -30,6 +30,13 @@ void surround(Call& call) {
   }
 }
 
+/// The fourth channel of AC4 and AP4 takes part; constant alphas alone leave it alone in AC4.
+void withAlpha(Call& call) {
+  if (call.function.indexOf("alphaType") >= 0) call.set("alphaType", call.random.below(12));
+  if (call.function.operation == "vemiAlphaCompC" && !call.function.destination.planar) return;
+  for (Image& image : call.images) image.layout.channels = image.layout.elements;
+}
+
 // The first row that fits a function is its row.
 const std::vector<Family>& families() {
   static const std::vector<Family> table = {
@@ -56,6 +63,16 @@ const std::vector<Family>& families() {
 
       {"vemiAbs vemiSqr vemiSqrt vemiLn vemiExp", ".*", "null size step"},
       {"vemiMulScale vemiMulCScale vemiComplement", ".*", "null step size"},
+
+      {"vemiAlphaComp vemiAlphaCompC",
+       ".*",
+       "null size step own",
+       withAlpha,
+       {{"alphaType", 12, "own", vemiErrAlphaType},
+        {"alphaType", INT_MAX, "own", vemiErrAlphaType},
+        {"alphaType", -1, "own", vemiErrAlphaType},
+        {"alphaType", INT_MIN, "own", vemiErrAlphaType}}},
+      {"vemiAlphaPremul vemiAlphaPremulC", ".*", "null size step", withAlpha},
   };
   return table;
 }

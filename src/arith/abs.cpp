@@ -1,0 +1,52 @@
+// vemiAbs: the absolute value. Checks: null, size, step; then the steps are rounded down to whole elements.
+
+#include "core/checks.h"
+#include "core/exports.h"
+#include "core/image.h"
+#include "core/map_region.h"
+#include "vemi/arith.h"
+
+namespace vemi {
+namespace {
+
+/// The least integer has no counterpart and gives the greatest one.
+struct Magnitude {
+  template <class D, class V>
+  HWY_INLINE V operator()(D d, V v) const {
+    if constexpr (std::is_integral_v<hn::TFromD<D>>) {
+      return hn::Max(v, hn::SaturatedSub(hn::Zero(d), v));
+    } else {
+      return hn::Abs(v);
+    }
+  }
+};
+
+template <class T, class L>
+VemiStatus absolute(Image<const T> src, Image<T> dst, VemiSize roiSize) {
+  if (const VemiStatus bad = firstOf(checkNull(src, dst), checkSize(roiSize), checkStep(src, dst))) return bad;
+  mapRegion<L, CallerRows>(roiSize, false, eachVector(Magnitude()), wholeElements(dst), wholeElements(src));
+  return vemiOk;
+}
+
+}  // namespace
+}  // namespace vemi
+
+using namespace vemi;
+
+VEMI_SRC_DST(vemiAbs_16s_C1R, Vemi16s, absolute<Vemi16s, C1>)
+VEMI_SRC_DST(vemiAbs_16s_C3R, Vemi16s, absolute<Vemi16s, C3>)
+VEMI_SRC_DST(vemiAbs_16s_C4R, Vemi16s, absolute<Vemi16s, C4>)
+VEMI_SRC_DST(vemiAbs_16s_AC4R, Vemi16s, absolute<Vemi16s, AC4>)
+VEMI_SRCDST(vemiAbs_16s_C1IR, Vemi16s, absolute<Vemi16s, C1>)
+VEMI_SRCDST(vemiAbs_16s_C3IR, Vemi16s, absolute<Vemi16s, C3>)
+VEMI_SRCDST(vemiAbs_16s_C4IR, Vemi16s, absolute<Vemi16s, C4>)
+VEMI_SRCDST(vemiAbs_16s_AC4IR, Vemi16s, absolute<Vemi16s, AC4>)
+
+VEMI_SRC_DST(vemiAbs_32f_C1R, Vemi32f, absolute<Vemi32f, C1>)
+VEMI_SRC_DST(vemiAbs_32f_C3R, Vemi32f, absolute<Vemi32f, C3>)
+VEMI_SRC_DST(vemiAbs_32f_C4R, Vemi32f, absolute<Vemi32f, C4>)
+VEMI_SRC_DST(vemiAbs_32f_AC4R, Vemi32f, absolute<Vemi32f, AC4>)
+VEMI_SRCDST(vemiAbs_32f_C1IR, Vemi32f, absolute<Vemi32f, C1>)
+VEMI_SRCDST(vemiAbs_32f_C3IR, Vemi32f, absolute<Vemi32f, C3>)
+VEMI_SRCDST(vemiAbs_32f_C4IR, Vemi32f, absolute<Vemi32f, C4>)
+VEMI_SRCDST(vemiAbs_32f_AC4IR, Vemi32f, absolute<Vemi32f, AC4>)

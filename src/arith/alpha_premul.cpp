@@ -1,0 +1,127 @@
+// vemiAlphaPremul, vemiAlphaPremulC: colours times their alpha, rounded down. The alpha itself is copied, or filled
+// with the constant.
+// Checks: null, size, step.
+
+#include "arith/alpha.h"
+#include "arith/settled.h"
+#include "core/checks.h"
+#include "core/exports.h"
+#include "core/map_region.h"
+#include "core/rows.h"
+#include "vemi/arith.h"
+
+namespace vemi {
+namespace {
+
+/// Of four-channel pixels: an alpha is multiplied with one.
+struct TimesOwnAlpha {
+  template <class D, class V>
+  HWY_INLINE V operator()(D d, V pixels, V alphaLanes) const {
+    return product(d, pixels, forColours(d, alphaOfPixels(d, pixels), alphaLanes));
+  }
+};
+
+struct TimesAlpha {
+  template <class D, class V>
+  HWY_INLINE V operator()(D d, V colour, V alpha) const {
+    return product(d, colour, fraction(d, alpha));
+  }
+};
+
+/// Lanes of `ones` count as one, so that they get the constant itself.
+template <class T>
+struct TimesConstant {
+  T alpha;
+
+  template <class D, class V>
+  HWY_INLINE V operator()(D d, V elements, V ones) const {
+    return product(d, hn::Or(elements, ones), fraction(d, hn::Set(d, alpha)));
+  }
+};
+
+template <class T>
+VemiStatus premultiply(Image<const T> src, Image<T> dst, VemiSize roiSize) {
+  if (const VemiStatus bad = firstOf(checkNull(src, dst), checkSize(roiSize), checkStep(src, dst))) return bad;
+  mapRegion<C4, CallerRows>(roiSize, false, withConstants<C4>(TimesOwnAlpha(), alphaLanes<T>), dst, src);
+  return vemiOk;
+}
+
+template <class T>
+VemiStatus premultiplyPlanes(Planes<const T, 4> src, Planes<T, 4> dst, VemiSize roiSize) {
+  if (const VemiStatus bad = firstOf(checkNull(src, dst), checkSize(roiSize), checkStep(src, dst))) return bad;
+  for (ptrdiff_t y = 0; y < roiSize.height; ++y) {
+    const T* const alpha = src[3].row(y);
+    for (int c = 0; c < 3; ++c) {
+      mapRow<C1>(roiSize.width, eachVector(TimesAlpha()), dst[c].row(y), src[c].row(y), alpha);
+    }
+    if (dst[3].row(y) != alpha) rowCopyBytes(alpha, dst[3].row(y), roiSize.width * pixelBytes<T, C1>);
+  }
+  return vemiOk;
+}
+
+/// The element-wise product is the same for all layouts.
+template <class T, class L>
+void timesConstant(Image<const T> src, T alpha, const T* ones, Image<T> dst, VemiSize roiSize) {
+  mapRegion<L, CallerRows>(roiSize, false, withConstants<C4>(TimesConstant<T>{alpha}, ones), dst, src);
+}
+
+template <class T>
+inline constexpr T noLanes[4] = {};
+
+template <class T, class L>
+VemiStatus premultiplyC(Image<const T> src, const T* alpha, Image<T> dst, VemiSize roiSize) {
+  if (const VemiStatus bad = firstOf(checkNull(src, dst), checkSize(roiSize), checkStep(src, dst))) return bad;
+  timesConstant<T, L>(src, *alpha, noLanes<T>, dst, roiSize);
+  return vemiOk;
+}
+
+template <class T>
+VemiStatus premultiplyPixelsC(Image<const T> src, const T* alpha, Image<T> dst, VemiSize roiSize) {
+  if (const VemiStatus bad = firstOf(checkNull(src, dst), checkSize(roiSize), checkStep(src, dst))) return bad;
+  timesConstant<T, C4>(src, *alpha, alphaLanes<T>, dst, roiSize);
+  return vemiOk;
+}
+
+template <class T>
+VemiStatus premultiplyPlanesC(Planes<const T, 4> src, const T* alpha, Planes<T, 4> dst, VemiSize roiSize) {
+  if (const VemiStatus bad = firstOf(checkNull(src, dst), checkSize(roiSize), checkStep(src, dst))) return bad;
+  for (int c = 0; c < 3; ++c) timesConstant<T, C1>(src[c], *alpha, noLanes<T>, dst[c], roiSize);
+  return fillRegion<T, C1>(*alpha, dst[3], roiSize);
+}
+
+}  // namespace
+}  // namespace vemi
+
+using namespace vemi;
+
+VEMI_SRC_DST(vemiAlphaPremul_8u_AC4R, Vemi8u, premultiply)
+VEMI_PLANES_PLANES(vemiAlphaPremul_8u_AP4R, Vemi8u, 4, premultiplyPlanes)
+VEMI_SRCDST(vemiAlphaPremul_8u_AC4IR, Vemi8u, premultiply)
+VEMI_PLANES_SRCDST(vemiAlphaPremul_8u_AP4IR, Vemi8u, 4, premultiplyPlanes)
+
+VEMI_SRC_DST(vemiAlphaPremul_16u_AC4R, Vemi16u, premultiply)
+VEMI_PLANES_PLANES(vemiAlphaPremul_16u_AP4R, Vemi16u, 4, premultiplyPlanes)
+VEMI_SRCDST(vemiAlphaPremul_16u_AC4IR, Vemi16u, premultiply)
+VEMI_PLANES_SRCDST(vemiAlphaPremul_16u_AP4IR, Vemi16u, 4, premultiplyPlanes)
+
+VEMI_SRC_VALUE_DST(vemiAlphaPremulC_8u_C1R, Vemi8u, premultiplyC<Vemi8u, C1>)
+VEMI_SRC_VALUE_DST(vemiAlphaPremulC_8u_C3R, Vemi8u, premultiplyC<Vemi8u, C3>)
+VEMI_SRC_VALUE_DST(vemiAlphaPremulC_8u_C4R, Vemi8u, premultiplyC<Vemi8u, C4>)
+VEMI_SRC_VALUE_DST(vemiAlphaPremulC_8u_AC4R, Vemi8u, premultiplyPixelsC)
+VEMI_PLANES_VALUE_PLANES(vemiAlphaPremulC_8u_AP4R, Vemi8u, 4, premultiplyPlanesC)
+VEMI_VALUE_SRCDST(vemiAlphaPremulC_8u_C1IR, Vemi8u, premultiplyC<Vemi8u, C1>)
+VEMI_VALUE_SRCDST(vemiAlphaPremulC_8u_C3IR, Vemi8u, premultiplyC<Vemi8u, C3>)
+VEMI_VALUE_SRCDST(vemiAlphaPremulC_8u_C4IR, Vemi8u, premultiplyC<Vemi8u, C4>)
+VEMI_VALUE_SRCDST(vemiAlphaPremulC_8u_AC4IR, Vemi8u, premultiplyPixelsC)
+VEMI_VALUE_PLANES_SRCDST(vemiAlphaPremulC_8u_AP4IR, Vemi8u, 4, premultiplyPlanesC)
+
+VEMI_SRC_VALUE_DST(vemiAlphaPremulC_16u_C1R, Vemi16u, premultiplyC<Vemi16u, C1>)
+VEMI_SRC_VALUE_DST(vemiAlphaPremulC_16u_C3R, Vemi16u, premultiplyC<Vemi16u, C3>)
+VEMI_SRC_VALUE_DST(vemiAlphaPremulC_16u_C4R, Vemi16u, premultiplyC<Vemi16u, C4>)
+VEMI_SRC_VALUE_DST(vemiAlphaPremulC_16u_AC4R, Vemi16u, premultiplyPixelsC)
+VEMI_PLANES_VALUE_PLANES(vemiAlphaPremulC_16u_AP4R, Vemi16u, 4, premultiplyPlanesC)
+VEMI_VALUE_SRCDST(vemiAlphaPremulC_16u_C1IR, Vemi16u, premultiplyC<Vemi16u, C1>)
+VEMI_VALUE_SRCDST(vemiAlphaPremulC_16u_C3IR, Vemi16u, premultiplyC<Vemi16u, C3>)
+VEMI_VALUE_SRCDST(vemiAlphaPremulC_16u_C4IR, Vemi16u, premultiplyC<Vemi16u, C4>)
+VEMI_VALUE_SRCDST(vemiAlphaPremulC_16u_AC4IR, Vemi16u, premultiplyPixelsC)
+VEMI_VALUE_PLANES_SRCDST(vemiAlphaPremulC_16u_AP4IR, Vemi16u, 4, premultiplyPlanesC)

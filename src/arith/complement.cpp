@@ -1,0 +1,32 @@
+// vemiComplement: from two's complement to sign and magnitude. Checks: null, step, size.
+
+#include "core/checks.h"
+#include "core/exports.h"
+#include "core/image.h"
+#include "core/map_region.h"
+#include "vemi/arith.h"
+
+namespace vemi {
+namespace {
+
+/// The least integer has no magnitude in the other bits and stays.
+struct SignAndMagnitude {
+  template <class D, class V>
+  HWY_INLINE V operator()(D d, V v) const {
+    const V sign = hn::And(v, hn::Set(d, std::numeric_limits<Vemi32s>::min()));
+    return hn::Or(hn::Abs(v), sign);
+  }
+};
+
+VemiStatus complement(Image<const Vemi32s> src, Image<Vemi32s> dst, VemiSize roiSize) {
+  if (const VemiStatus bad = firstOf(checkNull(dst), checkStep(dst), checkSize(roiSize))) return bad;
+  mapRegion<C1, CallerRows>(roiSize, false, eachVector(SignAndMagnitude()), dst, src);
+  return vemiOk;
+}
+
+}  // namespace
+}  // namespace vemi
+
+using namespace vemi;
+
+VEMI_SRCDST(vemiComplement_32s_C1IR, Vemi32s, complement)

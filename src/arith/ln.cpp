@@ -1,0 +1,115 @@
+// vemiLn: the natural logarithm, divided by 2^scaleFactor for integers. Checks: null, size, step. A row with zeros or
+// numbers below zero gives a warning; each element type has its own rule for it.
+
+#include <algorithm>
+#include <bit>
+#include <cstring>
+
+#include "core/any_element.h"
+#include "core/byte_table.h"
+#include "core/checks.h"
+#include "core/exports.h"
+#include "core/image.h"
+#include "core/map_region.h"
+#include "core/wide_lanes.h"
+#include "signal/ln.h"
+#include "vemi/arith.h"
+
+namespace vemi {
+namespace {
+
+/// The logarithm of 16-bit lanes divided by 2^scaleFactor, to nearest. There are no ties: logarithms of integers above
+/// 1 are irrational. Zero and what is below it give the least value.
+struct ScaledLn {
+  double scale;
+
+  explicit ScaledLn(int scaleFactor) {
+    const int s = std::clamp(scaleFactor, -16, 5);  // beyond, all logarithms but that of 1 are above the range, or zero
+    scale = std::bit_cast<double>((uint64_t{1023} - static_cast<uint64_t>(int64_t{s})) << 52);
+  }
+
+  template <class D, class V>
+  HWY_INLINE V operator()(D d, V v) const {
+    const hn::RebindToUnsigned<D> du;
+    const auto ofWide = [&](auto dw, auto x) HWY_ATTR {
+      const hn::RebindToSigned<decltype(dw)> di;
+      const hn::Half<decltype(di)> dHalf;
+      const hn::Rebind<double, decltype(dHalf)> d64;
+      const auto rounded = [&](auto half) HWY_ATTR {
+        const auto ln = hn::Mul(LnOfInteger()(d64, hn::PromoteTo(d64, half)), hn::Set(d64, scale));
+        return hn::DemoteTo(dHalf, hn::Min(hn::Add(ln, hn::Set(d64, 0.5)), hn::Set(d64, 32767.0)));
+      };
+      const auto integers = hn::BitCast(di, x);
+      return hn::BitCast(
+          dw, hn::Combine(di, rounded(hn::UpperHalf(dHalf, integers)), rounded(hn::LowerHalf(dHalf, integers))));
+    };
+    const V positive = hn::Max(v, hn::Set(d, 1));
+    const V result = hn::BitCast(d, inWideLanes(du, ofWide, hn::BitCast(du, positive)));
+    return hn::IfThenElse(hn::Eq(v, positive), result, hn::Set(d, std::numeric_limits<Vemi16s>::min()));
+  }
+};
+
+/// The contract has one entry that is not the nearest value: 11.56 gives 11.
+ByteTable lnTable(int scaleFactor) {
+  ByteTable table = byteTableOf<Vemi16s>(ScaledLn(scaleFactor));
+  if (scaleFactor == -2) table.entry[18] = 11;
+  return table;
+}
+
+VemiStatus lnStatus8u(const Vemi8u* row, ptrdiff_t len) {
+  return anyElement<Alpha::none>(len, IsZero(), row) ? vemiWarnLnZero : vemiOk;
+}
+
+struct IsNotPositive {
+  template <class D, class V>
+  HWY_INLINE auto operator()(D d, V v) const {
+    return hn::Lt(v, hn::Set(d, 1));
+  }
+};
+
+/// The first element that has no logarithm decides.
+VemiStatus lnStatus16s(const Vemi16s* row, ptrdiff_t len) {
+  if (!anyElement<Alpha::none>(len, IsNotPositive(), row)) return vemiOk;
+  Vemi16s first;
+  do std::memcpy(&first, row++, sizeof first);
+  while (first > 0);
+  return first == 0 ? vemiWarnLnZero : vemiWarnLnNegative;
+}
+
+template <class L>
+VemiStatus ln8u(Image<const Vemi8u> src, Image<Vemi8u> dst, VemiSize roiSize, int scaleFactor) {
+  if (const VemiStatus bad = firstOf(checkNull(src, dst), checkSize(roiSize), checkStep(src, dst))) return bad;
+  return mapRegionWatched<L>(roiSize, eachVector(lnTable(scaleFactor)), lnStatus8u, dst, src);
+}
+
+template <class L>
+VemiStatus ln16s(Image<const Vemi16s> src, Image<Vemi16s> dst, VemiSize roiSize, int scaleFactor) {
+  if (const VemiStatus bad = firstOf(checkNull(src, dst), checkSize(roiSize), checkStep(src, dst))) return bad;
+  return mapRegionWatched<L>(roiSize, eachVector(ScaledLn(scaleFactor)), lnStatus16s, dst, src);
+}
+
+template <class L>
+VemiStatus ln32f(Image<const Vemi32f> src, Image<Vemi32f> dst, VemiSize roiSize) {
+  if (const VemiStatus bad = firstOf(checkNull(src, dst), checkSize(roiSize), checkStep(src, dst))) return bad;
+  return mapRegionWatched<L>(roiSize, eachVector(Ln()), lnStatus, dst, src);
+}
+
+}  // namespace
+}  // namespace vemi
+
+using namespace vemi;
+
+VEMI_SRC_DST_SFS(vemiLn_8u_C1RSfs, Vemi8u, ln8u<C1>)
+VEMI_SRC_DST_SFS(vemiLn_8u_C3RSfs, Vemi8u, ln8u<C3>)
+VEMI_SRCDST_SFS(vemiLn_8u_C1IRSfs, Vemi8u, ln8u<C1>)
+VEMI_SRCDST_SFS(vemiLn_8u_C3IRSfs, Vemi8u, ln8u<C3>)
+
+VEMI_SRC_DST_SFS(vemiLn_16s_C1RSfs, Vemi16s, ln16s<C1>)
+VEMI_SRC_DST_SFS(vemiLn_16s_C3RSfs, Vemi16s, ln16s<C3>)
+VEMI_SRCDST_SFS(vemiLn_16s_C1IRSfs, Vemi16s, ln16s<C1>)
+VEMI_SRCDST_SFS(vemiLn_16s_C3IRSfs, Vemi16s, ln16s<C3>)
+
+VEMI_SRC_DST(vemiLn_32f_C1R, Vemi32f, ln32f<C1>)
+VEMI_SRC_DST(vemiLn_32f_C3R, Vemi32f, ln32f<C3>)
+VEMI_SRCDST(vemiLn_32f_C1IR, Vemi32f, ln32f<C1>)
+VEMI_SRCDST(vemiLn_32f_C3IR, Vemi32f, ln32f<C3>)

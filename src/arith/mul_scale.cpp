@@ -1,0 +1,87 @@
+// vemiMulScale, vemiMulCScale: the product of two values that stand for fractions of the full scale of their type.
+// Checks: null, step, size.
+
+#include "core/checks.h"
+#include "core/exports.h"
+#include "core/image.h"
+#include "core/map_region.h"
+#include "core/wide_lanes.h"
+#include "vemi/arith.h"
+
+namespace vemi {
+namespace {
+
+/// With t = a b and w the bits of the type, (t + 1 + (t >> w)) >> w.
+struct ScaledProduct {
+  template <class D, class V>
+  HWY_INLINE V operator()(D d, V a, V b) const {
+    if constexpr (sizeof(hn::TFromD<D>) == 1) {
+      // The same as (257 t + 256) >> 16, and as (257 (t + 1)) >> 16: they differ at t = 65535 alone.
+      const auto ofWide = [](auto dw, auto x, auto y) HWY_ATTR {
+        return hn::MulHigh(hn::Add(hn::Mul(x, y), hn::Set(dw, 1)), hn::Set(dw, 257));
+      };
+      return inWideLanes(d, ofWide, a, b);
+    } else {
+      // The upper half of t, and a carry out of the sum of the halves and 1: the top bit of their average.
+      const V upper = hn::MulHigh(a, b);
+      return hn::Add(upper, hn::ShiftRight<15>(hn::AverageRound(hn::Mul(a, b), upper)));
+    }
+  }
+};
+
+template <class T, class L>
+VemiStatus mulScale(Image<const T> src1, Image<const T> src2, Image<T> dst, VemiSize roiSize) {
+  if (const VemiStatus bad = firstOf(checkNull(src1, src2, dst), checkStep(src1, src2, dst), checkSize(roiSize))) {
+    return bad;
+  }
+  mapRegion<L, CallerRows>(roiSize, false, eachVector(ScaledProduct()), dst, src1, src2);
+  return vemiOk;
+}
+
+template <class T, class L>
+VemiStatus mulScaleC(Image<const T> src, const T* value, Image<T> dst, VemiSize roiSize) {
+  if (const VemiStatus bad = firstOf(checkNull(src, value, dst), checkStep(src, dst), checkSize(roiSize))) return bad;
+  mapRegion<L, CallerRows>(roiSize, false, withConstants<L>(ScaledProduct(), value), dst, src);
+  return vemiOk;
+}
+
+}  // namespace
+}  // namespace vemi
+
+using namespace vemi;
+
+VEMI_2SRC_DST(vemiMulScale_8u_C1R, Vemi8u, mulScale<Vemi8u, C1>)
+VEMI_2SRC_DST(vemiMulScale_8u_C3R, Vemi8u, mulScale<Vemi8u, C3>)
+VEMI_2SRC_DST(vemiMulScale_8u_C4R, Vemi8u, mulScale<Vemi8u, C4>)
+VEMI_2SRC_DST(vemiMulScale_8u_AC4R, Vemi8u, mulScale<Vemi8u, AC4>)
+VEMI_SRC_SRCDST(vemiMulScale_8u_C1IR, Vemi8u, mulScale<Vemi8u, C1>)
+VEMI_SRC_SRCDST(vemiMulScale_8u_C3IR, Vemi8u, mulScale<Vemi8u, C3>)
+VEMI_SRC_SRCDST(vemiMulScale_8u_C4IR, Vemi8u, mulScale<Vemi8u, C4>)
+VEMI_SRC_SRCDST(vemiMulScale_8u_AC4IR, Vemi8u, mulScale<Vemi8u, AC4>)
+
+VEMI_2SRC_DST(vemiMulScale_16u_C1R, Vemi16u, mulScale<Vemi16u, C1>)
+VEMI_2SRC_DST(vemiMulScale_16u_C3R, Vemi16u, mulScale<Vemi16u, C3>)
+VEMI_2SRC_DST(vemiMulScale_16u_C4R, Vemi16u, mulScale<Vemi16u, C4>)
+VEMI_2SRC_DST(vemiMulScale_16u_AC4R, Vemi16u, mulScale<Vemi16u, AC4>)
+VEMI_SRC_SRCDST(vemiMulScale_16u_C1IR, Vemi16u, mulScale<Vemi16u, C1>)
+VEMI_SRC_SRCDST(vemiMulScale_16u_C3IR, Vemi16u, mulScale<Vemi16u, C3>)
+VEMI_SRC_SRCDST(vemiMulScale_16u_C4IR, Vemi16u, mulScale<Vemi16u, C4>)
+VEMI_SRC_SRCDST(vemiMulScale_16u_AC4IR, Vemi16u, mulScale<Vemi16u, AC4>)
+
+VEMI_SRC_VALUE_DST(vemiMulCScale_8u_C1R, Vemi8u, mulScaleC<Vemi8u, C1>)
+VEMI_SRC_VALUES_DST(vemiMulCScale_8u_C3R, Vemi8u, mulScaleC<Vemi8u, C3>)
+VEMI_SRC_VALUES_DST(vemiMulCScale_8u_C4R, Vemi8u, mulScaleC<Vemi8u, C4>)
+VEMI_SRC_VALUES_DST(vemiMulCScale_8u_AC4R, Vemi8u, mulScaleC<Vemi8u, AC4>)
+VEMI_VALUE_SRCDST(vemiMulCScale_8u_C1IR, Vemi8u, mulScaleC<Vemi8u, C1>)
+VEMI_VALUES_SRCDST(vemiMulCScale_8u_C3IR, Vemi8u, mulScaleC<Vemi8u, C3>)
+VEMI_VALUES_SRCDST(vemiMulCScale_8u_C4IR, Vemi8u, mulScaleC<Vemi8u, C4>)
+VEMI_VALUES_SRCDST(vemiMulCScale_8u_AC4IR, Vemi8u, mulScaleC<Vemi8u, AC4>)
+
+VEMI_SRC_VALUE_DST(vemiMulCScale_16u_C1R, Vemi16u, mulScaleC<Vemi16u, C1>)
+VEMI_SRC_VALUES_DST(vemiMulCScale_16u_C3R, Vemi16u, mulScaleC<Vemi16u, C3>)
+VEMI_SRC_VALUES_DST(vemiMulCScale_16u_C4R, Vemi16u, mulScaleC<Vemi16u, C4>)
+VEMI_SRC_VALUES_DST(vemiMulCScale_16u_AC4R, Vemi16u, mulScaleC<Vemi16u, AC4>)
+VEMI_VALUE_SRCDST(vemiMulCScale_16u_C1IR, Vemi16u, mulScaleC<Vemi16u, C1>)
+VEMI_VALUES_SRCDST(vemiMulCScale_16u_C3IR, Vemi16u, mulScaleC<Vemi16u, C3>)
+VEMI_VALUES_SRCDST(vemiMulCScale_16u_C4IR, Vemi16u, mulScaleC<Vemi16u, C4>)
+VEMI_VALUES_SRCDST(vemiMulCScale_16u_AC4IR, Vemi16u, mulScaleC<Vemi16u, AC4>)

@@ -1,0 +1,145 @@
+// vemiSqrt: the square root, divided by 2^scaleFactor for integers. Checks: null, size, step; then the steps are
+// rounded down to whole elements. A number below zero gives a warning.
+
+#include <algorithm>
+#include <bit>
+
+#include "core/byte_table.h"
+#include "core/checks.h"
+#include "core/exports.h"
+#include "core/image.h"
+#include "core/map_region.h"
+#include "core/wide_lanes.h"
+#include "vemi/arith.h"
+
+namespace vemi {
+namespace {
+
+/// The root of 16-bit lanes divided by 2^scaleFactor, to nearest with ties to even, exactly.
+///
+/// The quotient n of the rounded single-precision root may be off by one near an integer, and cannot tell a tie from
+/// its neighbours. But the result is n or n + 1, and the sign of x - ((n + 1/2) 2^scaleFactor)^2 says which. Multiplied
+/// by a power of four that is a difference of integers; it is small, so that 32 bits hold it even where its terms wrap
+/// around.
+template <class T>
+struct ScaledRoot {
+  float scale;
+  uint32_t power;  // of four
+  int shift;
+
+  explicit ScaledRoot(int scaleFactor) {
+    const int s = std::clamp(scaleFactor, -16, 9);  // beyond, all roots but zero's are above the range, or below 1/2
+    const int up = std::max(-s, 0);
+    scale = std::bit_cast<float>((127 - s) << 23);
+    power = up < 15 ? uint32_t{4} << (2 * up) : 0;
+    shift = std::max(s, 0);
+  }
+
+  template <class D, class V>
+  HWY_INLINE V operator()(D d, V v) const {
+    const hn::RebindToUnsigned<D> du;
+    if constexpr (std::is_signed_v<T>) v = hn::Max(v, hn::Zero(d));
+    const auto ofWide = [&](auto dw, auto x) HWY_ATTR {
+      const hn::RebindToFloat<decltype(dw)> df;
+      const hn::RebindToSigned<decltype(dw)> di;
+      const auto root = hn::Mul(hn::Sqrt(hn::ConvertTo(df, hn::BitCast(di, x))), hn::Set(df, scale));
+      const auto n = hn::ConvertTo(di, hn::Min(root, hn::Set(df, 65536.0f)));
+      const auto one = hn::Set(di, 1);
+      const auto middle = hn::ShiftLeftSame(hn::Add(hn::Add(n, n), one), shift);
+      const auto rest = hn::Sub(hn::BitCast(di, hn::Mul(x, hn::Set(dw, power))), hn::Mul(middle, middle));
+      const auto goesUp = hn::Gt(hn::Add(rest, hn::And(n, one)), hn::Zero(di));  // on a tie if n is odd
+      const auto rounded = hn::Sub(n, hn::VecFromMask(di, goesUp));
+      return hn::BitCast(dw, hn::Min(rounded, hn::Set(di, std::numeric_limits<T>::max())));
+    };
+    return hn::BitCast(d, inWideLanes(du, ofWide, hn::BitCast(du, v)));
+  }
+};
+
+/// Correctly rounded; -0 stays, of numbers below zero the processor makes its NaN.
+struct Root {
+  template <class D, class V>
+  HWY_INLINE V operator()(D, V v) const {
+    return hn::Sqrt(v);
+  }
+};
+
+/// A root that takes note of the worked elements below zero. They are rare: a branch that is not taken costs less than
+/// to collect them.
+template <class L, class Op>
+struct Watched {
+  Op root;
+  bool* negative;
+
+  template <class D, class V>
+  HWY_INLINE V operator()(D d, V v) const {
+    auto isNegative = hn::Lt(v, hn::Zero(d));
+    if constexpr (L::keepsAlpha) isNegative = hn::And(isNegative, colourLanes(d));
+    if (HWY_UNLIKELY(!hn::AllFalse(d, isNegative))) *negative = true;
+    return root(d, v);
+  }
+};
+
+template <class L, class T, class Op>
+VemiStatus watchedRoots(const Op& root, Image<const T> src, Image<T> dst, VemiSize roiSize) {
+  bool negative = false;
+  const auto op = eachVector(Watched<L, Op>{root, &negative});
+  mapRegion<L, CallerRows>(roiSize, false, op, wholeElements(dst), wholeElements(src));
+  return negative ? vemiWarnSqrtNegative : vemiOk;
+}
+
+template <class T, class L>
+VemiStatus root16(Image<const T> src, Image<T> dst, VemiSize roiSize, int scaleFactor) {
+  if (const VemiStatus bad = firstOf(checkNull(src, dst), checkSize(roiSize), checkStep(src, dst))) return bad;
+  const ScaledRoot<T> root(scaleFactor);
+  if constexpr (std::is_signed_v<T>) return watchedRoots<L>(root, src, dst, roiSize);
+  mapRegion<L, CallerRows>(roiSize, false, eachVector(root), wholeElements(dst), wholeElements(src));
+  return vemiOk;
+}
+
+template <class L>
+VemiStatus root8u(Image<const Vemi8u> src, Image<Vemi8u> dst, VemiSize roiSize, int scaleFactor) {
+  if (const VemiStatus bad = firstOf(checkNull(src, dst), checkSize(roiSize), checkStep(src, dst))) return bad;
+  const ByteTable table = byteTableOf<Vemi16u>(ScaledRoot<Vemi16u>(scaleFactor));
+  mapRegion<L, CallerRows>(roiSize, false, eachVector(table), dst, src);
+  return vemiOk;
+}
+
+template <class L>
+VemiStatus root32f(Image<const Vemi32f> src, Image<Vemi32f> dst, VemiSize roiSize) {
+  if (const VemiStatus bad = firstOf(checkNull(src, dst), checkSize(roiSize), checkStep(src, dst))) return bad;
+  return watchedRoots<L>(Root(), src, dst, roiSize);
+}
+
+}  // namespace
+}  // namespace vemi
+
+using namespace vemi;
+
+VEMI_SRC_DST_SFS(vemiSqrt_8u_C1RSfs, Vemi8u, root8u<C1>)
+VEMI_SRC_DST_SFS(vemiSqrt_8u_C3RSfs, Vemi8u, root8u<C3>)
+VEMI_SRC_DST_SFS(vemiSqrt_8u_AC4RSfs, Vemi8u, root8u<AC4>)
+VEMI_SRCDST_SFS(vemiSqrt_8u_C1IRSfs, Vemi8u, root8u<C1>)
+VEMI_SRCDST_SFS(vemiSqrt_8u_C3IRSfs, Vemi8u, root8u<C3>)
+VEMI_SRCDST_SFS(vemiSqrt_8u_AC4IRSfs, Vemi8u, root8u<AC4>)
+
+VEMI_SRC_DST_SFS(vemiSqrt_16u_C1RSfs, Vemi16u, root16<Vemi16u, C1>)
+VEMI_SRC_DST_SFS(vemiSqrt_16u_C3RSfs, Vemi16u, root16<Vemi16u, C3>)
+VEMI_SRC_DST_SFS(vemiSqrt_16u_AC4RSfs, Vemi16u, root16<Vemi16u, AC4>)
+VEMI_SRCDST_SFS(vemiSqrt_16u_C1IRSfs, Vemi16u, root16<Vemi16u, C1>)
+VEMI_SRCDST_SFS(vemiSqrt_16u_C3IRSfs, Vemi16u, root16<Vemi16u, C3>)
+VEMI_SRCDST_SFS(vemiSqrt_16u_AC4IRSfs, Vemi16u, root16<Vemi16u, AC4>)
+
+VEMI_SRC_DST_SFS(vemiSqrt_16s_C1RSfs, Vemi16s, root16<Vemi16s, C1>)
+VEMI_SRC_DST_SFS(vemiSqrt_16s_C3RSfs, Vemi16s, root16<Vemi16s, C3>)
+VEMI_SRC_DST_SFS(vemiSqrt_16s_AC4RSfs, Vemi16s, root16<Vemi16s, AC4>)
+VEMI_SRCDST_SFS(vemiSqrt_16s_C1IRSfs, Vemi16s, root16<Vemi16s, C1>)
+VEMI_SRCDST_SFS(vemiSqrt_16s_C3IRSfs, Vemi16s, root16<Vemi16s, C3>)
+VEMI_SRCDST_SFS(vemiSqrt_16s_AC4IRSfs, Vemi16s, root16<Vemi16s, AC4>)
+
+VEMI_SRC_DST(vemiSqrt_32f_C1R, Vemi32f, root32f<C1>)
+VEMI_SRC_DST(vemiSqrt_32f_C3R, Vemi32f, root32f<C3>)
+VEMI_SRC_DST(vemiSqrt_32f_AC4R, Vemi32f, root32f<AC4>)
+VEMI_SRCDST(vemiSqrt_32f_C1IR, Vemi32f, root32f<C1>)
+VEMI_SRCDST(vemiSqrt_32f_C3IR, Vemi32f, root32f<C3>)
+VEMI_SRCDST(vemiSqrt_32f_C4IR, Vemi32f, root32f<C4>)
+VEMI_SRCDST(vemiSqrt_32f_AC4IR, Vemi32f, root32f<AC4>)
