@@ -19,11 +19,28 @@ namespace {
 
 using FamilyTable = Family (*)();
 constexpr FamilyTable families[] = {
-    copyFamily,   setFamily, planesFamily,      channelsFamily,  maskedCopyFamily, maskedSetFamily,
-    borderFamily, addFamily, addConstantFamily, addScaledFamily, scalingFamily,
-    divideFamily, divideByConstantFamily, divideScalingFamily,
-    unaryFamily,  mulScaleFamily, unaryScalingFamily,
-    subFamily,    mulFamily, subMulScalingFamily, logicalFamily, shiftFamily,
+    copyFamily,
+    setFamily,
+    planesFamily,
+    channelsFamily,
+    maskedCopyFamily,
+    maskedSetFamily,
+    borderFamily,
+    addFamily,
+    addConstantFamily,
+    addScaledFamily,
+    scalingFamily,
+    divideFamily,
+    divideByConstantFamily,
+    divideScalingFamily,
+    unaryFamily,
+    mulScaleFamily,
+    unaryScalingFamily,
+    subFamily,
+    mulFamily,
+    subMulScalingFamily,
+    logicalFamily,
+    shiftFamily,
     alphaFamily,
 };
 

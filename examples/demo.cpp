@@ -44,6 +44,22 @@ constexpr Section sections[] = {
      "Sums of two images, or of an image and a constant. The exact sum is multiplied by 2 to the power of minus the "
      "scale factor, rounded, and limited to the range of the type.",
      demoAdd},
+    {"Differences and gain",
+     "vemiSub takes its first source off the second and stops at 0 in 8 bits; vemiMulC and vemiDiv change brightness "
+     "by "
+     "factors, which the scale factor turns into fractions.",
+     demoGain},
+    {"Curves and blends",
+     "Squares, roots, logarithms and exponentials of each element, absolute values, and products on the full scale, "
+     "where 255 is one.",
+     demoCurves},
+    {"Bits",
+     "And, or, exclusive or, not, and shifts. Nothing is rounded or limited: bits that are shifted out are gone.",
+     demoBits},
+    {"Alpha",
+     "Pictures with transparency laid over each other in six ways. Results are premultiplied: colours that have been "
+     "multiplied by their alpha.",
+     demoAlpha},
 };
 
 Options optionsFrom(int argc, char** argv) {

@@ -20,5 +20,9 @@ void demoChannels(const Demo& demo);
 void demoFill(const Demo& demo);
 void demoBorder(const Demo& demo);
 void demoAdd(const Demo& demo);
+void demoGain(const Demo& demo);
+void demoCurves(const Demo& demo);
+void demoBits(const Demo& demo);
+void demoAlpha(const Demo& demo);
 
 }  // namespace demo

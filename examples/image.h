@@ -19,6 +19,12 @@ inline constexpr Malloc<T> mallocOf[4] = {};
 template <>
 inline constexpr Malloc<Vemi8u> mallocOf<Vemi8u>[4] = {vemiMalloc_8u_C1, vemiMalloc_8u_C2, vemiMalloc_8u_C3,
                                                        vemiMalloc_8u_C4};
+template <>
+inline constexpr Malloc<Vemi16s> mallocOf<Vemi16s>[4] = {vemiMalloc_16s_C1, vemiMalloc_16s_C2, vemiMalloc_16s_C3,
+                                                         vemiMalloc_16s_C4};
+template <>
+inline constexpr Malloc<Vemi32f> mallocOf<Vemi32f>[4] = {vemiMalloc_32f_C1, vemiMalloc_32f_C2, vemiMalloc_32f_C3,
+                                                         vemiMalloc_32f_C4};
 
 /// Rows on 32-byte boundaries, contents not cleared. Channels are interleaved.
 template <class T>

@@ -60,11 +60,11 @@ std::string codeOf(const Call& call) {
   std::string html;
   for (std::string line; std::getline(lines, line);) {
     const size_t name = line.find("vemi");
-    if (name == std::string::npos) {
+    const size_t end = name == std::string::npos ? name : line.find_first_of("( ,;)", name);
+    if (end == std::string::npos || line[end] != '(') {  // no call in this line
       html += "<div>" + escaped(line) + "</div>";
       continue;
     }
-    const size_t end = line.find('(', name);
     html += "<div>" + escaped(line.substr(0, name)) + "<b>" + escaped(line.substr(name, end - name)) + "</b>" +
             escaped(line.substr(end)) + ";</div>";
   }

@@ -1123,9 +1123,9 @@ VEMI_API VemiStatus vemiMulC_32f_AC4IR(const Vemi32f* value, Vemi32f* pSrcDst, i
  * fourth stays as it is. The constant of C1 forms is passed by value; C3 and AC4 forms take an array of three, one for
  * each channel.
  *
- * **16sc, 32sc.** Each part of the result is the exact value times 2^-s, s being the scaleFactor, rounded to the nearest
- * integer (ties to even) and then limited to the range of the part. The exact value is exact indeed: a product of four
- * parts of -32768 (or -2^31) does not wrap. Every scaleFactor is legal.
+ * **16sc, 32sc.** Each part of the result is the exact value times 2^-s, s being the scaleFactor, rounded to the
+ * nearest integer (ties to even) and then limited to the range of the part. The exact value is exact indeed: a product
+ * of four parts of -32768 (or -2^31) does not wrap. Every scaleFactor is legal.
  *
  *     16sc    (3, -3) + (0, 0),  s = 1     (1.5, -1.5)  ->  (2, -2)
  *     16sc    (2, 3) * (4, -5),  s = 0     (8 + 15, -10 + 12)  =  (23, 2)
@@ -1418,7 +1418,8 @@ VEMI_API VemiStatus vemiMulC_32fc_AC4IR(const Vemi32fc* value, Vemi32fc* pSrcDst
  *     8u     5 / 2,    s =  0    2.5  ->  2         16s   -9 / 0   ->  -32768
  *     16s  100 / -7,   s = -4    -228.57 -> -229    16s    0 / 0   ->  0
  *
- * **32f.** A division in single precision. A divisor of +0 or -0 gives an infinity, or a NaN for 0 / 0, and the warning.
+ * **32f.** A division in single precision. A divisor of +0 or -0 gives an infinity, or a NaN for 0 / 0, and the
+ * warning.
  *
  * **16sc.** In double precision, with den = d.re * d.re + d.im * d.im and q = 1 / den, the parts are
  * (d.re * x.re + d.im * x.im) * q * 2^-s and (d.re * x.im - d.im * x.re) * q * 2^-s, each rounded like a 16s quotient
@@ -1558,8 +1559,8 @@ VEMI_API VemiStatus vemiDiv_32fc_AC4IR(const Vemi32fc* pSrc, int srcStep, Vemi32
  * vemiOk.
  *
  * A constant of zero is refused with vemiErrDivByZero, and so is a set of constants of which one is zero, with nothing
- * written. A complex constant is zero if both parts are; -0 is zero, and NaN counts as zero, too. The C3 forms of 8u and
- * 16s alone go on: they write the whole result, and return vemiErrDivByZero then.
+ * written. A complex constant is zero if both parts are; -0 is zero, and NaN counts as zero, too. The C3 forms of 8u
+ * and 16s alone go on: they write the whole result, and return vemiErrDivByZero then.
  *
  * @param pSrc,srcStep        first pixel of the source, and the bytes between its rows
  * @param value               the constant, or the array of three constants
@@ -2138,18 +2139,18 @@ VEMI_API VemiStatus vemiComplement_32s_C1IR(Vemi32s* pSrcDst, int srcDstStep, Ve
  */
 typedef int vemiAlphaType;
 enum {
-  vemiAlphaOver = 0,        /**< A over B: A, and B where A lets it through */
-  vemiAlphaIn = 1,          /**< A in B: A where B covers */
-  vemiAlphaOut = 2,         /**< A out B: A where B does not cover */
-  vemiAlphaATop = 3,        /**< A atop B: A where B covers, and B where A lets it through */
-  vemiAlphaXor = 4,         /**< A xor B: each where the other does not cover */
-  vemiAlphaPlus = 5,        /**< A plus B: the sum */
-  vemiAlphaOverPremul = 6,  /**< A over B, premultiplied */
-  vemiAlphaInPremul = 7,    /**< A in B, premultiplied */
-  vemiAlphaOutPremul = 8,   /**< A out B, premultiplied */
-  vemiAlphaATopPremul = 9,  /**< A atop B, premultiplied */
-  vemiAlphaXorPremul = 10,  /**< A xor B, premultiplied */
-  vemiAlphaPlusPremul = 11  /**< A plus B, premultiplied */
+  vemiAlphaOver = 0,       /**< A over B: A, and B where A lets it through */
+  vemiAlphaIn = 1,         /**< A in B: A where B covers */
+  vemiAlphaOut = 2,        /**< A out B: A where B does not cover */
+  vemiAlphaATop = 3,       /**< A atop B: A where B covers, and B where A lets it through */
+  vemiAlphaXor = 4,        /**< A xor B: each where the other does not cover */
+  vemiAlphaPlus = 5,       /**< A plus B: the sum */
+  vemiAlphaOverPremul = 6, /**< A over B, premultiplied */
+  vemiAlphaInPremul = 7,   /**< A in B, premultiplied */
+  vemiAlphaOutPremul = 8,  /**< A out B, premultiplied */
+  vemiAlphaATopPremul = 9, /**< A atop B, premultiplied */
+  vemiAlphaXorPremul = 10, /**< A xor B, premultiplied */
+  vemiAlphaPlusPremul = 11 /**< A plus B, premultiplied */
 };
 
 /**
@@ -2184,8 +2185,8 @@ enum {
  * The alpha of the result is that of the operator with A' = a and B' = b, premultiplied or not, but for atop, where it
  * is b. So all channels of AC4 and all planes of AP4 are written, and for AC1 the types n and n + 6 do the same.
  *
- * **vemiAlphaCompC** takes a = alpha1 and b = alpha2 for all pixels. C1, C3, C4 and AP4 forms treat all channels and all
- * four planes as colours. AC4 forms composite the first three channels and leave the destination's fourth as it is.
+ * **vemiAlphaCompC** takes a = alpha1 and b = alpha2 for all pixels. C1, C3, C4 and AP4 forms treat all channels and
+ * all four planes as colours. AC4 forms composite the first three channels and leave the destination's fourth as it is.
  *
  * @param pSrc1,pSrc2    first pixels of A and B; AP4: arrays of four of them, one for each plane
  * @param src1Step,src2Step  bytes between rows of the sources, the same for all planes

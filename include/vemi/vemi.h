@@ -61,6 +61,7 @@
  *     AC4         four interleaved channels; the first three are processed, the fourth, alpha, keeps in the destination
  *                 the value that it has there
  *     P2 P3 P4    two, three or four separate planes: an array of pointers and one step for all planes
+ *     AC1 AP4     alpha compositing alone: one channel of alpha values; four planes, the fourth of them alpha
  *
  * and the letters behind the layout, in this order, give the shape of the call:
  *
@@ -89,6 +90,11 @@
  * integer (to the even one when two are equally near), and then limits it to the range of the destination's type. So a
  * scale factor of 1 halves, 0 leaves the value, and -1 doubles. Every int is a legal scale factor. The few operations
  * that cannot be exact, or that round in another way, say so.
+ *
+ * ### Floats
+ *
+ * A 32f expression rounds to single precision at each step, to nearest, in the rounding mode that a program starts
+ * with. A NaN operand gives a NaN; which bits it has is not specified where two operands are NaNs.
  *
  * ### What a call touches
  *

@@ -6,6 +6,7 @@
 #include <cstdint>
 #include <limits>
 
+#include "arith/full_scale.h"
 #include "core/lanes.h"
 
 namespace vemi {
@@ -39,14 +40,6 @@ HWY_INLINE Fraction<V> complement(D d, Fraction<V> fraction) {
   return fraction ^ hn::Set(d, std::numeric_limits<hn::TFromD<D>>::max());
 }
 
-/// floor(x alpha / 65535): the upper half of x alpha, and one more where the sum of its halves reaches 65535, which is
-/// the top bit of their average, rounded up.
-template <class D, class V>
-HWY_INLINE V times16(D, V x, V alpha) {
-  const V upper = hn::MulHigh(x, alpha);
-  return hn::Add(upper, hn::ShiftRight<15>(hn::AverageRound(hn::Mul(x, alpha), upper)));
-}
-
 /// floor(x alpha / 255) in the odd bytes, from x in the odd bytes and alpha in both of a pair. It is the upper byte of
 /// (256 x + 1) (257 alpha) / 2^16; what the even bytes hold does not matter.
 template <class D, class V>
@@ -60,7 +53,7 @@ HWY_INLINE V timesOdd8(D d, V x, V alpha) {
 template <class D, class V, class... Factor>
 HWY_INLINE V product(D d, V x, Factor... fraction) {
   if constexpr (sizeof(hn::TFromD<D>) > 1) {
-    ((x = times16(d, x, fraction.odd)), ...);
+    ((x = fullScaleProduct16(x, fraction.odd)), ...);
     return x;
   } else {
     const hn::RepartitionToWide<D> dWide;

@@ -2,6 +2,7 @@
 // exactly, scaled, then saturated. Checks: null, size, step.
 
 #include <limits>
+#include <type_traits>
 
 #include "arith/complex_arithmetic.h"
 #include "core/exports.h"
@@ -28,7 +29,7 @@ struct ProductDown {
     using Wide = hn::TFromD<D>;
     const V one = hn::Set(d, 1);
     const V quotient = hn::ShiftRightSame(v, shift);
-    const V rest = hn::And(v, hn::Set(d, (Wide{1} << shift) - 1));
+    const V rest = hn::And(v, hn::Set(d, static_cast<Wide>((std::make_unsigned_t<Wide>{1} << shift) - 1)));
     const V tie = hn::Sub(hn::Set(d, Wide{1} << (shift - 1)), hn::And(quotient, one));
     return clampTo<Part>(d, hn::Sub(quotient, hn::VecFromMask(d, hn::Gt(rest, tie))));
   }

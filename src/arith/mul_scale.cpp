@@ -1,6 +1,7 @@
 // vemiMulScale, vemiMulCScale: the product of two values that stand for fractions of the full scale of their type.
 // Checks: null, step, size.
 
+#include "arith/full_scale.h"
 #include "core/checks.h"
 #include "core/exports.h"
 #include "core/image.h"
@@ -22,9 +23,7 @@ struct ScaledProduct {
       };
       return inWideLanes(d, ofWide, a, b);
     } else {
-      // The upper half of t, and a carry out of the sum of the halves and 1: the top bit of their average.
-      const V upper = hn::MulHigh(a, b);
-      return hn::Add(upper, hn::ShiftRight<15>(hn::AverageRound(hn::Mul(a, b), upper)));
+      return fullScaleProduct16(a, b);
     }
   }
 };

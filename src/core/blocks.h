@@ -4,8 +4,8 @@
 // writes. The row is cut into whole blocks; the last one ends with the row and overlaps its predecessor. Its inputs are
 // set aside before anything is written, so a row may be its own source. A row shorter than a block goes through blocks
 // on the stack. A kernel therefore has one arithmetic and no scalar twin, and touches no byte outside the row. It meets
-// no item that is not in the row, but may meet one more than once (and, in element strands of a short row, beside another
-// channel's constants): what it collects across blocks must not count.
+// no item that is not in the row, but may meet one more than once (and, in element strands of a short row, beside
+// another channel's constants): what it collects across blocks must not count.
 #pragma once
 
 #include <cstddef>
@@ -72,8 +72,7 @@ struct LastBlock<items, Strand<const T, elementsPerItem>> {
 };
 
 template <ptrdiff_t items, class T, int elementsPerItem>
-  requires(!std::is_const_v<T>)
-struct LastBlock<items, Strand<T, elementsPerItem>> {
+requires(!std::is_const_v<T>) struct LastBlock<items, Strand<T, elementsPerItem>> {
   T* first;
 
   LastBlock(Strand<T, elementsPerItem> strand, ptrdiff_t item) : first(strand.at(item)) {}

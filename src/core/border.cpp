@@ -66,9 +66,8 @@ void copyFinishedRows(Image<T> dst, Placement p, ptrdiff_t period) {
 template <class T, class L>
 VemiStatus copyConstBorder(Image<const T> src, VemiSize srcRoiSize, Image<T> dst, VemiSize dstRoiSize,
                            int topBorderHeight, int leftBorderWidth, const T* value) {
-  if (const VemiStatus bad =
-          firstOf(checkNull(src, dst, value), checkStep(src, dst), checkSize(srcRoiSize, dstRoiSize),
-                  checkBorders(srcRoiSize, dstRoiSize, topBorderHeight, leftBorderWidth))) {
+  if (const VemiStatus bad = firstOf(checkNull(src, dst, value), checkStep(src, dst), checkSize(srcRoiSize, dstRoiSize),
+                                     checkBorders(srcRoiSize, dstRoiSize, topBorderHeight, leftBorderWidth))) {
     return bad;
   }
   const Placement p = placementOf(srcRoiSize, dstRoiSize, topBorderHeight, leftBorderWidth);

@@ -39,7 +39,8 @@ VemiStatus copyMasked(Image<const T> src, Image<T> dst, VemiSize roiSize, Image<
   if (const VemiStatus bad = firstOf(checkNull(src, dst, mask), checkSize(roiSize), checkStep(src, dst, mask))) {
     return bad;
   }
-  const bool contiguous = isContiguous<L>(src, roiSize) && isContiguous<L>(dst, roiSize) && isContiguous<C1>(mask, roiSize);
+  const bool contiguous =
+      isContiguous<L>(src, roiSize) && isContiguous<L>(dst, roiSize) && isContiguous<C1>(mask, roiSize);
   const Extent extent = mergedExtent(roiSize, contiguous);
   for (ptrdiff_t y = 0; y < extent.height; ++y) {
     mapRowMasked<L>(extent.width, mask.row(y), eachVector(Same()), dst.row(y), src.row(y));
@@ -86,16 +87,11 @@ VemiStatus copyBeneathAlpha(Image<const T> src, Image<T> dst, VemiSize roiSize) 
   return copyRelaid<T, C3, C4, beneathAlphaRow<T>>(src, dst, roiSize);
 }
 
-/// From this traffic on the planes' lines are streamed: with several streams of stores the caches give out earlier.
-/// Measured.
-constexpr Vemi64s streamedPlaneTraffic = Vemi64s{20} << 20;
-
 /// Calls f(plane index as a constant...).
 template <int planes, class F>
 auto forPlanes(const F& f) {
-  return [&]<int... n>(std::integer_sequence<int, n...>) {
-    return f(std::integral_constant<int, n>()...);
-  }(std::make_integer_sequence<int, planes>());
+  return [&]<int... n>(std::integer_sequence<int, n...>) { return f(std::integral_constant<int, n>()...); }
+  (std::make_integer_sequence<int, planes>());
 }
 
 template <class T, int channels>
@@ -103,7 +99,7 @@ VemiStatus split(Image<const T> src, Planes<T, channels> dst, VemiSize roiSize) 
   if (const VemiStatus bad = firstOf(checkNull(src, dst), checkSize(roiSize), checkStep(src, dst))) return bad;
   const bool contiguous = isContiguous<Interleaved<channels>>(src, roiSize) && isContiguous<C1>(dst[0], roiSize);
   const Extent extent = mergedExtent(roiSize, contiguous);
-  const bool streamed = trafficOf(extent, 2 * pixelBytes<T, Interleaved<channels>>) >= streamedPlaneTraffic;
+  const bool streamed = trafficOf(extent, 2 * pixelBytes<T, Interleaved<channels>>) >= streamedTraffic;
   forPlanes<channels>([&](auto... n) {
     for (ptrdiff_t y = 0; y < extent.height; ++y) {
       if (streamed) {
@@ -122,7 +118,7 @@ VemiStatus merge(Planes<const T, channels> src, Image<T> dst, VemiSize roiSize) 
   if (const VemiStatus bad = firstOf(checkNull(src, dst), checkSize(roiSize), checkStep(src, dst))) return bad;
   const bool contiguous = isContiguous<C1>(src[0], roiSize) && isContiguous<Interleaved<channels>>(dst, roiSize);
   const Extent extent = mergedExtent(roiSize, contiguous);
-  const bool streamed = trafficOf(extent, 2 * pixelBytes<T, Interleaved<channels>>) >= streamedPlaneTraffic;
+  const bool streamed = trafficOf(extent, 2 * pixelBytes<T, Interleaved<channels>>) >= streamedTraffic;
   forPlanes<channels>([&](auto... n) {
     for (ptrdiff_t y = 0; y < extent.height; ++y) {
       if (streamed) {

@@ -7,144 +7,135 @@
 #include "core/image.h"
 
 // One source, one destination.
-#define VEMI_SRC_DST(name, T, ...)                                                                     \
-  VemiStatus name(const T* pSrc, int srcStep, T* pDst, int dstStep, VemiSize roiSize) {                \
-    return __VA_ARGS__(Image<const T>{pSrc, srcStep}, Image<T>{pDst, dstStep}, roiSize);               \
+#define VEMI_SRC_DST(name, T, ...)                                                       \
+  VemiStatus name(const T* pSrc, int srcStep, T* pDst, int dstStep, VemiSize roiSize) {  \
+    return __VA_ARGS__(Image<const T>{pSrc, srcStep}, Image<T>{pDst, dstStep}, roiSize); \
   }
-#define VEMI_SRC_DST_MASK(name, T, ...)                                                                \
-  VemiStatus name(const T* pSrc, int srcStep, T* pDst, int dstStep, VemiSize roiSize,                  \
-                  const Vemi8u* pMask, int maskStep) {                                                 \
-    return __VA_ARGS__(Image<const T>{pSrc, srcStep}, Image<T>{pDst, dstStep}, roiSize,                \
-                       Image<const Vemi8u>{pMask, maskStep});                                          \
+#define VEMI_SRC_DST_MASK(name, T, ...)                                                                    \
+  VemiStatus name(const T* pSrc, int srcStep, T* pDst, int dstStep, VemiSize roiSize, const Vemi8u* pMask, \
+                  int maskStep) {                                                                          \
+    return __VA_ARGS__(Image<const T>{pSrc, srcStep}, Image<T>{pDst, dstStep}, roiSize,                    \
+                       Image<const Vemi8u>{pMask, maskStep});                                              \
   }
-#define VEMI_SRC_PLANES(name, T, planes, ...)                                                          \
-  VemiStatus name(const T* pSrc, int srcStep, T* const pDst[planes], int dstStep, VemiSize roiSize) {  \
-    return __VA_ARGS__(Image<const T>{pSrc, srcStep}, Planes<T, planes>{pDst, dstStep}, roiSize);      \
+#define VEMI_SRC_PLANES(name, T, planes, ...)                                                         \
+  VemiStatus name(const T* pSrc, int srcStep, T* const pDst[planes], int dstStep, VemiSize roiSize) { \
+    return __VA_ARGS__(Image<const T>{pSrc, srcStep}, Planes<T, planes>{pDst, dstStep}, roiSize);     \
   }
-#define VEMI_PLANES_DST(name, T, planes, ...)                                                          \
-  VemiStatus name(const T* const pSrc[planes], int srcStep, T* pDst, int dstStep, VemiSize roiSize) {  \
-    return __VA_ARGS__(Planes<const T, planes>{pSrc, srcStep}, Image<T>{pDst, dstStep}, roiSize);      \
+#define VEMI_PLANES_DST(name, T, planes, ...)                                                         \
+  VemiStatus name(const T* const pSrc[planes], int srcStep, T* pDst, int dstStep, VemiSize roiSize) { \
+    return __VA_ARGS__(Planes<const T, planes>{pSrc, srcStep}, Image<T>{pDst, dstStep}, roiSize);     \
   }
 
 // A constant (one value, or one for each channel) and a destination. A single value is handed on by its address, so
 // that one implementation serves both.
-#define VEMI_VALUE_DST(name, T, ...)                                                                   \
-  VemiStatus name(T value, T* pDst, int dstStep, VemiSize roiSize) {                                   \
-    return __VA_ARGS__(&value, Image<T>{pDst, dstStep}, roiSize);                                      \
+#define VEMI_VALUE_DST(name, T, ...)                                 \
+  VemiStatus name(T value, T* pDst, int dstStep, VemiSize roiSize) { \
+    return __VA_ARGS__(&value, Image<T>{pDst, dstStep}, roiSize);    \
   }
-#define VEMI_VALUES_DST(name, T, ...)                                                                  \
-  VemiStatus name(const T* value, T* pDst, int dstStep, VemiSize roiSize) {                            \
-    return __VA_ARGS__(value, Image<T>{pDst, dstStep}, roiSize);                                       \
+#define VEMI_VALUES_DST(name, T, ...)                                       \
+  VemiStatus name(const T* value, T* pDst, int dstStep, VemiSize roiSize) { \
+    return __VA_ARGS__(value, Image<T>{pDst, dstStep}, roiSize);            \
   }
-#define VEMI_VALUE_DST_MASK(name, T, ...)                                                              \
+#define VEMI_VALUE_DST_MASK(name, T, ...)                                                               \
   VemiStatus name(T value, T* pDst, int dstStep, VemiSize roiSize, const Vemi8u* pMask, int maskStep) { \
     return __VA_ARGS__(&value, Image<T>{pDst, dstStep}, roiSize, Image<const Vemi8u>{pMask, maskStep}); \
   }
-#define VEMI_VALUES_DST_MASK(name, T, ...)                                                             \
-  VemiStatus name(const T* value, T* pDst, int dstStep, VemiSize roiSize, const Vemi8u* pMask,         \
-                  int maskStep) {                                                                      \
-    return __VA_ARGS__(value, Image<T>{pDst, dstStep}, roiSize, Image<const Vemi8u>{pMask, maskStep}); \
+#define VEMI_VALUES_DST_MASK(name, T, ...)                                                                     \
+  VemiStatus name(const T* value, T* pDst, int dstStep, VemiSize roiSize, const Vemi8u* pMask, int maskStep) { \
+    return __VA_ARGS__(value, Image<T>{pDst, dstStep}, roiSize, Image<const Vemi8u>{pMask, maskStep});         \
   }
 
 // A source that lands inside a larger destination.
-#define VEMI_BORDER(name, T, ...)                                                                      \
-  VemiStatus name(const T* pSrc, int srcStep, VemiSize srcRoiSize, T* pDst, int dstStep,               \
-                  VemiSize dstRoiSize, int topBorderHeight, int leftBorderWidth) {                     \
-    return __VA_ARGS__(Image<const T>{pSrc, srcStep}, srcRoiSize, Image<T>{pDst, dstStep}, dstRoiSize, \
-                       topBorderHeight, leftBorderWidth);                                              \
+#define VEMI_BORDER(name, T, ...)                                                                             \
+  VemiStatus name(const T* pSrc, int srcStep, VemiSize srcRoiSize, T* pDst, int dstStep, VemiSize dstRoiSize, \
+                  int topBorderHeight, int leftBorderWidth) {                                                 \
+    return __VA_ARGS__(Image<const T>{pSrc, srcStep}, srcRoiSize, Image<T>{pDst, dstStep}, dstRoiSize,        \
+                       topBorderHeight, leftBorderWidth);                                                     \
   }
-#define VEMI_BORDER_VALUE(name, T, ...)                                                                \
-  VemiStatus name(const T* pSrc, int srcStep, VemiSize srcRoiSize, T* pDst, int dstStep,               \
-                  VemiSize dstRoiSize, int topBorderHeight, int leftBorderWidth, T value) {            \
-    return __VA_ARGS__(Image<const T>{pSrc, srcStep}, srcRoiSize, Image<T>{pDst, dstStep}, dstRoiSize, \
-                       topBorderHeight, leftBorderWidth, &value);                                      \
+#define VEMI_BORDER_VALUE(name, T, ...)                                                                       \
+  VemiStatus name(const T* pSrc, int srcStep, VemiSize srcRoiSize, T* pDst, int dstStep, VemiSize dstRoiSize, \
+                  int topBorderHeight, int leftBorderWidth, T value) {                                        \
+    return __VA_ARGS__(Image<const T>{pSrc, srcStep}, srcRoiSize, Image<T>{pDst, dstStep}, dstRoiSize,        \
+                       topBorderHeight, leftBorderWidth, &value);                                             \
   }
-#define VEMI_BORDER_VALUES(name, T, ...)                                                               \
-  VemiStatus name(const T* pSrc, int srcStep, VemiSize srcRoiSize, T* pDst, int dstStep,               \
-                  VemiSize dstRoiSize, int topBorderHeight, int leftBorderWidth, const T* value) {     \
-    return __VA_ARGS__(Image<const T>{pSrc, srcStep}, srcRoiSize, Image<T>{pDst, dstStep}, dstRoiSize, \
-                       topBorderHeight, leftBorderWidth, value);                                       \
+#define VEMI_BORDER_VALUES(name, T, ...)                                                                      \
+  VemiStatus name(const T* pSrc, int srcStep, VemiSize srcRoiSize, T* pDst, int dstStep, VemiSize dstRoiSize, \
+                  int topBorderHeight, int leftBorderWidth, const T* value) {                                 \
+    return __VA_ARGS__(Image<const T>{pSrc, srcStep}, srcRoiSize, Image<T>{pDst, dstStep}, dstRoiSize,        \
+                       topBorderHeight, leftBorderWidth, value);                                              \
   }
 
-#define VEMI_BORDER_IN_PLACE(name, T, ...)                                                             \
-  VemiStatus name(T* pSrc, int srcDstStep, VemiSize srcRoiSize, VemiSize dstRoiSize,                   \
-                  int topBorderHeight, int leftBorderWidth) {                                          \
-    return __VA_ARGS__(Image<T>{pSrc, srcDstStep}, srcRoiSize, dstRoiSize, topBorderHeight,            \
-                       leftBorderWidth);                                                               \
+#define VEMI_BORDER_IN_PLACE(name, T, ...)                                                                    \
+  VemiStatus name(T* pSrc, int srcDstStep, VemiSize srcRoiSize, VemiSize dstRoiSize, int topBorderHeight,     \
+                  int leftBorderWidth) {                                                                      \
+    return __VA_ARGS__(Image<T>{pSrc, srcDstStep}, srcRoiSize, dstRoiSize, topBorderHeight, leftBorderWidth); \
   }
 
 // Two sources; in place, the destination is the second of them.
-#define VEMI_2SRC_DST(name, T, ...)                                                                    \
-  VemiStatus name(const T* pSrc1, int src1Step, const T* pSrc2, int src2Step, T* pDst, int dstStep,    \
-                  VemiSize roiSize) {                                                                  \
-    return __VA_ARGS__(Image<const T>{pSrc1, src1Step}, Image<const T>{pSrc2, src2Step},               \
-                       Image<T>{pDst, dstStep}, roiSize);                                              \
+#define VEMI_2SRC_DST(name, T, ...)                                                                               \
+  VemiStatus name(const T* pSrc1, int src1Step, const T* pSrc2, int src2Step, T* pDst, int dstStep,               \
+                  VemiSize roiSize) {                                                                             \
+    return __VA_ARGS__(Image<const T>{pSrc1, src1Step}, Image<const T>{pSrc2, src2Step}, Image<T>{pDst, dstStep}, \
+                       roiSize);                                                                                  \
   }
-#define VEMI_SRC_SRCDST(name, T, ...)                                                                  \
-  VemiStatus name(const T* pSrc, int srcStep, T* pSrcDst, int srcDstStep, VemiSize roiSize) {          \
-    return __VA_ARGS__(Image<const T>{pSrc, srcStep}, Image<const T>{pSrcDst, srcDstStep},             \
-                       Image<T>{pSrcDst, srcDstStep}, roiSize);                                        \
+#define VEMI_SRC_SRCDST(name, T, ...)                                                         \
+  VemiStatus name(const T* pSrc, int srcStep, T* pSrcDst, int srcDstStep, VemiSize roiSize) { \
+    return __VA_ARGS__(Image<const T>{pSrc, srcStep}, Image<const T>{pSrcDst, srcDstStep},    \
+                       Image<T>{pSrcDst, srcDstStep}, roiSize);                               \
   }
-#define VEMI_2SRC_DST_SFS(name, T, ...)                                                                \
-  VemiStatus name(const T* pSrc1, int src1Step, const T* pSrc2, int src2Step, T* pDst, int dstStep,    \
-                  VemiSize roiSize, int scaleFactor) {                                                 \
-    return __VA_ARGS__(Image<const T>{pSrc1, src1Step}, Image<const T>{pSrc2, src2Step},               \
-                       Image<T>{pDst, dstStep}, roiSize, scaleFactor);                                 \
+#define VEMI_2SRC_DST_SFS(name, T, ...)                                                                               \
+  VemiStatus name(const T* pSrc1, int src1Step, const T* pSrc2, int src2Step, T* pDst, int dstStep, VemiSize roiSize, \
+                  int scaleFactor) {                                                                                  \
+    return __VA_ARGS__(Image<const T>{pSrc1, src1Step}, Image<const T>{pSrc2, src2Step}, Image<T>{pDst, dstStep},     \
+                       roiSize, scaleFactor);                                                                         \
   }
-#define VEMI_SRC_SRCDST_SFS(name, T, ...)                                                              \
-  VemiStatus name(const T* pSrc, int srcStep, T* pSrcDst, int srcDstStep, VemiSize roiSize,            \
-                  int scaleFactor) {                                                                   \
-    return __VA_ARGS__(Image<const T>{pSrc, srcStep}, Image<const T>{pSrcDst, srcDstStep},             \
-                       Image<T>{pSrcDst, srcDstStep}, roiSize, scaleFactor);                           \
+#define VEMI_SRC_SRCDST_SFS(name, T, ...)                                                                      \
+  VemiStatus name(const T* pSrc, int srcStep, T* pSrcDst, int srcDstStep, VemiSize roiSize, int scaleFactor) { \
+    return __VA_ARGS__(Image<const T>{pSrc, srcStep}, Image<const T>{pSrcDst, srcDstStep},                     \
+                       Image<T>{pSrcDst, srcDstStep}, roiSize, scaleFactor);                                   \
   }
 
 // A source and a constant; in place, the source is the destination.
-#define VEMI_SRC_VALUE_DST(name, T, ...)                                                               \
-  VemiStatus name(const T* pSrc, int srcStep, T value, T* pDst, int dstStep, VemiSize roiSize) {       \
-    return __VA_ARGS__(Image<const T>{pSrc, srcStep}, &value, Image<T>{pDst, dstStep}, roiSize);       \
+#define VEMI_SRC_VALUE_DST(name, T, ...)                                                         \
+  VemiStatus name(const T* pSrc, int srcStep, T value, T* pDst, int dstStep, VemiSize roiSize) { \
+    return __VA_ARGS__(Image<const T>{pSrc, srcStep}, &value, Image<T>{pDst, dstStep}, roiSize); \
   }
-#define VEMI_VALUE_SRCDST(name, T, ...)                                                                \
-  VemiStatus name(T value, T* pSrcDst, int srcDstStep, VemiSize roiSize) {                             \
-    return __VA_ARGS__(Image<const T>{pSrcDst, srcDstStep}, &value, Image<T>{pSrcDst, srcDstStep},     \
-                       roiSize);                                                                       \
+#define VEMI_VALUE_SRCDST(name, T, ...)                                                                      \
+  VemiStatus name(T value, T* pSrcDst, int srcDstStep, VemiSize roiSize) {                                   \
+    return __VA_ARGS__(Image<const T>{pSrcDst, srcDstStep}, &value, Image<T>{pSrcDst, srcDstStep}, roiSize); \
   }
-#define VEMI_SRC_VALUES_DST(name, T, ...)                                                              \
-  VemiStatus name(const T* pSrc, int srcStep, const T* value, T* pDst, int dstStep,                    \
-                  VemiSize roiSize) {                                                                  \
-    return __VA_ARGS__(Image<const T>{pSrc, srcStep}, value, Image<T>{pDst, dstStep}, roiSize);        \
+#define VEMI_SRC_VALUES_DST(name, T, ...)                                                               \
+  VemiStatus name(const T* pSrc, int srcStep, const T* value, T* pDst, int dstStep, VemiSize roiSize) { \
+    return __VA_ARGS__(Image<const T>{pSrc, srcStep}, value, Image<T>{pDst, dstStep}, roiSize);         \
   }
-#define VEMI_VALUES_SRCDST(name, T, ...)                                                               \
-  VemiStatus name(const T* value, T* pSrcDst, int srcDstStep, VemiSize roiSize) {                      \
-    return __VA_ARGS__(Image<const T>{pSrcDst, srcDstStep}, value, Image<T>{pSrcDst, srcDstStep},      \
-                       roiSize);                                                                       \
+#define VEMI_VALUES_SRCDST(name, T, ...)                                                                    \
+  VemiStatus name(const T* value, T* pSrcDst, int srcDstStep, VemiSize roiSize) {                           \
+    return __VA_ARGS__(Image<const T>{pSrcDst, srcDstStep}, value, Image<T>{pSrcDst, srcDstStep}, roiSize); \
   }
-#define VEMI_SRC_VALUE_DST_SFS(name, T, ...)                                                           \
-  VemiStatus name(const T* pSrc, int srcStep, T value, T* pDst, int dstStep, VemiSize roiSize,         \
-                  int scaleFactor) {                                                                   \
-    return __VA_ARGS__(Image<const T>{pSrc, srcStep}, &value, Image<T>{pDst, dstStep}, roiSize,        \
-                       scaleFactor);                                                                   \
+#define VEMI_SRC_VALUE_DST_SFS(name, T, ...)                                                                      \
+  VemiStatus name(const T* pSrc, int srcStep, T value, T* pDst, int dstStep, VemiSize roiSize, int scaleFactor) { \
+    return __VA_ARGS__(Image<const T>{pSrc, srcStep}, &value, Image<T>{pDst, dstStep}, roiSize, scaleFactor);     \
   }
-#define VEMI_VALUE_SRCDST_SFS(name, T, ...)                                                            \
-  VemiStatus name(T value, T* pSrcDst, int srcDstStep, VemiSize roiSize, int scaleFactor) {            \
-    return __VA_ARGS__(Image<const T>{pSrcDst, srcDstStep}, &value, Image<T>{pSrcDst, srcDstStep},     \
-                       roiSize, scaleFactor);                                                          \
+#define VEMI_VALUE_SRCDST_SFS(name, T, ...)                                                                 \
+  VemiStatus name(T value, T* pSrcDst, int srcDstStep, VemiSize roiSize, int scaleFactor) {                 \
+    return __VA_ARGS__(Image<const T>{pSrcDst, srcDstStep}, &value, Image<T>{pSrcDst, srcDstStep}, roiSize, \
+                       scaleFactor);                                                                        \
   }
-#define VEMI_SRC_VALUES_DST_SFS(name, T, ...)                                                          \
-  VemiStatus name(const T* pSrc, int srcStep, const T* value, T* pDst, int dstStep, VemiSize roiSize,  \
-                  int scaleFactor) {                                                                   \
-    return __VA_ARGS__(Image<const T>{pSrc, srcStep}, value, Image<T>{pDst, dstStep}, roiSize,         \
-                       scaleFactor);                                                                   \
+#define VEMI_SRC_VALUES_DST_SFS(name, T, ...)                                                                \
+  VemiStatus name(const T* pSrc, int srcStep, const T* value, T* pDst, int dstStep, VemiSize roiSize,        \
+                  int scaleFactor) {                                                                         \
+    return __VA_ARGS__(Image<const T>{pSrc, srcStep}, value, Image<T>{pDst, dstStep}, roiSize, scaleFactor); \
   }
-#define VEMI_VALUES_SRCDST_SFS(name, T, ...)                                                           \
-  VemiStatus name(const T* value, T* pSrcDst, int srcDstStep, VemiSize roiSize, int scaleFactor) {     \
-    return __VA_ARGS__(Image<const T>{pSrcDst, srcDstStep}, value, Image<T>{pSrcDst, srcDstStep},      \
-                       roiSize, scaleFactor);                                                          \
+#define VEMI_VALUES_SRCDST_SFS(name, T, ...)                                                               \
+  VemiStatus name(const T* value, T* pSrcDst, int srcDstStep, VemiSize roiSize, int scaleFactor) {         \
+    return __VA_ARGS__(Image<const T>{pSrcDst, srcDstStep}, value, Image<T>{pSrcDst, srcDstStep}, roiSize, \
+                       scaleFactor);                                                                       \
   }
 
 // In place without a second operand: the source is the destination.
-#define VEMI_SRCDST(name, T, ...)                                                                      \
-  VemiStatus name(T* pSrcDst, int srcDstStep, VemiSize roiSize) {                                      \
-    return __VA_ARGS__(Image<const T>{pSrcDst, srcDstStep}, Image<T>{pSrcDst, srcDstStep}, roiSize);   \
+#define VEMI_SRCDST(name, T, ...)                                                                    \
+  VemiStatus name(T* pSrcDst, int srcDstStep, VemiSize roiSize) {                                    \
+    return __VA_ARGS__(Image<const T>{pSrcDst, srcDstStep}, Image<T>{pSrcDst, srcDstStep}, roiSize); \
   }
 
 // A source and a count (or one for each channel).
@@ -152,81 +143,71 @@
   VemiStatus name(const T* pSrc, int srcStep, Vemi32u value, T* pDst, int dstStep, VemiSize roiSize) { \
     return __VA_ARGS__(Image<const T>{pSrc, srcStep}, &value, Image<T>{pDst, dstStep}, roiSize);       \
   }
-#define VEMI_COUNT_SRCDST(name, T, ...)                                                                \
-  VemiStatus name(Vemi32u value, T* pSrcDst, int srcDstStep, VemiSize roiSize) {                       \
-    return __VA_ARGS__(Image<const T>{pSrcDst, srcDstStep}, &value, Image<T>{pSrcDst, srcDstStep},     \
-                       roiSize);                                                                       \
+#define VEMI_COUNT_SRCDST(name, T, ...)                                                                      \
+  VemiStatus name(Vemi32u value, T* pSrcDst, int srcDstStep, VemiSize roiSize) {                             \
+    return __VA_ARGS__(Image<const T>{pSrcDst, srcDstStep}, &value, Image<T>{pSrcDst, srcDstStep}, roiSize); \
   }
-#define VEMI_SRC_COUNTS_DST(name, T, ...)                                                              \
-  VemiStatus name(const T* pSrc, int srcStep, const Vemi32u* value, T* pDst, int dstStep,              \
-                  VemiSize roiSize) {                                                                  \
-    return __VA_ARGS__(Image<const T>{pSrc, srcStep}, value, Image<T>{pDst, dstStep}, roiSize);        \
+#define VEMI_SRC_COUNTS_DST(name, T, ...)                                                                     \
+  VemiStatus name(const T* pSrc, int srcStep, const Vemi32u* value, T* pDst, int dstStep, VemiSize roiSize) { \
+    return __VA_ARGS__(Image<const T>{pSrc, srcStep}, value, Image<T>{pDst, dstStep}, roiSize);               \
   }
-#define VEMI_COUNTS_SRCDST(name, T, ...)                                                               \
-  VemiStatus name(const Vemi32u* value, T* pSrcDst, int srcDstStep, VemiSize roiSize) {                \
-    return __VA_ARGS__(Image<const T>{pSrcDst, srcDstStep}, value, Image<T>{pSrcDst, srcDstStep},      \
-                       roiSize);                                                                       \
+#define VEMI_COUNTS_SRCDST(name, T, ...)                                                                    \
+  VemiStatus name(const Vemi32u* value, T* pSrcDst, int srcDstStep, VemiSize roiSize) {                     \
+    return __VA_ARGS__(Image<const T>{pSrcDst, srcDstStep}, value, Image<T>{pSrcDst, srcDstStep}, roiSize); \
   }
 
 // One source, one destination, and a scale factor.
-#define VEMI_SRC_DST_SFS(name, T, ...)                                                                 \
-  VemiStatus name(const T* pSrc, int srcStep, T* pDst, int dstStep, VemiSize roiSize,                  \
-                  int scaleFactor) {                                                                   \
-    return __VA_ARGS__(Image<const T>{pSrc, srcStep}, Image<T>{pDst, dstStep}, roiSize, scaleFactor);  \
+#define VEMI_SRC_DST_SFS(name, T, ...)                                                                   \
+  VemiStatus name(const T* pSrc, int srcStep, T* pDst, int dstStep, VemiSize roiSize, int scaleFactor) { \
+    return __VA_ARGS__(Image<const T>{pSrc, srcStep}, Image<T>{pDst, dstStep}, roiSize, scaleFactor);    \
   }
-#define VEMI_SRCDST_SFS(name, T, ...)                                                                  \
-  VemiStatus name(T* pSrcDst, int srcDstStep, VemiSize roiSize, int scaleFactor) {                     \
-    return __VA_ARGS__(Image<const T>{pSrcDst, srcDstStep}, Image<T>{pSrcDst, srcDstStep}, roiSize,    \
-                       scaleFactor);                                                                   \
+#define VEMI_SRCDST_SFS(name, T, ...)                                                                             \
+  VemiStatus name(T* pSrcDst, int srcDstStep, VemiSize roiSize, int scaleFactor) {                                \
+    return __VA_ARGS__(Image<const T>{pSrcDst, srcDstStep}, Image<T>{pSrcDst, srcDstStep}, roiSize, scaleFactor); \
   }
 
 // Two sources and the type of a composite, without and with an alpha for each source, and of four planes each.
-#define VEMI_COMPOSITE(name, T, ...)                                                                   \
-  VemiStatus name(const T* pSrc1, int src1Step, const T* pSrc2, int src2Step, T* pDst, int dstStep,    \
-                  VemiSize roiSize, int alphaType) {                                                   \
-    return __VA_ARGS__(Image<const T>{pSrc1, src1Step}, Image<const T>{pSrc2, src2Step},               \
-                       Image<T>{pDst, dstStep}, roiSize, alphaType);                                   \
+#define VEMI_COMPOSITE(name, T, ...)                                                                                  \
+  VemiStatus name(const T* pSrc1, int src1Step, const T* pSrc2, int src2Step, T* pDst, int dstStep, VemiSize roiSize, \
+                  int alphaType) {                                                                                    \
+    return __VA_ARGS__(Image<const T>{pSrc1, src1Step}, Image<const T>{pSrc2, src2Step}, Image<T>{pDst, dstStep},     \
+                       roiSize, alphaType);                                                                           \
   }
-#define VEMI_COMPOSITE_PLANES(name, T, ...)                                                            \
-  VemiStatus name(const T* const pSrc1[4], int src1Step, const T* const pSrc2[4], int src2Step,        \
-                  T* const pDst[4], int dstStep, VemiSize roiSize, int alphaType) {                    \
-    return __VA_ARGS__(Planes<const T, 4>{pSrc1, src1Step}, Planes<const T, 4>{pSrc2, src2Step},       \
-                       Planes<T, 4>{pDst, dstStep}, roiSize, alphaType);                               \
+#define VEMI_COMPOSITE_PLANES(name, T, ...)                                                                       \
+  VemiStatus name(const T* const pSrc1[4], int src1Step, const T* const pSrc2[4], int src2Step, T* const pDst[4], \
+                  int dstStep, VemiSize roiSize, int alphaType) {                                                 \
+    return __VA_ARGS__(Planes<const T, 4>{pSrc1, src1Step}, Planes<const T, 4>{pSrc2, src2Step},                  \
+                       Planes<T, 4>{pDst, dstStep}, roiSize, alphaType);                                          \
   }
-#define VEMI_COMPOSITE_C(name, T, ...)                                                                 \
-  VemiStatus name(const T* pSrc1, int src1Step, T alpha1, const T* pSrc2, int src2Step, T alpha2,      \
-                  T* pDst, int dstStep, VemiSize roiSize, int alphaType) {                             \
-    return __VA_ARGS__(Image<const T>{pSrc1, src1Step}, alpha1, Image<const T>{pSrc2, src2Step},       \
-                       alpha2, Image<T>{pDst, dstStep}, roiSize, alphaType);                           \
+#define VEMI_COMPOSITE_C(name, T, ...)                                                                     \
+  VemiStatus name(const T* pSrc1, int src1Step, T alpha1, const T* pSrc2, int src2Step, T alpha2, T* pDst, \
+                  int dstStep, VemiSize roiSize, int alphaType) {                                          \
+    return __VA_ARGS__(Image<const T>{pSrc1, src1Step}, alpha1, Image<const T>{pSrc2, src2Step}, alpha2,   \
+                       Image<T>{pDst, dstStep}, roiSize, alphaType);                                       \
   }
-#define VEMI_COMPOSITE_PLANES_C(name, T, ...)                                                          \
-  VemiStatus name(const T* const pSrc1[4], int src1Step, T alpha1, const T* const pSrc2[4],            \
-                  int src2Step, T alpha2, T* const pDst[4], int dstStep, VemiSize roiSize,             \
-                  int alphaType) {                                                                     \
-    return __VA_ARGS__(Planes<const T, 4>{pSrc1, src1Step}, alpha1,                                    \
-                       Planes<const T, 4>{pSrc2, src2Step}, alpha2, Planes<T, 4>{pDst, dstStep},       \
-                       roiSize, alphaType);                                                            \
+#define VEMI_COMPOSITE_PLANES_C(name, T, ...)                                                                       \
+  VemiStatus name(const T* const pSrc1[4], int src1Step, T alpha1, const T* const pSrc2[4], int src2Step, T alpha2, \
+                  T* const pDst[4], int dstStep, VemiSize roiSize, int alphaType) {                                 \
+    return __VA_ARGS__(Planes<const T, 4>{pSrc1, src1Step}, alpha1, Planes<const T, 4>{pSrc2, src2Step}, alpha2,    \
+                       Planes<T, 4>{pDst, dstStep}, roiSize, alphaType);                                            \
   }
 
 // Planes to planes, without and with a constant; in place, the source is the destination.
-#define VEMI_PLANES_PLANES(name, T, planes, ...)                                                       \
-  VemiStatus name(const T* const pSrc[planes], int srcStep, T* const pDst[planes], int dstStep,        \
-                  VemiSize roiSize) {                                                                  \
-    return __VA_ARGS__(Planes<const T, planes>{pSrc, srcStep}, Planes<T, planes>{pDst, dstStep}, roiSize);\
+#define VEMI_PLANES_PLANES(name, T, planes, ...)                                                                    \
+  VemiStatus name(const T* const pSrc[planes], int srcStep, T* const pDst[planes], int dstStep, VemiSize roiSize) { \
+    return __VA_ARGS__(Planes<const T, planes>{pSrc, srcStep}, Planes<T, planes>{pDst, dstStep}, roiSize);          \
   }
-#define VEMI_PLANES_SRCDST(name, T, planes, ...)                                                       \
-  VemiStatus name(T* const pSrcDst[planes], int srcDstStep, VemiSize roiSize) {                        \
-    return __VA_ARGS__(Planes<const T, planes>{pSrcDst, srcDstStep}, Planes<T, planes>{pSrcDst, srcDstStep},\
-                       roiSize);                                                                       \
+#define VEMI_PLANES_SRCDST(name, T, planes, ...)                                                                       \
+  VemiStatus name(T* const pSrcDst[planes], int srcDstStep, VemiSize roiSize) {                                        \
+    return __VA_ARGS__(Planes<const T, planes>{pSrcDst, srcDstStep}, Planes<T, planes>{pSrcDst, srcDstStep}, roiSize); \
   }
-#define VEMI_PLANES_VALUE_PLANES(name, T, planes, ...)                                                 \
-  VemiStatus name(const T* const pSrc[planes], int srcStep, T value, T* const pDst[planes], int dstStep,\
-                  VemiSize roiSize) {                                                                  \
-    return __VA_ARGS__(Planes<const T, planes>{pSrc, srcStep}, &value, Planes<T, planes>{pDst, dstStep},\
-                       roiSize);                                                                       \
+#define VEMI_PLANES_VALUE_PLANES(name, T, planes, ...)                                                             \
+  VemiStatus name(const T* const pSrc[planes], int srcStep, T value, T* const pDst[planes], int dstStep,           \
+                  VemiSize roiSize) {                                                                              \
+    return __VA_ARGS__(Planes<const T, planes>{pSrc, srcStep}, &value, Planes<T, planes>{pDst, dstStep}, roiSize); \
   }
-#define VEMI_VALUE_PLANES_SRCDST(name, T, planes, ...)                                                 \
-  VemiStatus name(T value, T* const pSrcDst[planes], int srcDstStep, VemiSize roiSize) {               \
-    return __VA_ARGS__(Planes<const T, planes>{pSrcDst, srcDstStep}, &value,                           \
-                       Planes<T, planes>{pSrcDst, srcDstStep}, roiSize);                               \
+#define VEMI_VALUE_PLANES_SRCDST(name, T, planes, ...)                                                               \
+  VemiStatus name(T value, T* const pSrcDst[planes], int srcDstStep, VemiSize roiSize) {                             \
+    return __VA_ARGS__(Planes<const T, planes>{pSrcDst, srcDstStep}, &value, Planes<T, planes>{pSrcDst, srcDstStep}, \
+                       roiSize);                                                                                     \
   }

@@ -52,8 +52,7 @@ template <class T, class... Plane>
 void mergeRow(ptrdiff_t width, T* dst, const Plane*... plane) {
   constexpr int channels = sizeof...(Plane);
   const Lanes<T> d;
-  const auto kernel = [&](T* out, const Plane*... in)
-                          HWY_ATTR { storePixels(d, out, hn::LoadU(d, in)...); };
+  const auto kernel = [&](T* out, const Plane*... in) HWY_ATTR { storePixels(d, out, hn::LoadU(d, in)...); };
   forBlocks<laneCount<T>>(width, kernel, Strand<T, channels>{dst}, Strand<const T>{plane}...);
 }
 
@@ -88,8 +87,8 @@ void mergeRowStreamed(ptrdiff_t width, T* dst, const Plane*... plane) {
   forStreamedBlocks<N, 1>(width, plain, kernel, Strand<T, channels>{dst}, Strand<const T>{plane}...);
 }
 
-/// dropAlphaRow for bytes. The pixels of a vector are packed to its front; whole vectors are stored, each over the empty
-/// end of the one before, but the last of a block is cut.
+/// dropAlphaRow for bytes. The pixels of a vector are packed to its front; whole vectors are stored, each over the
+/// empty end of the one before, but the last of a block is cut.
 inline void dropAlphaBytes(ptrdiff_t width, const uint8_t* src, uint8_t* dst) {
   const Lanes<uint8_t> d;
   const Lanes<uint32_t> dPixels;
@@ -138,8 +137,8 @@ void beneathAlphaRow(ptrdiff_t width, const T* src, T* dst) {
   forBlocks<laneCount<T>>(width, kernel, Strand<const T, 3>{src}, Strand<const T, 4>{dst}, Strand<T, 4>{dst});
 }
 
-/// One channel of at least one interleaved pixel, from the element that `src` addresses. The blocks leave the last pixel out: what
-/// lies behind its element may not belong to the image.
+/// One channel of at least one interleaved pixel, from the element that `src` addresses. The blocks leave the last
+/// pixel out: what lies behind its element may not belong to the image.
 template <int channels, class T>
 void extractChannelRow(ptrdiff_t width, const T* src, T* dst) {
   const Lanes<T> d;

@@ -30,9 +30,8 @@ inline constexpr size_t laneAlignment = 64;
 /// Calls f(index) for index 0 to count - 1, each index a compile-time constant, without a loop.
 template <int count, class F>
 HWY_INLINE void unrolled(const F& f) {
-  [&]<int... i>(std::integer_sequence<int, i...>) {
-    (f(std::integral_constant<int, i>()), ...);
-  }(std::make_integer_sequence<int, count>());
+  [&]<int... i>(std::integer_sequence<int, i...>) { (f(std::integral_constant<int, i>()), ...); }
+  (std::make_integer_sequence<int, count>());
 }
 
 /// `count` vectors as one value. An array member keeps them in registers as long as every index is a constant.

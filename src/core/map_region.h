@@ -43,8 +43,8 @@ HWY_NOINLINE void mapRows(const Rows& rows, Extent elements, bool small, const I
 
 }  // namespace detail
 
-/// destination = indexedOp(sources). Rows says who runs the rows (CallerRows, TeamRows) and `small` whether the image is
-/// below its threshold. A source may be the destination. Contiguous rows that stay in one thread are one long row.
+/// destination = indexedOp(sources). Rows says who runs the rows (CallerRows, TeamRows) and `small` whether the image
+/// is below its threshold. A source may be the destination. Contiguous rows that stay in one thread are one long row.
 template <class L, class Rows, class T, class IndexedOp, class... Src>
 void mapRegion(VemiSize roiSize, bool small, const IndexedOp& op, Image<T> dst, Image<const Src>... src) {
   const bool contiguous = isContiguous<L>(dst, roiSize) && (isContiguous<L>(src, roiSize) && ...);
@@ -55,8 +55,8 @@ void mapRegion(VemiSize roiSize, bool small, const IndexedOp& op, Image<T> dst, 
 
 namespace detail {
 
-/// An operation that notes where test(d, v...), a mask, holds for an element that is worked on. Each vector of a block has
-/// a place of its own in memory, so that none waits for another.
+/// An operation that notes where test(d, v...), a mask, holds for an element that is worked on. Each vector of a block
+/// has a place of its own in memory, so that none waits for another.
 template <class L, class T, class IndexedOp, class Test>
 struct Tested {
   static constexpr int vectors = IndexedOp::vectors;

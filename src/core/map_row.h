@@ -17,7 +17,7 @@ namespace vemi {
 template <class Op, int vectorsPerBlock>
 struct EachVector {
   static constexpr int vectors = vectorsPerBlock;
-  static constexpr int period = 1;   // elements after which the operation repeats
+  static constexpr int period = 1;  // elements after which the operation repeats
   Op op;
 
   template <class D, class K, class... V>
@@ -81,7 +81,8 @@ auto withConstants(Op op, const T* value) {
     alignas(laneAlignment) T element[vectors * laneCount<T> + 4] = {};
     std::memcpy(element, value, L::channels * sizeof(T));
     for (ptrdiff_t i = L::elements; i < vectors * laneCount<T>; ++i) element[i] = element[i - L::elements];
-    unrolled<vectors>([&](auto k) HWY_ATTR { bound.constants.v[k] = hn::Load(Lanes<T>(), element + k * laneCount<T>); });
+    unrolled<vectors>([&](auto k)
+                          HWY_ATTR { bound.constants.v[k] = hn::Load(Lanes<T>(), element + k * laneCount<T>); });
   } else {
     const hn::Repartition<uint8_t, Lanes<T>> dBytes;
     constexpr ptrdiff_t vectorBytes = laneCount<uint8_t>;

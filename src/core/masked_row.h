@@ -25,7 +25,8 @@ HWY_INLINE void storeRepeated(D d, V v, hn::TFromD<D>* out) {
 
 /// The k-th vector of a block is indexedOp(d, k, lanes of the sources); a block is one vector's count of pixels.
 template <class L, class T, class IndexedOp, class... Src>
-HWY_NOINLINE void mapRowMasked(ptrdiff_t width, const Vemi8u* mask, const IndexedOp& indexedOp, T* dst, const Src*... src) {
+HWY_NOINLINE void mapRowMasked(ptrdiff_t width, const Vemi8u* mask, const IndexedOp& indexedOp, T* dst,
+                               const Src*... src) {
   const IndexedOp op = indexedOp;  // a local, which no store to the destination can change
   const Lanes<T> d;
   const hn::RebindToSigned<Lanes<T>> dFlags;
@@ -43,8 +44,8 @@ HWY_NOINLINE void mapRowMasked(ptrdiff_t width, const Vemi8u* mask, const Indexe
     const auto store = [&](auto chosen, auto k) HWY_ATTR {
       hn::StoreU(hn::IfThenElse(chosen, result(k), hn::LoadU(d, old + k * N)), d, out + k * N);
     };
-    const auto chosenPixels = hn::VecFromMask(
-        dMask, hn::Ne(hn::LoadU(dMask, reinterpret_cast<const int8_t*>(selection)), hn::Zero(dMask)));
+    const auto chosenPixels =
+        hn::VecFromMask(dMask, hn::Ne(hn::LoadU(dMask, reinterpret_cast<const int8_t*>(selection)), hn::Zero(dMask)));
     if constexpr (!blendsAll) {
       if (hn::AllTrue(dMask, hn::Eq(chosenPixels, hn::Zero(dMask)))) return;
       if (hn::AllTrue(dMask, hn::Ne(chosenPixels, hn::Zero(dMask)))) {
@@ -57,8 +58,10 @@ HWY_NOINLINE void mapRowMasked(ptrdiff_t width, const Vemi8u* mask, const Indexe
       }
     }
     const auto pixelFlags = [&] {
-      if constexpr (sizeof(T) == 1) return chosenPixels;
-      else return hn::PromoteTo(dFlags, chosenPixels);
+      if constexpr (sizeof(T) == 1)
+        return chosenPixels;
+      else
+        return hn::PromoteTo(dFlags, chosenPixels);
     }();
     if constexpr (L::elements == 1) {
       store(hn::RebindMask(d, hn::MaskFromVec(pixelFlags)), std::integral_constant<int, 0>());

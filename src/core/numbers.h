@@ -91,8 +91,8 @@ struct SaturatingShiftLeft {
 
   template <class D, class V = hn::Vec<D>>
   HWY_INLINE V operator()(D d, V value) const {
-    const V limitedAbove = hn::IfThenElse(hn::Gt(value, hn::Set(d, highest)), hn::Set(d, typeHighest),
-                                          hn::ShiftLeftSame(value, shift));
+    const V limitedAbove =
+        hn::IfThenElse(hn::Gt(value, hn::Set(d, highest)), hn::Set(d, typeHighest), hn::ShiftLeftSame(value, shift));
     if constexpr (std::is_unsigned_v<T>) return limitedAbove;
     return hn::IfThenElse(hn::Lt(value, hn::Set(d, lowest)), hn::Set(d, typeLowest), limitedAbove);
   }

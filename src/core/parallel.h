@@ -121,8 +121,8 @@ struct TeamBlock {
   ptrdiff_t headBytes() const { return aligned(Vemi64s{sizeof(VemiStatus)} * nThreads); }
 
   void allocate() {
-    base = static_cast<char*>(alignedAllocBytes(headBytes() + aligned(grid.sharedBytes) +
-                                                Vemi64s{aligned(grid.sliceBytes)} * nThreads));
+    base = static_cast<char*>(
+        alignedAllocBytes(headBytes() + aligned(grid.sharedBytes) + Vemi64s{aligned(grid.sliceBytes)} * nThreads));
   }
 
   VemiStatus& status(int t) const { return reinterpret_cast<VemiStatus*>(base)[t]; }
@@ -131,9 +131,9 @@ struct TeamBlock {
 };
 
 /// Form D, team scratch with a cyclic tile loop: one thread prepares the shared block, then thread t of n works on the
-/// tiles t, t + n, t + 2n, ... with its own slice. prepare(shared) and tile(row, column, shared, slice) return a status;
-/// the smallest is kept, so an error wins over a warning, and a tile's error stops no other tile. A failed preparation
-/// starts no tile.
+/// tiles t, t + n, t + 2n, ... with its own slice. prepare(shared) and tile(row, column, shared, slice) return a
+/// status; the smallest is kept, so an error wins over a warning, and a tile's error stops no other tile. A failed
+/// preparation starts no tile.
 template <class Prepare, class Tile>
 VemiStatus tilesInTeam(TileGrid grid, const Prepare& prepare, const Tile& tile) {
   TeamBlock block = {grid};

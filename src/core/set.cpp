@@ -35,8 +35,8 @@ VemiStatus set(const T* value, Image<T> dst, VemiSize roiSize) {
   const auto pixel = constantPixel<L>(value);
   const Extent extent = mergedExtent(roiSize, isContiguous<L>(dst, roiSize));
   const ptrdiff_t rowBytes = extent.width * pixelBytes<T, L>;
-  const bool copied = !L::keepsAlpha && rowBytes >= shortestCopiedRow &&
-                      trafficOf(extent, pixelBytes<T, L>) >= copiedRegionBytes;
+  const bool copied =
+      !L::keepsAlpha && rowBytes >= shortestCopiedRow && trafficOf(extent, pixelBytes<T, L>) >= copiedRegionBytes;
   if (!copied) {
     for (ptrdiff_t y = 0; y < extent.height; ++y) mapRow<L>(extent.width, pixel, dst.row(y));
     return vemiOk;

@@ -23,9 +23,8 @@ struct Scratch {
 
 }  // namespace detail
 
-/// Bytes read and written in one call from which on its destination is streamed. Measured: about one and a half times
-/// the last cache.
-inline constexpr Vemi64s streamedTraffic = Vemi64s{48} << 20;
+/// Bytes read and written in one call from which on its destination is streamed. Measured: about half the last cache.
+inline constexpr Vemi64s streamedTraffic = Vemi64s{17} << 20;
 
 /// Bytes of all pixels of a region, where a pixel has `pixelBytes` in all images together.
 inline Vemi64s trafficOf(Extent extent, Vemi64s pixelBytes) { return pixelBytes * extent.width * extent.height; }
@@ -53,9 +52,9 @@ HWY_INLINE void forStreamedBlocks(ptrdiff_t count, const PlainRow& plainRow, con
   plainRow(i, count - i);
 }
 
-/// For kernels that cannot stream. Runs row(first element, elements, out...) over rows of `count` elements in stretches that stay in the first cache,
-/// and streams each to its destination. Stretches begin at multiples of `period`. finishStreaming follows behind the
-/// thread's last row.
+/// For kernels that cannot stream. Runs row(first element, elements, out...) over rows of `count` elements in stretches
+/// that stay in the first cache, and streams each to its destination. Stretches begin at multiples of `period`.
+/// finishStreaming follows behind the thread's last row.
 template <int period, class Row, class... T>
 void streamRow(ptrdiff_t count, const Row& row, T*... dst) {
   constexpr ptrdiff_t line = 64;

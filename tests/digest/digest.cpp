@@ -53,6 +53,10 @@ void addCalls(const Export& function, Hash& hash) {
       scenario.seed += 1;
       scenario.roiSize = size;
       scenario.rows = allRows[scenario.seed % std::size(allRows)];
+      // Floats that lie over each other would form NaNs of all kinds.
+      if (scenario.rows == Rows::overlapping && function.members.find("32f") != std::string::npos) {
+        scenario.rows = Rows::odd;
+      }
       scenario.scaleFactor = scaleFactor;
       addCall(function, scenario, hash);
     }
