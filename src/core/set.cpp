@@ -27,7 +27,7 @@ VemiStatus setBytes(const Vemi8u* value, Image<Vemi8u> dst, VemiSize roiSize) {
 /// lines without reading them. Measured.
 constexpr Vemi64s copiedRegionBytes = Vemi64s{4} << 20;
 constexpr ptrdiff_t shortestCopiedRow = 4096;
-constexpr ptrdiff_t copiedPiece = ptrdiff_t{12} << 10;  // stays in the first cache; whole pixels of any layout
+constexpr ptrdiff_t copiedPiece = ptrdiff_t{48} << 10;  // about the first cache; whole pixels of any layout
 
 template <class T, class L>
 VemiStatus set(const T* value, Image<T> dst, VemiSize roiSize) {

@@ -136,14 +136,11 @@ void expectEveryValue(VemiStatus (*function)(const T*, int, T*, int, VemiSize, i
 TEST(Abs, EveryMember) {
   expectDefinition(membersOf("vemiAbs", "16s.*"),
                    ofIntegers([](int64_t x, int) { return std::abs(x); }, noWarning, wholeElements));
-  expectDefinition(membersOf("vemiAbs", "32f.*"), ofFloats(
-                                                      [](float x) {
-                                                        uint32_t bits =
-                                                            load<uint32_t>(reinterpret_cast<std::byte*>(&x));
-                                                        bits &= 0x7fffffff;
-                                                        return load<float>(reinterpret_cast<std::byte*>(&bits));
-                                                      },
-                                                      wholeElements));
+  // On the bits: where floats are returned through the x87 unit, a signalling NaN would not come back as it is.
+  expectDefinition(membersOf("vemiAbs", "32f.*"), [](Call& call) {
+    forEachPair(call, wholeElements,
+                [](const std::byte* from, std::byte* to, Element) { store(to, load<uint32_t>(from) & 0x7fffffff); });
+  });
 }
 
 TEST(Sqr, EveryMember) {
