@@ -148,53 +148,53 @@ VEMI_API VemiStatus vemiAdd_32f_AC4IR(const Vemi32f* pSrc, int srcStep, Vemi32f*
 
 VEMI_API VemiStatus vemiAddC_8u_C1RSfs(const Vemi8u* pSrc, int srcStep, Vemi8u value, Vemi8u* pDst, int dstStep,
                                        VemiSize roiSize, int scaleFactor);
-VEMI_API VemiStatus vemiAddC_8u_C3RSfs(const Vemi8u* pSrc, int srcStep, const Vemi8u* value, Vemi8u* pDst, int dstStep,
-                                       VemiSize roiSize, int scaleFactor);
-VEMI_API VemiStatus vemiAddC_8u_C4RSfs(const Vemi8u* pSrc, int srcStep, const Vemi8u* value, Vemi8u* pDst, int dstStep,
-                                       VemiSize roiSize, int scaleFactor);
-VEMI_API VemiStatus vemiAddC_8u_AC4RSfs(const Vemi8u* pSrc, int srcStep, const Vemi8u* value, Vemi8u* pDst, int dstStep,
-                                        VemiSize roiSize, int scaleFactor);
+VEMI_API VemiStatus vemiAddC_8u_C3RSfs(const Vemi8u* pSrc, int srcStep, const Vemi8u value[3], Vemi8u* pDst,
+                                       int dstStep, VemiSize roiSize, int scaleFactor);
+VEMI_API VemiStatus vemiAddC_8u_C4RSfs(const Vemi8u* pSrc, int srcStep, const Vemi8u value[4], Vemi8u* pDst,
+                                       int dstStep, VemiSize roiSize, int scaleFactor);
+VEMI_API VemiStatus vemiAddC_8u_AC4RSfs(const Vemi8u* pSrc, int srcStep, const Vemi8u value[3], Vemi8u* pDst,
+                                        int dstStep, VemiSize roiSize, int scaleFactor);
 
 VEMI_API VemiStatus vemiAddC_16s_C1RSfs(const Vemi16s* pSrc, int srcStep, Vemi16s value, Vemi16s* pDst, int dstStep,
                                         VemiSize roiSize, int scaleFactor);
-VEMI_API VemiStatus vemiAddC_16s_C3RSfs(const Vemi16s* pSrc, int srcStep, const Vemi16s* value, Vemi16s* pDst,
+VEMI_API VemiStatus vemiAddC_16s_C3RSfs(const Vemi16s* pSrc, int srcStep, const Vemi16s value[3], Vemi16s* pDst,
                                         int dstStep, VemiSize roiSize, int scaleFactor);
-VEMI_API VemiStatus vemiAddC_16s_C4RSfs(const Vemi16s* pSrc, int srcStep, const Vemi16s* value, Vemi16s* pDst,
+VEMI_API VemiStatus vemiAddC_16s_C4RSfs(const Vemi16s* pSrc, int srcStep, const Vemi16s value[4], Vemi16s* pDst,
                                         int dstStep, VemiSize roiSize, int scaleFactor);
-VEMI_API VemiStatus vemiAddC_16s_AC4RSfs(const Vemi16s* pSrc, int srcStep, const Vemi16s* value, Vemi16s* pDst,
+VEMI_API VemiStatus vemiAddC_16s_AC4RSfs(const Vemi16s* pSrc, int srcStep, const Vemi16s value[3], Vemi16s* pDst,
                                          int dstStep, VemiSize roiSize, int scaleFactor);
 
 VEMI_API VemiStatus vemiAddC_32f_C1R(const Vemi32f* pSrc, int srcStep, Vemi32f value, Vemi32f* pDst, int dstStep,
                                      VemiSize roiSize);
-VEMI_API VemiStatus vemiAddC_32f_C3R(const Vemi32f* pSrc, int srcStep, const Vemi32f* value, Vemi32f* pDst, int dstStep,
-                                     VemiSize roiSize);
-VEMI_API VemiStatus vemiAddC_32f_C4R(const Vemi32f* pSrc, int srcStep, const Vemi32f* value, Vemi32f* pDst, int dstStep,
-                                     VemiSize roiSize);
-VEMI_API VemiStatus vemiAddC_32f_AC4R(const Vemi32f* pSrc, int srcStep, const Vemi32f* value, Vemi32f* pDst,
+VEMI_API VemiStatus vemiAddC_32f_C3R(const Vemi32f* pSrc, int srcStep, const Vemi32f value[3], Vemi32f* pDst,
+                                     int dstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiAddC_32f_C4R(const Vemi32f* pSrc, int srcStep, const Vemi32f value[4], Vemi32f* pDst,
+                                     int dstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiAddC_32f_AC4R(const Vemi32f* pSrc, int srcStep, const Vemi32f value[3], Vemi32f* pDst,
                                       int dstStep, VemiSize roiSize);
 
 VEMI_API VemiStatus vemiAddC_8u_C1IRSfs(Vemi8u value, Vemi8u* pSrcDst, int srcDstStep, VemiSize roiSize,
                                         int scaleFactor);
-VEMI_API VemiStatus vemiAddC_8u_C3IRSfs(const Vemi8u* value, Vemi8u* pSrcDst, int srcDstStep, VemiSize roiSize,
+VEMI_API VemiStatus vemiAddC_8u_C3IRSfs(const Vemi8u value[3], Vemi8u* pSrcDst, int srcDstStep, VemiSize roiSize,
                                         int scaleFactor);
-VEMI_API VemiStatus vemiAddC_8u_C4IRSfs(const Vemi8u* value, Vemi8u* pSrcDst, int srcDstStep, VemiSize roiSize,
+VEMI_API VemiStatus vemiAddC_8u_C4IRSfs(const Vemi8u value[4], Vemi8u* pSrcDst, int srcDstStep, VemiSize roiSize,
                                         int scaleFactor);
-VEMI_API VemiStatus vemiAddC_8u_AC4IRSfs(const Vemi8u* value, Vemi8u* pSrcDst, int srcDstStep, VemiSize roiSize,
+VEMI_API VemiStatus vemiAddC_8u_AC4IRSfs(const Vemi8u value[3], Vemi8u* pSrcDst, int srcDstStep, VemiSize roiSize,
                                          int scaleFactor);
 
 VEMI_API VemiStatus vemiAddC_16s_C1IRSfs(Vemi16s value, Vemi16s* pSrcDst, int srcDstStep, VemiSize roiSize,
                                          int scaleFactor);
-VEMI_API VemiStatus vemiAddC_16s_C3IRSfs(const Vemi16s* value, Vemi16s* pSrcDst, int srcDstStep, VemiSize roiSize,
+VEMI_API VemiStatus vemiAddC_16s_C3IRSfs(const Vemi16s value[3], Vemi16s* pSrcDst, int srcDstStep, VemiSize roiSize,
                                          int scaleFactor);
-VEMI_API VemiStatus vemiAddC_16s_C4IRSfs(const Vemi16s* value, Vemi16s* pSrcDst, int srcDstStep, VemiSize roiSize,
+VEMI_API VemiStatus vemiAddC_16s_C4IRSfs(const Vemi16s value[4], Vemi16s* pSrcDst, int srcDstStep, VemiSize roiSize,
                                          int scaleFactor);
-VEMI_API VemiStatus vemiAddC_16s_AC4IRSfs(const Vemi16s* value, Vemi16s* pSrcDst, int srcDstStep, VemiSize roiSize,
+VEMI_API VemiStatus vemiAddC_16s_AC4IRSfs(const Vemi16s value[3], Vemi16s* pSrcDst, int srcDstStep, VemiSize roiSize,
                                           int scaleFactor);
 
 VEMI_API VemiStatus vemiAddC_32f_C1IR(Vemi32f value, Vemi32f* pSrcDst, int srcDstStep, VemiSize roiSize);
-VEMI_API VemiStatus vemiAddC_32f_C3IR(const Vemi32f* value, Vemi32f* pSrcDst, int srcDstStep, VemiSize roiSize);
-VEMI_API VemiStatus vemiAddC_32f_C4IR(const Vemi32f* value, Vemi32f* pSrcDst, int srcDstStep, VemiSize roiSize);
-VEMI_API VemiStatus vemiAddC_32f_AC4IR(const Vemi32f* value, Vemi32f* pSrcDst, int srcDstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiAddC_32f_C3IR(const Vemi32f value[3], Vemi32f* pSrcDst, int srcDstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiAddC_32f_C4IR(const Vemi32f value[4], Vemi32f* pSrcDst, int srcDstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiAddC_32f_AC4IR(const Vemi32f value[3], Vemi32f* pSrcDst, int srcDstStep, VemiSize roiSize);
 
 /** @} */
 
@@ -414,129 +414,129 @@ VEMI_API VemiStatus vemiXor_32s_AC4IR(const Vemi32s* pSrc, int srcStep, Vemi32s*
 
 VEMI_API VemiStatus vemiAndC_8u_C1R(const Vemi8u* pSrc, int srcStep, Vemi8u value, Vemi8u* pDst, int dstStep,
                                     VemiSize roiSize);
-VEMI_API VemiStatus vemiAndC_8u_C3R(const Vemi8u* pSrc, int srcStep, const Vemi8u* value, Vemi8u* pDst, int dstStep,
+VEMI_API VemiStatus vemiAndC_8u_C3R(const Vemi8u* pSrc, int srcStep, const Vemi8u value[3], Vemi8u* pDst, int dstStep,
                                     VemiSize roiSize);
-VEMI_API VemiStatus vemiAndC_8u_C4R(const Vemi8u* pSrc, int srcStep, const Vemi8u* value, Vemi8u* pDst, int dstStep,
+VEMI_API VemiStatus vemiAndC_8u_C4R(const Vemi8u* pSrc, int srcStep, const Vemi8u value[4], Vemi8u* pDst, int dstStep,
                                     VemiSize roiSize);
-VEMI_API VemiStatus vemiAndC_8u_AC4R(const Vemi8u* pSrc, int srcStep, const Vemi8u* value, Vemi8u* pDst, int dstStep,
+VEMI_API VemiStatus vemiAndC_8u_AC4R(const Vemi8u* pSrc, int srcStep, const Vemi8u value[3], Vemi8u* pDst, int dstStep,
                                      VemiSize roiSize);
 
 VEMI_API VemiStatus vemiAndC_16u_C1R(const Vemi16u* pSrc, int srcStep, Vemi16u value, Vemi16u* pDst, int dstStep,
                                      VemiSize roiSize);
-VEMI_API VemiStatus vemiAndC_16u_C3R(const Vemi16u* pSrc, int srcStep, const Vemi16u* value, Vemi16u* pDst, int dstStep,
-                                     VemiSize roiSize);
-VEMI_API VemiStatus vemiAndC_16u_C4R(const Vemi16u* pSrc, int srcStep, const Vemi16u* value, Vemi16u* pDst, int dstStep,
-                                     VemiSize roiSize);
-VEMI_API VemiStatus vemiAndC_16u_AC4R(const Vemi16u* pSrc, int srcStep, const Vemi16u* value, Vemi16u* pDst,
+VEMI_API VemiStatus vemiAndC_16u_C3R(const Vemi16u* pSrc, int srcStep, const Vemi16u value[3], Vemi16u* pDst,
+                                     int dstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiAndC_16u_C4R(const Vemi16u* pSrc, int srcStep, const Vemi16u value[4], Vemi16u* pDst,
+                                     int dstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiAndC_16u_AC4R(const Vemi16u* pSrc, int srcStep, const Vemi16u value[3], Vemi16u* pDst,
                                       int dstStep, VemiSize roiSize);
 
 VEMI_API VemiStatus vemiAndC_32s_C1R(const Vemi32s* pSrc, int srcStep, Vemi32s value, Vemi32s* pDst, int dstStep,
                                      VemiSize roiSize);
-VEMI_API VemiStatus vemiAndC_32s_C3R(const Vemi32s* pSrc, int srcStep, const Vemi32s* value, Vemi32s* pDst, int dstStep,
-                                     VemiSize roiSize);
-VEMI_API VemiStatus vemiAndC_32s_C4R(const Vemi32s* pSrc, int srcStep, const Vemi32s* value, Vemi32s* pDst, int dstStep,
-                                     VemiSize roiSize);
-VEMI_API VemiStatus vemiAndC_32s_AC4R(const Vemi32s* pSrc, int srcStep, const Vemi32s* value, Vemi32s* pDst,
+VEMI_API VemiStatus vemiAndC_32s_C3R(const Vemi32s* pSrc, int srcStep, const Vemi32s value[3], Vemi32s* pDst,
+                                     int dstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiAndC_32s_C4R(const Vemi32s* pSrc, int srcStep, const Vemi32s value[4], Vemi32s* pDst,
+                                     int dstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiAndC_32s_AC4R(const Vemi32s* pSrc, int srcStep, const Vemi32s value[3], Vemi32s* pDst,
                                       int dstStep, VemiSize roiSize);
 
 VEMI_API VemiStatus vemiAndC_8u_C1IR(Vemi8u value, Vemi8u* pSrcDst, int srcDstStep, VemiSize roiSize);
-VEMI_API VemiStatus vemiAndC_8u_C3IR(const Vemi8u* value, Vemi8u* pSrcDst, int srcDstStep, VemiSize roiSize);
-VEMI_API VemiStatus vemiAndC_8u_C4IR(const Vemi8u* value, Vemi8u* pSrcDst, int srcDstStep, VemiSize roiSize);
-VEMI_API VemiStatus vemiAndC_8u_AC4IR(const Vemi8u* value, Vemi8u* pSrcDst, int srcDstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiAndC_8u_C3IR(const Vemi8u value[3], Vemi8u* pSrcDst, int srcDstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiAndC_8u_C4IR(const Vemi8u value[4], Vemi8u* pSrcDst, int srcDstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiAndC_8u_AC4IR(const Vemi8u value[3], Vemi8u* pSrcDst, int srcDstStep, VemiSize roiSize);
 
 VEMI_API VemiStatus vemiAndC_16u_C1IR(Vemi16u value, Vemi16u* pSrcDst, int srcDstStep, VemiSize roiSize);
-VEMI_API VemiStatus vemiAndC_16u_C3IR(const Vemi16u* value, Vemi16u* pSrcDst, int srcDstStep, VemiSize roiSize);
-VEMI_API VemiStatus vemiAndC_16u_C4IR(const Vemi16u* value, Vemi16u* pSrcDst, int srcDstStep, VemiSize roiSize);
-VEMI_API VemiStatus vemiAndC_16u_AC4IR(const Vemi16u* value, Vemi16u* pSrcDst, int srcDstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiAndC_16u_C3IR(const Vemi16u value[3], Vemi16u* pSrcDst, int srcDstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiAndC_16u_C4IR(const Vemi16u value[4], Vemi16u* pSrcDst, int srcDstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiAndC_16u_AC4IR(const Vemi16u value[3], Vemi16u* pSrcDst, int srcDstStep, VemiSize roiSize);
 
 VEMI_API VemiStatus vemiAndC_32s_C1IR(Vemi32s value, Vemi32s* pSrcDst, int srcDstStep, VemiSize roiSize);
-VEMI_API VemiStatus vemiAndC_32s_C3IR(const Vemi32s* value, Vemi32s* pSrcDst, int srcDstStep, VemiSize roiSize);
-VEMI_API VemiStatus vemiAndC_32s_C4IR(const Vemi32s* value, Vemi32s* pSrcDst, int srcDstStep, VemiSize roiSize);
-VEMI_API VemiStatus vemiAndC_32s_AC4IR(const Vemi32s* value, Vemi32s* pSrcDst, int srcDstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiAndC_32s_C3IR(const Vemi32s value[3], Vemi32s* pSrcDst, int srcDstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiAndC_32s_C4IR(const Vemi32s value[4], Vemi32s* pSrcDst, int srcDstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiAndC_32s_AC4IR(const Vemi32s value[3], Vemi32s* pSrcDst, int srcDstStep, VemiSize roiSize);
 
 VEMI_API VemiStatus vemiOrC_8u_C1R(const Vemi8u* pSrc, int srcStep, Vemi8u value, Vemi8u* pDst, int dstStep,
                                    VemiSize roiSize);
-VEMI_API VemiStatus vemiOrC_8u_C3R(const Vemi8u* pSrc, int srcStep, const Vemi8u* value, Vemi8u* pDst, int dstStep,
+VEMI_API VemiStatus vemiOrC_8u_C3R(const Vemi8u* pSrc, int srcStep, const Vemi8u value[3], Vemi8u* pDst, int dstStep,
                                    VemiSize roiSize);
-VEMI_API VemiStatus vemiOrC_8u_C4R(const Vemi8u* pSrc, int srcStep, const Vemi8u* value, Vemi8u* pDst, int dstStep,
+VEMI_API VemiStatus vemiOrC_8u_C4R(const Vemi8u* pSrc, int srcStep, const Vemi8u value[4], Vemi8u* pDst, int dstStep,
                                    VemiSize roiSize);
-VEMI_API VemiStatus vemiOrC_8u_AC4R(const Vemi8u* pSrc, int srcStep, const Vemi8u* value, Vemi8u* pDst, int dstStep,
+VEMI_API VemiStatus vemiOrC_8u_AC4R(const Vemi8u* pSrc, int srcStep, const Vemi8u value[3], Vemi8u* pDst, int dstStep,
                                     VemiSize roiSize);
 
 VEMI_API VemiStatus vemiOrC_16u_C1R(const Vemi16u* pSrc, int srcStep, Vemi16u value, Vemi16u* pDst, int dstStep,
                                     VemiSize roiSize);
-VEMI_API VemiStatus vemiOrC_16u_C3R(const Vemi16u* pSrc, int srcStep, const Vemi16u* value, Vemi16u* pDst, int dstStep,
-                                    VemiSize roiSize);
-VEMI_API VemiStatus vemiOrC_16u_C4R(const Vemi16u* pSrc, int srcStep, const Vemi16u* value, Vemi16u* pDst, int dstStep,
-                                    VemiSize roiSize);
-VEMI_API VemiStatus vemiOrC_16u_AC4R(const Vemi16u* pSrc, int srcStep, const Vemi16u* value, Vemi16u* pDst, int dstStep,
-                                     VemiSize roiSize);
+VEMI_API VemiStatus vemiOrC_16u_C3R(const Vemi16u* pSrc, int srcStep, const Vemi16u value[3], Vemi16u* pDst,
+                                    int dstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiOrC_16u_C4R(const Vemi16u* pSrc, int srcStep, const Vemi16u value[4], Vemi16u* pDst,
+                                    int dstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiOrC_16u_AC4R(const Vemi16u* pSrc, int srcStep, const Vemi16u value[3], Vemi16u* pDst,
+                                     int dstStep, VemiSize roiSize);
 
 VEMI_API VemiStatus vemiOrC_32s_C1R(const Vemi32s* pSrc, int srcStep, Vemi32s value, Vemi32s* pDst, int dstStep,
                                     VemiSize roiSize);
-VEMI_API VemiStatus vemiOrC_32s_C3R(const Vemi32s* pSrc, int srcStep, const Vemi32s* value, Vemi32s* pDst, int dstStep,
-                                    VemiSize roiSize);
-VEMI_API VemiStatus vemiOrC_32s_C4R(const Vemi32s* pSrc, int srcStep, const Vemi32s* value, Vemi32s* pDst, int dstStep,
-                                    VemiSize roiSize);
-VEMI_API VemiStatus vemiOrC_32s_AC4R(const Vemi32s* pSrc, int srcStep, const Vemi32s* value, Vemi32s* pDst, int dstStep,
-                                     VemiSize roiSize);
+VEMI_API VemiStatus vemiOrC_32s_C3R(const Vemi32s* pSrc, int srcStep, const Vemi32s value[3], Vemi32s* pDst,
+                                    int dstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiOrC_32s_C4R(const Vemi32s* pSrc, int srcStep, const Vemi32s value[4], Vemi32s* pDst,
+                                    int dstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiOrC_32s_AC4R(const Vemi32s* pSrc, int srcStep, const Vemi32s value[3], Vemi32s* pDst,
+                                     int dstStep, VemiSize roiSize);
 
 VEMI_API VemiStatus vemiOrC_8u_C1IR(Vemi8u value, Vemi8u* pSrcDst, int srcDstStep, VemiSize roiSize);
-VEMI_API VemiStatus vemiOrC_8u_C3IR(const Vemi8u* value, Vemi8u* pSrcDst, int srcDstStep, VemiSize roiSize);
-VEMI_API VemiStatus vemiOrC_8u_C4IR(const Vemi8u* value, Vemi8u* pSrcDst, int srcDstStep, VemiSize roiSize);
-VEMI_API VemiStatus vemiOrC_8u_AC4IR(const Vemi8u* value, Vemi8u* pSrcDst, int srcDstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiOrC_8u_C3IR(const Vemi8u value[3], Vemi8u* pSrcDst, int srcDstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiOrC_8u_C4IR(const Vemi8u value[4], Vemi8u* pSrcDst, int srcDstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiOrC_8u_AC4IR(const Vemi8u value[3], Vemi8u* pSrcDst, int srcDstStep, VemiSize roiSize);
 
 VEMI_API VemiStatus vemiOrC_16u_C1IR(Vemi16u value, Vemi16u* pSrcDst, int srcDstStep, VemiSize roiSize);
-VEMI_API VemiStatus vemiOrC_16u_C3IR(const Vemi16u* value, Vemi16u* pSrcDst, int srcDstStep, VemiSize roiSize);
-VEMI_API VemiStatus vemiOrC_16u_C4IR(const Vemi16u* value, Vemi16u* pSrcDst, int srcDstStep, VemiSize roiSize);
-VEMI_API VemiStatus vemiOrC_16u_AC4IR(const Vemi16u* value, Vemi16u* pSrcDst, int srcDstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiOrC_16u_C3IR(const Vemi16u value[3], Vemi16u* pSrcDst, int srcDstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiOrC_16u_C4IR(const Vemi16u value[4], Vemi16u* pSrcDst, int srcDstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiOrC_16u_AC4IR(const Vemi16u value[3], Vemi16u* pSrcDst, int srcDstStep, VemiSize roiSize);
 
 VEMI_API VemiStatus vemiOrC_32s_C1IR(Vemi32s value, Vemi32s* pSrcDst, int srcDstStep, VemiSize roiSize);
-VEMI_API VemiStatus vemiOrC_32s_C3IR(const Vemi32s* value, Vemi32s* pSrcDst, int srcDstStep, VemiSize roiSize);
-VEMI_API VemiStatus vemiOrC_32s_C4IR(const Vemi32s* value, Vemi32s* pSrcDst, int srcDstStep, VemiSize roiSize);
-VEMI_API VemiStatus vemiOrC_32s_AC4IR(const Vemi32s* value, Vemi32s* pSrcDst, int srcDstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiOrC_32s_C3IR(const Vemi32s value[3], Vemi32s* pSrcDst, int srcDstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiOrC_32s_C4IR(const Vemi32s value[4], Vemi32s* pSrcDst, int srcDstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiOrC_32s_AC4IR(const Vemi32s value[3], Vemi32s* pSrcDst, int srcDstStep, VemiSize roiSize);
 
 VEMI_API VemiStatus vemiXorC_8u_C1R(const Vemi8u* pSrc, int srcStep, Vemi8u value, Vemi8u* pDst, int dstStep,
                                     VemiSize roiSize);
-VEMI_API VemiStatus vemiXorC_8u_C3R(const Vemi8u* pSrc, int srcStep, const Vemi8u* value, Vemi8u* pDst, int dstStep,
+VEMI_API VemiStatus vemiXorC_8u_C3R(const Vemi8u* pSrc, int srcStep, const Vemi8u value[3], Vemi8u* pDst, int dstStep,
                                     VemiSize roiSize);
-VEMI_API VemiStatus vemiXorC_8u_C4R(const Vemi8u* pSrc, int srcStep, const Vemi8u* value, Vemi8u* pDst, int dstStep,
+VEMI_API VemiStatus vemiXorC_8u_C4R(const Vemi8u* pSrc, int srcStep, const Vemi8u value[4], Vemi8u* pDst, int dstStep,
                                     VemiSize roiSize);
-VEMI_API VemiStatus vemiXorC_8u_AC4R(const Vemi8u* pSrc, int srcStep, const Vemi8u* value, Vemi8u* pDst, int dstStep,
+VEMI_API VemiStatus vemiXorC_8u_AC4R(const Vemi8u* pSrc, int srcStep, const Vemi8u value[3], Vemi8u* pDst, int dstStep,
                                      VemiSize roiSize);
 
 VEMI_API VemiStatus vemiXorC_16u_C1R(const Vemi16u* pSrc, int srcStep, Vemi16u value, Vemi16u* pDst, int dstStep,
                                      VemiSize roiSize);
-VEMI_API VemiStatus vemiXorC_16u_C3R(const Vemi16u* pSrc, int srcStep, const Vemi16u* value, Vemi16u* pDst, int dstStep,
-                                     VemiSize roiSize);
-VEMI_API VemiStatus vemiXorC_16u_C4R(const Vemi16u* pSrc, int srcStep, const Vemi16u* value, Vemi16u* pDst, int dstStep,
-                                     VemiSize roiSize);
-VEMI_API VemiStatus vemiXorC_16u_AC4R(const Vemi16u* pSrc, int srcStep, const Vemi16u* value, Vemi16u* pDst,
+VEMI_API VemiStatus vemiXorC_16u_C3R(const Vemi16u* pSrc, int srcStep, const Vemi16u value[3], Vemi16u* pDst,
+                                     int dstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiXorC_16u_C4R(const Vemi16u* pSrc, int srcStep, const Vemi16u value[4], Vemi16u* pDst,
+                                     int dstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiXorC_16u_AC4R(const Vemi16u* pSrc, int srcStep, const Vemi16u value[3], Vemi16u* pDst,
                                       int dstStep, VemiSize roiSize);
 
 VEMI_API VemiStatus vemiXorC_32s_C1R(const Vemi32s* pSrc, int srcStep, Vemi32s value, Vemi32s* pDst, int dstStep,
                                      VemiSize roiSize);
-VEMI_API VemiStatus vemiXorC_32s_C3R(const Vemi32s* pSrc, int srcStep, const Vemi32s* value, Vemi32s* pDst, int dstStep,
-                                     VemiSize roiSize);
-VEMI_API VemiStatus vemiXorC_32s_C4R(const Vemi32s* pSrc, int srcStep, const Vemi32s* value, Vemi32s* pDst, int dstStep,
-                                     VemiSize roiSize);
-VEMI_API VemiStatus vemiXorC_32s_AC4R(const Vemi32s* pSrc, int srcStep, const Vemi32s* value, Vemi32s* pDst,
+VEMI_API VemiStatus vemiXorC_32s_C3R(const Vemi32s* pSrc, int srcStep, const Vemi32s value[3], Vemi32s* pDst,
+                                     int dstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiXorC_32s_C4R(const Vemi32s* pSrc, int srcStep, const Vemi32s value[4], Vemi32s* pDst,
+                                     int dstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiXorC_32s_AC4R(const Vemi32s* pSrc, int srcStep, const Vemi32s value[3], Vemi32s* pDst,
                                       int dstStep, VemiSize roiSize);
 
 VEMI_API VemiStatus vemiXorC_8u_C1IR(Vemi8u value, Vemi8u* pSrcDst, int srcDstStep, VemiSize roiSize);
-VEMI_API VemiStatus vemiXorC_8u_C3IR(const Vemi8u* value, Vemi8u* pSrcDst, int srcDstStep, VemiSize roiSize);
-VEMI_API VemiStatus vemiXorC_8u_C4IR(const Vemi8u* value, Vemi8u* pSrcDst, int srcDstStep, VemiSize roiSize);
-VEMI_API VemiStatus vemiXorC_8u_AC4IR(const Vemi8u* value, Vemi8u* pSrcDst, int srcDstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiXorC_8u_C3IR(const Vemi8u value[3], Vemi8u* pSrcDst, int srcDstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiXorC_8u_C4IR(const Vemi8u value[4], Vemi8u* pSrcDst, int srcDstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiXorC_8u_AC4IR(const Vemi8u value[3], Vemi8u* pSrcDst, int srcDstStep, VemiSize roiSize);
 
 VEMI_API VemiStatus vemiXorC_16u_C1IR(Vemi16u value, Vemi16u* pSrcDst, int srcDstStep, VemiSize roiSize);
-VEMI_API VemiStatus vemiXorC_16u_C3IR(const Vemi16u* value, Vemi16u* pSrcDst, int srcDstStep, VemiSize roiSize);
-VEMI_API VemiStatus vemiXorC_16u_C4IR(const Vemi16u* value, Vemi16u* pSrcDst, int srcDstStep, VemiSize roiSize);
-VEMI_API VemiStatus vemiXorC_16u_AC4IR(const Vemi16u* value, Vemi16u* pSrcDst, int srcDstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiXorC_16u_C3IR(const Vemi16u value[3], Vemi16u* pSrcDst, int srcDstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiXorC_16u_C4IR(const Vemi16u value[4], Vemi16u* pSrcDst, int srcDstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiXorC_16u_AC4IR(const Vemi16u value[3], Vemi16u* pSrcDst, int srcDstStep, VemiSize roiSize);
 
 VEMI_API VemiStatus vemiXorC_32s_C1IR(Vemi32s value, Vemi32s* pSrcDst, int srcDstStep, VemiSize roiSize);
-VEMI_API VemiStatus vemiXorC_32s_C3IR(const Vemi32s* value, Vemi32s* pSrcDst, int srcDstStep, VemiSize roiSize);
-VEMI_API VemiStatus vemiXorC_32s_C4IR(const Vemi32s* value, Vemi32s* pSrcDst, int srcDstStep, VemiSize roiSize);
-VEMI_API VemiStatus vemiXorC_32s_AC4IR(const Vemi32s* value, Vemi32s* pSrcDst, int srcDstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiXorC_32s_C3IR(const Vemi32s value[3], Vemi32s* pSrcDst, int srcDstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiXorC_32s_C4IR(const Vemi32s value[4], Vemi32s* pSrcDst, int srcDstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiXorC_32s_AC4IR(const Vemi32s value[3], Vemi32s* pSrcDst, int srcDstStep, VemiSize roiSize);
 
 /** @} */
 
@@ -619,115 +619,115 @@ VEMI_API VemiStatus vemiNot_8u_AC4IR(Vemi8u* pSrcDst, int srcDstStep, VemiSize r
 
 VEMI_API VemiStatus vemiLShiftC_8u_C1R(const Vemi8u* pSrc, int srcStep, Vemi32u value, Vemi8u* pDst, int dstStep,
                                        VemiSize roiSize);
-VEMI_API VemiStatus vemiLShiftC_8u_C3R(const Vemi8u* pSrc, int srcStep, const Vemi32u* value, Vemi8u* pDst, int dstStep,
-                                       VemiSize roiSize);
-VEMI_API VemiStatus vemiLShiftC_8u_C4R(const Vemi8u* pSrc, int srcStep, const Vemi32u* value, Vemi8u* pDst, int dstStep,
-                                       VemiSize roiSize);
-VEMI_API VemiStatus vemiLShiftC_8u_AC4R(const Vemi8u* pSrc, int srcStep, const Vemi32u* value, Vemi8u* pDst,
+VEMI_API VemiStatus vemiLShiftC_8u_C3R(const Vemi8u* pSrc, int srcStep, const Vemi32u value[3], Vemi8u* pDst,
+                                       int dstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiLShiftC_8u_C4R(const Vemi8u* pSrc, int srcStep, const Vemi32u value[4], Vemi8u* pDst,
+                                       int dstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiLShiftC_8u_AC4R(const Vemi8u* pSrc, int srcStep, const Vemi32u value[3], Vemi8u* pDst,
                                         int dstStep, VemiSize roiSize);
 
 VEMI_API VemiStatus vemiLShiftC_16u_C1R(const Vemi16u* pSrc, int srcStep, Vemi32u value, Vemi16u* pDst, int dstStep,
                                         VemiSize roiSize);
-VEMI_API VemiStatus vemiLShiftC_16u_C3R(const Vemi16u* pSrc, int srcStep, const Vemi32u* value, Vemi16u* pDst,
+VEMI_API VemiStatus vemiLShiftC_16u_C3R(const Vemi16u* pSrc, int srcStep, const Vemi32u value[3], Vemi16u* pDst,
                                         int dstStep, VemiSize roiSize);
-VEMI_API VemiStatus vemiLShiftC_16u_C4R(const Vemi16u* pSrc, int srcStep, const Vemi32u* value, Vemi16u* pDst,
+VEMI_API VemiStatus vemiLShiftC_16u_C4R(const Vemi16u* pSrc, int srcStep, const Vemi32u value[4], Vemi16u* pDst,
                                         int dstStep, VemiSize roiSize);
-VEMI_API VemiStatus vemiLShiftC_16u_AC4R(const Vemi16u* pSrc, int srcStep, const Vemi32u* value, Vemi16u* pDst,
+VEMI_API VemiStatus vemiLShiftC_16u_AC4R(const Vemi16u* pSrc, int srcStep, const Vemi32u value[3], Vemi16u* pDst,
                                          int dstStep, VemiSize roiSize);
 
 VEMI_API VemiStatus vemiLShiftC_32s_C1R(const Vemi32s* pSrc, int srcStep, Vemi32u value, Vemi32s* pDst, int dstStep,
                                         VemiSize roiSize);
-VEMI_API VemiStatus vemiLShiftC_32s_C3R(const Vemi32s* pSrc, int srcStep, const Vemi32u* value, Vemi32s* pDst,
+VEMI_API VemiStatus vemiLShiftC_32s_C3R(const Vemi32s* pSrc, int srcStep, const Vemi32u value[3], Vemi32s* pDst,
                                         int dstStep, VemiSize roiSize);
-VEMI_API VemiStatus vemiLShiftC_32s_C4R(const Vemi32s* pSrc, int srcStep, const Vemi32u* value, Vemi32s* pDst,
+VEMI_API VemiStatus vemiLShiftC_32s_C4R(const Vemi32s* pSrc, int srcStep, const Vemi32u value[4], Vemi32s* pDst,
                                         int dstStep, VemiSize roiSize);
-VEMI_API VemiStatus vemiLShiftC_32s_AC4R(const Vemi32s* pSrc, int srcStep, const Vemi32u* value, Vemi32s* pDst,
+VEMI_API VemiStatus vemiLShiftC_32s_AC4R(const Vemi32s* pSrc, int srcStep, const Vemi32u value[3], Vemi32s* pDst,
                                          int dstStep, VemiSize roiSize);
 
 VEMI_API VemiStatus vemiLShiftC_8u_C1IR(Vemi32u value, Vemi8u* pSrcDst, int srcDstStep, VemiSize roiSize);
-VEMI_API VemiStatus vemiLShiftC_8u_C3IR(const Vemi32u* value, Vemi8u* pSrcDst, int srcDstStep, VemiSize roiSize);
-VEMI_API VemiStatus vemiLShiftC_8u_C4IR(const Vemi32u* value, Vemi8u* pSrcDst, int srcDstStep, VemiSize roiSize);
-VEMI_API VemiStatus vemiLShiftC_8u_AC4IR(const Vemi32u* value, Vemi8u* pSrcDst, int srcDstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiLShiftC_8u_C3IR(const Vemi32u value[3], Vemi8u* pSrcDst, int srcDstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiLShiftC_8u_C4IR(const Vemi32u value[4], Vemi8u* pSrcDst, int srcDstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiLShiftC_8u_AC4IR(const Vemi32u value[3], Vemi8u* pSrcDst, int srcDstStep, VemiSize roiSize);
 
 VEMI_API VemiStatus vemiLShiftC_16u_C1IR(Vemi32u value, Vemi16u* pSrcDst, int srcDstStep, VemiSize roiSize);
-VEMI_API VemiStatus vemiLShiftC_16u_C3IR(const Vemi32u* value, Vemi16u* pSrcDst, int srcDstStep, VemiSize roiSize);
-VEMI_API VemiStatus vemiLShiftC_16u_C4IR(const Vemi32u* value, Vemi16u* pSrcDst, int srcDstStep, VemiSize roiSize);
-VEMI_API VemiStatus vemiLShiftC_16u_AC4IR(const Vemi32u* value, Vemi16u* pSrcDst, int srcDstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiLShiftC_16u_C3IR(const Vemi32u value[3], Vemi16u* pSrcDst, int srcDstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiLShiftC_16u_C4IR(const Vemi32u value[4], Vemi16u* pSrcDst, int srcDstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiLShiftC_16u_AC4IR(const Vemi32u value[3], Vemi16u* pSrcDst, int srcDstStep, VemiSize roiSize);
 
 VEMI_API VemiStatus vemiLShiftC_32s_C1IR(Vemi32u value, Vemi32s* pSrcDst, int srcDstStep, VemiSize roiSize);
-VEMI_API VemiStatus vemiLShiftC_32s_C3IR(const Vemi32u* value, Vemi32s* pSrcDst, int srcDstStep, VemiSize roiSize);
-VEMI_API VemiStatus vemiLShiftC_32s_C4IR(const Vemi32u* value, Vemi32s* pSrcDst, int srcDstStep, VemiSize roiSize);
-VEMI_API VemiStatus vemiLShiftC_32s_AC4IR(const Vemi32u* value, Vemi32s* pSrcDst, int srcDstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiLShiftC_32s_C3IR(const Vemi32u value[3], Vemi32s* pSrcDst, int srcDstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiLShiftC_32s_C4IR(const Vemi32u value[4], Vemi32s* pSrcDst, int srcDstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiLShiftC_32s_AC4IR(const Vemi32u value[3], Vemi32s* pSrcDst, int srcDstStep, VemiSize roiSize);
 
 VEMI_API VemiStatus vemiRShiftC_8u_C1R(const Vemi8u* pSrc, int srcStep, Vemi32u value, Vemi8u* pDst, int dstStep,
                                        VemiSize roiSize);
-VEMI_API VemiStatus vemiRShiftC_8u_C3R(const Vemi8u* pSrc, int srcStep, const Vemi32u* value, Vemi8u* pDst, int dstStep,
-                                       VemiSize roiSize);
-VEMI_API VemiStatus vemiRShiftC_8u_C4R(const Vemi8u* pSrc, int srcStep, const Vemi32u* value, Vemi8u* pDst, int dstStep,
-                                       VemiSize roiSize);
-VEMI_API VemiStatus vemiRShiftC_8u_AC4R(const Vemi8u* pSrc, int srcStep, const Vemi32u* value, Vemi8u* pDst,
+VEMI_API VemiStatus vemiRShiftC_8u_C3R(const Vemi8u* pSrc, int srcStep, const Vemi32u value[3], Vemi8u* pDst,
+                                       int dstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiRShiftC_8u_C4R(const Vemi8u* pSrc, int srcStep, const Vemi32u value[4], Vemi8u* pDst,
+                                       int dstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiRShiftC_8u_AC4R(const Vemi8u* pSrc, int srcStep, const Vemi32u value[3], Vemi8u* pDst,
                                         int dstStep, VemiSize roiSize);
 
 VEMI_API VemiStatus vemiRShiftC_8s_C1R(const Vemi8s* pSrc, int srcStep, Vemi32u value, Vemi8s* pDst, int dstStep,
                                        VemiSize roiSize);
-VEMI_API VemiStatus vemiRShiftC_8s_C3R(const Vemi8s* pSrc, int srcStep, const Vemi32u* value, Vemi8s* pDst, int dstStep,
-                                       VemiSize roiSize);
-VEMI_API VemiStatus vemiRShiftC_8s_C4R(const Vemi8s* pSrc, int srcStep, const Vemi32u* value, Vemi8s* pDst, int dstStep,
-                                       VemiSize roiSize);
-VEMI_API VemiStatus vemiRShiftC_8s_AC4R(const Vemi8s* pSrc, int srcStep, const Vemi32u* value, Vemi8s* pDst,
+VEMI_API VemiStatus vemiRShiftC_8s_C3R(const Vemi8s* pSrc, int srcStep, const Vemi32u value[3], Vemi8s* pDst,
+                                       int dstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiRShiftC_8s_C4R(const Vemi8s* pSrc, int srcStep, const Vemi32u value[4], Vemi8s* pDst,
+                                       int dstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiRShiftC_8s_AC4R(const Vemi8s* pSrc, int srcStep, const Vemi32u value[3], Vemi8s* pDst,
                                         int dstStep, VemiSize roiSize);
 
 VEMI_API VemiStatus vemiRShiftC_16u_C1R(const Vemi16u* pSrc, int srcStep, Vemi32u value, Vemi16u* pDst, int dstStep,
                                         VemiSize roiSize);
-VEMI_API VemiStatus vemiRShiftC_16u_C3R(const Vemi16u* pSrc, int srcStep, const Vemi32u* value, Vemi16u* pDst,
+VEMI_API VemiStatus vemiRShiftC_16u_C3R(const Vemi16u* pSrc, int srcStep, const Vemi32u value[3], Vemi16u* pDst,
                                         int dstStep, VemiSize roiSize);
-VEMI_API VemiStatus vemiRShiftC_16u_C4R(const Vemi16u* pSrc, int srcStep, const Vemi32u* value, Vemi16u* pDst,
+VEMI_API VemiStatus vemiRShiftC_16u_C4R(const Vemi16u* pSrc, int srcStep, const Vemi32u value[4], Vemi16u* pDst,
                                         int dstStep, VemiSize roiSize);
-VEMI_API VemiStatus vemiRShiftC_16u_AC4R(const Vemi16u* pSrc, int srcStep, const Vemi32u* value, Vemi16u* pDst,
+VEMI_API VemiStatus vemiRShiftC_16u_AC4R(const Vemi16u* pSrc, int srcStep, const Vemi32u value[3], Vemi16u* pDst,
                                          int dstStep, VemiSize roiSize);
 
 VEMI_API VemiStatus vemiRShiftC_16s_C1R(const Vemi16s* pSrc, int srcStep, Vemi32u value, Vemi16s* pDst, int dstStep,
                                         VemiSize roiSize);
-VEMI_API VemiStatus vemiRShiftC_16s_C3R(const Vemi16s* pSrc, int srcStep, const Vemi32u* value, Vemi16s* pDst,
+VEMI_API VemiStatus vemiRShiftC_16s_C3R(const Vemi16s* pSrc, int srcStep, const Vemi32u value[3], Vemi16s* pDst,
                                         int dstStep, VemiSize roiSize);
-VEMI_API VemiStatus vemiRShiftC_16s_C4R(const Vemi16s* pSrc, int srcStep, const Vemi32u* value, Vemi16s* pDst,
+VEMI_API VemiStatus vemiRShiftC_16s_C4R(const Vemi16s* pSrc, int srcStep, const Vemi32u value[4], Vemi16s* pDst,
                                         int dstStep, VemiSize roiSize);
-VEMI_API VemiStatus vemiRShiftC_16s_AC4R(const Vemi16s* pSrc, int srcStep, const Vemi32u* value, Vemi16s* pDst,
+VEMI_API VemiStatus vemiRShiftC_16s_AC4R(const Vemi16s* pSrc, int srcStep, const Vemi32u value[3], Vemi16s* pDst,
                                          int dstStep, VemiSize roiSize);
 
 VEMI_API VemiStatus vemiRShiftC_32s_C1R(const Vemi32s* pSrc, int srcStep, Vemi32u value, Vemi32s* pDst, int dstStep,
                                         VemiSize roiSize);
-VEMI_API VemiStatus vemiRShiftC_32s_C3R(const Vemi32s* pSrc, int srcStep, const Vemi32u* value, Vemi32s* pDst,
+VEMI_API VemiStatus vemiRShiftC_32s_C3R(const Vemi32s* pSrc, int srcStep, const Vemi32u value[3], Vemi32s* pDst,
                                         int dstStep, VemiSize roiSize);
-VEMI_API VemiStatus vemiRShiftC_32s_C4R(const Vemi32s* pSrc, int srcStep, const Vemi32u* value, Vemi32s* pDst,
+VEMI_API VemiStatus vemiRShiftC_32s_C4R(const Vemi32s* pSrc, int srcStep, const Vemi32u value[4], Vemi32s* pDst,
                                         int dstStep, VemiSize roiSize);
-VEMI_API VemiStatus vemiRShiftC_32s_AC4R(const Vemi32s* pSrc, int srcStep, const Vemi32u* value, Vemi32s* pDst,
+VEMI_API VemiStatus vemiRShiftC_32s_AC4R(const Vemi32s* pSrc, int srcStep, const Vemi32u value[3], Vemi32s* pDst,
                                          int dstStep, VemiSize roiSize);
 
 VEMI_API VemiStatus vemiRShiftC_8u_C1IR(Vemi32u value, Vemi8u* pSrcDst, int srcDstStep, VemiSize roiSize);
-VEMI_API VemiStatus vemiRShiftC_8u_C3IR(const Vemi32u* value, Vemi8u* pSrcDst, int srcDstStep, VemiSize roiSize);
-VEMI_API VemiStatus vemiRShiftC_8u_C4IR(const Vemi32u* value, Vemi8u* pSrcDst, int srcDstStep, VemiSize roiSize);
-VEMI_API VemiStatus vemiRShiftC_8u_AC4IR(const Vemi32u* value, Vemi8u* pSrcDst, int srcDstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiRShiftC_8u_C3IR(const Vemi32u value[3], Vemi8u* pSrcDst, int srcDstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiRShiftC_8u_C4IR(const Vemi32u value[4], Vemi8u* pSrcDst, int srcDstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiRShiftC_8u_AC4IR(const Vemi32u value[3], Vemi8u* pSrcDst, int srcDstStep, VemiSize roiSize);
 
 VEMI_API VemiStatus vemiRShiftC_8s_C1IR(Vemi32u value, Vemi8s* pSrcDst, int srcDstStep, VemiSize roiSize);
-VEMI_API VemiStatus vemiRShiftC_8s_C3IR(const Vemi32u* value, Vemi8s* pSrcDst, int srcDstStep, VemiSize roiSize);
-VEMI_API VemiStatus vemiRShiftC_8s_C4IR(const Vemi32u* value, Vemi8s* pSrcDst, int srcDstStep, VemiSize roiSize);
-VEMI_API VemiStatus vemiRShiftC_8s_AC4IR(const Vemi32u* value, Vemi8s* pSrcDst, int srcDstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiRShiftC_8s_C3IR(const Vemi32u value[3], Vemi8s* pSrcDst, int srcDstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiRShiftC_8s_C4IR(const Vemi32u value[4], Vemi8s* pSrcDst, int srcDstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiRShiftC_8s_AC4IR(const Vemi32u value[3], Vemi8s* pSrcDst, int srcDstStep, VemiSize roiSize);
 
 VEMI_API VemiStatus vemiRShiftC_16u_C1IR(Vemi32u value, Vemi16u* pSrcDst, int srcDstStep, VemiSize roiSize);
-VEMI_API VemiStatus vemiRShiftC_16u_C3IR(const Vemi32u* value, Vemi16u* pSrcDst, int srcDstStep, VemiSize roiSize);
-VEMI_API VemiStatus vemiRShiftC_16u_C4IR(const Vemi32u* value, Vemi16u* pSrcDst, int srcDstStep, VemiSize roiSize);
-VEMI_API VemiStatus vemiRShiftC_16u_AC4IR(const Vemi32u* value, Vemi16u* pSrcDst, int srcDstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiRShiftC_16u_C3IR(const Vemi32u value[3], Vemi16u* pSrcDst, int srcDstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiRShiftC_16u_C4IR(const Vemi32u value[4], Vemi16u* pSrcDst, int srcDstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiRShiftC_16u_AC4IR(const Vemi32u value[3], Vemi16u* pSrcDst, int srcDstStep, VemiSize roiSize);
 
 VEMI_API VemiStatus vemiRShiftC_16s_C1IR(Vemi32u value, Vemi16s* pSrcDst, int srcDstStep, VemiSize roiSize);
-VEMI_API VemiStatus vemiRShiftC_16s_C3IR(const Vemi32u* value, Vemi16s* pSrcDst, int srcDstStep, VemiSize roiSize);
-VEMI_API VemiStatus vemiRShiftC_16s_C4IR(const Vemi32u* value, Vemi16s* pSrcDst, int srcDstStep, VemiSize roiSize);
-VEMI_API VemiStatus vemiRShiftC_16s_AC4IR(const Vemi32u* value, Vemi16s* pSrcDst, int srcDstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiRShiftC_16s_C3IR(const Vemi32u value[3], Vemi16s* pSrcDst, int srcDstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiRShiftC_16s_C4IR(const Vemi32u value[4], Vemi16s* pSrcDst, int srcDstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiRShiftC_16s_AC4IR(const Vemi32u value[3], Vemi16s* pSrcDst, int srcDstStep, VemiSize roiSize);
 
 VEMI_API VemiStatus vemiRShiftC_32s_C1IR(Vemi32u value, Vemi32s* pSrcDst, int srcDstStep, VemiSize roiSize);
-VEMI_API VemiStatus vemiRShiftC_32s_C3IR(const Vemi32u* value, Vemi32s* pSrcDst, int srcDstStep, VemiSize roiSize);
-VEMI_API VemiStatus vemiRShiftC_32s_C4IR(const Vemi32u* value, Vemi32s* pSrcDst, int srcDstStep, VemiSize roiSize);
-VEMI_API VemiStatus vemiRShiftC_32s_AC4IR(const Vemi32u* value, Vemi32s* pSrcDst, int srcDstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiRShiftC_32s_C3IR(const Vemi32u value[3], Vemi32s* pSrcDst, int srcDstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiRShiftC_32s_C4IR(const Vemi32u value[4], Vemi32s* pSrcDst, int srcDstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiRShiftC_32s_AC4IR(const Vemi32u value[3], Vemi32s* pSrcDst, int srcDstStep, VemiSize roiSize);
 
 /** @} */
 
@@ -870,53 +870,53 @@ VEMI_API VemiStatus vemiSub_32f_AC4IR(const Vemi32f* pSrc, int srcStep, Vemi32f*
 
 VEMI_API VemiStatus vemiSubC_8u_C1RSfs(const Vemi8u* pSrc, int srcStep, Vemi8u value, Vemi8u* pDst, int dstStep,
                                        VemiSize roiSize, int scaleFactor);
-VEMI_API VemiStatus vemiSubC_8u_C3RSfs(const Vemi8u* pSrc, int srcStep, const Vemi8u* value, Vemi8u* pDst, int dstStep,
-                                       VemiSize roiSize, int scaleFactor);
-VEMI_API VemiStatus vemiSubC_8u_C4RSfs(const Vemi8u* pSrc, int srcStep, const Vemi8u* value, Vemi8u* pDst, int dstStep,
-                                       VemiSize roiSize, int scaleFactor);
-VEMI_API VemiStatus vemiSubC_8u_AC4RSfs(const Vemi8u* pSrc, int srcStep, const Vemi8u* value, Vemi8u* pDst, int dstStep,
-                                        VemiSize roiSize, int scaleFactor);
+VEMI_API VemiStatus vemiSubC_8u_C3RSfs(const Vemi8u* pSrc, int srcStep, const Vemi8u value[3], Vemi8u* pDst,
+                                       int dstStep, VemiSize roiSize, int scaleFactor);
+VEMI_API VemiStatus vemiSubC_8u_C4RSfs(const Vemi8u* pSrc, int srcStep, const Vemi8u value[4], Vemi8u* pDst,
+                                       int dstStep, VemiSize roiSize, int scaleFactor);
+VEMI_API VemiStatus vemiSubC_8u_AC4RSfs(const Vemi8u* pSrc, int srcStep, const Vemi8u value[3], Vemi8u* pDst,
+                                        int dstStep, VemiSize roiSize, int scaleFactor);
 
 VEMI_API VemiStatus vemiSubC_16s_C1RSfs(const Vemi16s* pSrc, int srcStep, Vemi16s value, Vemi16s* pDst, int dstStep,
                                         VemiSize roiSize, int scaleFactor);
-VEMI_API VemiStatus vemiSubC_16s_C3RSfs(const Vemi16s* pSrc, int srcStep, const Vemi16s* value, Vemi16s* pDst,
+VEMI_API VemiStatus vemiSubC_16s_C3RSfs(const Vemi16s* pSrc, int srcStep, const Vemi16s value[3], Vemi16s* pDst,
                                         int dstStep, VemiSize roiSize, int scaleFactor);
-VEMI_API VemiStatus vemiSubC_16s_C4RSfs(const Vemi16s* pSrc, int srcStep, const Vemi16s* value, Vemi16s* pDst,
+VEMI_API VemiStatus vemiSubC_16s_C4RSfs(const Vemi16s* pSrc, int srcStep, const Vemi16s value[4], Vemi16s* pDst,
                                         int dstStep, VemiSize roiSize, int scaleFactor);
-VEMI_API VemiStatus vemiSubC_16s_AC4RSfs(const Vemi16s* pSrc, int srcStep, const Vemi16s* value, Vemi16s* pDst,
+VEMI_API VemiStatus vemiSubC_16s_AC4RSfs(const Vemi16s* pSrc, int srcStep, const Vemi16s value[3], Vemi16s* pDst,
                                          int dstStep, VemiSize roiSize, int scaleFactor);
 
 VEMI_API VemiStatus vemiSubC_32f_C1R(const Vemi32f* pSrc, int srcStep, Vemi32f value, Vemi32f* pDst, int dstStep,
                                      VemiSize roiSize);
-VEMI_API VemiStatus vemiSubC_32f_C3R(const Vemi32f* pSrc, int srcStep, const Vemi32f* value, Vemi32f* pDst, int dstStep,
-                                     VemiSize roiSize);
-VEMI_API VemiStatus vemiSubC_32f_C4R(const Vemi32f* pSrc, int srcStep, const Vemi32f* value, Vemi32f* pDst, int dstStep,
-                                     VemiSize roiSize);
-VEMI_API VemiStatus vemiSubC_32f_AC4R(const Vemi32f* pSrc, int srcStep, const Vemi32f* value, Vemi32f* pDst,
+VEMI_API VemiStatus vemiSubC_32f_C3R(const Vemi32f* pSrc, int srcStep, const Vemi32f value[3], Vemi32f* pDst,
+                                     int dstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiSubC_32f_C4R(const Vemi32f* pSrc, int srcStep, const Vemi32f value[4], Vemi32f* pDst,
+                                     int dstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiSubC_32f_AC4R(const Vemi32f* pSrc, int srcStep, const Vemi32f value[3], Vemi32f* pDst,
                                       int dstStep, VemiSize roiSize);
 
 VEMI_API VemiStatus vemiSubC_8u_C1IRSfs(Vemi8u value, Vemi8u* pSrcDst, int srcDstStep, VemiSize roiSize,
                                         int scaleFactor);
-VEMI_API VemiStatus vemiSubC_8u_C3IRSfs(const Vemi8u* value, Vemi8u* pSrcDst, int srcDstStep, VemiSize roiSize,
+VEMI_API VemiStatus vemiSubC_8u_C3IRSfs(const Vemi8u value[3], Vemi8u* pSrcDst, int srcDstStep, VemiSize roiSize,
                                         int scaleFactor);
-VEMI_API VemiStatus vemiSubC_8u_C4IRSfs(const Vemi8u* value, Vemi8u* pSrcDst, int srcDstStep, VemiSize roiSize,
+VEMI_API VemiStatus vemiSubC_8u_C4IRSfs(const Vemi8u value[4], Vemi8u* pSrcDst, int srcDstStep, VemiSize roiSize,
                                         int scaleFactor);
-VEMI_API VemiStatus vemiSubC_8u_AC4IRSfs(const Vemi8u* value, Vemi8u* pSrcDst, int srcDstStep, VemiSize roiSize,
+VEMI_API VemiStatus vemiSubC_8u_AC4IRSfs(const Vemi8u value[3], Vemi8u* pSrcDst, int srcDstStep, VemiSize roiSize,
                                          int scaleFactor);
 
 VEMI_API VemiStatus vemiSubC_16s_C1IRSfs(Vemi16s value, Vemi16s* pSrcDst, int srcDstStep, VemiSize roiSize,
                                          int scaleFactor);
-VEMI_API VemiStatus vemiSubC_16s_C3IRSfs(const Vemi16s* value, Vemi16s* pSrcDst, int srcDstStep, VemiSize roiSize,
+VEMI_API VemiStatus vemiSubC_16s_C3IRSfs(const Vemi16s value[3], Vemi16s* pSrcDst, int srcDstStep, VemiSize roiSize,
                                          int scaleFactor);
-VEMI_API VemiStatus vemiSubC_16s_C4IRSfs(const Vemi16s* value, Vemi16s* pSrcDst, int srcDstStep, VemiSize roiSize,
+VEMI_API VemiStatus vemiSubC_16s_C4IRSfs(const Vemi16s value[4], Vemi16s* pSrcDst, int srcDstStep, VemiSize roiSize,
                                          int scaleFactor);
-VEMI_API VemiStatus vemiSubC_16s_AC4IRSfs(const Vemi16s* value, Vemi16s* pSrcDst, int srcDstStep, VemiSize roiSize,
+VEMI_API VemiStatus vemiSubC_16s_AC4IRSfs(const Vemi16s value[3], Vemi16s* pSrcDst, int srcDstStep, VemiSize roiSize,
                                           int scaleFactor);
 
 VEMI_API VemiStatus vemiSubC_32f_C1IR(Vemi32f value, Vemi32f* pSrcDst, int srcDstStep, VemiSize roiSize);
-VEMI_API VemiStatus vemiSubC_32f_C3IR(const Vemi32f* value, Vemi32f* pSrcDst, int srcDstStep, VemiSize roiSize);
-VEMI_API VemiStatus vemiSubC_32f_C4IR(const Vemi32f* value, Vemi32f* pSrcDst, int srcDstStep, VemiSize roiSize);
-VEMI_API VemiStatus vemiSubC_32f_AC4IR(const Vemi32f* value, Vemi32f* pSrcDst, int srcDstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiSubC_32f_C3IR(const Vemi32f value[3], Vemi32f* pSrcDst, int srcDstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiSubC_32f_C4IR(const Vemi32f value[4], Vemi32f* pSrcDst, int srcDstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiSubC_32f_AC4IR(const Vemi32f value[3], Vemi32f* pSrcDst, int srcDstStep, VemiSize roiSize);
 
 /** @} */
 
@@ -1055,53 +1055,53 @@ VEMI_API VemiStatus vemiMul_32f_AC4IR(const Vemi32f* pSrc, int srcStep, Vemi32f*
 
 VEMI_API VemiStatus vemiMulC_8u_C1RSfs(const Vemi8u* pSrc, int srcStep, Vemi8u value, Vemi8u* pDst, int dstStep,
                                        VemiSize roiSize, int scaleFactor);
-VEMI_API VemiStatus vemiMulC_8u_C3RSfs(const Vemi8u* pSrc, int srcStep, const Vemi8u* value, Vemi8u* pDst, int dstStep,
-                                       VemiSize roiSize, int scaleFactor);
-VEMI_API VemiStatus vemiMulC_8u_C4RSfs(const Vemi8u* pSrc, int srcStep, const Vemi8u* value, Vemi8u* pDst, int dstStep,
-                                       VemiSize roiSize, int scaleFactor);
-VEMI_API VemiStatus vemiMulC_8u_AC4RSfs(const Vemi8u* pSrc, int srcStep, const Vemi8u* value, Vemi8u* pDst, int dstStep,
-                                        VemiSize roiSize, int scaleFactor);
+VEMI_API VemiStatus vemiMulC_8u_C3RSfs(const Vemi8u* pSrc, int srcStep, const Vemi8u value[3], Vemi8u* pDst,
+                                       int dstStep, VemiSize roiSize, int scaleFactor);
+VEMI_API VemiStatus vemiMulC_8u_C4RSfs(const Vemi8u* pSrc, int srcStep, const Vemi8u value[4], Vemi8u* pDst,
+                                       int dstStep, VemiSize roiSize, int scaleFactor);
+VEMI_API VemiStatus vemiMulC_8u_AC4RSfs(const Vemi8u* pSrc, int srcStep, const Vemi8u value[3], Vemi8u* pDst,
+                                        int dstStep, VemiSize roiSize, int scaleFactor);
 
 VEMI_API VemiStatus vemiMulC_16s_C1RSfs(const Vemi16s* pSrc, int srcStep, Vemi16s value, Vemi16s* pDst, int dstStep,
                                         VemiSize roiSize, int scaleFactor);
-VEMI_API VemiStatus vemiMulC_16s_C3RSfs(const Vemi16s* pSrc, int srcStep, const Vemi16s* value, Vemi16s* pDst,
+VEMI_API VemiStatus vemiMulC_16s_C3RSfs(const Vemi16s* pSrc, int srcStep, const Vemi16s value[3], Vemi16s* pDst,
                                         int dstStep, VemiSize roiSize, int scaleFactor);
-VEMI_API VemiStatus vemiMulC_16s_C4RSfs(const Vemi16s* pSrc, int srcStep, const Vemi16s* value, Vemi16s* pDst,
+VEMI_API VemiStatus vemiMulC_16s_C4RSfs(const Vemi16s* pSrc, int srcStep, const Vemi16s value[4], Vemi16s* pDst,
                                         int dstStep, VemiSize roiSize, int scaleFactor);
-VEMI_API VemiStatus vemiMulC_16s_AC4RSfs(const Vemi16s* pSrc, int srcStep, const Vemi16s* value, Vemi16s* pDst,
+VEMI_API VemiStatus vemiMulC_16s_AC4RSfs(const Vemi16s* pSrc, int srcStep, const Vemi16s value[3], Vemi16s* pDst,
                                          int dstStep, VemiSize roiSize, int scaleFactor);
 
 VEMI_API VemiStatus vemiMulC_32f_C1R(const Vemi32f* pSrc, int srcStep, Vemi32f value, Vemi32f* pDst, int dstStep,
                                      VemiSize roiSize);
-VEMI_API VemiStatus vemiMulC_32f_C3R(const Vemi32f* pSrc, int srcStep, const Vemi32f* value, Vemi32f* pDst, int dstStep,
-                                     VemiSize roiSize);
-VEMI_API VemiStatus vemiMulC_32f_C4R(const Vemi32f* pSrc, int srcStep, const Vemi32f* value, Vemi32f* pDst, int dstStep,
-                                     VemiSize roiSize);
-VEMI_API VemiStatus vemiMulC_32f_AC4R(const Vemi32f* pSrc, int srcStep, const Vemi32f* value, Vemi32f* pDst,
+VEMI_API VemiStatus vemiMulC_32f_C3R(const Vemi32f* pSrc, int srcStep, const Vemi32f value[3], Vemi32f* pDst,
+                                     int dstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiMulC_32f_C4R(const Vemi32f* pSrc, int srcStep, const Vemi32f value[4], Vemi32f* pDst,
+                                     int dstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiMulC_32f_AC4R(const Vemi32f* pSrc, int srcStep, const Vemi32f value[3], Vemi32f* pDst,
                                       int dstStep, VemiSize roiSize);
 
 VEMI_API VemiStatus vemiMulC_8u_C1IRSfs(Vemi8u value, Vemi8u* pSrcDst, int srcDstStep, VemiSize roiSize,
                                         int scaleFactor);
-VEMI_API VemiStatus vemiMulC_8u_C3IRSfs(const Vemi8u* value, Vemi8u* pSrcDst, int srcDstStep, VemiSize roiSize,
+VEMI_API VemiStatus vemiMulC_8u_C3IRSfs(const Vemi8u value[3], Vemi8u* pSrcDst, int srcDstStep, VemiSize roiSize,
                                         int scaleFactor);
-VEMI_API VemiStatus vemiMulC_8u_C4IRSfs(const Vemi8u* value, Vemi8u* pSrcDst, int srcDstStep, VemiSize roiSize,
+VEMI_API VemiStatus vemiMulC_8u_C4IRSfs(const Vemi8u value[4], Vemi8u* pSrcDst, int srcDstStep, VemiSize roiSize,
                                         int scaleFactor);
-VEMI_API VemiStatus vemiMulC_8u_AC4IRSfs(const Vemi8u* value, Vemi8u* pSrcDst, int srcDstStep, VemiSize roiSize,
+VEMI_API VemiStatus vemiMulC_8u_AC4IRSfs(const Vemi8u value[3], Vemi8u* pSrcDst, int srcDstStep, VemiSize roiSize,
                                          int scaleFactor);
 
 VEMI_API VemiStatus vemiMulC_16s_C1IRSfs(Vemi16s value, Vemi16s* pSrcDst, int srcDstStep, VemiSize roiSize,
                                          int scaleFactor);
-VEMI_API VemiStatus vemiMulC_16s_C3IRSfs(const Vemi16s* value, Vemi16s* pSrcDst, int srcDstStep, VemiSize roiSize,
+VEMI_API VemiStatus vemiMulC_16s_C3IRSfs(const Vemi16s value[3], Vemi16s* pSrcDst, int srcDstStep, VemiSize roiSize,
                                          int scaleFactor);
-VEMI_API VemiStatus vemiMulC_16s_C4IRSfs(const Vemi16s* value, Vemi16s* pSrcDst, int srcDstStep, VemiSize roiSize,
+VEMI_API VemiStatus vemiMulC_16s_C4IRSfs(const Vemi16s value[4], Vemi16s* pSrcDst, int srcDstStep, VemiSize roiSize,
                                          int scaleFactor);
-VEMI_API VemiStatus vemiMulC_16s_AC4IRSfs(const Vemi16s* value, Vemi16s* pSrcDst, int srcDstStep, VemiSize roiSize,
+VEMI_API VemiStatus vemiMulC_16s_AC4IRSfs(const Vemi16s value[3], Vemi16s* pSrcDst, int srcDstStep, VemiSize roiSize,
                                           int scaleFactor);
 
 VEMI_API VemiStatus vemiMulC_32f_C1IR(Vemi32f value, Vemi32f* pSrcDst, int srcDstStep, VemiSize roiSize);
-VEMI_API VemiStatus vemiMulC_32f_C3IR(const Vemi32f* value, Vemi32f* pSrcDst, int srcDstStep, VemiSize roiSize);
-VEMI_API VemiStatus vemiMulC_32f_C4IR(const Vemi32f* value, Vemi32f* pSrcDst, int srcDstStep, VemiSize roiSize);
-VEMI_API VemiStatus vemiMulC_32f_AC4IR(const Vemi32f* value, Vemi32f* pSrcDst, int srcDstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiMulC_32f_C3IR(const Vemi32f value[3], Vemi32f* pSrcDst, int srcDstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiMulC_32f_C4IR(const Vemi32f value[4], Vemi32f* pSrcDst, int srcDstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiMulC_32f_AC4IR(const Vemi32f value[3], Vemi32f* pSrcDst, int srcDstStep, VemiSize roiSize);
 
 /** @} */
 
@@ -1195,42 +1195,42 @@ VEMI_API VemiStatus vemiAdd_32fc_AC4IR(const Vemi32fc* pSrc, int srcStep, Vemi32
 
 VEMI_API VemiStatus vemiAddC_16sc_C1RSfs(const Vemi16sc* pSrc, int srcStep, Vemi16sc value, Vemi16sc* pDst, int dstStep,
                                          VemiSize roiSize, int scaleFactor);
-VEMI_API VemiStatus vemiAddC_16sc_C3RSfs(const Vemi16sc* pSrc, int srcStep, const Vemi16sc* value, Vemi16sc* pDst,
+VEMI_API VemiStatus vemiAddC_16sc_C3RSfs(const Vemi16sc* pSrc, int srcStep, const Vemi16sc value[3], Vemi16sc* pDst,
                                          int dstStep, VemiSize roiSize, int scaleFactor);
-VEMI_API VemiStatus vemiAddC_16sc_AC4RSfs(const Vemi16sc* pSrc, int srcStep, const Vemi16sc* value, Vemi16sc* pDst,
+VEMI_API VemiStatus vemiAddC_16sc_AC4RSfs(const Vemi16sc* pSrc, int srcStep, const Vemi16sc value[3], Vemi16sc* pDst,
                                           int dstStep, VemiSize roiSize, int scaleFactor);
 
 VEMI_API VemiStatus vemiAddC_32sc_C1RSfs(const Vemi32sc* pSrc, int srcStep, Vemi32sc value, Vemi32sc* pDst, int dstStep,
                                          VemiSize roiSize, int scaleFactor);
-VEMI_API VemiStatus vemiAddC_32sc_C3RSfs(const Vemi32sc* pSrc, int srcStep, const Vemi32sc* value, Vemi32sc* pDst,
+VEMI_API VemiStatus vemiAddC_32sc_C3RSfs(const Vemi32sc* pSrc, int srcStep, const Vemi32sc value[3], Vemi32sc* pDst,
                                          int dstStep, VemiSize roiSize, int scaleFactor);
-VEMI_API VemiStatus vemiAddC_32sc_AC4RSfs(const Vemi32sc* pSrc, int srcStep, const Vemi32sc* value, Vemi32sc* pDst,
+VEMI_API VemiStatus vemiAddC_32sc_AC4RSfs(const Vemi32sc* pSrc, int srcStep, const Vemi32sc value[3], Vemi32sc* pDst,
                                           int dstStep, VemiSize roiSize, int scaleFactor);
 
 VEMI_API VemiStatus vemiAddC_32fc_C1R(const Vemi32fc* pSrc, int srcStep, Vemi32fc value, Vemi32fc* pDst, int dstStep,
                                       VemiSize roiSize);
-VEMI_API VemiStatus vemiAddC_32fc_C3R(const Vemi32fc* pSrc, int srcStep, const Vemi32fc* value, Vemi32fc* pDst,
+VEMI_API VemiStatus vemiAddC_32fc_C3R(const Vemi32fc* pSrc, int srcStep, const Vemi32fc value[3], Vemi32fc* pDst,
                                       int dstStep, VemiSize roiSize);
-VEMI_API VemiStatus vemiAddC_32fc_AC4R(const Vemi32fc* pSrc, int srcStep, const Vemi32fc* value, Vemi32fc* pDst,
+VEMI_API VemiStatus vemiAddC_32fc_AC4R(const Vemi32fc* pSrc, int srcStep, const Vemi32fc value[3], Vemi32fc* pDst,
                                        int dstStep, VemiSize roiSize);
 
 VEMI_API VemiStatus vemiAddC_16sc_C1IRSfs(Vemi16sc value, Vemi16sc* pSrcDst, int srcDstStep, VemiSize roiSize,
                                           int scaleFactor);
-VEMI_API VemiStatus vemiAddC_16sc_C3IRSfs(const Vemi16sc* value, Vemi16sc* pSrcDst, int srcDstStep, VemiSize roiSize,
+VEMI_API VemiStatus vemiAddC_16sc_C3IRSfs(const Vemi16sc value[3], Vemi16sc* pSrcDst, int srcDstStep, VemiSize roiSize,
                                           int scaleFactor);
-VEMI_API VemiStatus vemiAddC_16sc_AC4IRSfs(const Vemi16sc* value, Vemi16sc* pSrcDst, int srcDstStep, VemiSize roiSize,
+VEMI_API VemiStatus vemiAddC_16sc_AC4IRSfs(const Vemi16sc value[3], Vemi16sc* pSrcDst, int srcDstStep, VemiSize roiSize,
                                            int scaleFactor);
 
 VEMI_API VemiStatus vemiAddC_32sc_C1IRSfs(Vemi32sc value, Vemi32sc* pSrcDst, int srcDstStep, VemiSize roiSize,
                                           int scaleFactor);
-VEMI_API VemiStatus vemiAddC_32sc_C3IRSfs(const Vemi32sc* value, Vemi32sc* pSrcDst, int srcDstStep, VemiSize roiSize,
+VEMI_API VemiStatus vemiAddC_32sc_C3IRSfs(const Vemi32sc value[3], Vemi32sc* pSrcDst, int srcDstStep, VemiSize roiSize,
                                           int scaleFactor);
-VEMI_API VemiStatus vemiAddC_32sc_AC4IRSfs(const Vemi32sc* value, Vemi32sc* pSrcDst, int srcDstStep, VemiSize roiSize,
+VEMI_API VemiStatus vemiAddC_32sc_AC4IRSfs(const Vemi32sc value[3], Vemi32sc* pSrcDst, int srcDstStep, VemiSize roiSize,
                                            int scaleFactor);
 
 VEMI_API VemiStatus vemiAddC_32fc_C1IR(Vemi32fc value, Vemi32fc* pSrcDst, int srcDstStep, VemiSize roiSize);
-VEMI_API VemiStatus vemiAddC_32fc_C3IR(const Vemi32fc* value, Vemi32fc* pSrcDst, int srcDstStep, VemiSize roiSize);
-VEMI_API VemiStatus vemiAddC_32fc_AC4IR(const Vemi32fc* value, Vemi32fc* pSrcDst, int srcDstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiAddC_32fc_C3IR(const Vemi32fc value[3], Vemi32fc* pSrcDst, int srcDstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiAddC_32fc_AC4IR(const Vemi32fc value[3], Vemi32fc* pSrcDst, int srcDstStep, VemiSize roiSize);
 
 VEMI_API VemiStatus vemiSub_16sc_C1RSfs(const Vemi16sc* pSrc1, int src1Step, const Vemi16sc* pSrc2, int src2Step,
                                         Vemi16sc* pDst, int dstStep, VemiSize roiSize, int scaleFactor);
@@ -1276,42 +1276,42 @@ VEMI_API VemiStatus vemiSub_32fc_AC4IR(const Vemi32fc* pSrc, int srcStep, Vemi32
 
 VEMI_API VemiStatus vemiSubC_16sc_C1RSfs(const Vemi16sc* pSrc, int srcStep, Vemi16sc value, Vemi16sc* pDst, int dstStep,
                                          VemiSize roiSize, int scaleFactor);
-VEMI_API VemiStatus vemiSubC_16sc_C3RSfs(const Vemi16sc* pSrc, int srcStep, const Vemi16sc* value, Vemi16sc* pDst,
+VEMI_API VemiStatus vemiSubC_16sc_C3RSfs(const Vemi16sc* pSrc, int srcStep, const Vemi16sc value[3], Vemi16sc* pDst,
                                          int dstStep, VemiSize roiSize, int scaleFactor);
-VEMI_API VemiStatus vemiSubC_16sc_AC4RSfs(const Vemi16sc* pSrc, int srcStep, const Vemi16sc* value, Vemi16sc* pDst,
+VEMI_API VemiStatus vemiSubC_16sc_AC4RSfs(const Vemi16sc* pSrc, int srcStep, const Vemi16sc value[3], Vemi16sc* pDst,
                                           int dstStep, VemiSize roiSize, int scaleFactor);
 
 VEMI_API VemiStatus vemiSubC_32sc_C1RSfs(const Vemi32sc* pSrc, int srcStep, Vemi32sc value, Vemi32sc* pDst, int dstStep,
                                          VemiSize roiSize, int scaleFactor);
-VEMI_API VemiStatus vemiSubC_32sc_C3RSfs(const Vemi32sc* pSrc, int srcStep, const Vemi32sc* value, Vemi32sc* pDst,
+VEMI_API VemiStatus vemiSubC_32sc_C3RSfs(const Vemi32sc* pSrc, int srcStep, const Vemi32sc value[3], Vemi32sc* pDst,
                                          int dstStep, VemiSize roiSize, int scaleFactor);
-VEMI_API VemiStatus vemiSubC_32sc_AC4RSfs(const Vemi32sc* pSrc, int srcStep, const Vemi32sc* value, Vemi32sc* pDst,
+VEMI_API VemiStatus vemiSubC_32sc_AC4RSfs(const Vemi32sc* pSrc, int srcStep, const Vemi32sc value[3], Vemi32sc* pDst,
                                           int dstStep, VemiSize roiSize, int scaleFactor);
 
 VEMI_API VemiStatus vemiSubC_32fc_C1R(const Vemi32fc* pSrc, int srcStep, Vemi32fc value, Vemi32fc* pDst, int dstStep,
                                       VemiSize roiSize);
-VEMI_API VemiStatus vemiSubC_32fc_C3R(const Vemi32fc* pSrc, int srcStep, const Vemi32fc* value, Vemi32fc* pDst,
+VEMI_API VemiStatus vemiSubC_32fc_C3R(const Vemi32fc* pSrc, int srcStep, const Vemi32fc value[3], Vemi32fc* pDst,
                                       int dstStep, VemiSize roiSize);
-VEMI_API VemiStatus vemiSubC_32fc_AC4R(const Vemi32fc* pSrc, int srcStep, const Vemi32fc* value, Vemi32fc* pDst,
+VEMI_API VemiStatus vemiSubC_32fc_AC4R(const Vemi32fc* pSrc, int srcStep, const Vemi32fc value[3], Vemi32fc* pDst,
                                        int dstStep, VemiSize roiSize);
 
 VEMI_API VemiStatus vemiSubC_16sc_C1IRSfs(Vemi16sc value, Vemi16sc* pSrcDst, int srcDstStep, VemiSize roiSize,
                                           int scaleFactor);
-VEMI_API VemiStatus vemiSubC_16sc_C3IRSfs(const Vemi16sc* value, Vemi16sc* pSrcDst, int srcDstStep, VemiSize roiSize,
+VEMI_API VemiStatus vemiSubC_16sc_C3IRSfs(const Vemi16sc value[3], Vemi16sc* pSrcDst, int srcDstStep, VemiSize roiSize,
                                           int scaleFactor);
-VEMI_API VemiStatus vemiSubC_16sc_AC4IRSfs(const Vemi16sc* value, Vemi16sc* pSrcDst, int srcDstStep, VemiSize roiSize,
+VEMI_API VemiStatus vemiSubC_16sc_AC4IRSfs(const Vemi16sc value[3], Vemi16sc* pSrcDst, int srcDstStep, VemiSize roiSize,
                                            int scaleFactor);
 
 VEMI_API VemiStatus vemiSubC_32sc_C1IRSfs(Vemi32sc value, Vemi32sc* pSrcDst, int srcDstStep, VemiSize roiSize,
                                           int scaleFactor);
-VEMI_API VemiStatus vemiSubC_32sc_C3IRSfs(const Vemi32sc* value, Vemi32sc* pSrcDst, int srcDstStep, VemiSize roiSize,
+VEMI_API VemiStatus vemiSubC_32sc_C3IRSfs(const Vemi32sc value[3], Vemi32sc* pSrcDst, int srcDstStep, VemiSize roiSize,
                                           int scaleFactor);
-VEMI_API VemiStatus vemiSubC_32sc_AC4IRSfs(const Vemi32sc* value, Vemi32sc* pSrcDst, int srcDstStep, VemiSize roiSize,
+VEMI_API VemiStatus vemiSubC_32sc_AC4IRSfs(const Vemi32sc value[3], Vemi32sc* pSrcDst, int srcDstStep, VemiSize roiSize,
                                            int scaleFactor);
 
 VEMI_API VemiStatus vemiSubC_32fc_C1IR(Vemi32fc value, Vemi32fc* pSrcDst, int srcDstStep, VemiSize roiSize);
-VEMI_API VemiStatus vemiSubC_32fc_C3IR(const Vemi32fc* value, Vemi32fc* pSrcDst, int srcDstStep, VemiSize roiSize);
-VEMI_API VemiStatus vemiSubC_32fc_AC4IR(const Vemi32fc* value, Vemi32fc* pSrcDst, int srcDstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiSubC_32fc_C3IR(const Vemi32fc value[3], Vemi32fc* pSrcDst, int srcDstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiSubC_32fc_AC4IR(const Vemi32fc value[3], Vemi32fc* pSrcDst, int srcDstStep, VemiSize roiSize);
 
 VEMI_API VemiStatus vemiMul_16sc_C1RSfs(const Vemi16sc* pSrc1, int src1Step, const Vemi16sc* pSrc2, int src2Step,
                                         Vemi16sc* pDst, int dstStep, VemiSize roiSize, int scaleFactor);
@@ -1357,42 +1357,42 @@ VEMI_API VemiStatus vemiMul_32fc_AC4IR(const Vemi32fc* pSrc, int srcStep, Vemi32
 
 VEMI_API VemiStatus vemiMulC_16sc_C1RSfs(const Vemi16sc* pSrc, int srcStep, Vemi16sc value, Vemi16sc* pDst, int dstStep,
                                          VemiSize roiSize, int scaleFactor);
-VEMI_API VemiStatus vemiMulC_16sc_C3RSfs(const Vemi16sc* pSrc, int srcStep, const Vemi16sc* value, Vemi16sc* pDst,
+VEMI_API VemiStatus vemiMulC_16sc_C3RSfs(const Vemi16sc* pSrc, int srcStep, const Vemi16sc value[3], Vemi16sc* pDst,
                                          int dstStep, VemiSize roiSize, int scaleFactor);
-VEMI_API VemiStatus vemiMulC_16sc_AC4RSfs(const Vemi16sc* pSrc, int srcStep, const Vemi16sc* value, Vemi16sc* pDst,
+VEMI_API VemiStatus vemiMulC_16sc_AC4RSfs(const Vemi16sc* pSrc, int srcStep, const Vemi16sc value[3], Vemi16sc* pDst,
                                           int dstStep, VemiSize roiSize, int scaleFactor);
 
 VEMI_API VemiStatus vemiMulC_32sc_C1RSfs(const Vemi32sc* pSrc, int srcStep, Vemi32sc value, Vemi32sc* pDst, int dstStep,
                                          VemiSize roiSize, int scaleFactor);
-VEMI_API VemiStatus vemiMulC_32sc_C3RSfs(const Vemi32sc* pSrc, int srcStep, const Vemi32sc* value, Vemi32sc* pDst,
+VEMI_API VemiStatus vemiMulC_32sc_C3RSfs(const Vemi32sc* pSrc, int srcStep, const Vemi32sc value[3], Vemi32sc* pDst,
                                          int dstStep, VemiSize roiSize, int scaleFactor);
-VEMI_API VemiStatus vemiMulC_32sc_AC4RSfs(const Vemi32sc* pSrc, int srcStep, const Vemi32sc* value, Vemi32sc* pDst,
+VEMI_API VemiStatus vemiMulC_32sc_AC4RSfs(const Vemi32sc* pSrc, int srcStep, const Vemi32sc value[3], Vemi32sc* pDst,
                                           int dstStep, VemiSize roiSize, int scaleFactor);
 
 VEMI_API VemiStatus vemiMulC_32fc_C1R(const Vemi32fc* pSrc, int srcStep, Vemi32fc value, Vemi32fc* pDst, int dstStep,
                                       VemiSize roiSize);
-VEMI_API VemiStatus vemiMulC_32fc_C3R(const Vemi32fc* pSrc, int srcStep, const Vemi32fc* value, Vemi32fc* pDst,
+VEMI_API VemiStatus vemiMulC_32fc_C3R(const Vemi32fc* pSrc, int srcStep, const Vemi32fc value[3], Vemi32fc* pDst,
                                       int dstStep, VemiSize roiSize);
-VEMI_API VemiStatus vemiMulC_32fc_AC4R(const Vemi32fc* pSrc, int srcStep, const Vemi32fc* value, Vemi32fc* pDst,
+VEMI_API VemiStatus vemiMulC_32fc_AC4R(const Vemi32fc* pSrc, int srcStep, const Vemi32fc value[3], Vemi32fc* pDst,
                                        int dstStep, VemiSize roiSize);
 
 VEMI_API VemiStatus vemiMulC_16sc_C1IRSfs(Vemi16sc value, Vemi16sc* pSrcDst, int srcDstStep, VemiSize roiSize,
                                           int scaleFactor);
-VEMI_API VemiStatus vemiMulC_16sc_C3IRSfs(const Vemi16sc* value, Vemi16sc* pSrcDst, int srcDstStep, VemiSize roiSize,
+VEMI_API VemiStatus vemiMulC_16sc_C3IRSfs(const Vemi16sc value[3], Vemi16sc* pSrcDst, int srcDstStep, VemiSize roiSize,
                                           int scaleFactor);
-VEMI_API VemiStatus vemiMulC_16sc_AC4IRSfs(const Vemi16sc* value, Vemi16sc* pSrcDst, int srcDstStep, VemiSize roiSize,
+VEMI_API VemiStatus vemiMulC_16sc_AC4IRSfs(const Vemi16sc value[3], Vemi16sc* pSrcDst, int srcDstStep, VemiSize roiSize,
                                            int scaleFactor);
 
 VEMI_API VemiStatus vemiMulC_32sc_C1IRSfs(Vemi32sc value, Vemi32sc* pSrcDst, int srcDstStep, VemiSize roiSize,
                                           int scaleFactor);
-VEMI_API VemiStatus vemiMulC_32sc_C3IRSfs(const Vemi32sc* value, Vemi32sc* pSrcDst, int srcDstStep, VemiSize roiSize,
+VEMI_API VemiStatus vemiMulC_32sc_C3IRSfs(const Vemi32sc value[3], Vemi32sc* pSrcDst, int srcDstStep, VemiSize roiSize,
                                           int scaleFactor);
-VEMI_API VemiStatus vemiMulC_32sc_AC4IRSfs(const Vemi32sc* value, Vemi32sc* pSrcDst, int srcDstStep, VemiSize roiSize,
+VEMI_API VemiStatus vemiMulC_32sc_AC4IRSfs(const Vemi32sc value[3], Vemi32sc* pSrcDst, int srcDstStep, VemiSize roiSize,
                                            int scaleFactor);
 
 VEMI_API VemiStatus vemiMulC_32fc_C1IR(Vemi32fc value, Vemi32fc* pSrcDst, int srcDstStep, VemiSize roiSize);
-VEMI_API VemiStatus vemiMulC_32fc_C3IR(const Vemi32fc* value, Vemi32fc* pSrcDst, int srcDstStep, VemiSize roiSize);
-VEMI_API VemiStatus vemiMulC_32fc_AC4IR(const Vemi32fc* value, Vemi32fc* pSrcDst, int srcDstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiMulC_32fc_C3IR(const Vemi32fc value[3], Vemi32fc* pSrcDst, int srcDstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiMulC_32fc_AC4IR(const Vemi32fc value[3], Vemi32fc* pSrcDst, int srcDstStep, VemiSize roiSize);
 
 /** @} */
 
@@ -1584,70 +1584,70 @@ VEMI_API VemiStatus vemiDiv_32fc_AC4IR(const Vemi32fc* pSrc, int srcStep, Vemi32
 
 VEMI_API VemiStatus vemiDivC_8u_C1RSfs(const Vemi8u* pSrc, int srcStep, Vemi8u value, Vemi8u* pDst, int dstStep,
                                        VemiSize roiSize, int scaleFactor);
-VEMI_API VemiStatus vemiDivC_8u_C3RSfs(const Vemi8u* pSrc, int srcStep, const Vemi8u* value, Vemi8u* pDst, int dstStep,
-                                       VemiSize roiSize, int scaleFactor);
+VEMI_API VemiStatus vemiDivC_8u_C3RSfs(const Vemi8u* pSrc, int srcStep, const Vemi8u value[3], Vemi8u* pDst,
+                                       int dstStep, VemiSize roiSize, int scaleFactor);
 
 VEMI_API VemiStatus vemiDivC_16s_C1RSfs(const Vemi16s* pSrc, int srcStep, Vemi16s value, Vemi16s* pDst, int dstStep,
                                         VemiSize roiSize, int scaleFactor);
-VEMI_API VemiStatus vemiDivC_16s_C3RSfs(const Vemi16s* pSrc, int srcStep, const Vemi16s* value, Vemi16s* pDst,
+VEMI_API VemiStatus vemiDivC_16s_C3RSfs(const Vemi16s* pSrc, int srcStep, const Vemi16s value[3], Vemi16s* pDst,
                                         int dstStep, VemiSize roiSize, int scaleFactor);
 
 VEMI_API VemiStatus vemiDivC_32f_C1R(const Vemi32f* pSrc, int srcStep, Vemi32f value, Vemi32f* pDst, int dstStep,
                                      VemiSize roiSize);
-VEMI_API VemiStatus vemiDivC_32f_C3R(const Vemi32f* pSrc, int srcStep, const Vemi32f* value, Vemi32f* pDst, int dstStep,
-                                     VemiSize roiSize);
+VEMI_API VemiStatus vemiDivC_32f_C3R(const Vemi32f* pSrc, int srcStep, const Vemi32f value[3], Vemi32f* pDst,
+                                     int dstStep, VemiSize roiSize);
 
 VEMI_API VemiStatus vemiDivC_16sc_C1RSfs(const Vemi16sc* pSrc, int srcStep, Vemi16sc value, Vemi16sc* pDst, int dstStep,
                                          VemiSize roiSize, int scaleFactor);
-VEMI_API VemiStatus vemiDivC_16sc_C3RSfs(const Vemi16sc* pSrc, int srcStep, const Vemi16sc* value, Vemi16sc* pDst,
+VEMI_API VemiStatus vemiDivC_16sc_C3RSfs(const Vemi16sc* pSrc, int srcStep, const Vemi16sc value[3], Vemi16sc* pDst,
                                          int dstStep, VemiSize roiSize, int scaleFactor);
-VEMI_API VemiStatus vemiDivC_16sc_AC4RSfs(const Vemi16sc* pSrc, int srcStep, const Vemi16sc* value, Vemi16sc* pDst,
+VEMI_API VemiStatus vemiDivC_16sc_AC4RSfs(const Vemi16sc* pSrc, int srcStep, const Vemi16sc value[3], Vemi16sc* pDst,
                                           int dstStep, VemiSize roiSize, int scaleFactor);
 
 VEMI_API VemiStatus vemiDivC_32sc_C1RSfs(const Vemi32sc* pSrc, int srcStep, Vemi32sc value, Vemi32sc* pDst, int dstStep,
                                          VemiSize roiSize, int scaleFactor);
-VEMI_API VemiStatus vemiDivC_32sc_C3RSfs(const Vemi32sc* pSrc, int srcStep, const Vemi32sc* value, Vemi32sc* pDst,
+VEMI_API VemiStatus vemiDivC_32sc_C3RSfs(const Vemi32sc* pSrc, int srcStep, const Vemi32sc value[3], Vemi32sc* pDst,
                                          int dstStep, VemiSize roiSize, int scaleFactor);
-VEMI_API VemiStatus vemiDivC_32sc_AC4RSfs(const Vemi32sc* pSrc, int srcStep, const Vemi32sc* value, Vemi32sc* pDst,
+VEMI_API VemiStatus vemiDivC_32sc_AC4RSfs(const Vemi32sc* pSrc, int srcStep, const Vemi32sc value[3], Vemi32sc* pDst,
                                           int dstStep, VemiSize roiSize, int scaleFactor);
 
 VEMI_API VemiStatus vemiDivC_32fc_C1R(const Vemi32fc* pSrc, int srcStep, Vemi32fc value, Vemi32fc* pDst, int dstStep,
                                       VemiSize roiSize);
-VEMI_API VemiStatus vemiDivC_32fc_C3R(const Vemi32fc* pSrc, int srcStep, const Vemi32fc* value, Vemi32fc* pDst,
+VEMI_API VemiStatus vemiDivC_32fc_C3R(const Vemi32fc* pSrc, int srcStep, const Vemi32fc value[3], Vemi32fc* pDst,
                                       int dstStep, VemiSize roiSize);
-VEMI_API VemiStatus vemiDivC_32fc_AC4R(const Vemi32fc* pSrc, int srcStep, const Vemi32fc* value, Vemi32fc* pDst,
+VEMI_API VemiStatus vemiDivC_32fc_AC4R(const Vemi32fc* pSrc, int srcStep, const Vemi32fc value[3], Vemi32fc* pDst,
                                        int dstStep, VemiSize roiSize);
 
 VEMI_API VemiStatus vemiDivC_8u_C1IRSfs(Vemi8u value, Vemi8u* pSrcDst, int srcDstStep, VemiSize roiSize,
                                         int scaleFactor);
-VEMI_API VemiStatus vemiDivC_8u_C3IRSfs(const Vemi8u* value, Vemi8u* pSrcDst, int srcDstStep, VemiSize roiSize,
+VEMI_API VemiStatus vemiDivC_8u_C3IRSfs(const Vemi8u value[3], Vemi8u* pSrcDst, int srcDstStep, VemiSize roiSize,
                                         int scaleFactor);
 
 VEMI_API VemiStatus vemiDivC_16s_C1IRSfs(Vemi16s value, Vemi16s* pSrcDst, int srcDstStep, VemiSize roiSize,
                                          int scaleFactor);
-VEMI_API VemiStatus vemiDivC_16s_C3IRSfs(const Vemi16s* value, Vemi16s* pSrcDst, int srcDstStep, VemiSize roiSize,
+VEMI_API VemiStatus vemiDivC_16s_C3IRSfs(const Vemi16s value[3], Vemi16s* pSrcDst, int srcDstStep, VemiSize roiSize,
                                          int scaleFactor);
 
 VEMI_API VemiStatus vemiDivC_32f_C1IR(Vemi32f value, Vemi32f* pSrcDst, int srcDstStep, VemiSize roiSize);
-VEMI_API VemiStatus vemiDivC_32f_C3IR(const Vemi32f* value, Vemi32f* pSrcDst, int srcDstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiDivC_32f_C3IR(const Vemi32f value[3], Vemi32f* pSrcDst, int srcDstStep, VemiSize roiSize);
 
 VEMI_API VemiStatus vemiDivC_16sc_C1IRSfs(Vemi16sc value, Vemi16sc* pSrcDst, int srcDstStep, VemiSize roiSize,
                                           int scaleFactor);
-VEMI_API VemiStatus vemiDivC_16sc_C3IRSfs(const Vemi16sc* value, Vemi16sc* pSrcDst, int srcDstStep, VemiSize roiSize,
+VEMI_API VemiStatus vemiDivC_16sc_C3IRSfs(const Vemi16sc value[3], Vemi16sc* pSrcDst, int srcDstStep, VemiSize roiSize,
                                           int scaleFactor);
-VEMI_API VemiStatus vemiDivC_16sc_AC4IRSfs(const Vemi16sc* value, Vemi16sc* pSrcDst, int srcDstStep, VemiSize roiSize,
+VEMI_API VemiStatus vemiDivC_16sc_AC4IRSfs(const Vemi16sc value[3], Vemi16sc* pSrcDst, int srcDstStep, VemiSize roiSize,
                                            int scaleFactor);
 
 VEMI_API VemiStatus vemiDivC_32sc_C1IRSfs(Vemi32sc value, Vemi32sc* pSrcDst, int srcDstStep, VemiSize roiSize,
                                           int scaleFactor);
-VEMI_API VemiStatus vemiDivC_32sc_C3IRSfs(const Vemi32sc* value, Vemi32sc* pSrcDst, int srcDstStep, VemiSize roiSize,
+VEMI_API VemiStatus vemiDivC_32sc_C3IRSfs(const Vemi32sc value[3], Vemi32sc* pSrcDst, int srcDstStep, VemiSize roiSize,
                                           int scaleFactor);
-VEMI_API VemiStatus vemiDivC_32sc_AC4IRSfs(const Vemi32sc* value, Vemi32sc* pSrcDst, int srcDstStep, VemiSize roiSize,
+VEMI_API VemiStatus vemiDivC_32sc_AC4IRSfs(const Vemi32sc value[3], Vemi32sc* pSrcDst, int srcDstStep, VemiSize roiSize,
                                            int scaleFactor);
 
 VEMI_API VemiStatus vemiDivC_32fc_C1IR(Vemi32fc value, Vemi32fc* pSrcDst, int srcDstStep, VemiSize roiSize);
-VEMI_API VemiStatus vemiDivC_32fc_C3IR(const Vemi32fc* value, Vemi32fc* pSrcDst, int srcDstStep, VemiSize roiSize);
-VEMI_API VemiStatus vemiDivC_32fc_AC4IR(const Vemi32fc* value, Vemi32fc* pSrcDst, int srcDstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiDivC_32fc_C3IR(const Vemi32fc value[3], Vemi32fc* pSrcDst, int srcDstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiDivC_32fc_AC4IR(const Vemi32fc value[3], Vemi32fc* pSrcDst, int srcDstStep, VemiSize roiSize);
 
 /** @} */
 
@@ -2083,31 +2083,31 @@ VEMI_API VemiStatus vemiMulScale_16u_AC4IR(const Vemi16u* pSrc, int srcStep, Vem
 
 VEMI_API VemiStatus vemiMulCScale_8u_C1R(const Vemi8u* pSrc, int srcStep, Vemi8u value, Vemi8u* pDst, int dstStep,
                                          VemiSize roiSize);
-VEMI_API VemiStatus vemiMulCScale_8u_C3R(const Vemi8u* pSrc, int srcStep, const Vemi8u* value, Vemi8u* pDst,
+VEMI_API VemiStatus vemiMulCScale_8u_C3R(const Vemi8u* pSrc, int srcStep, const Vemi8u value[3], Vemi8u* pDst,
                                          int dstStep, VemiSize roiSize);
-VEMI_API VemiStatus vemiMulCScale_8u_C4R(const Vemi8u* pSrc, int srcStep, const Vemi8u* value, Vemi8u* pDst,
+VEMI_API VemiStatus vemiMulCScale_8u_C4R(const Vemi8u* pSrc, int srcStep, const Vemi8u value[4], Vemi8u* pDst,
                                          int dstStep, VemiSize roiSize);
-VEMI_API VemiStatus vemiMulCScale_8u_AC4R(const Vemi8u* pSrc, int srcStep, const Vemi8u* value, Vemi8u* pDst,
+VEMI_API VemiStatus vemiMulCScale_8u_AC4R(const Vemi8u* pSrc, int srcStep, const Vemi8u value[3], Vemi8u* pDst,
                                           int dstStep, VemiSize roiSize);
 
 VEMI_API VemiStatus vemiMulCScale_8u_C1IR(Vemi8u value, Vemi8u* pSrcDst, int srcDstStep, VemiSize roiSize);
-VEMI_API VemiStatus vemiMulCScale_8u_C3IR(const Vemi8u* value, Vemi8u* pSrcDst, int srcDstStep, VemiSize roiSize);
-VEMI_API VemiStatus vemiMulCScale_8u_C4IR(const Vemi8u* value, Vemi8u* pSrcDst, int srcDstStep, VemiSize roiSize);
-VEMI_API VemiStatus vemiMulCScale_8u_AC4IR(const Vemi8u* value, Vemi8u* pSrcDst, int srcDstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiMulCScale_8u_C3IR(const Vemi8u value[3], Vemi8u* pSrcDst, int srcDstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiMulCScale_8u_C4IR(const Vemi8u value[4], Vemi8u* pSrcDst, int srcDstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiMulCScale_8u_AC4IR(const Vemi8u value[3], Vemi8u* pSrcDst, int srcDstStep, VemiSize roiSize);
 
 VEMI_API VemiStatus vemiMulCScale_16u_C1R(const Vemi16u* pSrc, int srcStep, Vemi16u value, Vemi16u* pDst, int dstStep,
                                           VemiSize roiSize);
-VEMI_API VemiStatus vemiMulCScale_16u_C3R(const Vemi16u* pSrc, int srcStep, const Vemi16u* value, Vemi16u* pDst,
+VEMI_API VemiStatus vemiMulCScale_16u_C3R(const Vemi16u* pSrc, int srcStep, const Vemi16u value[3], Vemi16u* pDst,
                                           int dstStep, VemiSize roiSize);
-VEMI_API VemiStatus vemiMulCScale_16u_C4R(const Vemi16u* pSrc, int srcStep, const Vemi16u* value, Vemi16u* pDst,
+VEMI_API VemiStatus vemiMulCScale_16u_C4R(const Vemi16u* pSrc, int srcStep, const Vemi16u value[4], Vemi16u* pDst,
                                           int dstStep, VemiSize roiSize);
-VEMI_API VemiStatus vemiMulCScale_16u_AC4R(const Vemi16u* pSrc, int srcStep, const Vemi16u* value, Vemi16u* pDst,
+VEMI_API VemiStatus vemiMulCScale_16u_AC4R(const Vemi16u* pSrc, int srcStep, const Vemi16u value[3], Vemi16u* pDst,
                                            int dstStep, VemiSize roiSize);
 
 VEMI_API VemiStatus vemiMulCScale_16u_C1IR(Vemi16u value, Vemi16u* pSrcDst, int srcDstStep, VemiSize roiSize);
-VEMI_API VemiStatus vemiMulCScale_16u_C3IR(const Vemi16u* value, Vemi16u* pSrcDst, int srcDstStep, VemiSize roiSize);
-VEMI_API VemiStatus vemiMulCScale_16u_C4IR(const Vemi16u* value, Vemi16u* pSrcDst, int srcDstStep, VemiSize roiSize);
-VEMI_API VemiStatus vemiMulCScale_16u_AC4IR(const Vemi16u* value, Vemi16u* pSrcDst, int srcDstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiMulCScale_16u_C3IR(const Vemi16u value[3], Vemi16u* pSrcDst, int srcDstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiMulCScale_16u_C4IR(const Vemi16u value[4], Vemi16u* pSrcDst, int srcDstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiMulCScale_16u_AC4IR(const Vemi16u value[3], Vemi16u* pSrcDst, int srcDstStep, VemiSize roiSize);
 
 /** @} */
 

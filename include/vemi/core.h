@@ -334,19 +334,19 @@ VEMI_API VemiStatus vemiCopy_32f_P4C4R(const Vemi32f* const pSrc[4], int srcStep
  */
 
 VEMI_API VemiStatus vemiSet_8u_C1R(Vemi8u value, Vemi8u* pDst, int dstStep, VemiSize roiSize);
-VEMI_API VemiStatus vemiSet_8u_C3R(const Vemi8u* value, Vemi8u* pDst, int dstStep, VemiSize roiSize);
-VEMI_API VemiStatus vemiSet_8u_C4R(const Vemi8u* value, Vemi8u* pDst, int dstStep, VemiSize roiSize);
-VEMI_API VemiStatus vemiSet_8u_AC4R(const Vemi8u* value, Vemi8u* pDst, int dstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiSet_8u_C3R(const Vemi8u value[3], Vemi8u* pDst, int dstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiSet_8u_C4R(const Vemi8u value[4], Vemi8u* pDst, int dstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiSet_8u_AC4R(const Vemi8u value[3], Vemi8u* pDst, int dstStep, VemiSize roiSize);
 
 VEMI_API VemiStatus vemiSet_16s_C1R(Vemi16s value, Vemi16s* pDst, int dstStep, VemiSize roiSize);
-VEMI_API VemiStatus vemiSet_16s_C3R(const Vemi16s* value, Vemi16s* pDst, int dstStep, VemiSize roiSize);
-VEMI_API VemiStatus vemiSet_16s_C4R(const Vemi16s* value, Vemi16s* pDst, int dstStep, VemiSize roiSize);
-VEMI_API VemiStatus vemiSet_16s_AC4R(const Vemi16s* value, Vemi16s* pDst, int dstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiSet_16s_C3R(const Vemi16s value[3], Vemi16s* pDst, int dstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiSet_16s_C4R(const Vemi16s value[4], Vemi16s* pDst, int dstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiSet_16s_AC4R(const Vemi16s value[3], Vemi16s* pDst, int dstStep, VemiSize roiSize);
 
 VEMI_API VemiStatus vemiSet_32f_C1R(Vemi32f value, Vemi32f* pDst, int dstStep, VemiSize roiSize);
-VEMI_API VemiStatus vemiSet_32f_C3R(const Vemi32f* value, Vemi32f* pDst, int dstStep, VemiSize roiSize);
-VEMI_API VemiStatus vemiSet_32f_C4R(const Vemi32f* value, Vemi32f* pDst, int dstStep, VemiSize roiSize);
-VEMI_API VemiStatus vemiSet_32f_AC4R(const Vemi32f* value, Vemi32f* pDst, int dstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiSet_32f_C3R(const Vemi32f value[3], Vemi32f* pDst, int dstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiSet_32f_C4R(const Vemi32f value[4], Vemi32f* pDst, int dstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiSet_32f_AC4R(const Vemi32f value[3], Vemi32f* pDst, int dstStep, VemiSize roiSize);
 
 /** @} */
 
@@ -360,29 +360,29 @@ VEMI_API VemiStatus vemiSet_32f_AC4R(const Vemi32f* value, Vemi32f* pDst, int ds
 
 VEMI_API VemiStatus vemiSet_8u_C1MR(Vemi8u value, Vemi8u* pDst, int dstStep, VemiSize roiSize, const Vemi8u* pMask,
                                     int maskStep);
-VEMI_API VemiStatus vemiSet_8u_C3MR(const Vemi8u* value, Vemi8u* pDst, int dstStep, VemiSize roiSize,
+VEMI_API VemiStatus vemiSet_8u_C3MR(const Vemi8u value[3], Vemi8u* pDst, int dstStep, VemiSize roiSize,
                                     const Vemi8u* pMask, int maskStep);
-VEMI_API VemiStatus vemiSet_8u_C4MR(const Vemi8u* value, Vemi8u* pDst, int dstStep, VemiSize roiSize,
+VEMI_API VemiStatus vemiSet_8u_C4MR(const Vemi8u value[4], Vemi8u* pDst, int dstStep, VemiSize roiSize,
                                     const Vemi8u* pMask, int maskStep);
-VEMI_API VemiStatus vemiSet_8u_AC4MR(const Vemi8u* value, Vemi8u* pDst, int dstStep, VemiSize roiSize,
+VEMI_API VemiStatus vemiSet_8u_AC4MR(const Vemi8u value[3], Vemi8u* pDst, int dstStep, VemiSize roiSize,
                                      const Vemi8u* pMask, int maskStep);
 
 VEMI_API VemiStatus vemiSet_16s_C1MR(Vemi16s value, Vemi16s* pDst, int dstStep, VemiSize roiSize, const Vemi8u* pMask,
                                      int maskStep);
-VEMI_API VemiStatus vemiSet_16s_C3MR(const Vemi16s* value, Vemi16s* pDst, int dstStep, VemiSize roiSize,
+VEMI_API VemiStatus vemiSet_16s_C3MR(const Vemi16s value[3], Vemi16s* pDst, int dstStep, VemiSize roiSize,
                                      const Vemi8u* pMask, int maskStep);
-VEMI_API VemiStatus vemiSet_16s_C4MR(const Vemi16s* value, Vemi16s* pDst, int dstStep, VemiSize roiSize,
+VEMI_API VemiStatus vemiSet_16s_C4MR(const Vemi16s value[4], Vemi16s* pDst, int dstStep, VemiSize roiSize,
                                      const Vemi8u* pMask, int maskStep);
-VEMI_API VemiStatus vemiSet_16s_AC4MR(const Vemi16s* value, Vemi16s* pDst, int dstStep, VemiSize roiSize,
+VEMI_API VemiStatus vemiSet_16s_AC4MR(const Vemi16s value[3], Vemi16s* pDst, int dstStep, VemiSize roiSize,
                                       const Vemi8u* pMask, int maskStep);
 
 VEMI_API VemiStatus vemiSet_32f_C1MR(Vemi32f value, Vemi32f* pDst, int dstStep, VemiSize roiSize, const Vemi8u* pMask,
                                      int maskStep);
-VEMI_API VemiStatus vemiSet_32f_C3MR(const Vemi32f* value, Vemi32f* pDst, int dstStep, VemiSize roiSize,
+VEMI_API VemiStatus vemiSet_32f_C3MR(const Vemi32f value[3], Vemi32f* pDst, int dstStep, VemiSize roiSize,
                                      const Vemi8u* pMask, int maskStep);
-VEMI_API VemiStatus vemiSet_32f_C4MR(const Vemi32f* value, Vemi32f* pDst, int dstStep, VemiSize roiSize,
+VEMI_API VemiStatus vemiSet_32f_C4MR(const Vemi32f value[4], Vemi32f* pDst, int dstStep, VemiSize roiSize,
                                      const Vemi8u* pMask, int maskStep);
-VEMI_API VemiStatus vemiSet_32f_AC4MR(const Vemi32f* value, Vemi32f* pDst, int dstStep, VemiSize roiSize,
+VEMI_API VemiStatus vemiSet_32f_AC4MR(const Vemi32f value[3], Vemi32f* pDst, int dstStep, VemiSize roiSize,
                                       const Vemi8u* pMask, int maskStep);
 
 /** @} */
@@ -485,39 +485,39 @@ VEMI_API VemiStatus vemiCopyConstBorder_8u_C1R(const Vemi8u* pSrc, int srcStep, 
                                                int leftBorderWidth, Vemi8u value);
 VEMI_API VemiStatus vemiCopyConstBorder_8u_C3R(const Vemi8u* pSrc, int srcStep, VemiSize srcRoiSize, Vemi8u* pDst,
                                                int dstStep, VemiSize dstRoiSize, int topBorderHeight,
-                                               int leftBorderWidth, const Vemi8u* value);
+                                               int leftBorderWidth, const Vemi8u value[3]);
 VEMI_API VemiStatus vemiCopyConstBorder_8u_C4R(const Vemi8u* pSrc, int srcStep, VemiSize srcRoiSize, Vemi8u* pDst,
                                                int dstStep, VemiSize dstRoiSize, int topBorderHeight,
-                                               int leftBorderWidth, const Vemi8u* value);
+                                               int leftBorderWidth, const Vemi8u value[4]);
 VEMI_API VemiStatus vemiCopyConstBorder_8u_AC4R(const Vemi8u* pSrc, int srcStep, VemiSize srcRoiSize, Vemi8u* pDst,
                                                 int dstStep, VemiSize dstRoiSize, int topBorderHeight,
-                                                int leftBorderWidth, const Vemi8u* value);
+                                                int leftBorderWidth, const Vemi8u value[3]);
 
 VEMI_API VemiStatus vemiCopyConstBorder_16s_C1R(const Vemi16s* pSrc, int srcStep, VemiSize srcRoiSize, Vemi16s* pDst,
                                                 int dstStep, VemiSize dstRoiSize, int topBorderHeight,
                                                 int leftBorderWidth, Vemi16s value);
 VEMI_API VemiStatus vemiCopyConstBorder_16s_C3R(const Vemi16s* pSrc, int srcStep, VemiSize srcRoiSize, Vemi16s* pDst,
                                                 int dstStep, VemiSize dstRoiSize, int topBorderHeight,
-                                                int leftBorderWidth, const Vemi16s* value);
+                                                int leftBorderWidth, const Vemi16s value[3]);
 VEMI_API VemiStatus vemiCopyConstBorder_16s_C4R(const Vemi16s* pSrc, int srcStep, VemiSize srcRoiSize, Vemi16s* pDst,
                                                 int dstStep, VemiSize dstRoiSize, int topBorderHeight,
-                                                int leftBorderWidth, const Vemi16s* value);
+                                                int leftBorderWidth, const Vemi16s value[4]);
 VEMI_API VemiStatus vemiCopyConstBorder_16s_AC4R(const Vemi16s* pSrc, int srcStep, VemiSize srcRoiSize, Vemi16s* pDst,
                                                  int dstStep, VemiSize dstRoiSize, int topBorderHeight,
-                                                 int leftBorderWidth, const Vemi16s* value);
+                                                 int leftBorderWidth, const Vemi16s value[3]);
 
 VEMI_API VemiStatus vemiCopyConstBorder_32s_C1R(const Vemi32s* pSrc, int srcStep, VemiSize srcRoiSize, Vemi32s* pDst,
                                                 int dstStep, VemiSize dstRoiSize, int topBorderHeight,
                                                 int leftBorderWidth, Vemi32s value);
 VEMI_API VemiStatus vemiCopyConstBorder_32s_C3R(const Vemi32s* pSrc, int srcStep, VemiSize srcRoiSize, Vemi32s* pDst,
                                                 int dstStep, VemiSize dstRoiSize, int topBorderHeight,
-                                                int leftBorderWidth, const Vemi32s* value);
+                                                int leftBorderWidth, const Vemi32s value[3]);
 VEMI_API VemiStatus vemiCopyConstBorder_32s_C4R(const Vemi32s* pSrc, int srcStep, VemiSize srcRoiSize, Vemi32s* pDst,
                                                 int dstStep, VemiSize dstRoiSize, int topBorderHeight,
-                                                int leftBorderWidth, const Vemi32s* value);
+                                                int leftBorderWidth, const Vemi32s value[4]);
 VEMI_API VemiStatus vemiCopyConstBorder_32s_AC4R(const Vemi32s* pSrc, int srcStep, VemiSize srcRoiSize, Vemi32s* pDst,
                                                  int dstStep, VemiSize dstRoiSize, int topBorderHeight,
-                                                 int leftBorderWidth, const Vemi32s* value);
+                                                 int leftBorderWidth, const Vemi32s value[3]);
 
 VEMI_API VemiStatus vemiCopyReplicateBorder_8u_C1R(const Vemi8u* pSrc, int srcStep, VemiSize srcRoiSize, Vemi8u* pDst,
                                                    int dstStep, VemiSize dstRoiSize, int topBorderHeight,

@@ -47,6 +47,14 @@ int stepFor(const Image& image, Rows rows, int64_t rowBytes, int index) {
   return static_cast<int>(rowBytes + (gaps ? gap : 0));
 }
 
+/// Whether one float will do for another.
+template <class T>
+bool isAccepted(const std::byte* expected, const std::byte* actual, bool anyNaN, double tolerance) {
+  const double e = load<T>(expected), a = load<T>(actual);
+  if (std::isnan(e) || std::isnan(a)) return anyNaN && std::isnan(e) && std::isnan(a);
+  return tolerance > 0 && std::fabs(a - e) <= tolerance * std::max(1.0, std::fabs(e));
+}
+
 }  // namespace
 
 std::string Scenario::text() const {
@@ -90,11 +98,10 @@ Call::Call(const Export& called, const Scenario& how)
     if (each.role == Role::mask) mask_ = each.view(&Image::Plane::before);
   }
   if (const int index = function.indexOf("value"); index >= 0) {
-    const Parameter& value = function.parameters[static_cast<size_t>(index)];
-    constants_ = value.role == Role::constant ? arguments[static_cast<size_t>(index)].bytes
-                                              : image("value").view(&Image::Plane::before).at(0, 0);
-    constantBytes_ = bytesOf(value.element);
+    constants_ = constant("value");
+    constantBytes_ = bytesOf(function.parameters[static_cast<size_t>(index)].element);
   }
+  goodArguments_ = arguments;
 }
 
 void Call::fillRead(Element element, std::byte* place) {
@@ -128,8 +135,16 @@ void Call::addArgument(const Parameter& parameter, int index) {
       added.written = !parameter.isConst;
       if (parameter.role == Role::image) added.layout = added.written ? function.destination : function.source;
       if (parameter.role != Role::array) added.size = scenario.roiSize;
-      if (parameter.name == "value") added.size = {function.destination.channels, 1};
       images.push_back(std::move(added));
+      // A result without bounds is a single one; the lengths of other arrays are the family's to say.
+      if (parameter.role != Role::array) break;
+      if (parameter.isPlanes) {
+        undecided_.insert(parameter.name);
+      } else if (parameter.bound > 0 || images.back().written) {
+        setLengths(parameter.name, {std::max(parameter.bound, 1)});
+      } else {
+        undecided_.insert(parameter.name);
+      }
       break;
     }
     case Role::other:
@@ -145,6 +160,46 @@ Image& Call::image(const std::string& parameter) {
   throw std::logic_error(function.name + " has no image " + parameter);
 }
 
+/// A pointer to something that is no element gets its memory when its contents are set.
+Image& Call::arrayOf(const std::string& parameter) {
+  const int index = function.indexOf(parameter);
+  const Parameter& described = function.parameters.at(static_cast<size_t>(index));
+  for (Image& each : images) {
+    if (each.parameter == index) return each;
+  }
+  Image added;
+  added.parameter = index;
+  added.role = Role::array;
+  added.element = described.element == Element::none ? Element::u8 : described.element;
+  added.written = !described.isConst;
+  images.push_back(std::move(added));
+  return images.back();
+}
+
+void Call::setLengths(const std::string& parameter, const std::vector<int>& lengths) {
+  Image& array = arrayOf(parameter);
+  const int count = static_cast<int>(lengths.size());
+  const bool isPlanes = function.parameters[static_cast<size_t>(array.parameter)].isPlanes;
+  array.lengths = lengths;
+  if (isPlanes) array.layout = {count, count, true};
+  array.size = {*std::max_element(lengths.begin(), lengths.end()), 1};
+  undecided_.erase(parameter);
+}
+
+void Call::setNumber(const std::string& parameter, double number, int index) {
+  const int at = function.indexOf(parameter);
+  const Parameter& described = function.parameters.at(static_cast<size_t>(at));
+  undecided_.erase(parameter);
+  if (described.role != Role::array) {
+    storeNumber(described.element, arguments[static_cast<size_t>(at)].bytes, number);
+    return;
+  }
+  Image::Plane& plane = image(parameter).planes.at(0);
+  const ptrdiff_t offset = plane.first - plane.memory.begin() + index * bytesOf(described.element);
+  storeNumber(described.element, plane.memory.begin() + offset, number);
+  storeNumber(described.element, plane.expected.data() + offset, number);
+}
+
 /// What the call may touch, from the first byte to the last, lies against a guard page.
 void Call::layOut(Image& image) {
   if (image.size.width < 1) {
@@ -156,13 +211,13 @@ void Call::layOut(Image& image) {
   const int64_t pixelBytes = elementBytes * (image.layout.planar ? 1 : image.layout.elements);
   // Of a channel of interest the call may touch its own elements only; an alpha channel belongs to the last pixel.
   const int64_t lastBytes = image.layout.channels == 1 ? elementBytes : pixelBytes;
-  const int64_t width = margin.left + image.size.width + margin.right;
   const int64_t height = margin.top + image.size.height + margin.bottom;
-  image.step = stepFor(image, scenario.rows, width * pixelBytes, image.parameter);
-  const int64_t extent = (height - 1) * image.step + (width - 1) * pixelBytes + lastBytes;
-  const int64_t first = margin.top * int64_t{image.step} + margin.left * pixelBytes;
   const int planeCount = image.layout.planar ? image.layout.elements : 1;
   for (int n = 0; n < planeCount; ++n) {
+    const int64_t width = margin.left + image.widthOf(static_cast<size_t>(n)) + margin.right;
+    image.step = stepFor(image, scenario.rows, width * pixelBytes, image.parameter);
+    const int64_t extent = (height - 1) * image.step + (width - 1) * pixelBytes + lastBytes;
+    const int64_t first = margin.top * int64_t{image.step} + margin.left * pixelBytes;
     GuardedMemory memory(static_cast<size_t>(extent));
     std::byte* const begin = scenario.edge == Edge::front ? memory.begin() : memory.end() - extent;
     image.planes.push_back({std::move(memory), begin + first, {}, {}});
@@ -177,9 +232,13 @@ void Call::fill(Image& image) {
   const View view = image.view(&Image::Plane::before);
   const Margin& margin = image.margin;
   const bool isRead = !image.written || function.inPlace;  // what is only written may hold anything
-  for (int y = -margin.top; isRead && y < image.size.height + margin.bottom; ++y) {
+  for (size_t n = 0; n < image.contents.size(); ++n) {
+    std::copy(image.contents[n].begin(), image.contents[n].end(), image.planes[n].before.begin());
+  }
+  for (int y = -margin.top; isRead && image.contents.empty() && y < image.size.height + margin.bottom; ++y) {
     for (int x = -margin.left; x < image.size.width + margin.right; ++x) {
       for (int channel = 0; channel < view.channels; ++channel) {
+        if (image.isArray() && x >= image.widthOf(static_cast<size_t>(channel))) continue;
         fillRead(image.element, view.at(x, y, channel));
       }
     }
@@ -225,6 +284,18 @@ View Call::destination() {
   throw std::logic_error(function.name + " has no destination");
 }
 
+const std::byte* Call::constant(const std::string& parameter, int channel) {
+  const int index = function.indexOf(parameter);
+  const Parameter& described = function.parameters.at(static_cast<size_t>(index));
+  if (described.role != Role::array) return arguments[static_cast<size_t>(index)].bytes;
+  return image(parameter).view(&Image::Plane::before).at(channel, 0);
+}
+
+View Call::array(const std::string& parameter) {
+  Image& found = image(parameter);
+  return found.view(found.written ? &Image::Plane::expected : &Image::Plane::before);
+}
+
 // ---- Calling and comparing ----
 
 VemiStatus Call::invoke() {
@@ -234,17 +305,34 @@ VemiStatus Call::invoke() {
   return status;
 }
 
-/// Expects the NaN that is there wherever any NaN is expected.
-void Call::acceptNaNs(Image& image) {
+void Call::restore() {
+  arguments = goodArguments_;
+  for (Image& image : images) {
+    for (size_t n = 0; n < image.planes.size(); ++n) {
+      Image::Plane& plane = image.planes[n];
+      if (n < image.pointers.size()) image.pointers[n] = plane.first;
+      if (image.isArray()) {  // images are never spoiled
+        plane.expected = plane.before;
+        std::copy(plane.before.begin(), plane.before.end(), plane.memory.begin());
+      }
+    }
+  }
+}
+
+/// Expects the float that is there wherever it will do.
+void Call::acceptFloats(Image& image) {
   const View view = image.view(&Image::Plane::expected);
-  const int parts = partsIn(view.element);
+  const Element part = partOf(view.element);
+  const int parts = partsIn(view.element), bytes = bytesOf(part);
   for (int y = 0; y < image.size.height; ++y) {
-    for (int x = 0; x < image.size.width; ++x) {
-      for (int n = 0; n < view.channels * parts; ++n) {
-        Image::Plane& plane = image.planes[image.layout.planar ? static_cast<size_t>(n / parts) : 0];
-        std::byte* const expected = view.at(x, y, n / parts) + n % parts * 4;
+    for (int n = 0; n < view.channels * parts; ++n) {
+      Image::Plane& plane = image.planes[image.layout.planar ? static_cast<size_t>(n / parts) : 0];
+      for (int x = 0; x < image.widthOf(image.layout.planar ? static_cast<size_t>(n / parts) : 0); ++x) {
+        std::byte* const expected = view.at(x, y, n / parts) + n % parts * bytes;
         const std::byte* const actual = plane.memory.begin() + (expected - plane.expected.data());
-        if (std::isnan(load<float>(expected)) && std::isnan(load<float>(actual))) std::memcpy(expected, actual, 4);
+        const bool accepted = part == Element::f32 ? isAccepted<float>(expected, actual, anyNaN, tolerance)
+                                                   : isAccepted<double>(expected, actual, anyNaN, tolerance);
+        if (accepted) std::copy(actual, actual + bytes, expected);
       }
     }
   }
@@ -259,7 +347,9 @@ std::string Call::difference() {
         return std::equal(plane.expected.begin(), plane.expected.end(), plane.memory.begin());
       };
       if (isEqual()) continue;
-      if (anyNaN && image.written && partOf(image.element) == Element::f32) acceptNaNs(image);
+      const Element part = partOf(image.element);
+      const bool isFloat = part == Element::f32 || part == Element::f64;
+      if ((anyNaN || tolerance > 0) && image.written && isFloat) acceptFloats(image);
       if (isEqual()) continue;
       const auto at = std::mismatch(plane.expected.begin(), plane.expected.end(), plane.memory.begin()).first -
                       plane.expected.begin();

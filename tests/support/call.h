@@ -66,6 +66,10 @@ struct Image {
   VemiSize size = {0, 0};
   Margin margin;
   int step = 0;
+  /// Of an array: its length; of an array of arrays: the length of each.
+  std::vector<int> lengths;
+  /// What the family's shape puts into the arrays, one after the other; filled at random where it is empty.
+  std::vector<std::vector<std::byte>> contents;
 
   struct Plane {
     GuardedMemory memory;
@@ -75,6 +79,9 @@ struct Image {
   std::vector<Plane> planes;
   std::vector<void*> pointers;  // the array of plane pointers
 
+  bool isArray() const { return !lengths.empty(); }
+  /// Elements in a row of a plane.
+  int widthOf(size_t plane) const { return isArray() ? lengths[plane] : size.width; }
   View view(std::vector<std::byte> Plane::*bytes);
 };
 
@@ -99,14 +106,40 @@ class Call {
     undecided_.erase(parameter);
   }
   Image& image(const std::string& parameter);
+  /// What a pointer without a step points at: elements of the prototype's type, or anything where that is no element.
+  template <class T>
+  void setArray(const std::string& parameter, const std::vector<T>& elements) {
+    setArrays(parameter, std::vector{elements});
+  }
+  /// The same for an array of pointers, such as one of tables for each channel.
+  template <class T>
+  void setArrays(const std::string& parameter, const std::vector<std::vector<T>>& arrays) {
+    std::vector<int> lengths;
+    std::vector<std::vector<std::byte>> contents;
+    const int elementBytes = bytesOf(arrayOf(parameter).element);
+    for (const std::vector<T>& array : arrays) {
+      lengths.push_back(static_cast<int>(array.size() * sizeof(T)) / elementBytes);
+      contents.emplace_back(array.size() * sizeof(T));
+      std::memcpy(contents.back().data(), array.data(), contents.back().size());
+    }
+    setLengths(parameter, lengths);
+    arrayOf(parameter).contents = std::move(contents);
+  }
+  /// The same with random elements, or for results.
+  void setLengths(const std::string& parameter, const std::vector<int>& lengths);
+  /// Gives a number to an argument by value, or to an element of an array, in its own type.
+  void setNumber(const std::string& parameter, double number, int index = 0);
 
   // For a reference. An image that is source and destination counts as the last source.
   View source(int index = 0);
   View destination();
   /// By the mask; true where there is none.
   bool isSelected(int x, int y) const { return !mask_ || *mask_->at(x, y) != std::byte{0}; }
-  /// Of the argument `value`.
-  const std::byte* constant(int channel = 0) const { return constants_ + channel * constantBytes_; }
+  /// An argument by value, or an element of an array.
+  const std::byte* constant(const std::string& parameter, int channel = 0);
+  const std::byte* constant(int channel = 0) const { return constants_ + channel * constantBytes_; }  // `value`
+  /// The n-th of an array of arrays; a result that is written is reached through its expected bytes.
+  View array(const std::string& parameter);
   /// Calls f(x, y, channel) for each element that the destination is to receive.
   template <class F>
   void forEachElement(F f) {
@@ -121,8 +154,13 @@ class Call {
   VemiStatus expectedStatus = vemiOk;
   /// Set by a reference that computes with floats: any NaN is as good as any other.
   bool anyNaN = false;
+  /// Set by a reference whose floats need not be met to the bit: how far off they may be, relative to the larger of 1
+  /// and the expected value.
+  double tolerance = 0;
 
   VemiStatus invoke();
+  /// Makes all arguments good again, and lays the memory out as it was before the call.
+  void restore();
   /// Where memory differs from what is expected, over all bytes of all images; empty where it does not.
   std::string difference();
   std::string text() const;
@@ -133,8 +171,10 @@ class Call {
   void layOut(Image& image);
   void fill(Image& image);
   void pass(Image& image);
-  void acceptNaNs(Image& image);
+  Image& arrayOf(const std::string& parameter);
+  void acceptFloats(Image& image);
 
+  std::vector<Slot> goodArguments_;
   std::set<std::string> undecided_;  // parameters that the family's shape must still set
   std::optional<View> mask_;
   const std::byte* constants_ = nullptr;

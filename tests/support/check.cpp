@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <iterator>
 #include <sstream>
+#include <stdexcept>
 
 #include "support/families.h"
 
@@ -74,11 +75,13 @@ struct Fault {
   std::string text, stage;
   VemiStatus status;
   std::function<void(Call&)> commit;
+  int channel = 0;  // of faults at the stage `channels`
 };
 
-std::vector<std::string> stagesOf(const Family& family) {
+bool hasStage(const Family& family, const std::string& stage) {
   std::istringstream words(family.order);
-  return {std::istream_iterator<std::string>(words), {}};
+  using Words = std::istream_iterator<std::string>;
+  return std::find(Words(words), Words(), stage) != Words();
 }
 
 template <class T>
@@ -87,26 +90,30 @@ Fault badValue(const std::string& parameter, const std::string& text, const std:
   return {parameter + " = " + text, stage, status, [=](Call& call) { call.set(parameter, value); }};
 }
 
-void addNullFaults(const Call& call, std::vector<Fault>& faults) {
+void addNullFaults(const Call& call, const Family& family, std::vector<Fault>& faults) {
+  const bool byChannel = hasStage(family, "channels");
   for (size_t n = 0; n < call.images.size(); ++n) {
     const Image& image = call.images[n];
     const std::string name = call.function.parameters[static_cast<size_t>(image.parameter)].name;
-    faults.push_back(badValue<void*>(name, "null", "null", vemiErrNullPtr, nullptr));
+    const std::string stage = image.isArray() && hasStage(family, "arrays") ? "arrays" : "null";
+    faults.push_back(badValue<void*>(name, "null", stage, vemiErrNullPtr, nullptr));
     for (size_t plane = 0; plane < image.pointers.size(); ++plane) {
-      faults.push_back({name + "[" + std::to_string(plane) + "] = null", "null", vemiErrNullPtr,
-                        [=](Call& spoiled) { spoiled.images[n].pointers[plane] = nullptr; }});
+      faults.push_back({name + "[" + std::to_string(plane) + "] = null",
+                        byChannel && image.isArray() ? "channels" : stage, vemiErrNullPtr,
+                        [=](Call& spoiled) { spoiled.images[n].pointers[plane] = nullptr; }, static_cast<int>(plane)});
     }
   }
 }
 
-void addIntegerFaults(const Call& call, bool widthFirst, std::vector<Fault>& faults) {
+void addIntegerFaults(const Call& call, const Family& family, std::vector<Fault>& faults) {
+  const char* const widthStage = hasStage(family, "width") ? "width" : "size";
   for (const Parameter& parameter : call.function.parameters) {
     const std::string& name = parameter.name;
     for (const int bad : {0, -1, INT_MIN}) {
       const std::string text = std::to_string(bad);
       if (parameter.role == Role::step) faults.push_back(badValue(name, text, "step", vemiErrStep, bad));
       if (parameter.role != Role::size) continue;
-      faults.push_back({name + ".width = " + text, widthFirst ? "width" : "size", vemiErrSize, [=](Call& spoiled) {
+      faults.push_back({name + ".width = " + text, widthStage, vemiErrSize, [=](Call& spoiled) {
                           spoiled.set(name, VemiSize{bad, spoiled.get<VemiSize>(name).height});
                         }});
       faults.push_back({name + ".height = " + text, "size", vemiErrSize, [=](Call& spoiled) {
@@ -116,19 +123,39 @@ void addIntegerFaults(const Call& call, bool widthFirst, std::vector<Fault>& fau
   }
 }
 
-std::vector<Fault> faultsOf(const Call& call, const Family& family) {
-  const std::vector<std::string> stages = stagesOf(family);
-  std::vector<Fault> all;
-  addNullFaults(call, all);
-  addIntegerFaults(call, std::find(stages.begin(), stages.end(), "width") != stages.end(), all);
+void addOwnFaults(Call& call, const Family& family, std::vector<Fault>& faults) {
   for (const OwnFault& own : family.faults) {
-    all.push_back(badValue(own.argument, std::to_string(own.value), own.stage, own.status, own.value));
-  }
-  std::vector<Fault> ordered;  // those of a stage that the family does not have are left out
-  for (const std::string& stage : stages) {
-    for (const Fault& fault : all) {
-      if (fault.stage == stage) ordered.push_back(fault);
+    if (own.commit != nullptr) {
+      const bool applies = own.commit(call);
+      call.restore();
+      if (applies) faults.push_back({own.argument, own.stage, own.status, own.commit});
+      continue;
     }
+    const int index = call.function.indexOf(own.argument);
+    if (index < 0) throw std::logic_error(call.function.name + " has no argument " + own.argument);
+    const bool isArray = call.function.parameters[static_cast<size_t>(index)].role == Role::array;
+    const int count = isArray ? call.image(own.argument).size.width : 1;
+    for (int n = 0; n < count; ++n) {
+      std::string text = own.argument;
+      if (isArray) text.append("[").append(std::to_string(n)).append("]");
+      text.append(" = ").append(std::to_string(own.value));
+      faults.push_back(
+          {text, own.stage, own.status, [=](Call& spoiled) { spoiled.setNumber(own.argument, own.value, n); }, n});
+    }
+  }
+}
+
+/// In the order of the family's stages; those of a stage that it does not have are left out.
+std::vector<Fault> faultsOf(Call& call, const Family& family) {
+  std::vector<Fault> all, ordered;
+  addNullFaults(call, family, all);
+  addIntegerFaults(call, family, all);
+  addOwnFaults(call, family, all);
+  std::stable_sort(all.begin(), all.end(), [](const Fault& a, const Fault& b) { return a.channel < b.channel; });
+  std::istringstream stages(family.order);
+  for (std::string stage; stages >> stage;) {
+    std::copy_if(all.begin(), all.end(), std::back_inserter(ordered),
+                 [&](const Fault& fault) { return fault.stage == stage; });
   }
   return ordered;
 }
@@ -160,18 +187,13 @@ void expectDefinition(const std::vector<const Export*>& members, const Reference
 void expectStatusOrder(const Export& function) {
   Call call(function, {});
   const std::vector<Fault> faults = faultsOf(call, familyOf(function));
-  const std::vector<Slot> goodArguments = call.arguments;
   for (size_t first = 0; first < faults.size(); ++first) {
     for (size_t second = first; second < faults.size(); ++second) {
       faults[first].commit(call);
       faults[second].commit(call);
       const VemiStatus status = call.invoke();
-      call.arguments = goodArguments;
-      for (Image& image : call.images) {
-        for (size_t plane = 0; plane < image.pointers.size(); ++plane)
-          image.pointers[plane] = image.planes[plane].first;
-      }
       const std::string difference = call.difference();
+      call.restore();
       if (status == faults[first].status && difference.empty()) continue;
       ADD_FAILURE() << function.name << " with " << faults[first].text << " and " << faults[second].text << ": status "
                     << status << ", not " << faults[first].status << "; " << difference;

@@ -104,6 +104,17 @@ void storeSaturated(Element element, std::byte* place, int64_t value) {
   });
 }
 
+void storeNumber(Element element, std::byte* place, double value) {
+  withType(element, [&](auto zero) {
+    using T = decltype(zero);
+    if constexpr (std::is_integral_v<T>) {
+      storeSaturated(element, place, std::llrint(value));
+    } else {
+      store(place, static_cast<T>(value));
+    }
+  });
+}
+
 uint64_t Random::next() {  // splitmix64
   uint64_t z = state_ += 0x9e3779b97f4a7c15u;
   z = (z ^ (z >> 30)) * 0xbf58476d1ce4e5b9u;

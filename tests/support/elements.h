@@ -51,6 +51,9 @@ int64_t loadInteger(Element element, const std::byte* place);
 /// Clamps the value to the element's range.
 void storeSaturated(Element element, std::byte* place, int64_t value);
 
+/// Any real element; an integer is rounded and clamped to its range.
+void storeNumber(Element element, std::byte* place, double value);
+
 /// A small generator of our own: the same numbers on every machine.
 class Random {
  public:

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cctype>
+#include <cstdlib>
 #include <sstream>
 #include <stdexcept>
 #include <type_traits>
@@ -74,15 +75,22 @@ Entry entryOf(const char* name, const char* prototype, R (*function)(A...)) {
 
 // ---- From the prototype's text: parameter names, and the roles that they settle ----
 
-/// The last word of each parameter, without the bounds of an array.
-std::vector<std::string> namesOf(const std::string& prototype) {
-  std::vector<std::string> names;
+struct Spelling {
+  std::string name;
+  int bound = 0;
+};
+
+/// The last word of each parameter, and the bound of an array.
+std::vector<Spelling> spellingsOf(const std::string& prototype) {
+  std::vector<Spelling> spellings;
   std::istringstream parameters(prototype == "void" ? "" : prototype);
   for (std::string parameter; std::getline(parameters, parameter, ',');) {
-    parameter.erase(std::min(parameter.find('['), parameter.size()));
-    names.push_back(parameter.substr(parameter.find_last_of(" *") + 1));
+    const size_t bracket = std::min(parameter.find('['), parameter.size());
+    const int bound = std::atoi(parameter.substr(std::min(bracket + 1, parameter.size())).c_str());
+    parameter.erase(bracket);
+    spellings.push_back({parameter.substr(parameter.find_last_of(" *") + 1), bound});
   }
-  return names;
+  return spellings;
 }
 
 bool endsWith(const std::string& text, const std::string& end) {
@@ -158,11 +166,14 @@ void parseName(Export& function) {
 Export exportOf(const Entry& entry) {
   Export described;
   entry.describe(described);
-  const std::vector<std::string> names = namesOf(entry.prototype);
-  if (names.size() != described.parameters.size()) {
+  const std::vector<Spelling> spellings = spellingsOf(entry.prototype);
+  if (spellings.size() != described.parameters.size()) {
     throw std::logic_error(std::string("exports.inc: the parameters of ") + entry.name + " are not those of its type");
   }
-  for (size_t n = 0; n < names.size(); ++n) described.parameters[n].name = names[n];
+  for (size_t n = 0; n < spellings.size(); ++n) {
+    described.parameters[n].name = spellings[n].name;
+    described.parameters[n].bound = spellings[n].bound;
+  }
   described.name = entry.name;
   described.function = entry.function;
   settleRoles(described);

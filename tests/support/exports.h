@@ -49,7 +49,8 @@ struct Parameter {
   Role role = Role::other;
   Element element = Element::none;  // of the value, or of what is pointed at
   bool isConst = false;             // what is pointed at
-  bool isPlanes = false;
+  bool isPlanes = false;            // an array of pointers
+  int bound = 0;                    // of an array, where the prototype says it
 };
 
 using AnyFunction = void (*)();

@@ -9,18 +9,23 @@
 
 namespace vemi::test {
 
-/// A bad value of one of the family's own integer arguments.
+/// What a family refuses beyond null pointers, sizes and steps.
 struct OwnFault {
-  const char* argument;
-  int value;
+  const char* argument;  // where it is an array, each of its elements is spoiled by itself
+  double value;
   const char* stage;  // at which it is found: one of the words in Family::order
   VemiStatus status;
+  /// Does what a bad number cannot say, in place of it; false where the fault does not apply to the function.
+  bool (*commit)(Call&) = nullptr;
 };
 
 struct Family {
   const char* operations;  // names up to the type, separated by blanks
   const char* members;     // regular expression over type and descriptor
-  /// The stages of the argument checks, first to last: null, size, step, own; width where it is tested ahead of height.
+  /// The stages of the argument checks, first to last. Null pointers are found at `null`, those of arrays without a
+  /// step at `arrays` where there is such a stage, sizes at `size` (a width at `width`), steps at `step`, the family's
+  /// own faults where they say. At `channels`, one channel after the other is tested: first its pointers in arrays of
+  /// pointers, then its elements in other arrays.
   const char* order;
   /// Sets the integers that are the family's own, and the sizes and margins of images that are not the region.
   void (*shape)(Call&) = nullptr;
