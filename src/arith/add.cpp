@@ -1,8 +1,8 @@
 // vemiAdd, vemiAddC: destination = (source 1 + source 2) / 2^scaleFactor for integers, the plain sum for floats.
 // Checks: null, size, step; the C3 and C4 forms of integer vemiAdd look at the width first.
 
+#include "arith/add_sub.h"
 #include "arith/scaled_arithmetic.h"
-#include "arith/sum.h"
 #include "core/exports.h"
 #include "vemi/arith.h"
 

@@ -1,7 +1,7 @@
 // vemiAdd, vemiSub, vemiAddC, vemiSubC of complex elements: the scaled or plain sums and differences of the parts.
 
+#include "arith/add_sub.h"
 #include "arith/complex_arithmetic.h"
-#include "arith/sum.h"
 #include "core/exports.h"
 #include "vemi/arith.h"
 

@@ -146,8 +146,7 @@ VemiStatus quotientFloat(Image<const Vemi32f> src1, Image<const Vemi32f> src2, I
   if (const VemiStatus bad = firstOf(checkNull(src1, src2, dst), checkSize(roiSize), checkStep(src1, src2, dst))) {
     return bad;
   }
-  // A division is so short that the test's notes are to be far from each other.
-  return divideRegion<L>(roiSize, eachVector<8>(PlainQuotient()), dst, src2, src1);
+  return divideRegion<L>(roiSize, eachVector(PlainQuotient()), dst, src2, src1);
 }
 
 /// 2^-scaleFactor / value: for 8u by 1 / value to six decimals, half up; for 16s by a division.

@@ -57,7 +57,7 @@ ByteTable lnTable(int scaleFactor) {
 }
 
 VemiStatus lnStatus8u(const Vemi8u* row, ptrdiff_t len) {
-  return anyElement<Alpha::none>(len, IsZero(), row) ? vemiWarnLnZero : vemiOk;
+  return anyElement(len, IsZero(), row) ? vemiWarnLnZero : vemiOk;
 }
 
 struct IsNotPositive {
@@ -69,7 +69,7 @@ struct IsNotPositive {
 
 /// The first element that has no logarithm decides.
 VemiStatus lnStatus16s(const Vemi16s* row, ptrdiff_t len) {
-  if (!anyElement<Alpha::none>(len, IsNotPositive(), row)) return vemiOk;
+  if (!anyElement(len, IsNotPositive(), row)) return vemiOk;
   Vemi16s first;
   do std::memcpy(&first, row++, sizeof first);
   while (first > 0);

@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <bit>
 
+#include "core/any_element.h"
 #include "core/byte_table.h"
 #include "core/checks.h"
 #include "core/exports.h"
@@ -63,27 +64,10 @@ struct Root {
   }
 };
 
-/// A root that takes note of the worked elements below zero. They are rare: a branch that is not taken costs less than
-/// to collect them.
-template <class L, class Op>
-struct Watched {
-  Op root;
-  bool* negative;
-
-  template <class D, class V>
-  HWY_INLINE V operator()(D d, V v) const {
-    auto isNegative = hn::Lt(v, hn::Zero(d));
-    if constexpr (L::keepsAlpha) isNegative = hn::And(isNegative, colourLanes(d));
-    if (HWY_UNLIKELY(!hn::AllFalse(d, isNegative))) *negative = true;
-    return root(d, v);
-  }
-};
-
 template <class L, class T, class Op>
-VemiStatus watchedRoots(const Op& root, Image<const T> src, Image<T> dst, VemiSize roiSize) {
-  bool negative = false;
-  const auto op = eachVector(Watched<L, Op>{root, &negative});
-  mapRegion<L, CallerRows>(roiSize, false, op, wholeElements(dst), wholeElements(src));
+VemiStatus testedRoots(const Op& root, Image<const T> src, Image<T> dst, VemiSize roiSize) {
+  const bool negative =
+      mapRegionTested<L>(roiSize, eachVector(root), IsNegative(), wholeElements(dst), wholeElements(src));
   return negative ? vemiWarnSqrtNegative : vemiOk;
 }
 
@@ -91,7 +75,7 @@ template <class T, class L>
 VemiStatus root16(Image<const T> src, Image<T> dst, VemiSize roiSize, int scaleFactor) {
   if (const VemiStatus bad = firstOf(checkNull(src, dst), checkSize(roiSize), checkStep(src, dst))) return bad;
   const ScaledRoot<T> root(scaleFactor);
-  if constexpr (std::is_signed_v<T>) return watchedRoots<L>(root, src, dst, roiSize);
+  if constexpr (std::is_signed_v<T>) return testedRoots<L>(root, src, dst, roiSize);
   mapRegion<L, CallerRows>(roiSize, false, eachVector(root), wholeElements(dst), wholeElements(src));
   return vemiOk;
 }
@@ -107,7 +91,7 @@ VemiStatus root8u(Image<const Vemi8u> src, Image<Vemi8u> dst, VemiSize roiSize, 
 template <class L>
 VemiStatus root32f(Image<const Vemi32f> src, Image<Vemi32f> dst, VemiSize roiSize) {
   if (const VemiStatus bad = firstOf(checkNull(src, dst), checkSize(roiSize), checkStep(src, dst))) return bad;
-  return watchedRoots<L>(Root(), src, dst, roiSize);
+  return testedRoots<L>(Root(), src, dst, roiSize);
 }
 
 }  // namespace

@@ -2,8 +2,8 @@
 // integers, the plain difference for floats. A difference of 8u is limited to zero before it is scaled.
 // Checks: null, size, step; the C3 and C4 forms of integer vemiSub look at the width first.
 
+#include "arith/add_sub.h"
 #include "arith/scaled_arithmetic.h"
-#include "arith/sum.h"
 #include "core/exports.h"
 #include "vemi/arith.h"
 

@@ -1,26 +1,20 @@
 // Looking through a row for something worth a warning.
 #pragma once
 
-#include "core/map_row.h"
+#include "core/blocks.h"
 
 namespace vemi {
 
-/// True where test(d, lanes), a mask, holds for one of `count` elements; with a kept alpha, for one that is worked on.
-template <Alpha alpha, class T, class Test>
+/// True where test(d, lanes), a mask, holds for one of `count` elements.
+template <class T, class Test>
 HWY_NOINLINE bool anyElement(ptrdiff_t count, const Test& test, const T* src) {
   const Lanes<T> d;
   constexpr ptrdiff_t N = laneCount<T>;
   constexpr int vectors = 4;
   auto found = hn::Zero(d);
   const auto kernel = [&](const T* in) HWY_ATTR {
-    unrolled<vectors>([&](auto k) HWY_ATTR {
-      const auto here = hn::VecFromMask(d, test(d, hn::LoadU(d, in + k * N)));
-      if constexpr (alpha == Alpha::kept) {
-        found = hn::Or(found, hn::IfThenElseZero(colourLanes(d, k * N % 4), here));
-      } else {
-        found = hn::Or(found, here);
-      }
-    });
+    unrolled<vectors>([&](auto k)
+                          HWY_ATTR { found = hn::Or(found, hn::VecFromMask(d, test(d, hn::LoadU(d, in + k * N)))); });
   };
   forBlocks<vectors * N>(count, kernel, Strand<const T>{src});
   return !hn::AllFalse(d, hn::MaskFromVec(found));

@@ -55,21 +55,21 @@ void mapRegion(VemiSize roiSize, bool small, const IndexedOp& op, Image<T> dst, 
 
 namespace detail {
 
-/// An operation that notes where test(d, v...), a mask, holds for an element that is worked on. Each vector of a block
-/// has a place of its own in memory, so that none waits for another.
-template <class L, class T, class IndexedOp, class Test>
+/// An operation that notes whether test(d, v...), a mask, holds for an element that is worked on. That is rare: a
+/// branch that is not taken costs less than to collect the masks.
+template <class L, class IndexedOp, class Test>
 struct Tested {
   static constexpr int vectors = IndexedOp::vectors;
   static constexpr int period = L::keepsAlpha ? 4 : IndexedOp::period;
   IndexedOp op;
   Test test;
-  Vectors<hn::Vec<Lanes<T>>, vectors>& found;
+  bool* any;
 
   template <class D, class K, class... V>
   HWY_INLINE auto operator()(D d, K k, V... v) const {
-    auto here = hn::VecFromMask(d, test(d, v...));
-    if constexpr (L::keepsAlpha) here = hn::IfThenElseZero(colourLanes(d, k * laneCount<T> % 4), here);
-    found.v[k % vectors] = hn::Or(found.v[k % vectors], here);
+    auto here = test(d, v...);
+    if constexpr (L::keepsAlpha) here = hn::And(here, colourLanes(d, k * laneCount<hn::TFromD<D>> % 4));
+    if (HWY_UNLIKELY(!hn::AllFalse(d, here))) *any = true;
     return op(d, k, v...);
   }
 };
@@ -80,13 +80,9 @@ struct Tested {
 /// worked on.
 template <class L, class T, class IndexedOp, class Test, class... Src>
 bool mapRegionTested(VemiSize roiSize, const IndexedOp& op, const Test& test, Image<T> dst, Image<const Src>... src) {
-  const Lanes<T> d;
-  Vectors<hn::Vec<Lanes<T>>, IndexedOp::vectors> found;
-  unrolled<IndexedOp::vectors>([&](auto k) HWY_ATTR { found.v[k] = hn::Zero(d); });
-  const detail::Tested<L, T, IndexedOp, Test> tested = {op, test, found};
-  mapRegion<L, CallerRows>(roiSize, false, tested, dst, src...);
   bool any = false;
-  unrolled<IndexedOp::vectors>([&](auto k) HWY_ATTR { any |= !hn::AllFalse(d, hn::MaskFromVec(found.v[k])); });
+  const detail::Tested<L, IndexedOp, Test> tested = {op, test, &any};
+  mapRegion<L, CallerRows>(roiSize, false, tested, dst, src...);
   return any;
 }
 
@@ -111,7 +107,8 @@ struct WatchedRows {
 }  // namespace detail
 
 /// For members whose warning depends on whole rows: watch(row of each source, elements) looks at a row before it is
-/// written and gives its status. The first one that is not vemiOk is returned; all rows are computed.
+/// written and gives its status. The first one that is not vemiOk is returned; all rows are computed. Rows stay rows
+/// where they are contiguous too: which status comes first depends on where they end.
 template <class L, class T, class IndexedOp, class Watch, class... Src>
 VemiStatus mapRegionWatched(VemiSize roiSize, const IndexedOp& op, const Watch& watch, Image<T> dst,
                             Image<const Src>... src) {

@@ -100,7 +100,7 @@ struct IsNotAboveZero {
 /// start. In a chunk a number below zero goes before a zero.
 inline VemiStatus lnStatus(const Vemi32f* row, ptrdiff_t len) {
   const ptrdiff_t first = (len - 1) / 256 * 256;
-  const auto lastChunkHas = [=](auto test) { return anyElement<Alpha::none>(len - first, test, row + first); };
+  const auto lastChunkHas = [=](auto test) { return anyElement(len - first, test, row + first); };
   if (!lastChunkHas(IsNotAboveZero())) return vemiOk;
   return lastChunkHas(IsNegative()) ? vemiWarnLnNegative : vemiWarnLnZero;
 }
