@@ -62,5 +62,9 @@ Family unaryFamily();
 Family mulScaleFamily();
 Family unaryScalingFamily();
 Family alphaFamily();
+Family thresholdFamily();
+Family compareFamily();
+Family convertFamily();
+Family bitImageFamily();
 
 }  // namespace bench

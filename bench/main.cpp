@@ -42,6 +42,10 @@ constexpr FamilyTable families[] = {
     logicalFamily,
     shiftFamily,
     alphaFamily,
+    thresholdFamily,
+    compareFamily,
+    convertFamily,
+    bitImageFamily,
 };
 
 constexpr const char* usage =

@@ -24,5 +24,6 @@ void demoGain(const Demo& demo);
 void demoCurves(const Demo& demo);
 void demoBits(const Demo& demo);
 void demoAlpha(const Demo& demo);
+void demoThreshold(const Demo& demo);
 
 }  // namespace demo

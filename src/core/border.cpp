@@ -50,7 +50,7 @@ void repeatPixel(ptrdiff_t width, const T* pixel, T* dst) {
   if (L::keepsAlpha || width * L::elements > constant.vectors * laneCount<T>) return mapRow<L>(width, constant, dst);
   alignas(laneAlignment) T block[constant.vectors * laneCount<T>];
   unrolled<constant.vectors>(
-      [&](auto k) HWY_ATTR { hn::Store(constant.constants.v[k], Lanes<T>(), block + k * laneCount<T>); });
+      [&](auto k) HWY_ATTR { hn::Store(constant(Lanes<T>(), k), Lanes<T>(), block + k * laneCount<T>); });
   rowCopyBytes(block, dst, width * pixelBytes<T, L>);
 }
 

@@ -211,3 +211,90 @@
     return __VA_ARGS__(Planes<const T, planes>{pSrcDst, srcDstStep}, &value, Planes<T, planes>{pSrcDst, srcDstStep}, \
                        roiSize);                                                                                     \
   }
+
+// A source and a destination, or one image in place, and what a family takes behind the region: a list of parameters,
+// and the list in which they are handed on, both in parentheses.
+#define VEMI_LIST(...) __VA_ARGS__
+#define VEMI_SRC_DST_AND(name, T, parameters, arguments, ...)                                                 \
+  VemiStatus name(const T* pSrc, int srcStep, T* pDst, int dstStep, VemiSize roiSize, VEMI_LIST parameters) { \
+    return __VA_ARGS__(Image<const T>{pSrc, srcStep}, Image<T>{pDst, dstStep}, roiSize, VEMI_LIST arguments); \
+  }
+#define VEMI_SRCDST_AND(name, T, parameters, arguments, ...)                                        \
+  VemiStatus name(T* pSrcDst, int srcDstStep, VemiSize roiSize, VEMI_LIST parameters) {             \
+    return __VA_ARGS__(Image<const T>{pSrcDst, srcDstStep}, Image<T>{pSrcDst, srcDstStep}, roiSize, \
+                       VEMI_LIST arguments);                                                        \
+  }
+
+// Thresholds: a limit, a limit and a value, a band of two limits with their values; BY an operator.
+#define VEMI_SRC_DST_LIMIT(name, T, ...) VEMI_SRC_DST_AND(name, T, (T threshold), (&threshold), __VA_ARGS__)
+#define VEMI_SRC_DST_LIMITS(name, T, ...) VEMI_SRC_DST_AND(name, T, (const T* threshold), (threshold), __VA_ARGS__)
+#define VEMI_SRCDST_LIMIT(name, T, ...) VEMI_SRCDST_AND(name, T, (T threshold), (&threshold), __VA_ARGS__)
+#define VEMI_SRCDST_LIMITS(name, T, ...) VEMI_SRCDST_AND(name, T, (const T* threshold), (threshold), __VA_ARGS__)
+#define VEMI_SRC_DST_LIMIT_BY(name, T, ...) \
+  VEMI_SRC_DST_AND(name, T, (T threshold, vemiCmpOp cmpOp), (cmpOp, &threshold), __VA_ARGS__)
+#define VEMI_SRC_DST_LIMITS_BY(name, T, ...) \
+  VEMI_SRC_DST_AND(name, T, (const T* threshold, vemiCmpOp cmpOp), (cmpOp, threshold), __VA_ARGS__)
+#define VEMI_SRCDST_LIMIT_BY(name, T, ...) \
+  VEMI_SRCDST_AND(name, T, (T threshold, vemiCmpOp cmpOp), (cmpOp, &threshold), __VA_ARGS__)
+#define VEMI_SRCDST_LIMITS_BY(name, T, ...) \
+  VEMI_SRCDST_AND(name, T, (const T* threshold, vemiCmpOp cmpOp), (cmpOp, threshold), __VA_ARGS__)
+#define VEMI_SRC_DST_LIMIT_VALUE(name, T, ...) \
+  VEMI_SRC_DST_AND(name, T, (T threshold, T value), (&threshold, &value), __VA_ARGS__)
+#define VEMI_SRC_DST_LIMITS_VALUES(name, T, ...) \
+  VEMI_SRC_DST_AND(name, T, (const T* threshold, const T* value), (threshold, value), __VA_ARGS__)
+#define VEMI_SRCDST_LIMIT_VALUE(name, T, ...) \
+  VEMI_SRCDST_AND(name, T, (T threshold, T value), (&threshold, &value), __VA_ARGS__)
+#define VEMI_SRCDST_LIMITS_VALUES(name, T, ...) \
+  VEMI_SRCDST_AND(name, T, (const T* threshold, const T* value), (threshold, value), __VA_ARGS__)
+#define VEMI_SRC_DST_LIMIT_VALUE_BY(name, T, ...) \
+  VEMI_SRC_DST_AND(name, T, (T threshold, T value, vemiCmpOp cmpOp), (cmpOp, &threshold, &value), __VA_ARGS__)
+#define VEMI_SRC_DST_LIMITS_VALUES_BY(name, T, ...)                                                           \
+  VEMI_SRC_DST_AND(name, T, (const T* threshold, const T* value, vemiCmpOp cmpOp), (cmpOp, threshold, value), \
+                   __VA_ARGS__)
+#define VEMI_SRCDST_LIMIT_VALUE_BY(name, T, ...) \
+  VEMI_SRCDST_AND(name, T, (T threshold, T value, vemiCmpOp cmpOp), (cmpOp, &threshold, &value), __VA_ARGS__)
+#define VEMI_SRCDST_LIMITS_VALUES_BY(name, T, ...)                                                           \
+  VEMI_SRCDST_AND(name, T, (const T* threshold, const T* value, vemiCmpOp cmpOp), (cmpOp, threshold, value), \
+                  __VA_ARGS__)
+#define VEMI_SRC_DST_BAND(name, T, ...)                                           \
+  VEMI_SRC_DST_AND(name, T, (T thresholdLT, T valueLT, T thresholdGT, T valueGT), \
+                   (&thresholdLT, &valueLT, &thresholdGT, &valueGT), __VA_ARGS__)
+#define VEMI_SRC_DST_BANDS(name, T, ...)                                                                      \
+  VEMI_SRC_DST_AND(name, T, (const T* thresholdLT, const T* valueLT, const T* thresholdGT, const T* valueGT), \
+                   (thresholdLT, valueLT, thresholdGT, valueGT), __VA_ARGS__)
+#define VEMI_SRCDST_BAND(name, T, ...)                                           \
+  VEMI_SRCDST_AND(name, T, (T thresholdLT, T valueLT, T thresholdGT, T valueGT), \
+                  (&thresholdLT, &valueLT, &thresholdGT, &valueGT), __VA_ARGS__)
+#define VEMI_SRCDST_BANDS(name, T, ...)                                                                      \
+  VEMI_SRCDST_AND(name, T, (const T* thresholdLT, const T* valueLT, const T* thresholdGT, const T* valueGT), \
+                  (thresholdLT, valueLT, thresholdGT, valueGT), __VA_ARGS__)
+
+// A map of bytes out of two sources, or of a source and a constant, by an operator or a tolerance.
+#define VEMI_2SRC_MAP(name, T, By, ...)                                                                                \
+  VemiStatus name(const T* pSrc1, int src1Step, const T* pSrc2, int src2Step, Vemi8u* pDst, int dstStep,               \
+                  VemiSize roiSize, By by) {                                                                           \
+    return __VA_ARGS__(Image<const T>{pSrc1, src1Step}, Image<const T>{pSrc2, src2Step}, Image<Vemi8u>{pDst, dstStep}, \
+                       roiSize, by);                                                                                   \
+  }
+#define VEMI_SRC_VALUE_MAP(name, T, By, ...)                                                                 \
+  VemiStatus name(const T* pSrc, int srcStep, T value, Vemi8u* pDst, int dstStep, VemiSize roiSize, By by) { \
+    return __VA_ARGS__(Image<const T>{pSrc, srcStep}, &value, Image<Vemi8u>{pDst, dstStep}, roiSize, by);    \
+  }
+#define VEMI_SRC_VALUES_MAP(name, T, By, ...)                                                                       \
+  VemiStatus name(const T* pSrc, int srcStep, const T* value, Vemi8u* pDst, int dstStep, VemiSize roiSize, By by) { \
+    return __VA_ARGS__(Image<const T>{pSrc, srcStep}, value, Image<Vemi8u>{pDst, dstStep}, roiSize, by);            \
+  }
+
+// A source of one element type and a destination of another; with what a conversion is told besides.
+#define VEMI_CONVERSION(name, S, T, ...)                                                 \
+  VemiStatus name(const S* pSrc, int srcStep, T* pDst, int dstStep, VemiSize roiSize) {  \
+    return __VA_ARGS__(Image<const S>{pSrc, srcStep}, Image<T>{pDst, dstStep}, roiSize); \
+  }
+#define VEMI_CONVERSION_MODE(name, S, T, ...)                                                     \
+  VemiStatus name(const S* pSrc, int srcStep, T* pDst, int dstStep, VemiSize roiSize, int mode) { \
+    return __VA_ARGS__(Image<const S>{pSrc, srcStep}, Image<T>{pDst, dstStep}, roiSize, mode);    \
+  }
+#define VEMI_CONVERSION_RANGE(name, S, T, ...)                                                                      \
+  VemiStatus name(const S* pSrc, int srcStep, T* pDst, int dstStep, VemiSize roiSize, Vemi32f vMin, Vemi32f vMax) { \
+    return __VA_ARGS__(Image<const S>{pSrc, srcStep}, Image<T>{pDst, dstStep}, roiSize, vMin, vMax);                \
+  }

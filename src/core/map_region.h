@@ -21,7 +21,7 @@ HWY_NOINLINE void streamElements(ptrdiff_t count, const IndexedOp& indexedOp, T*
     mapElements<Alpha::none>(n, indexedOp, dst + i, src + i...);
   };
   const auto kernel = [&](T* out, const Src*... in) HWY_ATTR {
-    unrolled<vectors>([&](auto k) HWY_ATTR { hn::Stream(op(d, k, hn::LoadU(d, in + k * N)...), d, out + k * N); });
+    unrolled<vectors>([&](auto k) HWY_ATTR { hn::Stream(op(d, k, operandOf(d, in + k * N)...), d, out + k * N); });
   };
   forStreamedBlocks<vectors * N, IndexedOp::period>(count, plain, kernel, Strand<T>{dst}, Strand<const Src>{src}...);
 }

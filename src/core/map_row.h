@@ -1,12 +1,15 @@
 // Element-wise rows: destination = op(sources), with constants per channel where an operation has them.
 //
 // An operation is a function object on lanes, op(d, v...). The rows run an indexed one, op(d, k, v...), which is told
-// the vector's place in its block: eachVector(op) ignores it, withConstants(op, ...) finds its constants by it.
+// the vector's place in its block: eachVector(op) ignores it, withConstants(op, ...) finds its constants by it. Of a
+// source with elements of another type the operation is given their address instead of lanes.
 #pragma once
 
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
+#include <type_traits>
+#include <utility>
 
 #include "core/blocks.h"
 #include "core/lanes.h"
@@ -32,18 +35,21 @@ EachVector<Op, vectors> eachVector(Op op) {
   return {op};
 }
 
-/// The constants of a block's vectors stand behind the sources' lanes: op(d, v..., constants). Two vectors hold a whole
-/// number of pixels of one, two or four elements, three vectors one of three.
-template <int vectorsPerBlock, class T, class Op>
+/// The constants of a block's vectors stand behind the sources' lanes: op(d, v..., one vector of each set). Two vectors
+/// hold a whole number of pixels of one, two or four elements, three vectors one of three.
+template <int vectorsPerBlock, class T, int sets, class Op>
 struct WithConstants {
   static constexpr int vectors = vectorsPerBlock;
   static constexpr int period = vectors == 3 ? 3 : 4;
   Op op;
-  Vectors<hn::Vec<Lanes<T>>, vectors> constants;
+  Vectors<hn::Vec<Lanes<T>>, vectors> constants[sets];
 
   template <class D, class K, class... V>
   HWY_INLINE auto operator()(D d, K k, V... v) const {
-    return op(d, v..., constants.v[k % vectors]);
+    return [&]<int... set>(std::integer_sequence<int, set...>) HWY_ATTR {
+      return op(d, v..., constants[set].v[k % vectors]...);
+    }
+    (std::make_integer_sequence<int, sets>());
   }
 };
 
@@ -64,25 +70,28 @@ inline constexpr PixelPhase<pixelSize, bytes> pixelPhase;
 
 }  // namespace detail
 
+/// Vectors until pixels of this layout begin with a vector again.
+template <class L>
+inline constexpr int pixelVectors = L::elements == 3 ? 3 : 2;
+
 /// `value` holds L::channels constants, repeated here so that any block that begins with a pixel finds them in phase.
 /// An alpha that stays has zero.
-template <class L, class T, class Op>
-auto withConstants(Op op, const T* value) {
-  constexpr int vectors = L::elements == 3 ? 3 : 2;
+template <class L, class T>
+auto channelConstants(const T* value) {
+  constexpr int vectors = pixelVectors<L>;
   constexpr size_t pixelSize = L::elements * sizeof(T);
-  WithConstants<vectors, T, Op> bound = {op, {}};
+  Vectors<hn::Vec<Lanes<T>>, vectors> constants;
   if constexpr (!L::keepsAlpha && (pixelSize == 1 || pixelSize == 2 || pixelSize == 4 || pixelSize == 8)) {
     using Pixel = hwy::UnsignedFromSize<pixelSize>;
     Pixel pixel;
     std::memcpy(&pixel, value, pixelSize);
     const auto repeated = hn::BitCast(Lanes<T>(), hn::Set(Lanes<Pixel>(), pixel));
-    unrolled<vectors>([&](auto k) { bound.constants.v[k] = repeated; });
+    unrolled<vectors>([&](auto k) { constants.v[k] = repeated; });
   } else if constexpr (pixelSize > 16) {  // complex elements: a pixel does not repeat within blocks of 16 bytes
     alignas(laneAlignment) T element[vectors * laneCount<T> + 4] = {};
     std::memcpy(element, value, L::channels * sizeof(T));
     for (ptrdiff_t i = L::elements; i < vectors * laneCount<T>; ++i) element[i] = element[i - L::elements];
-    unrolled<vectors>([&](auto k)
-                          HWY_ATTR { bound.constants.v[k] = hn::Load(Lanes<T>(), element + k * laneCount<T>); });
+    unrolled<vectors>([&](auto k) HWY_ATTR { constants.v[k] = hn::Load(Lanes<T>(), element + k * laneCount<T>); });
   } else {
     const hn::Repartition<uint8_t, Lanes<T>> dBytes;
     constexpr ptrdiff_t vectorBytes = laneCount<uint8_t>;
@@ -92,10 +101,18 @@ auto withConstants(Op op, const T* value) {
     const auto pixels = hn::LoadDup128(dBytes, reinterpret_cast<const uint8_t*>(pixel));
     unrolled<vectors>([&](auto k) HWY_ATTR {
       const auto phase = hn::Load(dBytes, index + k * vectorBytes);
-      bound.constants.v[k] = hn::BitCast(Lanes<T>(), hn::TableLookupBytes(pixels, phase));
+      constants.v[k] = hn::BitCast(Lanes<T>(), hn::TableLookupBytes(pixels, phase));
     });
   }
-  return bound;
+  return constants;
+}
+
+/// op on a source's lanes and the constants of its channels, of which there are one set or several.
+template <class L, class Op, class T, class... More>
+auto withConstants(Op op, const T* value, const More*... more) {
+  static_assert((std::is_same_v<T, More> && ...));
+  constexpr int sets = 1 + sizeof...(More);
+  return WithConstants<pixelVectors<L>, T, sets, Op>{op, {channelConstants<L>(value), channelConstants<L>(more)...}};
 }
 
 /// The operation of a fill: nothing but the constants.
@@ -134,6 +151,16 @@ enum class Alpha { none, kept };
 template <class L>
 inline constexpr Alpha alphaOf = L::keepsAlpha ? Alpha::kept : Alpha::none;
 
+/// What an operation is given of a source.
+template <class D, class Src>
+HWY_INLINE auto operandOf(D d, const Src* in) {
+  if constexpr (std::is_same_v<hn::TFromD<D>, Src>) {
+    return hn::LoadU(d, in);
+  } else {
+    return in;
+  }
+}
+
 /// A row of `count` elements. Layouts differ in the operation's constants alone, or in an alpha channel that stays.
 template <Alpha alpha, class T, class IndexedOp, class... Src>
 HWY_NOINLINE void mapElements(ptrdiff_t count, const IndexedOp& indexedOp, T* dst, const Src*... src) {
@@ -145,14 +172,14 @@ HWY_NOINLINE void mapElements(ptrdiff_t count, const IndexedOp& indexedOp, T* ds
     const auto kernel = [&](T* out, const T* old, const Src*... in) HWY_ATTR {
       unrolled<vectors>([&](auto k) HWY_ATTR {
         const auto colour = colourLanes(d, k * N % 4);  // a vector may hold half a pixel of wide elements
-        const auto result = op(d, k, hn::LoadU(d, in + k * N)...);
+        const auto result = op(d, k, operandOf(d, in + k * N)...);
         hn::StoreU(hn::IfThenElse(colour, result, hn::LoadU(d, old + k * N)), d, out + k * N);
       });
     };
     forBlocks<vectors * N>(count, kernel, Strand<T>{dst}, Strand<const T>{dst}, Strand<const Src>{src}...);
   } else {
     const auto kernel = [&](T* out, const Src*... in) HWY_ATTR {
-      unrolled<vectors>([&](auto k) HWY_ATTR { hn::StoreU(op(d, k, hn::LoadU(d, in + k * N)...), d, out + k * N); });
+      unrolled<vectors>([&](auto k) HWY_ATTR { hn::StoreU(op(d, k, operandOf(d, in + k * N)...), d, out + k * N); });
     };
     forBlocks<vectors * N>(count, kernel, Strand<T>{dst}, Strand<const Src>{src}...);
   }

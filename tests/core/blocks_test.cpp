@@ -172,6 +172,24 @@ TEST(MapRow, ConstantsStayInPhaseWithTheChannels) {
   });
 }
 
+TEST(MapRow, SetsOfConstantsKeepTheirOrder) {
+  constexpr auto twice = [](auto, auto v, auto c0, auto c1) HWY_ATTR { return hn::AndNot(hn::AndNot(v, c0), c1); };
+  forLayouts<C1, C3, C4, AC4>(Elements(), [&](auto element, auto layout) {
+    using T = decltype(element);
+    using L = decltype(layout);
+    const GuardedRow<T> first(L::channels), second(L::channels);
+    const auto c0 = first.original(), c1 = second.original();
+    const auto op = withConstants<L>(twice, first.data(), second.data());
+    forRows(pixelsPerBlock<T, L>, [&](ptrdiff_t width, Place place) {
+      const GuardedRow<T> row(width * L::elements, place);
+      const auto before = row.original();
+      mapRow<L>(width, op, row.data(), row.data());
+      ASSERT_TRUE(row.holds(worked<L>(
+          before, [&](size_t i) { return andNot(andNot(before[i], c0[i % L::elements]), c1[i % L::elements]); })));
+    });
+  });
+}
+
 // A region whose traffic asks for streaming, with rows that begin anywhere. Threads must not show.
 TEST(MapRegion, AStreamedRegionEqualsItsRows) {
   constexpr VemiSize size = {2731, 3100};

@@ -87,7 +87,8 @@ Call::Call(const Export& called, const Scenario& how)
     : function(called), scenario(how), random(how.seed ^ hashOf(called.name)), arguments(called.parameters.size()) {
   if (function.call == nullptr) throw std::logic_error(function.name + " returns no status");
   for (size_t n = 0; n < function.parameters.size(); ++n) addArgument(function.parameters[n], static_cast<int>(n));
-  if (const Family& family = familyOf(function); family.shape != nullptr) family.shape(*this);
+  const Family& family = familyOf(function);
+  if (family.shape != nullptr) family.shape(*this);
   if (!undecided_.empty()) {
     throw std::logic_error(function.name + ": its family's shape must set " + *undecided_.begin());
   }
@@ -101,6 +102,8 @@ Call::Call(const Export& called, const Scenario& how)
     constants_ = constant("value");
     constantBytes_ = bytesOf(function.parameters[static_cast<size_t>(index)].element);
   }
+  if (family.retouch != nullptr) family.retouch(*this);
+  for (Image& each : images) settle(each);
   goodArguments_ = arguments;
 }
 
@@ -250,6 +253,9 @@ void Call::fill(Image& image) {
       *view.at(x, y) = static_cast<std::byte>(value);
     }
   }
+}
+
+void Call::settle(Image& image) {
   for (Image::Plane& plane : image.planes) {
     plane.expected = plane.before;
     std::memcpy(plane.memory.begin(), plane.before.data(), plane.before.size());
@@ -284,7 +290,7 @@ View Call::destination() {
   throw std::logic_error(function.name + " has no destination");
 }
 
-const std::byte* Call::constant(const std::string& parameter, int channel) {
+std::byte* Call::constant(const std::string& parameter, int channel) {
   const int index = function.indexOf(parameter);
   const Parameter& described = function.parameters.at(static_cast<size_t>(index));
   if (described.role != Role::array) return arguments[static_cast<size_t>(index)].bytes;

@@ -136,7 +136,7 @@ class Call {
   /// By the mask; true where there is none.
   bool isSelected(int x, int y) const { return !mask_ || *mask_->at(x, y) != std::byte{0}; }
   /// An argument by value, or an element of an array.
-  const std::byte* constant(const std::string& parameter, int channel = 0);
+  std::byte* constant(const std::string& parameter, int channel = 0);
   const std::byte* constant(int channel = 0) const { return constants_ + channel * constantBytes_; }  // `value`
   /// The n-th of an array of arrays; a result that is written is reached through its expected bytes.
   View array(const std::string& parameter);
@@ -170,6 +170,7 @@ class Call {
   void addArgument(const Parameter& parameter, int index);
   void layOut(Image& image);
   void fill(Image& image);
+  void settle(Image& image);
   void pass(Image& image);
   Image& arrayOf(const std::string& parameter);
   void acceptFloats(Image& image);

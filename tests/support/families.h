@@ -30,6 +30,9 @@ struct Family {
   /// Sets the integers that are the family's own, and the sizes and margins of images that are not the region.
   void (*shape)(Call&) = nullptr;
   std::vector<OwnFault> faults = {};
+  /// Changes what images, arrays and constants hold, where random contents would leave a case out. Views of sources and
+  /// arrays show what it may change.
+  void (*retouch)(Call&) = nullptr;
 };
 
 /// Throws where the table has no row for the function.

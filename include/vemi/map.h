@@ -1,0 +1,949 @@
+/**
+ * @file map.h
+ * Value mapping: other element types, thresholds and comparisons, lookup tables and transfer curves.
+ */
+#ifndef VEMI_MAP_H
+#define VEMI_MAP_H
+
+#include "vemi/status.h"
+#include "vemi/types.h"
+
+#ifdef __cplusplus
+extern "C" {
+#endif
+
+/* ---- Other element types ----------------------------------------------------------------------------------------- */
+
+/**
+ * @defgroup vemi_convert vemiConvert: the same values in another element type
+ *
+ *     pDst = pSrc, limited to the range of the destination's type
+ *
+ * The type in the name is the source's, then the destination's. All channels are treated alike; AC4 forms convert the
+ * first three and leave the destination's fourth as it is.
+ *
+ * **To a type that holds every value** (8u16u, 8u16s, 8u32s, 8u32f, 8s32s, 8s32f, 16u32s, 16u32f, 16s32f): the value,
+ * exactly.
+ *
+ * **From a wider integer** (16u8u, 16s8u, 32s8u, 32s8s): the value, or the limit on its side. So 300 becomes 255 in 8u
+ * and 127 in 8s, and -5 becomes 0 in 8u.
+ *
+ * **From 32f** (32f8u, 32f8s, 32f16u, 32f16s): the value is limited first, to 0..255, -128..127, 0..65535 or
+ * -32768..32767, and then made an integer by roundMode:
+ *
+ *                 32f8u                        32f8s
+ *                 2.5   3.5  -0.7   300.0      -2.5   -0.7    NaN
+ *     vemiRndNear   2     4     0     255        -2     -1    127
+ *     vemiRndZero   2     3     0     255        -2      0    127
+ *
+ * Infinities are limited like numbers; a NaN gives the largest value of the destination's type. The rounding mode of
+ * the calling thread has no influence and is the same after the call as before. The other controls of its
+ * floating-point unit stay in force: if exceptions are unmasked, an inexact conversion or a NaN raises its own, in
+ * alpha too.
+ *
+ * @param pSrc,srcStep   first pixel of the source, and the bytes between its rows
+ * @param pDst,dstStep   the same of the destination
+ * @param roiSize        size of the region in pixels
+ * @param roundMode      (from 32f alone) vemiRndNear: to the nearest integer, ties to the even one; any other number,
+ *                       vemiRndZero among them: the fraction is dropped
+ *
+ * **Overlap.** pDst does not overlap pSrc: the elements differ in size.
+ *
+ * **Statuses**, in the order of the tests: null, size, step (see status.h).
+ *
+ * **Threads.** All forms run in the calling thread.
+ *
+ *     vemiConvert_8u32f_C3R(photo, photoStep, work, workStep, size);
+ *     vemiMulC_32f_C3IR(gain, work, workStep, size);
+ *     vemiConvert_32f8u_C3R(work, workStep, photo, photoStep, size, vemiRndNear);
+ * @{
+ */
+
+VEMI_API VemiStatus vemiConvert_8u16u_C1R(const Vemi8u* pSrc, int srcStep, Vemi16u* pDst, int dstStep,
+                                          VemiSize roiSize);
+VEMI_API VemiStatus vemiConvert_8u16u_C3R(const Vemi8u* pSrc, int srcStep, Vemi16u* pDst, int dstStep,
+                                          VemiSize roiSize);
+VEMI_API VemiStatus vemiConvert_8u16u_C4R(const Vemi8u* pSrc, int srcStep, Vemi16u* pDst, int dstStep,
+                                          VemiSize roiSize);
+VEMI_API VemiStatus vemiConvert_8u16u_AC4R(const Vemi8u* pSrc, int srcStep, Vemi16u* pDst, int dstStep,
+                                           VemiSize roiSize);
+
+VEMI_API VemiStatus vemiConvert_8u16s_C1R(const Vemi8u* pSrc, int srcStep, Vemi16s* pDst, int dstStep,
+                                          VemiSize roiSize);
+VEMI_API VemiStatus vemiConvert_8u16s_C3R(const Vemi8u* pSrc, int srcStep, Vemi16s* pDst, int dstStep,
+                                          VemiSize roiSize);
+VEMI_API VemiStatus vemiConvert_8u16s_C4R(const Vemi8u* pSrc, int srcStep, Vemi16s* pDst, int dstStep,
+                                          VemiSize roiSize);
+VEMI_API VemiStatus vemiConvert_8u16s_AC4R(const Vemi8u* pSrc, int srcStep, Vemi16s* pDst, int dstStep,
+                                           VemiSize roiSize);
+
+VEMI_API VemiStatus vemiConvert_8u32s_C1R(const Vemi8u* pSrc, int srcStep, Vemi32s* pDst, int dstStep,
+                                          VemiSize roiSize);
+VEMI_API VemiStatus vemiConvert_8u32s_C3R(const Vemi8u* pSrc, int srcStep, Vemi32s* pDst, int dstStep,
+                                          VemiSize roiSize);
+VEMI_API VemiStatus vemiConvert_8u32s_C4R(const Vemi8u* pSrc, int srcStep, Vemi32s* pDst, int dstStep,
+                                          VemiSize roiSize);
+VEMI_API VemiStatus vemiConvert_8u32s_AC4R(const Vemi8u* pSrc, int srcStep, Vemi32s* pDst, int dstStep,
+                                           VemiSize roiSize);
+
+VEMI_API VemiStatus vemiConvert_8u32f_C1R(const Vemi8u* pSrc, int srcStep, Vemi32f* pDst, int dstStep,
+                                          VemiSize roiSize);
+VEMI_API VemiStatus vemiConvert_8u32f_C3R(const Vemi8u* pSrc, int srcStep, Vemi32f* pDst, int dstStep,
+                                          VemiSize roiSize);
+VEMI_API VemiStatus vemiConvert_8u32f_C4R(const Vemi8u* pSrc, int srcStep, Vemi32f* pDst, int dstStep,
+                                          VemiSize roiSize);
+VEMI_API VemiStatus vemiConvert_8u32f_AC4R(const Vemi8u* pSrc, int srcStep, Vemi32f* pDst, int dstStep,
+                                           VemiSize roiSize);
+
+VEMI_API VemiStatus vemiConvert_8s32s_C1R(const Vemi8s* pSrc, int srcStep, Vemi32s* pDst, int dstStep,
+                                          VemiSize roiSize);
+VEMI_API VemiStatus vemiConvert_8s32s_C3R(const Vemi8s* pSrc, int srcStep, Vemi32s* pDst, int dstStep,
+                                          VemiSize roiSize);
+VEMI_API VemiStatus vemiConvert_8s32s_C4R(const Vemi8s* pSrc, int srcStep, Vemi32s* pDst, int dstStep,
+                                          VemiSize roiSize);
+VEMI_API VemiStatus vemiConvert_8s32s_AC4R(const Vemi8s* pSrc, int srcStep, Vemi32s* pDst, int dstStep,
+                                           VemiSize roiSize);
+
+VEMI_API VemiStatus vemiConvert_8s32f_C1R(const Vemi8s* pSrc, int srcStep, Vemi32f* pDst, int dstStep,
+                                          VemiSize roiSize);
+VEMI_API VemiStatus vemiConvert_8s32f_C3R(const Vemi8s* pSrc, int srcStep, Vemi32f* pDst, int dstStep,
+                                          VemiSize roiSize);
+VEMI_API VemiStatus vemiConvert_8s32f_C4R(const Vemi8s* pSrc, int srcStep, Vemi32f* pDst, int dstStep,
+                                          VemiSize roiSize);
+VEMI_API VemiStatus vemiConvert_8s32f_AC4R(const Vemi8s* pSrc, int srcStep, Vemi32f* pDst, int dstStep,
+                                           VemiSize roiSize);
+
+VEMI_API VemiStatus vemiConvert_16u32s_C1R(const Vemi16u* pSrc, int srcStep, Vemi32s* pDst, int dstStep,
+                                           VemiSize roiSize);
+VEMI_API VemiStatus vemiConvert_16u32s_C3R(const Vemi16u* pSrc, int srcStep, Vemi32s* pDst, int dstStep,
+                                           VemiSize roiSize);
+VEMI_API VemiStatus vemiConvert_16u32s_C4R(const Vemi16u* pSrc, int srcStep, Vemi32s* pDst, int dstStep,
+                                           VemiSize roiSize);
+VEMI_API VemiStatus vemiConvert_16u32s_AC4R(const Vemi16u* pSrc, int srcStep, Vemi32s* pDst, int dstStep,
+                                            VemiSize roiSize);
+
+VEMI_API VemiStatus vemiConvert_16u32f_C1R(const Vemi16u* pSrc, int srcStep, Vemi32f* pDst, int dstStep,
+                                           VemiSize roiSize);
+VEMI_API VemiStatus vemiConvert_16u32f_C3R(const Vemi16u* pSrc, int srcStep, Vemi32f* pDst, int dstStep,
+                                           VemiSize roiSize);
+VEMI_API VemiStatus vemiConvert_16u32f_C4R(const Vemi16u* pSrc, int srcStep, Vemi32f* pDst, int dstStep,
+                                           VemiSize roiSize);
+VEMI_API VemiStatus vemiConvert_16u32f_AC4R(const Vemi16u* pSrc, int srcStep, Vemi32f* pDst, int dstStep,
+                                            VemiSize roiSize);
+
+VEMI_API VemiStatus vemiConvert_16s32f_C1R(const Vemi16s* pSrc, int srcStep, Vemi32f* pDst, int dstStep,
+                                           VemiSize roiSize);
+VEMI_API VemiStatus vemiConvert_16s32f_C3R(const Vemi16s* pSrc, int srcStep, Vemi32f* pDst, int dstStep,
+                                           VemiSize roiSize);
+VEMI_API VemiStatus vemiConvert_16s32f_C4R(const Vemi16s* pSrc, int srcStep, Vemi32f* pDst, int dstStep,
+                                           VemiSize roiSize);
+VEMI_API VemiStatus vemiConvert_16s32f_AC4R(const Vemi16s* pSrc, int srcStep, Vemi32f* pDst, int dstStep,
+                                            VemiSize roiSize);
+
+VEMI_API VemiStatus vemiConvert_16u8u_C1R(const Vemi16u* pSrc, int srcStep, Vemi8u* pDst, int dstStep,
+                                          VemiSize roiSize);
+VEMI_API VemiStatus vemiConvert_16u8u_C3R(const Vemi16u* pSrc, int srcStep, Vemi8u* pDst, int dstStep,
+                                          VemiSize roiSize);
+VEMI_API VemiStatus vemiConvert_16u8u_C4R(const Vemi16u* pSrc, int srcStep, Vemi8u* pDst, int dstStep,
+                                          VemiSize roiSize);
+VEMI_API VemiStatus vemiConvert_16u8u_AC4R(const Vemi16u* pSrc, int srcStep, Vemi8u* pDst, int dstStep,
+                                           VemiSize roiSize);
+
+VEMI_API VemiStatus vemiConvert_16s8u_C1R(const Vemi16s* pSrc, int srcStep, Vemi8u* pDst, int dstStep,
+                                          VemiSize roiSize);
+VEMI_API VemiStatus vemiConvert_16s8u_C3R(const Vemi16s* pSrc, int srcStep, Vemi8u* pDst, int dstStep,
+                                          VemiSize roiSize);
+VEMI_API VemiStatus vemiConvert_16s8u_C4R(const Vemi16s* pSrc, int srcStep, Vemi8u* pDst, int dstStep,
+                                          VemiSize roiSize);
+VEMI_API VemiStatus vemiConvert_16s8u_AC4R(const Vemi16s* pSrc, int srcStep, Vemi8u* pDst, int dstStep,
+                                           VemiSize roiSize);
+
+VEMI_API VemiStatus vemiConvert_32s8u_C1R(const Vemi32s* pSrc, int srcStep, Vemi8u* pDst, int dstStep,
+                                          VemiSize roiSize);
+VEMI_API VemiStatus vemiConvert_32s8u_C3R(const Vemi32s* pSrc, int srcStep, Vemi8u* pDst, int dstStep,
+                                          VemiSize roiSize);
+VEMI_API VemiStatus vemiConvert_32s8u_C4R(const Vemi32s* pSrc, int srcStep, Vemi8u* pDst, int dstStep,
+                                          VemiSize roiSize);
+VEMI_API VemiStatus vemiConvert_32s8u_AC4R(const Vemi32s* pSrc, int srcStep, Vemi8u* pDst, int dstStep,
+                                           VemiSize roiSize);
+
+VEMI_API VemiStatus vemiConvert_32s8s_C1R(const Vemi32s* pSrc, int srcStep, Vemi8s* pDst, int dstStep,
+                                          VemiSize roiSize);
+VEMI_API VemiStatus vemiConvert_32s8s_C3R(const Vemi32s* pSrc, int srcStep, Vemi8s* pDst, int dstStep,
+                                          VemiSize roiSize);
+VEMI_API VemiStatus vemiConvert_32s8s_C4R(const Vemi32s* pSrc, int srcStep, Vemi8s* pDst, int dstStep,
+                                          VemiSize roiSize);
+VEMI_API VemiStatus vemiConvert_32s8s_AC4R(const Vemi32s* pSrc, int srcStep, Vemi8s* pDst, int dstStep,
+                                           VemiSize roiSize);
+VEMI_API VemiStatus vemiConvert_32f8u_C1R(const Vemi32f* pSrc, int srcStep, Vemi8u* pDst, int dstStep, VemiSize roiSize,
+                                          vemiRoundMode roundMode);
+VEMI_API VemiStatus vemiConvert_32f8u_C3R(const Vemi32f* pSrc, int srcStep, Vemi8u* pDst, int dstStep, VemiSize roiSize,
+                                          vemiRoundMode roundMode);
+VEMI_API VemiStatus vemiConvert_32f8u_C4R(const Vemi32f* pSrc, int srcStep, Vemi8u* pDst, int dstStep, VemiSize roiSize,
+                                          vemiRoundMode roundMode);
+VEMI_API VemiStatus vemiConvert_32f8u_AC4R(const Vemi32f* pSrc, int srcStep, Vemi8u* pDst, int dstStep,
+                                           VemiSize roiSize, vemiRoundMode roundMode);
+
+VEMI_API VemiStatus vemiConvert_32f8s_C1R(const Vemi32f* pSrc, int srcStep, Vemi8s* pDst, int dstStep, VemiSize roiSize,
+                                          vemiRoundMode roundMode);
+VEMI_API VemiStatus vemiConvert_32f8s_C3R(const Vemi32f* pSrc, int srcStep, Vemi8s* pDst, int dstStep, VemiSize roiSize,
+                                          vemiRoundMode roundMode);
+VEMI_API VemiStatus vemiConvert_32f8s_C4R(const Vemi32f* pSrc, int srcStep, Vemi8s* pDst, int dstStep, VemiSize roiSize,
+                                          vemiRoundMode roundMode);
+VEMI_API VemiStatus vemiConvert_32f8s_AC4R(const Vemi32f* pSrc, int srcStep, Vemi8s* pDst, int dstStep,
+                                           VemiSize roiSize, vemiRoundMode roundMode);
+
+VEMI_API VemiStatus vemiConvert_32f16u_C1R(const Vemi32f* pSrc, int srcStep, Vemi16u* pDst, int dstStep,
+                                           VemiSize roiSize, vemiRoundMode roundMode);
+VEMI_API VemiStatus vemiConvert_32f16u_C3R(const Vemi32f* pSrc, int srcStep, Vemi16u* pDst, int dstStep,
+                                           VemiSize roiSize, vemiRoundMode roundMode);
+VEMI_API VemiStatus vemiConvert_32f16u_C4R(const Vemi32f* pSrc, int srcStep, Vemi16u* pDst, int dstStep,
+                                           VemiSize roiSize, vemiRoundMode roundMode);
+VEMI_API VemiStatus vemiConvert_32f16u_AC4R(const Vemi32f* pSrc, int srcStep, Vemi16u* pDst, int dstStep,
+                                            VemiSize roiSize, vemiRoundMode roundMode);
+
+VEMI_API VemiStatus vemiConvert_32f16s_C1R(const Vemi32f* pSrc, int srcStep, Vemi16s* pDst, int dstStep,
+                                           VemiSize roiSize, vemiRoundMode roundMode);
+VEMI_API VemiStatus vemiConvert_32f16s_C3R(const Vemi32f* pSrc, int srcStep, Vemi16s* pDst, int dstStep,
+                                           VemiSize roiSize, vemiRoundMode roundMode);
+VEMI_API VemiStatus vemiConvert_32f16s_C4R(const Vemi32f* pSrc, int srcStep, Vemi16s* pDst, int dstStep,
+                                           VemiSize roiSize, vemiRoundMode roundMode);
+VEMI_API VemiStatus vemiConvert_32f16s_AC4R(const Vemi32f* pSrc, int srcStep, Vemi16s* pDst, int dstStep,
+                                            VemiSize roiSize, vemiRoundMode roundMode);
+/** @} */
+
+/**
+ * @defgroup vemi_convert_bits vemiConvert: bit images
+ *
+ * A bit image has eight pixels to a byte, the first one in the most significant bit. Steps are bytes, as everywhere; a
+ * row begins at a bit offset in its first byte, the same in all rows: pixel i of a row is bit (offset mod 8) + i,
+ * counted from the most significant bit of the row's first byte. Of an offset the lowest three bits count: 9 is as good
+ * as 1, and moves nothing to the next byte.
+ *
+ * **vemiConvert_1u8u_C1R** makes 255 of a set bit and 0 of a clear one. Bytes that hold no pixel of the region are not
+ * read.
+ *
+ * **vemiConvert_8u1u_C1R** makes a picture of black and white dots that looks grey from afar: each pixel becomes a bit,
+ * and the error is passed on to pixels that are still to be decided. Rows go from top to bottom, each from left to
+ * right. With x the pixel, and c, b and a the errors of its row and of the two rows above, all integers:
+ *
+ *     S = 4 c[i-2] + 8 c[i-1]
+ *       + 2 b[i-2] + 4 b[i-1] + 8 b[i] + 4 b[i+1] + 2 b[i+2]
+ *       +   a[i-2] + 2 a[i-1] + 4 a[i] + 2 a[i+1] +   a[i+2]
+ *     T = 8192 x + 23 S
+ *     bit  = T > 8192 threshold
+ *     c[i] = (T >> 10) - (bit ? 2047 : 0)
+ *
+ * Errors outside of the region are 0. The weights are those of P. Stucki's filter (MECCA, a multiple-error correcting
+ * computation algorithm for bilevel image hardcopy reproduction, IBM Research Report RZ1060, 1981). Their sum is 42;
+ * 23 / 1024 stands for it, so that 94 percent of an error arrive: with a threshold of 128 middle tones keep their
+ * brightness, and the lightest and darkest lose some of their dots. Bits of a row's first byte ahead of the offset, and
+ * of its last byte behind the last pixel, stay as they are; they are stored again, so no other thread may write to
+ * these bytes during the call.
+ *
+ * @param pSrc,srcStep   first pixel or, of bits, first byte of the source, and the bytes between its rows
+ * @param srcBitOffset   of the source's rows: 0 or more
+ * @param pDst,dstStep   first pixel or, of bits, first byte of the destination, and the bytes between its rows
+ * @param dstBitOffset   of the destination's rows: 0 or more
+ * @param roiSize        size of the region in pixels
+ * @param threshold      the value up to which a pixel without inherited errors becomes 0
+ *
+ * **Overlap.** pDst does not overlap pSrc.
+ *
+ * **Statuses**, in the order of the tests: 1u8u null, size, step, then vemiErrSize for a negative offset. 8u1u null,
+ * then vemiErrSize for a size below 1 or a negative offset, then vemiErrMemAlloc if the memory for three rows of errors
+ * (12 bytes a column) is not to be had, with nothing written. 8u1u takes steps as they are, zero and negative ones too.
+ *
+ * **Threads.** Both forms run in the calling thread.
+ *
+ *     vemiConvert_8u1u_C1R(grey, greyStep, bits, bitsStep, 0, size, 128);    // for a printer
+ *     vemiConvert_1u8u_C1R(bits, bitsStep, 0, dots, dotsStep, size);         // the same dots on a screen
+ * @{
+ */
+
+VEMI_API VemiStatus vemiConvert_1u8u_C1R(const Vemi1u* pSrc, int srcStep, int srcBitOffset, Vemi8u* pDst, int dstStep,
+                                         VemiSize roiSize);
+VEMI_API VemiStatus vemiConvert_8u1u_C1R(const Vemi8u* pSrc, int srcStep, Vemi1u* pDst, int dstStep, int dstBitOffset,
+                                         VemiSize roiSize, Vemi8u threshold);
+
+/** @} */
+
+/**
+ * @defgroup vemi_scale vemiScale: the range of one type onto the range of another
+ *
+ * The lowest value of the source's type becomes the lowest of the destination's, the highest the highest, and the
+ * others go in proportion. The range of a 32f side is vMin..vMax. All channels are treated alike; AC4 forms scale the
+ * first three and leave the destination's fourth as it is.
+ *
+ * **From 8u to a wider integer**, exactly:
+ *
+ *     8u16u    257 x                       0 ->           0     255 ->      65535
+ *     8u16s    257 x - 32768               0 ->      -32768     255 ->      32767
+ *     8u32s    16843009 x - 2147483648     0 -> -2147483648     255 -> 2147483647
+ *
+ * **From a wider integer to 8u.** With v the value, in 16u less 32768, and shifts that keep the sign:
+ *
+ *     fast, any hint but vemiHintAccurate
+ *       16u8u, 16s8u    ((v - (v >> 8)) >> 8) + 128
+ *       32s8u           ((v - (v >> 8)) >> 24) + 128
+ *     accurate, vemiHintAccurate: the fraction is dropped; x is the value itself
+ *       16u8u           0.0038910506f x
+ *       16s8u           0.0038910506f x + 127.501945f
+ *       32s8u           5.937181414556033e-8 x + 127.5000000296859
+ *
+ * The fast path rounds to the nearest byte, by and large; the accurate one goes down. Its factor for 16 bits is the
+ * single-precision number a little below 1 / 257, so that the multiples of 257 come out one lower: 65535 and 32767 give
+ * 254. Products and sums are double precision. What 8u was scaled up comes back by the fast path, and from 32s by the
+ * accurate one too.
+ *
+ * **8u32f.** vMin + x ((vMax - vMin) / 255). **32f8u.** Values are limited to vMin..vMax; then, with k = 255 / (vMax -
+ * vMin), the nearest integer to x k + (-k vMin), ties to the even one, limited to 0..255. Each operation is rounded to
+ * single precision on its own. A NaN counts as vMin. Where vMax - vMin or k overflows single precision all results are
+ * 0. The rounding mode of the calling thread has no influence and is the same after the call as before.
+ *
+ * @param pSrc,srcStep   first pixel of the source, and the bytes between its rows
+ * @param pDst,dstStep   the same of the destination
+ * @param roiSize        size of the region in pixels
+ * @param hint           (from a wider integer to 8u alone) vemiHintAccurate, or any other number for the fast path
+ * @param vMin,vMax      (with 32f alone) the range of the floats; vMax - vMin must be above 0
+ *
+ * **Overlap.** pDst does not overlap pSrc.
+ *
+ * **Statuses**, in the order of the tests: in 8u32f and 32f8u vemiErrScaleRange if vMax - vMin is not above 0 or is a
+ * NaN, ahead of all else; then null, size, step.
+ *
+ * **Threads.** All forms run in the calling thread.
+ *
+ *     vemiScale_16u8u_C1R(scan, scanStep, grey, greyStep, size, vemiHintFast);
+ *     vemiScale_8u32f_C3R(photo, photoStep, work, workStep, size, 0.0f, 1.0f);
+ *     vemiScale_32f8u_C3R(work, workStep, photo, photoStep, size, 0.0f, 1.0f);
+ * @{
+ */
+
+VEMI_API VemiStatus vemiScale_8u16u_C1R(const Vemi8u* pSrc, int srcStep, Vemi16u* pDst, int dstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiScale_8u16u_C3R(const Vemi8u* pSrc, int srcStep, Vemi16u* pDst, int dstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiScale_8u16u_C4R(const Vemi8u* pSrc, int srcStep, Vemi16u* pDst, int dstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiScale_8u16u_AC4R(const Vemi8u* pSrc, int srcStep, Vemi16u* pDst, int dstStep, VemiSize roiSize);
+
+VEMI_API VemiStatus vemiScale_8u16s_C1R(const Vemi8u* pSrc, int srcStep, Vemi16s* pDst, int dstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiScale_8u16s_C3R(const Vemi8u* pSrc, int srcStep, Vemi16s* pDst, int dstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiScale_8u16s_C4R(const Vemi8u* pSrc, int srcStep, Vemi16s* pDst, int dstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiScale_8u16s_AC4R(const Vemi8u* pSrc, int srcStep, Vemi16s* pDst, int dstStep, VemiSize roiSize);
+
+VEMI_API VemiStatus vemiScale_8u32s_C1R(const Vemi8u* pSrc, int srcStep, Vemi32s* pDst, int dstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiScale_8u32s_C3R(const Vemi8u* pSrc, int srcStep, Vemi32s* pDst, int dstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiScale_8u32s_C4R(const Vemi8u* pSrc, int srcStep, Vemi32s* pDst, int dstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiScale_8u32s_AC4R(const Vemi8u* pSrc, int srcStep, Vemi32s* pDst, int dstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiScale_16u8u_C1R(const Vemi16u* pSrc, int srcStep, Vemi8u* pDst, int dstStep, VemiSize roiSize,
+                                        vemiHint hint);
+VEMI_API VemiStatus vemiScale_16u8u_C3R(const Vemi16u* pSrc, int srcStep, Vemi8u* pDst, int dstStep, VemiSize roiSize,
+                                        vemiHint hint);
+VEMI_API VemiStatus vemiScale_16u8u_C4R(const Vemi16u* pSrc, int srcStep, Vemi8u* pDst, int dstStep, VemiSize roiSize,
+                                        vemiHint hint);
+VEMI_API VemiStatus vemiScale_16u8u_AC4R(const Vemi16u* pSrc, int srcStep, Vemi8u* pDst, int dstStep, VemiSize roiSize,
+                                         vemiHint hint);
+
+VEMI_API VemiStatus vemiScale_16s8u_C1R(const Vemi16s* pSrc, int srcStep, Vemi8u* pDst, int dstStep, VemiSize roiSize,
+                                        vemiHint hint);
+VEMI_API VemiStatus vemiScale_16s8u_C3R(const Vemi16s* pSrc, int srcStep, Vemi8u* pDst, int dstStep, VemiSize roiSize,
+                                        vemiHint hint);
+VEMI_API VemiStatus vemiScale_16s8u_C4R(const Vemi16s* pSrc, int srcStep, Vemi8u* pDst, int dstStep, VemiSize roiSize,
+                                        vemiHint hint);
+VEMI_API VemiStatus vemiScale_16s8u_AC4R(const Vemi16s* pSrc, int srcStep, Vemi8u* pDst, int dstStep, VemiSize roiSize,
+                                         vemiHint hint);
+
+VEMI_API VemiStatus vemiScale_32s8u_C1R(const Vemi32s* pSrc, int srcStep, Vemi8u* pDst, int dstStep, VemiSize roiSize,
+                                        vemiHint hint);
+VEMI_API VemiStatus vemiScale_32s8u_C3R(const Vemi32s* pSrc, int srcStep, Vemi8u* pDst, int dstStep, VemiSize roiSize,
+                                        vemiHint hint);
+VEMI_API VemiStatus vemiScale_32s8u_C4R(const Vemi32s* pSrc, int srcStep, Vemi8u* pDst, int dstStep, VemiSize roiSize,
+                                        vemiHint hint);
+VEMI_API VemiStatus vemiScale_32s8u_AC4R(const Vemi32s* pSrc, int srcStep, Vemi8u* pDst, int dstStep, VemiSize roiSize,
+                                         vemiHint hint);
+VEMI_API VemiStatus vemiScale_8u32f_C1R(const Vemi8u* pSrc, int srcStep, Vemi32f* pDst, int dstStep, VemiSize roiSize,
+                                        Vemi32f vMin, Vemi32f vMax);
+VEMI_API VemiStatus vemiScale_8u32f_C3R(const Vemi8u* pSrc, int srcStep, Vemi32f* pDst, int dstStep, VemiSize roiSize,
+                                        Vemi32f vMin, Vemi32f vMax);
+VEMI_API VemiStatus vemiScale_8u32f_C4R(const Vemi8u* pSrc, int srcStep, Vemi32f* pDst, int dstStep, VemiSize roiSize,
+                                        Vemi32f vMin, Vemi32f vMax);
+VEMI_API VemiStatus vemiScale_8u32f_AC4R(const Vemi8u* pSrc, int srcStep, Vemi32f* pDst, int dstStep, VemiSize roiSize,
+                                         Vemi32f vMin, Vemi32f vMax);
+
+VEMI_API VemiStatus vemiScale_32f8u_C1R(const Vemi32f* pSrc, int srcStep, Vemi8u* pDst, int dstStep, VemiSize roiSize,
+                                        Vemi32f vMin, Vemi32f vMax);
+VEMI_API VemiStatus vemiScale_32f8u_C3R(const Vemi32f* pSrc, int srcStep, Vemi8u* pDst, int dstStep, VemiSize roiSize,
+                                        Vemi32f vMin, Vemi32f vMax);
+VEMI_API VemiStatus vemiScale_32f8u_C4R(const Vemi32f* pSrc, int srcStep, Vemi8u* pDst, int dstStep, VemiSize roiSize,
+                                        Vemi32f vMin, Vemi32f vMax);
+VEMI_API VemiStatus vemiScale_32f8u_AC4R(const Vemi32f* pSrc, int srcStep, Vemi8u* pDst, int dstStep, VemiSize roiSize,
+                                         Vemi32f vMin, Vemi32f vMax);
+/** @} */
+
+/**
+ * @defgroup vemi_threshold vemiThreshold: values below or above a threshold are replaced
+ *
+ * Of an element x, the threshold t of its channel and the value v of its channel:
+ *
+ *     vemiThreshold_LT           t if x < t, otherwise x
+ *     vemiThreshold_GT           t if x > t, otherwise x
+ *     vemiThreshold_LTVal        v if x < t, otherwise x
+ *     vemiThreshold_GTVal        v if x > t, otherwise x
+ *     vemiThreshold_LTValGTVal   valueLT if x < thresholdLT, valueGT if x > thresholdGT, otherwise x
+ *     vemiThreshold              vemiThreshold_LT for vemiCmpLess, vemiThreshold_GT for vemiCmpGreater
+ *     vemiThreshold_Val          vemiThreshold_LTVal for vemiCmpLess, vemiThreshold_GTVal for vemiCmpGreater
+ *
+ * So vemiThreshold_LT gives the larger of x and t, and vemiThreshold_GT the smaller one. An x that is equal to its
+ * threshold is never changed. An element that is not replaced keeps its bits, and one that is takes those of the
+ * constant: a 32f zero is neither below nor above a zero of the other sign, a NaN is neither below nor above anything,
+ * and where t is a NaN no element is replaced. Infinities are ordinary values. Constants may be anything that the type
+ * holds, a value also on the far side of its threshold; only the two thresholds of one call have an order.
+ *
+ * Constants are of the image's element type. C1 forms take them by value; the others take arrays with one constant for
+ * each channel: three elements in C3 and AC4, four in C4. AC4 forms leave the destination's fourth channel as it is. To
+ * treat all four channels, take vemiThreshold_LTVal or vemiThreshold_GTVal, which alone have C4 forms; with the
+ * threshold as the value they limit a pixel as vemiThreshold_LT and vemiThreshold_GT do.
+ *
+ * @param pSrc,srcStep        first pixel of the source, and the bytes between its rows
+ * @param pDst,dstStep        first pixel of the destination, and the bytes between its rows
+ * @param pSrcDst,srcDstStep  the same of the image that is source and destination (I forms)
+ * @param roiSize             size of the region in pixels
+ * @param threshold,value     the threshold and what stands in for elements beyond it, or an array of each
+ * @param thresholdLT,valueLT the lower threshold and what stands in for elements below it, or an array of each
+ * @param thresholdGT,valueGT the upper threshold and what stands in for elements above it, or an array of each
+ * @param cmpOp               vemiCmpLess or vemiCmpGreater
+ *
+ * **Overlap.** pDst does not overlap pSrc; to work in place, take an I form. No array of constants lies in the
+ * destination.
+ *
+ * **Statuses**, in the order of the tests:
+ * - an image pointer is null: vemiErrNullPtr
+ * - size: vemiErrSize
+ * - step: vemiErrStep
+ * - an array of constants is null: vemiErrNullPtr
+ * - cmpOp is neither vemiCmpLess nor vemiCmpGreater: vemiErrUnsupportedMode
+ * - thresholdGT is not at least thresholdLT in every channel (below it, or one of the two is a NaN): vemiErrThreshold.
+ *   Equal thresholds are legal; their value is then the only one that stays.
+ *
+ * **Threads.** All forms run in the calling thread.
+ *
+ *     vemiThreshold_8u_C1R(src, srcStep, dst, dstStep, size, 100, vemiCmpGreater);   // 200 -> 100, 50 -> 50
+ *     vemiThreshold_LT_16s_C1IR(image, step, size, -5);                              // -10 -> -5
+ *     vemiThreshold_LTValGTVal_8u_C1IR(image, step, size, 50, 0, 200, 255);          // 49 -> 0, 50 -> 50, 201 -> 255
+ * @{
+ */
+
+VEMI_API VemiStatus vemiThreshold_8u_C1R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep, VemiSize roiSize,
+                                         Vemi8u threshold, vemiCmpOp cmpOp);
+VEMI_API VemiStatus vemiThreshold_8u_C3R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep, VemiSize roiSize,
+                                         const Vemi8u threshold[3], vemiCmpOp cmpOp);
+VEMI_API VemiStatus vemiThreshold_8u_AC4R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep, VemiSize roiSize,
+                                          const Vemi8u threshold[3], vemiCmpOp cmpOp);
+
+VEMI_API VemiStatus vemiThreshold_8u_C1IR(Vemi8u* pSrcDst, int srcDstStep, VemiSize roiSize, Vemi8u threshold,
+                                          vemiCmpOp cmpOp);
+VEMI_API VemiStatus vemiThreshold_8u_C3IR(Vemi8u* pSrcDst, int srcDstStep, VemiSize roiSize, const Vemi8u threshold[3],
+                                          vemiCmpOp cmpOp);
+VEMI_API VemiStatus vemiThreshold_8u_AC4IR(Vemi8u* pSrcDst, int srcDstStep, VemiSize roiSize, const Vemi8u threshold[3],
+                                           vemiCmpOp cmpOp);
+
+VEMI_API VemiStatus vemiThreshold_16s_C1R(const Vemi16s* pSrc, int srcStep, Vemi16s* pDst, int dstStep,
+                                          VemiSize roiSize, Vemi16s threshold, vemiCmpOp cmpOp);
+VEMI_API VemiStatus vemiThreshold_16s_C3R(const Vemi16s* pSrc, int srcStep, Vemi16s* pDst, int dstStep,
+                                          VemiSize roiSize, const Vemi16s threshold[3], vemiCmpOp cmpOp);
+VEMI_API VemiStatus vemiThreshold_16s_AC4R(const Vemi16s* pSrc, int srcStep, Vemi16s* pDst, int dstStep,
+                                           VemiSize roiSize, const Vemi16s threshold[3], vemiCmpOp cmpOp);
+
+VEMI_API VemiStatus vemiThreshold_16s_C1IR(Vemi16s* pSrcDst, int srcDstStep, VemiSize roiSize, Vemi16s threshold,
+                                           vemiCmpOp cmpOp);
+VEMI_API VemiStatus vemiThreshold_16s_C3IR(Vemi16s* pSrcDst, int srcDstStep, VemiSize roiSize,
+                                           const Vemi16s threshold[3], vemiCmpOp cmpOp);
+VEMI_API VemiStatus vemiThreshold_16s_AC4IR(Vemi16s* pSrcDst, int srcDstStep, VemiSize roiSize,
+                                            const Vemi16s threshold[3], vemiCmpOp cmpOp);
+
+VEMI_API VemiStatus vemiThreshold_32f_C1R(const Vemi32f* pSrc, int srcStep, Vemi32f* pDst, int dstStep,
+                                          VemiSize roiSize, Vemi32f threshold, vemiCmpOp cmpOp);
+VEMI_API VemiStatus vemiThreshold_32f_C3R(const Vemi32f* pSrc, int srcStep, Vemi32f* pDst, int dstStep,
+                                          VemiSize roiSize, const Vemi32f threshold[3], vemiCmpOp cmpOp);
+VEMI_API VemiStatus vemiThreshold_32f_AC4R(const Vemi32f* pSrc, int srcStep, Vemi32f* pDst, int dstStep,
+                                           VemiSize roiSize, const Vemi32f threshold[3], vemiCmpOp cmpOp);
+
+VEMI_API VemiStatus vemiThreshold_32f_C1IR(Vemi32f* pSrcDst, int srcDstStep, VemiSize roiSize, Vemi32f threshold,
+                                           vemiCmpOp cmpOp);
+VEMI_API VemiStatus vemiThreshold_32f_C3IR(Vemi32f* pSrcDst, int srcDstStep, VemiSize roiSize,
+                                           const Vemi32f threshold[3], vemiCmpOp cmpOp);
+VEMI_API VemiStatus vemiThreshold_32f_AC4IR(Vemi32f* pSrcDst, int srcDstStep, VemiSize roiSize,
+                                            const Vemi32f threshold[3], vemiCmpOp cmpOp);
+
+VEMI_API VemiStatus vemiThreshold_LT_8u_C1R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep,
+                                            VemiSize roiSize, Vemi8u threshold);
+VEMI_API VemiStatus vemiThreshold_LT_8u_C3R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep,
+                                            VemiSize roiSize, const Vemi8u threshold[3]);
+VEMI_API VemiStatus vemiThreshold_LT_8u_AC4R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep,
+                                             VemiSize roiSize, const Vemi8u threshold[3]);
+
+VEMI_API VemiStatus vemiThreshold_LT_8u_C1IR(Vemi8u* pSrcDst, int srcDstStep, VemiSize roiSize, Vemi8u threshold);
+VEMI_API VemiStatus vemiThreshold_LT_8u_C3IR(Vemi8u* pSrcDst, int srcDstStep, VemiSize roiSize,
+                                             const Vemi8u threshold[3]);
+VEMI_API VemiStatus vemiThreshold_LT_8u_AC4IR(Vemi8u* pSrcDst, int srcDstStep, VemiSize roiSize,
+                                              const Vemi8u threshold[3]);
+
+VEMI_API VemiStatus vemiThreshold_LT_16s_C1R(const Vemi16s* pSrc, int srcStep, Vemi16s* pDst, int dstStep,
+                                             VemiSize roiSize, Vemi16s threshold);
+VEMI_API VemiStatus vemiThreshold_LT_16s_C3R(const Vemi16s* pSrc, int srcStep, Vemi16s* pDst, int dstStep,
+                                             VemiSize roiSize, const Vemi16s threshold[3]);
+VEMI_API VemiStatus vemiThreshold_LT_16s_AC4R(const Vemi16s* pSrc, int srcStep, Vemi16s* pDst, int dstStep,
+                                              VemiSize roiSize, const Vemi16s threshold[3]);
+
+VEMI_API VemiStatus vemiThreshold_LT_16s_C1IR(Vemi16s* pSrcDst, int srcDstStep, VemiSize roiSize, Vemi16s threshold);
+VEMI_API VemiStatus vemiThreshold_LT_16s_C3IR(Vemi16s* pSrcDst, int srcDstStep, VemiSize roiSize,
+                                              const Vemi16s threshold[3]);
+VEMI_API VemiStatus vemiThreshold_LT_16s_AC4IR(Vemi16s* pSrcDst, int srcDstStep, VemiSize roiSize,
+                                               const Vemi16s threshold[3]);
+
+VEMI_API VemiStatus vemiThreshold_LT_32f_C1R(const Vemi32f* pSrc, int srcStep, Vemi32f* pDst, int dstStep,
+                                             VemiSize roiSize, Vemi32f threshold);
+VEMI_API VemiStatus vemiThreshold_LT_32f_C3R(const Vemi32f* pSrc, int srcStep, Vemi32f* pDst, int dstStep,
+                                             VemiSize roiSize, const Vemi32f threshold[3]);
+VEMI_API VemiStatus vemiThreshold_LT_32f_AC4R(const Vemi32f* pSrc, int srcStep, Vemi32f* pDst, int dstStep,
+                                              VemiSize roiSize, const Vemi32f threshold[3]);
+
+VEMI_API VemiStatus vemiThreshold_LT_32f_C1IR(Vemi32f* pSrcDst, int srcDstStep, VemiSize roiSize, Vemi32f threshold);
+VEMI_API VemiStatus vemiThreshold_LT_32f_C3IR(Vemi32f* pSrcDst, int srcDstStep, VemiSize roiSize,
+                                              const Vemi32f threshold[3]);
+VEMI_API VemiStatus vemiThreshold_LT_32f_AC4IR(Vemi32f* pSrcDst, int srcDstStep, VemiSize roiSize,
+                                               const Vemi32f threshold[3]);
+
+VEMI_API VemiStatus vemiThreshold_GT_8u_C1R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep,
+                                            VemiSize roiSize, Vemi8u threshold);
+VEMI_API VemiStatus vemiThreshold_GT_8u_C3R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep,
+                                            VemiSize roiSize, const Vemi8u threshold[3]);
+VEMI_API VemiStatus vemiThreshold_GT_8u_AC4R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep,
+                                             VemiSize roiSize, const Vemi8u threshold[3]);
+
+VEMI_API VemiStatus vemiThreshold_GT_8u_C1IR(Vemi8u* pSrcDst, int srcDstStep, VemiSize roiSize, Vemi8u threshold);
+VEMI_API VemiStatus vemiThreshold_GT_8u_C3IR(Vemi8u* pSrcDst, int srcDstStep, VemiSize roiSize,
+                                             const Vemi8u threshold[3]);
+VEMI_API VemiStatus vemiThreshold_GT_8u_AC4IR(Vemi8u* pSrcDst, int srcDstStep, VemiSize roiSize,
+                                              const Vemi8u threshold[3]);
+
+VEMI_API VemiStatus vemiThreshold_GT_16s_C1R(const Vemi16s* pSrc, int srcStep, Vemi16s* pDst, int dstStep,
+                                             VemiSize roiSize, Vemi16s threshold);
+VEMI_API VemiStatus vemiThreshold_GT_16s_C3R(const Vemi16s* pSrc, int srcStep, Vemi16s* pDst, int dstStep,
+                                             VemiSize roiSize, const Vemi16s threshold[3]);
+VEMI_API VemiStatus vemiThreshold_GT_16s_AC4R(const Vemi16s* pSrc, int srcStep, Vemi16s* pDst, int dstStep,
+                                              VemiSize roiSize, const Vemi16s threshold[3]);
+
+VEMI_API VemiStatus vemiThreshold_GT_16s_C1IR(Vemi16s* pSrcDst, int srcDstStep, VemiSize roiSize, Vemi16s threshold);
+VEMI_API VemiStatus vemiThreshold_GT_16s_C3IR(Vemi16s* pSrcDst, int srcDstStep, VemiSize roiSize,
+                                              const Vemi16s threshold[3]);
+VEMI_API VemiStatus vemiThreshold_GT_16s_AC4IR(Vemi16s* pSrcDst, int srcDstStep, VemiSize roiSize,
+                                               const Vemi16s threshold[3]);
+
+VEMI_API VemiStatus vemiThreshold_GT_32f_C1R(const Vemi32f* pSrc, int srcStep, Vemi32f* pDst, int dstStep,
+                                             VemiSize roiSize, Vemi32f threshold);
+VEMI_API VemiStatus vemiThreshold_GT_32f_C3R(const Vemi32f* pSrc, int srcStep, Vemi32f* pDst, int dstStep,
+                                             VemiSize roiSize, const Vemi32f threshold[3]);
+VEMI_API VemiStatus vemiThreshold_GT_32f_AC4R(const Vemi32f* pSrc, int srcStep, Vemi32f* pDst, int dstStep,
+                                              VemiSize roiSize, const Vemi32f threshold[3]);
+
+VEMI_API VemiStatus vemiThreshold_GT_32f_C1IR(Vemi32f* pSrcDst, int srcDstStep, VemiSize roiSize, Vemi32f threshold);
+VEMI_API VemiStatus vemiThreshold_GT_32f_C3IR(Vemi32f* pSrcDst, int srcDstStep, VemiSize roiSize,
+                                              const Vemi32f threshold[3]);
+VEMI_API VemiStatus vemiThreshold_GT_32f_AC4IR(Vemi32f* pSrcDst, int srcDstStep, VemiSize roiSize,
+                                               const Vemi32f threshold[3]);
+
+VEMI_API VemiStatus vemiThreshold_Val_8u_C1R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep,
+                                             VemiSize roiSize, Vemi8u threshold, Vemi8u value, vemiCmpOp cmpOp);
+VEMI_API VemiStatus vemiThreshold_Val_8u_C3R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep,
+                                             VemiSize roiSize, const Vemi8u threshold[3], const Vemi8u value[3],
+                                             vemiCmpOp cmpOp);
+VEMI_API VemiStatus vemiThreshold_Val_8u_AC4R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep,
+                                              VemiSize roiSize, const Vemi8u threshold[3], const Vemi8u value[3],
+                                              vemiCmpOp cmpOp);
+
+VEMI_API VemiStatus vemiThreshold_Val_8u_C1IR(Vemi8u* pSrcDst, int srcDstStep, VemiSize roiSize, Vemi8u threshold,
+                                              Vemi8u value, vemiCmpOp cmpOp);
+VEMI_API VemiStatus vemiThreshold_Val_8u_C3IR(Vemi8u* pSrcDst, int srcDstStep, VemiSize roiSize,
+                                              const Vemi8u threshold[3], const Vemi8u value[3], vemiCmpOp cmpOp);
+VEMI_API VemiStatus vemiThreshold_Val_8u_AC4IR(Vemi8u* pSrcDst, int srcDstStep, VemiSize roiSize,
+                                               const Vemi8u threshold[3], const Vemi8u value[3], vemiCmpOp cmpOp);
+
+VEMI_API VemiStatus vemiThreshold_Val_16s_C1R(const Vemi16s* pSrc, int srcStep, Vemi16s* pDst, int dstStep,
+                                              VemiSize roiSize, Vemi16s threshold, Vemi16s value, vemiCmpOp cmpOp);
+VEMI_API VemiStatus vemiThreshold_Val_16s_C3R(const Vemi16s* pSrc, int srcStep, Vemi16s* pDst, int dstStep,
+                                              VemiSize roiSize, const Vemi16s threshold[3], const Vemi16s value[3],
+                                              vemiCmpOp cmpOp);
+VEMI_API VemiStatus vemiThreshold_Val_16s_AC4R(const Vemi16s* pSrc, int srcStep, Vemi16s* pDst, int dstStep,
+                                               VemiSize roiSize, const Vemi16s threshold[3], const Vemi16s value[3],
+                                               vemiCmpOp cmpOp);
+
+VEMI_API VemiStatus vemiThreshold_Val_16s_C1IR(Vemi16s* pSrcDst, int srcDstStep, VemiSize roiSize, Vemi16s threshold,
+                                               Vemi16s value, vemiCmpOp cmpOp);
+VEMI_API VemiStatus vemiThreshold_Val_16s_C3IR(Vemi16s* pSrcDst, int srcDstStep, VemiSize roiSize,
+                                               const Vemi16s threshold[3], const Vemi16s value[3], vemiCmpOp cmpOp);
+VEMI_API VemiStatus vemiThreshold_Val_16s_AC4IR(Vemi16s* pSrcDst, int srcDstStep, VemiSize roiSize,
+                                                const Vemi16s threshold[3], const Vemi16s value[3], vemiCmpOp cmpOp);
+
+VEMI_API VemiStatus vemiThreshold_Val_32f_C1R(const Vemi32f* pSrc, int srcStep, Vemi32f* pDst, int dstStep,
+                                              VemiSize roiSize, Vemi32f threshold, Vemi32f value, vemiCmpOp cmpOp);
+VEMI_API VemiStatus vemiThreshold_Val_32f_C3R(const Vemi32f* pSrc, int srcStep, Vemi32f* pDst, int dstStep,
+                                              VemiSize roiSize, const Vemi32f threshold[3], const Vemi32f value[3],
+                                              vemiCmpOp cmpOp);
+VEMI_API VemiStatus vemiThreshold_Val_32f_AC4R(const Vemi32f* pSrc, int srcStep, Vemi32f* pDst, int dstStep,
+                                               VemiSize roiSize, const Vemi32f threshold[3], const Vemi32f value[3],
+                                               vemiCmpOp cmpOp);
+
+VEMI_API VemiStatus vemiThreshold_Val_32f_C1IR(Vemi32f* pSrcDst, int srcDstStep, VemiSize roiSize, Vemi32f threshold,
+                                               Vemi32f value, vemiCmpOp cmpOp);
+VEMI_API VemiStatus vemiThreshold_Val_32f_C3IR(Vemi32f* pSrcDst, int srcDstStep, VemiSize roiSize,
+                                               const Vemi32f threshold[3], const Vemi32f value[3], vemiCmpOp cmpOp);
+VEMI_API VemiStatus vemiThreshold_Val_32f_AC4IR(Vemi32f* pSrcDst, int srcDstStep, VemiSize roiSize,
+                                                const Vemi32f threshold[3], const Vemi32f value[3], vemiCmpOp cmpOp);
+
+VEMI_API VemiStatus vemiThreshold_LTVal_8u_C1R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep,
+                                               VemiSize roiSize, Vemi8u threshold, Vemi8u value);
+VEMI_API VemiStatus vemiThreshold_LTVal_8u_C3R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep,
+                                               VemiSize roiSize, const Vemi8u threshold[3], const Vemi8u value[3]);
+VEMI_API VemiStatus vemiThreshold_LTVal_8u_C4R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep,
+                                               VemiSize roiSize, const Vemi8u threshold[4], const Vemi8u value[4]);
+VEMI_API VemiStatus vemiThreshold_LTVal_8u_AC4R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep,
+                                                VemiSize roiSize, const Vemi8u threshold[3], const Vemi8u value[3]);
+
+VEMI_API VemiStatus vemiThreshold_LTVal_8u_C1IR(Vemi8u* pSrcDst, int srcDstStep, VemiSize roiSize, Vemi8u threshold,
+                                                Vemi8u value);
+VEMI_API VemiStatus vemiThreshold_LTVal_8u_C3IR(Vemi8u* pSrcDst, int srcDstStep, VemiSize roiSize,
+                                                const Vemi8u threshold[3], const Vemi8u value[3]);
+VEMI_API VemiStatus vemiThreshold_LTVal_8u_C4IR(Vemi8u* pSrcDst, int srcDstStep, VemiSize roiSize,
+                                                const Vemi8u threshold[4], const Vemi8u value[4]);
+VEMI_API VemiStatus vemiThreshold_LTVal_8u_AC4IR(Vemi8u* pSrcDst, int srcDstStep, VemiSize roiSize,
+                                                 const Vemi8u threshold[3], const Vemi8u value[3]);
+
+VEMI_API VemiStatus vemiThreshold_LTVal_16s_C1R(const Vemi16s* pSrc, int srcStep, Vemi16s* pDst, int dstStep,
+                                                VemiSize roiSize, Vemi16s threshold, Vemi16s value);
+VEMI_API VemiStatus vemiThreshold_LTVal_16s_C3R(const Vemi16s* pSrc, int srcStep, Vemi16s* pDst, int dstStep,
+                                                VemiSize roiSize, const Vemi16s threshold[3], const Vemi16s value[3]);
+VEMI_API VemiStatus vemiThreshold_LTVal_16s_C4R(const Vemi16s* pSrc, int srcStep, Vemi16s* pDst, int dstStep,
+                                                VemiSize roiSize, const Vemi16s threshold[4], const Vemi16s value[4]);
+VEMI_API VemiStatus vemiThreshold_LTVal_16s_AC4R(const Vemi16s* pSrc, int srcStep, Vemi16s* pDst, int dstStep,
+                                                 VemiSize roiSize, const Vemi16s threshold[3], const Vemi16s value[3]);
+
+VEMI_API VemiStatus vemiThreshold_LTVal_16s_C1IR(Vemi16s* pSrcDst, int srcDstStep, VemiSize roiSize, Vemi16s threshold,
+                                                 Vemi16s value);
+VEMI_API VemiStatus vemiThreshold_LTVal_16s_C3IR(Vemi16s* pSrcDst, int srcDstStep, VemiSize roiSize,
+                                                 const Vemi16s threshold[3], const Vemi16s value[3]);
+VEMI_API VemiStatus vemiThreshold_LTVal_16s_C4IR(Vemi16s* pSrcDst, int srcDstStep, VemiSize roiSize,
+                                                 const Vemi16s threshold[4], const Vemi16s value[4]);
+VEMI_API VemiStatus vemiThreshold_LTVal_16s_AC4IR(Vemi16s* pSrcDst, int srcDstStep, VemiSize roiSize,
+                                                  const Vemi16s threshold[3], const Vemi16s value[3]);
+
+VEMI_API VemiStatus vemiThreshold_LTVal_32f_C1R(const Vemi32f* pSrc, int srcStep, Vemi32f* pDst, int dstStep,
+                                                VemiSize roiSize, Vemi32f threshold, Vemi32f value);
+VEMI_API VemiStatus vemiThreshold_LTVal_32f_C3R(const Vemi32f* pSrc, int srcStep, Vemi32f* pDst, int dstStep,
+                                                VemiSize roiSize, const Vemi32f threshold[3], const Vemi32f value[3]);
+VEMI_API VemiStatus vemiThreshold_LTVal_32f_C4R(const Vemi32f* pSrc, int srcStep, Vemi32f* pDst, int dstStep,
+                                                VemiSize roiSize, const Vemi32f threshold[4], const Vemi32f value[4]);
+VEMI_API VemiStatus vemiThreshold_LTVal_32f_AC4R(const Vemi32f* pSrc, int srcStep, Vemi32f* pDst, int dstStep,
+                                                 VemiSize roiSize, const Vemi32f threshold[3], const Vemi32f value[3]);
+
+VEMI_API VemiStatus vemiThreshold_LTVal_32f_C1IR(Vemi32f* pSrcDst, int srcDstStep, VemiSize roiSize, Vemi32f threshold,
+                                                 Vemi32f value);
+VEMI_API VemiStatus vemiThreshold_LTVal_32f_C3IR(Vemi32f* pSrcDst, int srcDstStep, VemiSize roiSize,
+                                                 const Vemi32f threshold[3], const Vemi32f value[3]);
+VEMI_API VemiStatus vemiThreshold_LTVal_32f_C4IR(Vemi32f* pSrcDst, int srcDstStep, VemiSize roiSize,
+                                                 const Vemi32f threshold[4], const Vemi32f value[4]);
+VEMI_API VemiStatus vemiThreshold_LTVal_32f_AC4IR(Vemi32f* pSrcDst, int srcDstStep, VemiSize roiSize,
+                                                  const Vemi32f threshold[3], const Vemi32f value[3]);
+
+VEMI_API VemiStatus vemiThreshold_GTVal_8u_C1R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep,
+                                               VemiSize roiSize, Vemi8u threshold, Vemi8u value);
+VEMI_API VemiStatus vemiThreshold_GTVal_8u_C3R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep,
+                                               VemiSize roiSize, const Vemi8u threshold[3], const Vemi8u value[3]);
+VEMI_API VemiStatus vemiThreshold_GTVal_8u_C4R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep,
+                                               VemiSize roiSize, const Vemi8u threshold[4], const Vemi8u value[4]);
+VEMI_API VemiStatus vemiThreshold_GTVal_8u_AC4R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep,
+                                                VemiSize roiSize, const Vemi8u threshold[3], const Vemi8u value[3]);
+
+VEMI_API VemiStatus vemiThreshold_GTVal_8u_C1IR(Vemi8u* pSrcDst, int srcDstStep, VemiSize roiSize, Vemi8u threshold,
+                                                Vemi8u value);
+VEMI_API VemiStatus vemiThreshold_GTVal_8u_C3IR(Vemi8u* pSrcDst, int srcDstStep, VemiSize roiSize,
+                                                const Vemi8u threshold[3], const Vemi8u value[3]);
+VEMI_API VemiStatus vemiThreshold_GTVal_8u_C4IR(Vemi8u* pSrcDst, int srcDstStep, VemiSize roiSize,
+                                                const Vemi8u threshold[4], const Vemi8u value[4]);
+VEMI_API VemiStatus vemiThreshold_GTVal_8u_AC4IR(Vemi8u* pSrcDst, int srcDstStep, VemiSize roiSize,
+                                                 const Vemi8u threshold[3], const Vemi8u value[3]);
+
+VEMI_API VemiStatus vemiThreshold_GTVal_16s_C1R(const Vemi16s* pSrc, int srcStep, Vemi16s* pDst, int dstStep,
+                                                VemiSize roiSize, Vemi16s threshold, Vemi16s value);
+VEMI_API VemiStatus vemiThreshold_GTVal_16s_C3R(const Vemi16s* pSrc, int srcStep, Vemi16s* pDst, int dstStep,
+                                                VemiSize roiSize, const Vemi16s threshold[3], const Vemi16s value[3]);
+VEMI_API VemiStatus vemiThreshold_GTVal_16s_C4R(const Vemi16s* pSrc, int srcStep, Vemi16s* pDst, int dstStep,
+                                                VemiSize roiSize, const Vemi16s threshold[4], const Vemi16s value[4]);
+VEMI_API VemiStatus vemiThreshold_GTVal_16s_AC4R(const Vemi16s* pSrc, int srcStep, Vemi16s* pDst, int dstStep,
+                                                 VemiSize roiSize, const Vemi16s threshold[3], const Vemi16s value[3]);
+
+VEMI_API VemiStatus vemiThreshold_GTVal_16s_C1IR(Vemi16s* pSrcDst, int srcDstStep, VemiSize roiSize, Vemi16s threshold,
+                                                 Vemi16s value);
+VEMI_API VemiStatus vemiThreshold_GTVal_16s_C3IR(Vemi16s* pSrcDst, int srcDstStep, VemiSize roiSize,
+                                                 const Vemi16s threshold[3], const Vemi16s value[3]);
+VEMI_API VemiStatus vemiThreshold_GTVal_16s_C4IR(Vemi16s* pSrcDst, int srcDstStep, VemiSize roiSize,
+                                                 const Vemi16s threshold[4], const Vemi16s value[4]);
+VEMI_API VemiStatus vemiThreshold_GTVal_16s_AC4IR(Vemi16s* pSrcDst, int srcDstStep, VemiSize roiSize,
+                                                  const Vemi16s threshold[3], const Vemi16s value[3]);
+
+VEMI_API VemiStatus vemiThreshold_GTVal_32f_C1R(const Vemi32f* pSrc, int srcStep, Vemi32f* pDst, int dstStep,
+                                                VemiSize roiSize, Vemi32f threshold, Vemi32f value);
+VEMI_API VemiStatus vemiThreshold_GTVal_32f_C3R(const Vemi32f* pSrc, int srcStep, Vemi32f* pDst, int dstStep,
+                                                VemiSize roiSize, const Vemi32f threshold[3], const Vemi32f value[3]);
+VEMI_API VemiStatus vemiThreshold_GTVal_32f_C4R(const Vemi32f* pSrc, int srcStep, Vemi32f* pDst, int dstStep,
+                                                VemiSize roiSize, const Vemi32f threshold[4], const Vemi32f value[4]);
+VEMI_API VemiStatus vemiThreshold_GTVal_32f_AC4R(const Vemi32f* pSrc, int srcStep, Vemi32f* pDst, int dstStep,
+                                                 VemiSize roiSize, const Vemi32f threshold[3], const Vemi32f value[3]);
+
+VEMI_API VemiStatus vemiThreshold_GTVal_32f_C1IR(Vemi32f* pSrcDst, int srcDstStep, VemiSize roiSize, Vemi32f threshold,
+                                                 Vemi32f value);
+VEMI_API VemiStatus vemiThreshold_GTVal_32f_C3IR(Vemi32f* pSrcDst, int srcDstStep, VemiSize roiSize,
+                                                 const Vemi32f threshold[3], const Vemi32f value[3]);
+VEMI_API VemiStatus vemiThreshold_GTVal_32f_C4IR(Vemi32f* pSrcDst, int srcDstStep, VemiSize roiSize,
+                                                 const Vemi32f threshold[4], const Vemi32f value[4]);
+VEMI_API VemiStatus vemiThreshold_GTVal_32f_AC4IR(Vemi32f* pSrcDst, int srcDstStep, VemiSize roiSize,
+                                                  const Vemi32f threshold[3], const Vemi32f value[3]);
+
+VEMI_API VemiStatus vemiThreshold_LTValGTVal_8u_C1R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep,
+                                                    VemiSize roiSize, Vemi8u thresholdLT, Vemi8u valueLT,
+                                                    Vemi8u thresholdGT, Vemi8u valueGT);
+VEMI_API VemiStatus vemiThreshold_LTValGTVal_8u_C3R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep,
+                                                    VemiSize roiSize, const Vemi8u thresholdLT[3],
+                                                    const Vemi8u valueLT[3], const Vemi8u thresholdGT[3],
+                                                    const Vemi8u valueGT[3]);
+VEMI_API VemiStatus vemiThreshold_LTValGTVal_8u_AC4R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep,
+                                                     VemiSize roiSize, const Vemi8u thresholdLT[3],
+                                                     const Vemi8u valueLT[3], const Vemi8u thresholdGT[3],
+                                                     const Vemi8u valueGT[3]);
+
+VEMI_API VemiStatus vemiThreshold_LTValGTVal_8u_C1IR(Vemi8u* pSrcDst, int srcDstStep, VemiSize roiSize,
+                                                     Vemi8u thresholdLT, Vemi8u valueLT, Vemi8u thresholdGT,
+                                                     Vemi8u valueGT);
+VEMI_API VemiStatus vemiThreshold_LTValGTVal_8u_C3IR(Vemi8u* pSrcDst, int srcDstStep, VemiSize roiSize,
+                                                     const Vemi8u thresholdLT[3], const Vemi8u valueLT[3],
+                                                     const Vemi8u thresholdGT[3], const Vemi8u valueGT[3]);
+VEMI_API VemiStatus vemiThreshold_LTValGTVal_8u_AC4IR(Vemi8u* pSrcDst, int srcDstStep, VemiSize roiSize,
+                                                      const Vemi8u thresholdLT[3], const Vemi8u valueLT[3],
+                                                      const Vemi8u thresholdGT[3], const Vemi8u valueGT[3]);
+
+VEMI_API VemiStatus vemiThreshold_LTValGTVal_16s_C1R(const Vemi16s* pSrc, int srcStep, Vemi16s* pDst, int dstStep,
+                                                     VemiSize roiSize, Vemi16s thresholdLT, Vemi16s valueLT,
+                                                     Vemi16s thresholdGT, Vemi16s valueGT);
+VEMI_API VemiStatus vemiThreshold_LTValGTVal_16s_C3R(const Vemi16s* pSrc, int srcStep, Vemi16s* pDst, int dstStep,
+                                                     VemiSize roiSize, const Vemi16s thresholdLT[3],
+                                                     const Vemi16s valueLT[3], const Vemi16s thresholdGT[3],
+                                                     const Vemi16s valueGT[3]);
+VEMI_API VemiStatus vemiThreshold_LTValGTVal_16s_AC4R(const Vemi16s* pSrc, int srcStep, Vemi16s* pDst, int dstStep,
+                                                      VemiSize roiSize, const Vemi16s thresholdLT[3],
+                                                      const Vemi16s valueLT[3], const Vemi16s thresholdGT[3],
+                                                      const Vemi16s valueGT[3]);
+
+VEMI_API VemiStatus vemiThreshold_LTValGTVal_16s_C1IR(Vemi16s* pSrcDst, int srcDstStep, VemiSize roiSize,
+                                                      Vemi16s thresholdLT, Vemi16s valueLT, Vemi16s thresholdGT,
+                                                      Vemi16s valueGT);
+VEMI_API VemiStatus vemiThreshold_LTValGTVal_16s_C3IR(Vemi16s* pSrcDst, int srcDstStep, VemiSize roiSize,
+                                                      const Vemi16s thresholdLT[3], const Vemi16s valueLT[3],
+                                                      const Vemi16s thresholdGT[3], const Vemi16s valueGT[3]);
+VEMI_API VemiStatus vemiThreshold_LTValGTVal_16s_AC4IR(Vemi16s* pSrcDst, int srcDstStep, VemiSize roiSize,
+                                                       const Vemi16s thresholdLT[3], const Vemi16s valueLT[3],
+                                                       const Vemi16s thresholdGT[3], const Vemi16s valueGT[3]);
+
+VEMI_API VemiStatus vemiThreshold_LTValGTVal_32f_C1R(const Vemi32f* pSrc, int srcStep, Vemi32f* pDst, int dstStep,
+                                                     VemiSize roiSize, Vemi32f thresholdLT, Vemi32f valueLT,
+                                                     Vemi32f thresholdGT, Vemi32f valueGT);
+VEMI_API VemiStatus vemiThreshold_LTValGTVal_32f_C3R(const Vemi32f* pSrc, int srcStep, Vemi32f* pDst, int dstStep,
+                                                     VemiSize roiSize, const Vemi32f thresholdLT[3],
+                                                     const Vemi32f valueLT[3], const Vemi32f thresholdGT[3],
+                                                     const Vemi32f valueGT[3]);
+VEMI_API VemiStatus vemiThreshold_LTValGTVal_32f_AC4R(const Vemi32f* pSrc, int srcStep, Vemi32f* pDst, int dstStep,
+                                                      VemiSize roiSize, const Vemi32f thresholdLT[3],
+                                                      const Vemi32f valueLT[3], const Vemi32f thresholdGT[3],
+                                                      const Vemi32f valueGT[3]);
+
+VEMI_API VemiStatus vemiThreshold_LTValGTVal_32f_C1IR(Vemi32f* pSrcDst, int srcDstStep, VemiSize roiSize,
+                                                      Vemi32f thresholdLT, Vemi32f valueLT, Vemi32f thresholdGT,
+                                                      Vemi32f valueGT);
+VEMI_API VemiStatus vemiThreshold_LTValGTVal_32f_C3IR(Vemi32f* pSrcDst, int srcDstStep, VemiSize roiSize,
+                                                      const Vemi32f thresholdLT[3], const Vemi32f valueLT[3],
+                                                      const Vemi32f thresholdGT[3], const Vemi32f valueGT[3]);
+VEMI_API VemiStatus vemiThreshold_LTValGTVal_32f_AC4IR(Vemi32f* pSrcDst, int srcDstStep, VemiSize roiSize,
+                                                       const Vemi32f thresholdLT[3], const Vemi32f valueLT[3],
+                                                       const Vemi32f thresholdGT[3], const Vemi32f valueGT[3]);
+
+/** @} */
+
+/**
+ * @defgroup vemi_compare vemiCompare: where two images stand in a relation
+ *
+ * One byte for each pixel: 255 where the condition holds for all of its channels, 0 elsewhere. Of a pixel's elements a
+ * in pSrc1 and b in pSrc2, the condition is
+ *
+ *     vemiCmpLess       a < b
+ *     vemiCmpLessEq     a <= b
+ *     vemiCmpEq         a == b
+ *     vemiCmpGreaterEq  a >= b
+ *     vemiCmpGreater    a > b
+ *
+ * for the first three channels in C3 and AC4, for all four in C4. No condition holds where a or b is a NaN; zeros of
+ * both signs are equal. Mind that with several channels the opposite operator does not give the opposite map: of a
+ * pixel that is brighter in red and darker in blue, neither vemiCmpLess nor vemiCmpGreaterEq gives 255.
+ *
+ * @param pSrc1,src1Step  first pixel of the first source, and the bytes between its rows
+ * @param pSrc2,src2Step  the same of the second source
+ * @param pDst,dstStep    first pixel of the map, which has one channel of bytes, and the bytes between its rows
+ * @param roiSize         size of the region in pixels
+ * @param cmpOp           the operator. Any number that is none of the five is accepted: the call writes nothing and
+ *                        returns vemiOk
+ *
+ * **Overlap.** pDst overlaps no source.
+ *
+ * **Statuses**, in the order of the tests: null, step, size.
+ *
+ * **Threads.** All forms run in the calling thread.
+ *
+ *     vemiCompare_8u_C3R(a, aStep, b, bStep, map, mapStep, size, vemiCmpEq);   // (1,2,3) and (1,2,4) -> 0
+ * @{
+ */
+
+VEMI_API VemiStatus vemiCompare_8u_C1R(const Vemi8u* pSrc1, int src1Step, const Vemi8u* pSrc2, int src2Step,
+                                       Vemi8u* pDst, int dstStep, VemiSize roiSize, vemiCmpOp cmpOp);
+VEMI_API VemiStatus vemiCompare_8u_C3R(const Vemi8u* pSrc1, int src1Step, const Vemi8u* pSrc2, int src2Step,
+                                       Vemi8u* pDst, int dstStep, VemiSize roiSize, vemiCmpOp cmpOp);
+VEMI_API VemiStatus vemiCompare_8u_C4R(const Vemi8u* pSrc1, int src1Step, const Vemi8u* pSrc2, int src2Step,
+                                       Vemi8u* pDst, int dstStep, VemiSize roiSize, vemiCmpOp cmpOp);
+VEMI_API VemiStatus vemiCompare_8u_AC4R(const Vemi8u* pSrc1, int src1Step, const Vemi8u* pSrc2, int src2Step,
+                                        Vemi8u* pDst, int dstStep, VemiSize roiSize, vemiCmpOp cmpOp);
+
+VEMI_API VemiStatus vemiCompare_16s_C1R(const Vemi16s* pSrc1, int src1Step, const Vemi16s* pSrc2, int src2Step,
+                                        Vemi8u* pDst, int dstStep, VemiSize roiSize, vemiCmpOp cmpOp);
+VEMI_API VemiStatus vemiCompare_16s_C3R(const Vemi16s* pSrc1, int src1Step, const Vemi16s* pSrc2, int src2Step,
+                                        Vemi8u* pDst, int dstStep, VemiSize roiSize, vemiCmpOp cmpOp);
+VEMI_API VemiStatus vemiCompare_16s_C4R(const Vemi16s* pSrc1, int src1Step, const Vemi16s* pSrc2, int src2Step,
+                                        Vemi8u* pDst, int dstStep, VemiSize roiSize, vemiCmpOp cmpOp);
+VEMI_API VemiStatus vemiCompare_16s_AC4R(const Vemi16s* pSrc1, int src1Step, const Vemi16s* pSrc2, int src2Step,
+                                         Vemi8u* pDst, int dstStep, VemiSize roiSize, vemiCmpOp cmpOp);
+
+VEMI_API VemiStatus vemiCompare_32f_C1R(const Vemi32f* pSrc1, int src1Step, const Vemi32f* pSrc2, int src2Step,
+                                        Vemi8u* pDst, int dstStep, VemiSize roiSize, vemiCmpOp cmpOp);
+VEMI_API VemiStatus vemiCompare_32f_C3R(const Vemi32f* pSrc1, int src1Step, const Vemi32f* pSrc2, int src2Step,
+                                        Vemi8u* pDst, int dstStep, VemiSize roiSize, vemiCmpOp cmpOp);
+VEMI_API VemiStatus vemiCompare_32f_C4R(const Vemi32f* pSrc1, int src1Step, const Vemi32f* pSrc2, int src2Step,
+                                        Vemi8u* pDst, int dstStep, VemiSize roiSize, vemiCmpOp cmpOp);
+VEMI_API VemiStatus vemiCompare_32f_AC4R(const Vemi32f* pSrc1, int src1Step, const Vemi32f* pSrc2, int src2Step,
+                                         Vemi8u* pDst, int dstStep, VemiSize roiSize, vemiCmpOp cmpOp);
+
+/** @} */
+
+/**
+ * @defgroup vemi_comparec vemiCompareC: where an image and a constant stand in a relation
+ *
+ * vemiCompare with a constant in the place of the second source: a pixel's elements a are compared with the constants
+ * of their channels, as in a < value for vemiCmpLess. C1 forms take the constant by value; the others take an array
+ * with one constant for each channel: three elements in C3 and AC4, four in C4.
+ *
+ * @param pSrc,srcStep  first pixel of the source, and the bytes between its rows
+ * @param value         the constant, or the array of constants
+ * @param pDst,dstStep  first pixel of the map, which has one channel of bytes, and the bytes between its rows
+ * @param roiSize       size of the region in pixels
+ * @param cmpOp         as in vemiCompare: one of the five operators, or nothing is written
+ *
+ * **Overlap.** pDst overlaps neither the source nor the array of constants.
+ *
+ * **Statuses**, in the order of the tests: null (the array of constants among the pointers), step, size.
+ *
+ * **Threads.** All forms run in the calling thread.
+ *
+ *     const Vemi8u grey[3] = {128, 128, 128};
+ *     vemiCompareC_8u_C3R(photo, photoStep, grey, map, mapStep, size, vemiCmpGreaterEq);   // no channel below 128
+ * @{
+ */
+
+VEMI_API VemiStatus vemiCompareC_8u_C1R(const Vemi8u* pSrc, int srcStep, Vemi8u value, Vemi8u* pDst, int dstStep,
+                                        VemiSize roiSize, vemiCmpOp cmpOp);
+VEMI_API VemiStatus vemiCompareC_8u_C3R(const Vemi8u* pSrc, int srcStep, const Vemi8u value[3], Vemi8u* pDst,
+                                        int dstStep, VemiSize roiSize, vemiCmpOp cmpOp);
+VEMI_API VemiStatus vemiCompareC_8u_C4R(const Vemi8u* pSrc, int srcStep, const Vemi8u value[4], Vemi8u* pDst,
+                                        int dstStep, VemiSize roiSize, vemiCmpOp cmpOp);
+VEMI_API VemiStatus vemiCompareC_8u_AC4R(const Vemi8u* pSrc, int srcStep, const Vemi8u value[3], Vemi8u* pDst,
+                                         int dstStep, VemiSize roiSize, vemiCmpOp cmpOp);
+
+VEMI_API VemiStatus vemiCompareC_16s_C1R(const Vemi16s* pSrc, int srcStep, Vemi16s value, Vemi8u* pDst, int dstStep,
+                                         VemiSize roiSize, vemiCmpOp cmpOp);
+VEMI_API VemiStatus vemiCompareC_16s_C3R(const Vemi16s* pSrc, int srcStep, const Vemi16s value[3], Vemi8u* pDst,
+                                         int dstStep, VemiSize roiSize, vemiCmpOp cmpOp);
+VEMI_API VemiStatus vemiCompareC_16s_C4R(const Vemi16s* pSrc, int srcStep, const Vemi16s value[4], Vemi8u* pDst,
+                                         int dstStep, VemiSize roiSize, vemiCmpOp cmpOp);
+VEMI_API VemiStatus vemiCompareC_16s_AC4R(const Vemi16s* pSrc, int srcStep, const Vemi16s value[3], Vemi8u* pDst,
+                                          int dstStep, VemiSize roiSize, vemiCmpOp cmpOp);
+
+VEMI_API VemiStatus vemiCompareC_32f_C1R(const Vemi32f* pSrc, int srcStep, Vemi32f value, Vemi8u* pDst, int dstStep,
+                                         VemiSize roiSize, vemiCmpOp cmpOp);
+VEMI_API VemiStatus vemiCompareC_32f_C3R(const Vemi32f* pSrc, int srcStep, const Vemi32f value[3], Vemi8u* pDst,
+                                         int dstStep, VemiSize roiSize, vemiCmpOp cmpOp);
+VEMI_API VemiStatus vemiCompareC_32f_C4R(const Vemi32f* pSrc, int srcStep, const Vemi32f value[4], Vemi8u* pDst,
+                                         int dstStep, VemiSize roiSize, vemiCmpOp cmpOp);
+VEMI_API VemiStatus vemiCompareC_32f_AC4R(const Vemi32f* pSrc, int srcStep, const Vemi32f value[3], Vemi8u* pDst,
+                                          int dstStep, VemiSize roiSize, vemiCmpOp cmpOp);
+
+/** @} */
+
+/**
+ * @defgroup vemi_compareequaleps vemiCompareEqualEps, vemiCompareEqualEpsC: where values are equal within a tolerance
+ *
+ * One byte for each pixel: 255 where |a - b| <= eps for all channels that are compared, 0 elsewhere; a is the element
+ * of the first source, b that of the second source or the constant of the channel. The difference is rounded to single
+ * precision before it is compared, so values that differ by hardly more than eps may count as equal. A difference that
+ * is a NaN (an operand is one, or both are infinities of one sign) is within no tolerance, not even an infinite one.
+ *
+ * Layouts are those of vemiCompare and vemiCompareC: three channels take part in C3 and AC4, four in C4, and constants
+ * come by value in C1 and as an array of three, three and four elements in C3, AC4 and C4.
+ *
+ * @param pSrc1,src1Step  first pixel of the first source, and the bytes between its rows
+ * @param pSrc2,src2Step  the same of the second source
+ * @param pSrc,srcStep    the same of the one source
+ * @param value           the constant, or the array of constants
+ * @param pDst,dstStep    first pixel of the map, which has one channel of bytes, and the bytes between its rows
+ * @param roiSize         size of the region in pixels
+ * @param eps             the tolerance, at least 0; a zero of either sign asks for equal values
+ *
+ * **Overlap.** pDst overlaps neither a source nor the array of constants.
+ *
+ * **Statuses**, in the order of the tests: null (the array of constants among the pointers), step, size; then
+ * vemiErrEpsilon if eps is negative or a NaN.
+ *
+ * **Threads.** All forms run in the calling thread.
+ *
+ *     vemiCompareEqualEps_32f_C1R(a, aStep, b, bStep, map, mapStep, size, 0.5f);   // 1.0 and 1.5 -> 255, 1.0 and 2.0
+ * -> 0
+ * @{
+ */
+
+VEMI_API VemiStatus vemiCompareEqualEps_32f_C1R(const Vemi32f* pSrc1, int src1Step, const Vemi32f* pSrc2, int src2Step,
+                                                Vemi8u* pDst, int dstStep, VemiSize roiSize, Vemi32f eps);
+VEMI_API VemiStatus vemiCompareEqualEps_32f_C3R(const Vemi32f* pSrc1, int src1Step, const Vemi32f* pSrc2, int src2Step,
+                                                Vemi8u* pDst, int dstStep, VemiSize roiSize, Vemi32f eps);
+VEMI_API VemiStatus vemiCompareEqualEps_32f_C4R(const Vemi32f* pSrc1, int src1Step, const Vemi32f* pSrc2, int src2Step,
+                                                Vemi8u* pDst, int dstStep, VemiSize roiSize, Vemi32f eps);
+VEMI_API VemiStatus vemiCompareEqualEps_32f_AC4R(const Vemi32f* pSrc1, int src1Step, const Vemi32f* pSrc2, int src2Step,
+                                                 Vemi8u* pDst, int dstStep, VemiSize roiSize, Vemi32f eps);
+
+VEMI_API VemiStatus vemiCompareEqualEpsC_32f_C1R(const Vemi32f* pSrc, int srcStep, Vemi32f value, Vemi8u* pDst,
+                                                 int dstStep, VemiSize roiSize, Vemi32f eps);
+VEMI_API VemiStatus vemiCompareEqualEpsC_32f_C3R(const Vemi32f* pSrc, int srcStep, const Vemi32f value[3], Vemi8u* pDst,
+                                                 int dstStep, VemiSize roiSize, Vemi32f eps);
+VEMI_API VemiStatus vemiCompareEqualEpsC_32f_C4R(const Vemi32f* pSrc, int srcStep, const Vemi32f value[4], Vemi8u* pDst,
+                                                 int dstStep, VemiSize roiSize, Vemi32f eps);
+VEMI_API VemiStatus vemiCompareEqualEpsC_32f_AC4R(const Vemi32f* pSrc, int srcStep, const Vemi32f value[3],
+                                                  Vemi8u* pDst, int dstStep, VemiSize roiSize, Vemi32f eps);
+
+/** @} */
+
+#ifdef __cplusplus
+}
+#endif
+
+#endif

@@ -1,0 +1,168 @@
+// vemiConvert between numbers: the value in another element type, limited to the type's range.
+// Checks: null, size, step. Everything runs in the calling thread.
+
+#include <limits>
+
+#include "core/checks.h"
+#include "core/element_width.h"
+#include "core/exports.h"
+#include "core/float_control.h"
+#include "core/map_region.h"
+#include "vemi/map.h"
+
+namespace vemi {
+namespace {
+
+/// To a type that holds all values of the source.
+struct Extended {
+  template <class D, class S>
+  HWY_INLINE hn::Vec<D> operator()(D d, const S* in) const {
+    return loadExtended(d, in);
+  }
+};
+
+/// From wider integers.
+struct Limited {
+  template <class D, class S>
+  HWY_INLINE hn::Vec<D> operator()(D d, const S* in) const {
+    const Lanes<S> ds;
+    return packEach<S>(d, [&](auto k) HWY_ATTR {
+      const auto v = hn::LoadU(ds, in + k * laneCount<S>);
+      if constexpr (std::is_signed_v<S>) return v;
+      // Limited first, so that the lanes are as good as signed.
+      constexpr auto high = static_cast<S>(std::numeric_limits<hn::TFromD<D>>::max());
+      return hn::BitCast(hn::RebindToSigned<decltype(ds)>(), hn::Min(v, hn::Set(ds, high)));
+    });
+  }
+};
+
+/// From floats, by the rounding that is set, unless one of them is invalid.
+struct Rounded {
+  template <class D>
+  HWY_INLINE hn::Vec<D> operator()(D d, const Vemi32f* in) const {
+    const Lanes<Vemi32f> df;
+    return packEach<Vemi32f>(
+        d, [&](auto k) HWY_ATTR { return toIntegers(df, hn::LoadU(df, in + k * laneCount<Vemi32f>)); });
+  }
+};
+
+/// From any floats: limited first. A NaN is above all numbers: of an unordered pair the processor's minimum is the
+/// second.
+struct LimitedAndRounded {
+  template <class D>
+  HWY_INLINE hn::Vec<D> operator()(D d, const Vemi32f* in) const {
+    using Limits = std::numeric_limits<hn::TFromD<D>>;
+    const Lanes<Vemi32f> df;
+    return packEach<Vemi32f>(d, [&](auto k) HWY_ATTR {
+      const auto limitedAbove = hn::Min(hn::LoadU(df, in + k * laneCount<Vemi32f>), hn::Set(df, Limits::max()));
+      return toIntegers(df, hn::Max(limitedAbove, hn::Set(df, Limits::min())));
+    });
+  }
+};
+
+template <class L, class Op, class S, class T>
+VemiStatus convert(Image<const S> src, Image<T> dst, VemiSize roiSize) {
+  if (const VemiStatus bad = firstOf(checkNull(src, dst), checkSize(roiSize), checkStep(src, dst))) return bad;
+  mapRegion<L, CallerRows>(roiSize, false, eachVector(Op()), dst, src);
+  return vemiOk;
+}
+
+template <class L, class T>
+VemiStatus convertRounded(Image<const Vemi32f> src, Image<T> dst, VemiSize roiSize, vemiRoundMode roundMode) {
+  if (const VemiStatus bad = firstOf(checkNull(src, dst), checkSize(roiSize), checkStep(src, dst))) return bad;
+  withRounding(roundMode == vemiRndNear ? Rounding::nearest : Rounding::towardZero, [&] {
+    mapRegion<L, CallerRows>(roiSize, false, eachVector(Rounded()), dst, src);
+    if (metInvalid()) mapRegion<L, CallerRows>(roiSize, false, eachVector(LimitedAndRounded()), dst, src);
+  });
+  return vemiOk;
+}
+
+}  // namespace
+}  // namespace vemi
+
+using namespace vemi;
+
+VEMI_CONVERSION(vemiConvert_8u16u_C1R, Vemi8u, Vemi16u, convert<C1, Extended>)
+VEMI_CONVERSION(vemiConvert_8u16u_C3R, Vemi8u, Vemi16u, convert<C3, Extended>)
+VEMI_CONVERSION(vemiConvert_8u16u_C4R, Vemi8u, Vemi16u, convert<C4, Extended>)
+VEMI_CONVERSION(vemiConvert_8u16u_AC4R, Vemi8u, Vemi16u, convert<AC4, Extended>)
+
+VEMI_CONVERSION(vemiConvert_8u16s_C1R, Vemi8u, Vemi16s, convert<C1, Extended>)
+VEMI_CONVERSION(vemiConvert_8u16s_C3R, Vemi8u, Vemi16s, convert<C3, Extended>)
+VEMI_CONVERSION(vemiConvert_8u16s_C4R, Vemi8u, Vemi16s, convert<C4, Extended>)
+VEMI_CONVERSION(vemiConvert_8u16s_AC4R, Vemi8u, Vemi16s, convert<AC4, Extended>)
+
+VEMI_CONVERSION(vemiConvert_8u32s_C1R, Vemi8u, Vemi32s, convert<C1, Extended>)
+VEMI_CONVERSION(vemiConvert_8u32s_C3R, Vemi8u, Vemi32s, convert<C3, Extended>)
+VEMI_CONVERSION(vemiConvert_8u32s_C4R, Vemi8u, Vemi32s, convert<C4, Extended>)
+VEMI_CONVERSION(vemiConvert_8u32s_AC4R, Vemi8u, Vemi32s, convert<AC4, Extended>)
+
+VEMI_CONVERSION(vemiConvert_8u32f_C1R, Vemi8u, Vemi32f, convert<C1, Extended>)
+VEMI_CONVERSION(vemiConvert_8u32f_C3R, Vemi8u, Vemi32f, convert<C3, Extended>)
+VEMI_CONVERSION(vemiConvert_8u32f_C4R, Vemi8u, Vemi32f, convert<C4, Extended>)
+VEMI_CONVERSION(vemiConvert_8u32f_AC4R, Vemi8u, Vemi32f, convert<AC4, Extended>)
+
+VEMI_CONVERSION(vemiConvert_8s32s_C1R, Vemi8s, Vemi32s, convert<C1, Extended>)
+VEMI_CONVERSION(vemiConvert_8s32s_C3R, Vemi8s, Vemi32s, convert<C3, Extended>)
+VEMI_CONVERSION(vemiConvert_8s32s_C4R, Vemi8s, Vemi32s, convert<C4, Extended>)
+VEMI_CONVERSION(vemiConvert_8s32s_AC4R, Vemi8s, Vemi32s, convert<AC4, Extended>)
+
+VEMI_CONVERSION(vemiConvert_8s32f_C1R, Vemi8s, Vemi32f, convert<C1, Extended>)
+VEMI_CONVERSION(vemiConvert_8s32f_C3R, Vemi8s, Vemi32f, convert<C3, Extended>)
+VEMI_CONVERSION(vemiConvert_8s32f_C4R, Vemi8s, Vemi32f, convert<C4, Extended>)
+VEMI_CONVERSION(vemiConvert_8s32f_AC4R, Vemi8s, Vemi32f, convert<AC4, Extended>)
+
+VEMI_CONVERSION(vemiConvert_16u32s_C1R, Vemi16u, Vemi32s, convert<C1, Extended>)
+VEMI_CONVERSION(vemiConvert_16u32s_C3R, Vemi16u, Vemi32s, convert<C3, Extended>)
+VEMI_CONVERSION(vemiConvert_16u32s_C4R, Vemi16u, Vemi32s, convert<C4, Extended>)
+VEMI_CONVERSION(vemiConvert_16u32s_AC4R, Vemi16u, Vemi32s, convert<AC4, Extended>)
+
+VEMI_CONVERSION(vemiConvert_16u32f_C1R, Vemi16u, Vemi32f, convert<C1, Extended>)
+VEMI_CONVERSION(vemiConvert_16u32f_C3R, Vemi16u, Vemi32f, convert<C3, Extended>)
+VEMI_CONVERSION(vemiConvert_16u32f_C4R, Vemi16u, Vemi32f, convert<C4, Extended>)
+VEMI_CONVERSION(vemiConvert_16u32f_AC4R, Vemi16u, Vemi32f, convert<AC4, Extended>)
+
+VEMI_CONVERSION(vemiConvert_16s32f_C1R, Vemi16s, Vemi32f, convert<C1, Extended>)
+VEMI_CONVERSION(vemiConvert_16s32f_C3R, Vemi16s, Vemi32f, convert<C3, Extended>)
+VEMI_CONVERSION(vemiConvert_16s32f_C4R, Vemi16s, Vemi32f, convert<C4, Extended>)
+VEMI_CONVERSION(vemiConvert_16s32f_AC4R, Vemi16s, Vemi32f, convert<AC4, Extended>)
+
+VEMI_CONVERSION(vemiConvert_16u8u_C1R, Vemi16u, Vemi8u, convert<C1, Limited>)
+VEMI_CONVERSION(vemiConvert_16u8u_C3R, Vemi16u, Vemi8u, convert<C3, Limited>)
+VEMI_CONVERSION(vemiConvert_16u8u_C4R, Vemi16u, Vemi8u, convert<C4, Limited>)
+VEMI_CONVERSION(vemiConvert_16u8u_AC4R, Vemi16u, Vemi8u, convert<AC4, Limited>)
+
+VEMI_CONVERSION(vemiConvert_16s8u_C1R, Vemi16s, Vemi8u, convert<C1, Limited>)
+VEMI_CONVERSION(vemiConvert_16s8u_C3R, Vemi16s, Vemi8u, convert<C3, Limited>)
+VEMI_CONVERSION(vemiConvert_16s8u_C4R, Vemi16s, Vemi8u, convert<C4, Limited>)
+VEMI_CONVERSION(vemiConvert_16s8u_AC4R, Vemi16s, Vemi8u, convert<AC4, Limited>)
+
+VEMI_CONVERSION(vemiConvert_32s8u_C1R, Vemi32s, Vemi8u, convert<C1, Limited>)
+VEMI_CONVERSION(vemiConvert_32s8u_C3R, Vemi32s, Vemi8u, convert<C3, Limited>)
+VEMI_CONVERSION(vemiConvert_32s8u_C4R, Vemi32s, Vemi8u, convert<C4, Limited>)
+VEMI_CONVERSION(vemiConvert_32s8u_AC4R, Vemi32s, Vemi8u, convert<AC4, Limited>)
+
+VEMI_CONVERSION(vemiConvert_32s8s_C1R, Vemi32s, Vemi8s, convert<C1, Limited>)
+VEMI_CONVERSION(vemiConvert_32s8s_C3R, Vemi32s, Vemi8s, convert<C3, Limited>)
+VEMI_CONVERSION(vemiConvert_32s8s_C4R, Vemi32s, Vemi8s, convert<C4, Limited>)
+VEMI_CONVERSION(vemiConvert_32s8s_AC4R, Vemi32s, Vemi8s, convert<AC4, Limited>)
+
+VEMI_CONVERSION_MODE(vemiConvert_32f8u_C1R, Vemi32f, Vemi8u, convertRounded<C1>)
+VEMI_CONVERSION_MODE(vemiConvert_32f8u_C3R, Vemi32f, Vemi8u, convertRounded<C3>)
+VEMI_CONVERSION_MODE(vemiConvert_32f8u_C4R, Vemi32f, Vemi8u, convertRounded<C4>)
+VEMI_CONVERSION_MODE(vemiConvert_32f8u_AC4R, Vemi32f, Vemi8u, convertRounded<AC4>)
+
+VEMI_CONVERSION_MODE(vemiConvert_32f8s_C1R, Vemi32f, Vemi8s, convertRounded<C1>)
+VEMI_CONVERSION_MODE(vemiConvert_32f8s_C3R, Vemi32f, Vemi8s, convertRounded<C3>)
+VEMI_CONVERSION_MODE(vemiConvert_32f8s_C4R, Vemi32f, Vemi8s, convertRounded<C4>)
+VEMI_CONVERSION_MODE(vemiConvert_32f8s_AC4R, Vemi32f, Vemi8s, convertRounded<AC4>)
+
+VEMI_CONVERSION_MODE(vemiConvert_32f16u_C1R, Vemi32f, Vemi16u, convertRounded<C1>)
+VEMI_CONVERSION_MODE(vemiConvert_32f16u_C3R, Vemi32f, Vemi16u, convertRounded<C3>)
+VEMI_CONVERSION_MODE(vemiConvert_32f16u_C4R, Vemi32f, Vemi16u, convertRounded<C4>)
+VEMI_CONVERSION_MODE(vemiConvert_32f16u_AC4R, Vemi32f, Vemi16u, convertRounded<AC4>)
+
+VEMI_CONVERSION_MODE(vemiConvert_32f16s_C1R, Vemi32f, Vemi16s, convertRounded<C1>)
+VEMI_CONVERSION_MODE(vemiConvert_32f16s_C3R, Vemi32f, Vemi16s, convertRounded<C3>)
+VEMI_CONVERSION_MODE(vemiConvert_32f16s_C4R, Vemi32f, Vemi16s, convertRounded<C4>)
+VEMI_CONVERSION_MODE(vemiConvert_32f16s_AC4R, Vemi32f, Vemi16s, convertRounded<AC4>)
