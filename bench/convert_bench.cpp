@@ -123,8 +123,8 @@ Family convertFamily() {
               {"Scale 32s8u C1 fast", "OpenCV convertTo", scaledDown<Vemi32s, 1, vemiScale_32s8u_C1R, vemiHintFast>},
               {"Scale 32s8u C1 accurate", "OpenCV convertTo",
                scaledDown<Vemi32s, 1, vemiScale_32s8u_C1R, vemiHintAccurate>},
-              {"Scale 32f8u C1", "OpenCV convertTo", scaledFromFloat<1, vemiScale_32f8u_C1R>},
-              {"Scale 32f8u C3", "OpenCV convertTo", scaledFromFloat<3, vemiScale_32f8u_C3R>},
+              {"Scale 32f8u C1", "OpenCV convertTo", scaledFromFloat<1, vemiScale_32f8u_C1R, 0>},
+              {"Scale 32f8u C3", "OpenCV convertTo", scaledFromFloat<3, vemiScale_32f8u_C3R, 0>},
 #endif
           }};
 }
