@@ -221,6 +221,32 @@ VemiStatus compositePlanesC(Planes<const T, 4> src1, T alpha1, Planes<const T, 4
 
 using namespace vemi;
 
+// Two sources and the type of a composite, without and with an alpha for each source, and of four planes each.
+#define VEMI_COMPOSITE(name, T, ...)                                                                                  \
+  VemiStatus name(const T* pSrc1, int src1Step, const T* pSrc2, int src2Step, T* pDst, int dstStep, VemiSize roiSize, \
+                  int alphaType) {                                                                                    \
+    return __VA_ARGS__(Image<const T>{pSrc1, src1Step}, Image<const T>{pSrc2, src2Step}, Image<T>{pDst, dstStep},     \
+                       roiSize, alphaType);                                                                           \
+  }
+#define VEMI_COMPOSITE_PLANES(name, T, ...)                                                                       \
+  VemiStatus name(const T* const pSrc1[4], int src1Step, const T* const pSrc2[4], int src2Step, T* const pDst[4], \
+                  int dstStep, VemiSize roiSize, int alphaType) {                                                 \
+    return __VA_ARGS__(Planes<const T, 4>{pSrc1, src1Step}, Planes<const T, 4>{pSrc2, src2Step},                  \
+                       Planes<T, 4>{pDst, dstStep}, roiSize, alphaType);                                          \
+  }
+#define VEMI_COMPOSITE_C(name, T, ...)                                                                     \
+  VemiStatus name(const T* pSrc1, int src1Step, T alpha1, const T* pSrc2, int src2Step, T alpha2, T* pDst, \
+                  int dstStep, VemiSize roiSize, int alphaType) {                                          \
+    return __VA_ARGS__(Image<const T>{pSrc1, src1Step}, alpha1, Image<const T>{pSrc2, src2Step}, alpha2,   \
+                       Image<T>{pDst, dstStep}, roiSize, alphaType);                                       \
+  }
+#define VEMI_COMPOSITE_PLANES_C(name, T, ...)                                                                       \
+  VemiStatus name(const T* const pSrc1[4], int src1Step, T alpha1, const T* const pSrc2[4], int src2Step, T alpha2, \
+                  T* const pDst[4], int dstStep, VemiSize roiSize, int alphaType) {                                 \
+    return __VA_ARGS__(Planes<const T, 4>{pSrc1, src1Step}, alpha1, Planes<const T, 4>{pSrc2, src2Step}, alpha2,    \
+                       Planes<T, 4>{pDst, dstStep}, roiSize, alphaType);                                            \
+  }
+
 VEMI_COMPOSITE(vemiAlphaComp_8u_AC1R, Vemi8u, compositeAlphas)
 VEMI_COMPOSITE(vemiAlphaComp_8u_AC4R, Vemi8u, compositePixels)
 VEMI_COMPOSITE_PLANES(vemiAlphaComp_8u_AP4R, Vemi8u, compositePlanes)

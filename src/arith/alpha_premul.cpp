@@ -94,6 +94,26 @@ VemiStatus premultiplyPlanesC(Planes<const T, 4> src, const T* alpha, Planes<T, 
 
 using namespace vemi;
 
+// Planes to planes, without and with a constant; in place, the source is the destination.
+#define VEMI_PLANES_PLANES(name, T, planes, ...)                                                                    \
+  VemiStatus name(const T* const pSrc[planes], int srcStep, T* const pDst[planes], int dstStep, VemiSize roiSize) { \
+    return __VA_ARGS__(Planes<const T, planes>{pSrc, srcStep}, Planes<T, planes>{pDst, dstStep}, roiSize);          \
+  }
+#define VEMI_PLANES_SRCDST(name, T, planes, ...)                                                                       \
+  VemiStatus name(T* const pSrcDst[planes], int srcDstStep, VemiSize roiSize) {                                        \
+    return __VA_ARGS__(Planes<const T, planes>{pSrcDst, srcDstStep}, Planes<T, planes>{pSrcDst, srcDstStep}, roiSize); \
+  }
+#define VEMI_PLANES_VALUE_PLANES(name, T, planes, ...)                                                             \
+  VemiStatus name(const T* const pSrc[planes], int srcStep, T value, T* const pDst[planes], int dstStep,           \
+                  VemiSize roiSize) {                                                                              \
+    return __VA_ARGS__(Planes<const T, planes>{pSrc, srcStep}, &value, Planes<T, planes>{pDst, dstStep}, roiSize); \
+  }
+#define VEMI_VALUE_PLANES_SRCDST(name, T, planes, ...)                                                               \
+  VemiStatus name(T value, T* const pSrcDst[planes], int srcDstStep, VemiSize roiSize) {                             \
+    return __VA_ARGS__(Planes<const T, planes>{pSrcDst, srcDstStep}, &value, Planes<T, planes>{pSrcDst, srcDstStep}, \
+                       roiSize);                                                                                     \
+  }
+
 VEMI_SRC_DST(vemiAlphaPremul_8u_AC4R, Vemi8u, premultiply)
 VEMI_PLANES_PLANES(vemiAlphaPremul_8u_AP4R, Vemi8u, 4, premultiplyPlanes)
 VEMI_SRCDST(vemiAlphaPremul_8u_AC4IR, Vemi8u, premultiply)

@@ -41,6 +41,24 @@ VemiStatus shiftC(Image<const T> src, const Vemi32u* value, Image<T> dst, VemiSi
 
 using namespace vemi;
 
+// A source and a count (or one for each channel).
+#define VEMI_SRC_COUNT_DST(name, T, ...)                                                               \
+  VemiStatus name(const T* pSrc, int srcStep, Vemi32u value, T* pDst, int dstStep, VemiSize roiSize) { \
+    return __VA_ARGS__(Image<const T>{pSrc, srcStep}, &value, Image<T>{pDst, dstStep}, roiSize);       \
+  }
+#define VEMI_COUNT_SRCDST(name, T, ...)                                                                      \
+  VemiStatus name(Vemi32u value, T* pSrcDst, int srcDstStep, VemiSize roiSize) {                             \
+    return __VA_ARGS__(Image<const T>{pSrcDst, srcDstStep}, &value, Image<T>{pSrcDst, srcDstStep}, roiSize); \
+  }
+#define VEMI_SRC_COUNTS_DST(name, T, ...)                                                                     \
+  VemiStatus name(const T* pSrc, int srcStep, const Vemi32u* value, T* pDst, int dstStep, VemiSize roiSize) { \
+    return __VA_ARGS__(Image<const T>{pSrc, srcStep}, value, Image<T>{pDst, dstStep}, roiSize);               \
+  }
+#define VEMI_COUNTS_SRCDST(name, T, ...)                                                                    \
+  VemiStatus name(const Vemi32u* value, T* pSrcDst, int srcDstStep, VemiSize roiSize) {                     \
+    return __VA_ARGS__(Image<const T>{pSrcDst, srcDstStep}, value, Image<T>{pSrcDst, srcDstStep}, roiSize); \
+  }
+
 VEMI_SRC_COUNT_DST(vemiLShiftC_8u_C1R, Vemi8u, shiftC<C1, LeftShift>)
 VEMI_SRC_COUNTS_DST(vemiLShiftC_8u_C3R, Vemi8u, shiftC<C3, LeftShift>)
 VEMI_SRC_COUNTS_DST(vemiLShiftC_8u_C4R, Vemi8u, shiftC<C4, LeftShift>)

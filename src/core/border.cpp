@@ -160,6 +160,32 @@ VemiStatus wrapBorderInPlace(Image<T> srcDst, VemiSize srcRoiSize, VemiSize dstR
 
 using namespace vemi;
 
+// A source that lands inside a larger destination.
+#define VEMI_BORDER(name, T, ...)                                                                             \
+  VemiStatus name(const T* pSrc, int srcStep, VemiSize srcRoiSize, T* pDst, int dstStep, VemiSize dstRoiSize, \
+                  int topBorderHeight, int leftBorderWidth) {                                                 \
+    return __VA_ARGS__(Image<const T>{pSrc, srcStep}, srcRoiSize, Image<T>{pDst, dstStep}, dstRoiSize,        \
+                       topBorderHeight, leftBorderWidth);                                                     \
+  }
+#define VEMI_BORDER_VALUE(name, T, ...)                                                                       \
+  VemiStatus name(const T* pSrc, int srcStep, VemiSize srcRoiSize, T* pDst, int dstStep, VemiSize dstRoiSize, \
+                  int topBorderHeight, int leftBorderWidth, T value) {                                        \
+    return __VA_ARGS__(Image<const T>{pSrc, srcStep}, srcRoiSize, Image<T>{pDst, dstStep}, dstRoiSize,        \
+                       topBorderHeight, leftBorderWidth, &value);                                             \
+  }
+#define VEMI_BORDER_VALUES(name, T, ...)                                                                      \
+  VemiStatus name(const T* pSrc, int srcStep, VemiSize srcRoiSize, T* pDst, int dstStep, VemiSize dstRoiSize, \
+                  int topBorderHeight, int leftBorderWidth, const T* value) {                                 \
+    return __VA_ARGS__(Image<const T>{pSrc, srcStep}, srcRoiSize, Image<T>{pDst, dstStep}, dstRoiSize,        \
+                       topBorderHeight, leftBorderWidth, value);                                              \
+  }
+
+#define VEMI_BORDER_IN_PLACE(name, T, ...)                                                                    \
+  VemiStatus name(T* pSrc, int srcDstStep, VemiSize srcRoiSize, VemiSize dstRoiSize, int topBorderHeight,     \
+                  int leftBorderWidth) {                                                                      \
+    return __VA_ARGS__(Image<T>{pSrc, srcDstStep}, srcRoiSize, dstRoiSize, topBorderHeight, leftBorderWidth); \
+  }
+
 VEMI_BORDER_VALUE(vemiCopyConstBorder_8u_C1R, Vemi8u, copyConstBorder<Vemi8u, C1>)
 VEMI_BORDER_VALUE(vemiCopyConstBorder_16s_C1R, Vemi16s, copyConstBorder<Vemi16s, C1>)
 VEMI_BORDER_VALUE(vemiCopyConstBorder_32s_C1R, Vemi32s, copyConstBorder<Vemi32s, C1>)

@@ -137,6 +137,22 @@ VemiStatus merge(Planes<const T, channels> src, Image<T> dst, VemiSize roiSize) 
 
 using namespace vemi;
 
+// A source and a destination, of which a mask copies a part, or one of which lies in planes.
+#define VEMI_SRC_DST_MASK(name, T, ...)                                                                    \
+  VemiStatus name(const T* pSrc, int srcStep, T* pDst, int dstStep, VemiSize roiSize, const Vemi8u* pMask, \
+                  int maskStep) {                                                                          \
+    return __VA_ARGS__(Image<const T>{pSrc, srcStep}, Image<T>{pDst, dstStep}, roiSize,                    \
+                       Image<const Vemi8u>{pMask, maskStep});                                              \
+  }
+#define VEMI_SRC_PLANES(name, T, planes, ...)                                                         \
+  VemiStatus name(const T* pSrc, int srcStep, T* const pDst[planes], int dstStep, VemiSize roiSize) { \
+    return __VA_ARGS__(Image<const T>{pSrc, srcStep}, Planes<T, planes>{pDst, dstStep}, roiSize);     \
+  }
+#define VEMI_PLANES_DST(name, T, planes, ...)                                                         \
+  VemiStatus name(const T* const pSrc[planes], int srcStep, T* pDst, int dstStep, VemiSize roiSize) { \
+    return __VA_ARGS__(Planes<const T, planes>{pSrc, srcStep}, Image<T>{pDst, dstStep}, roiSize);     \
+  }
+
 VEMI_SRC_DST(vemiCopy_8u_C1R, Vemi8u, copy<Vemi8u, C1>)
 VEMI_SRC_DST(vemiCopy_16s_C1R, Vemi16s, copy<Vemi16s, C1>)
 VEMI_SRC_DST(vemiCopy_32f_C1R, Vemi32f, copy<Vemi32f, C1>)

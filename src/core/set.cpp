@@ -79,6 +79,25 @@ VemiStatus setChannel(const T* value, Image<T> dst, VemiSize roiSize) {
 
 using namespace vemi;
 
+// A constant (one value, or one for each channel) and a destination. A single value is handed on by its address, so
+// that one implementation serves both.
+#define VEMI_VALUE_DST(name, T, ...)                                 \
+  VemiStatus name(T value, T* pDst, int dstStep, VemiSize roiSize) { \
+    return __VA_ARGS__(&value, Image<T>{pDst, dstStep}, roiSize);    \
+  }
+#define VEMI_VALUES_DST(name, T, ...)                                       \
+  VemiStatus name(const T* value, T* pDst, int dstStep, VemiSize roiSize) { \
+    return __VA_ARGS__(value, Image<T>{pDst, dstStep}, roiSize);            \
+  }
+#define VEMI_VALUE_DST_MASK(name, T, ...)                                                               \
+  VemiStatus name(T value, T* pDst, int dstStep, VemiSize roiSize, const Vemi8u* pMask, int maskStep) { \
+    return __VA_ARGS__(&value, Image<T>{pDst, dstStep}, roiSize, Image<const Vemi8u>{pMask, maskStep}); \
+  }
+#define VEMI_VALUES_DST_MASK(name, T, ...)                                                                     \
+  VemiStatus name(const T* value, T* pDst, int dstStep, VemiSize roiSize, const Vemi8u* pMask, int maskStep) { \
+    return __VA_ARGS__(value, Image<T>{pDst, dstStep}, roiSize, Image<const Vemi8u>{pMask, maskStep});         \
+  }
+
 VEMI_VALUE_DST(vemiSet_8u_C1R, Vemi8u, setBytes)
 VEMI_VALUE_DST(vemiSet_16s_C1R, Vemi16s, set<Vemi16s, C1>)
 VEMI_VALUE_DST(vemiSet_32f_C1R, Vemi32f, set<Vemi32f, C1>)

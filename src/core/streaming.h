@@ -2,7 +2,6 @@
 // write and do not displace what is in use. Nothing of this shows in a result.
 #pragma once
 
-#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <type_traits>
@@ -13,15 +12,6 @@
 #include "core/rows.h"
 
 namespace vemi {
-
-namespace detail {
-
-template <class T, ptrdiff_t count>
-struct Scratch {
-  alignas(laneAlignment) T element[count];
-};
-
-}  // namespace detail
 
 /// Bytes read and written in one call from which on its destination is streamed. Measured: about half the last cache.
 inline constexpr Vemi64s streamedTraffic = Vemi64s{17} << 20;
@@ -50,27 +40,6 @@ HWY_INLINE void forStreamedBlocks(ptrdiff_t count, const PlainRow& plainRow, con
   plainRow(0, i);
   for (; i + items <= count; i += items) kernel(strand.at(i)...);
   plainRow(i, count - i);
-}
-
-/// For kernels that cannot stream. Runs row(first element, elements, out...) over rows of `count` elements in stretches
-/// that stay in the first cache, and streams each to its destination. Stretches begin at multiples of `period`.
-/// finishStreaming follows behind the thread's last row.
-template <int period, class Row, class... T>
-void streamRow(ptrdiff_t count, const Row& row, T*... dst) {
-  constexpr ptrdiff_t line = 64;
-  constexpr ptrdiff_t elementSize = std::max({sizeof(T)...});
-  constexpr ptrdiff_t stretch = 2048 / (elementSize * line * period) * line * period;
-  // The first stretch ends with a line of the first destination, if that is possible: the others are whole lines then.
-  const auto isLine = [](const auto* p, auto...) { return reinterpret_cast<uintptr_t>(p) % line == 0; };
-  ptrdiff_t n = stretch;
-  while (n > period && !isLine(dst + n...)) n -= period;
-  [&](auto... scratch) {
-    for (ptrdiff_t i = 0; i < count; i += n, n = stretch) {
-      n = std::min(n, count - i);
-      row(i, n, scratch.element...);
-      (rowStreamBytes(scratch.element, dst + i, n * ptrdiff_t{sizeof(T)}), ...);
-    }
-  }(detail::Scratch<T, stretch>()...);
 }
 
 }  // namespace vemi

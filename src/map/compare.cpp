@@ -192,6 +192,22 @@ VemiStatus compareEqualEpsC(Image<const Vemi32f> src, const Vemi32f* value, Imag
 
 using namespace vemi;
 
+// A map of bytes out of two sources, or of a source and a constant, by an operator or a tolerance.
+#define VEMI_2SRC_MAP(name, T, By, ...)                                                                                \
+  VemiStatus name(const T* pSrc1, int src1Step, const T* pSrc2, int src2Step, Vemi8u* pDst, int dstStep,               \
+                  VemiSize roiSize, By by) {                                                                           \
+    return __VA_ARGS__(Image<const T>{pSrc1, src1Step}, Image<const T>{pSrc2, src2Step}, Image<Vemi8u>{pDst, dstStep}, \
+                       roiSize, by);                                                                                   \
+  }
+#define VEMI_SRC_VALUE_MAP(name, T, By, ...)                                                                 \
+  VemiStatus name(const T* pSrc, int srcStep, T value, Vemi8u* pDst, int dstStep, VemiSize roiSize, By by) { \
+    return __VA_ARGS__(Image<const T>{pSrc, srcStep}, &value, Image<Vemi8u>{pDst, dstStep}, roiSize, by);    \
+  }
+#define VEMI_SRC_VALUES_MAP(name, T, By, ...)                                                                       \
+  VemiStatus name(const T* pSrc, int srcStep, const T* value, Vemi8u* pDst, int dstStep, VemiSize roiSize, By by) { \
+    return __VA_ARGS__(Image<const T>{pSrc, srcStep}, value, Image<Vemi8u>{pDst, dstStep}, roiSize, by);            \
+  }
+
 VEMI_2SRC_MAP(vemiCompare_8u_C1R, Vemi8u, vemiCmpOp, compare<C1>)
 VEMI_2SRC_MAP(vemiCompare_8u_C3R, Vemi8u, vemiCmpOp, compare<C3>)
 VEMI_2SRC_MAP(vemiCompare_8u_C4R, Vemi8u, vemiCmpOp, compare<C4>)

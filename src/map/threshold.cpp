@@ -116,6 +116,50 @@ VemiStatus thresholdedOutside(Image<const T> src, Image<T> dst, VemiSize roiSize
 
 using namespace vemi;
 
+// Thresholds: a limit, a limit and a value, a band of two limits with their values; BY an operator.
+#define VEMI_SRC_DST_LIMIT(name, T, ...) VEMI_SRC_DST_AND(name, T, (T threshold), (&threshold), __VA_ARGS__)
+#define VEMI_SRC_DST_LIMITS(name, T, ...) VEMI_SRC_DST_AND(name, T, (const T* threshold), (threshold), __VA_ARGS__)
+#define VEMI_SRCDST_LIMIT(name, T, ...) VEMI_SRCDST_AND(name, T, (T threshold), (&threshold), __VA_ARGS__)
+#define VEMI_SRCDST_LIMITS(name, T, ...) VEMI_SRCDST_AND(name, T, (const T* threshold), (threshold), __VA_ARGS__)
+#define VEMI_SRC_DST_LIMIT_BY(name, T, ...) \
+  VEMI_SRC_DST_AND(name, T, (T threshold, vemiCmpOp cmpOp), (cmpOp, &threshold), __VA_ARGS__)
+#define VEMI_SRC_DST_LIMITS_BY(name, T, ...) \
+  VEMI_SRC_DST_AND(name, T, (const T* threshold, vemiCmpOp cmpOp), (cmpOp, threshold), __VA_ARGS__)
+#define VEMI_SRCDST_LIMIT_BY(name, T, ...) \
+  VEMI_SRCDST_AND(name, T, (T threshold, vemiCmpOp cmpOp), (cmpOp, &threshold), __VA_ARGS__)
+#define VEMI_SRCDST_LIMITS_BY(name, T, ...) \
+  VEMI_SRCDST_AND(name, T, (const T* threshold, vemiCmpOp cmpOp), (cmpOp, threshold), __VA_ARGS__)
+#define VEMI_SRC_DST_LIMIT_VALUE(name, T, ...) \
+  VEMI_SRC_DST_AND(name, T, (T threshold, T value), (&threshold, &value), __VA_ARGS__)
+#define VEMI_SRC_DST_LIMITS_VALUES(name, T, ...) \
+  VEMI_SRC_DST_AND(name, T, (const T* threshold, const T* value), (threshold, value), __VA_ARGS__)
+#define VEMI_SRCDST_LIMIT_VALUE(name, T, ...) \
+  VEMI_SRCDST_AND(name, T, (T threshold, T value), (&threshold, &value), __VA_ARGS__)
+#define VEMI_SRCDST_LIMITS_VALUES(name, T, ...) \
+  VEMI_SRCDST_AND(name, T, (const T* threshold, const T* value), (threshold, value), __VA_ARGS__)
+#define VEMI_SRC_DST_LIMIT_VALUE_BY(name, T, ...) \
+  VEMI_SRC_DST_AND(name, T, (T threshold, T value, vemiCmpOp cmpOp), (cmpOp, &threshold, &value), __VA_ARGS__)
+#define VEMI_SRC_DST_LIMITS_VALUES_BY(name, T, ...)                                                           \
+  VEMI_SRC_DST_AND(name, T, (const T* threshold, const T* value, vemiCmpOp cmpOp), (cmpOp, threshold, value), \
+                   __VA_ARGS__)
+#define VEMI_SRCDST_LIMIT_VALUE_BY(name, T, ...) \
+  VEMI_SRCDST_AND(name, T, (T threshold, T value, vemiCmpOp cmpOp), (cmpOp, &threshold, &value), __VA_ARGS__)
+#define VEMI_SRCDST_LIMITS_VALUES_BY(name, T, ...)                                                           \
+  VEMI_SRCDST_AND(name, T, (const T* threshold, const T* value, vemiCmpOp cmpOp), (cmpOp, threshold, value), \
+                  __VA_ARGS__)
+#define VEMI_SRC_DST_BAND(name, T, ...)                                           \
+  VEMI_SRC_DST_AND(name, T, (T thresholdLT, T valueLT, T thresholdGT, T valueGT), \
+                   (&thresholdLT, &valueLT, &thresholdGT, &valueGT), __VA_ARGS__)
+#define VEMI_SRC_DST_BANDS(name, T, ...)                                                                      \
+  VEMI_SRC_DST_AND(name, T, (const T* thresholdLT, const T* valueLT, const T* thresholdGT, const T* valueGT), \
+                   (thresholdLT, valueLT, thresholdGT, valueGT), __VA_ARGS__)
+#define VEMI_SRCDST_BAND(name, T, ...)                                           \
+  VEMI_SRCDST_AND(name, T, (T thresholdLT, T valueLT, T thresholdGT, T valueGT), \
+                  (&thresholdLT, &valueLT, &thresholdGT, &valueGT), __VA_ARGS__)
+#define VEMI_SRCDST_BANDS(name, T, ...)                                                                      \
+  VEMI_SRCDST_AND(name, T, (const T* thresholdLT, const T* valueLT, const T* thresholdGT, const T* valueGT), \
+                  (thresholdLT, valueLT, thresholdGT, valueGT), __VA_ARGS__)
+
 VEMI_SRC_DST_LIMIT_BY(vemiThreshold_8u_C1R, Vemi8u, thresholdedBy<C1, Clipped>)
 VEMI_SRC_DST_LIMITS_BY(vemiThreshold_8u_C3R, Vemi8u, thresholdedBy<C3, Clipped>)
 VEMI_SRC_DST_LIMITS_BY(vemiThreshold_8u_AC4R, Vemi8u, thresholdedBy<AC4, Clipped>)

@@ -52,41 +52,6 @@ TEST(RowCopy, EveryAlignment) {
   }
 }
 
-// Two rows of different elements that are made in stretches and streamed: each stretch begins with a whole number of
-// periods, and together they are the rows.
-template <int period, class T>
-void expectStreamed(ptrdiff_t count, Place place) {
-  const GuardedRow<T> src(count, place), dst(count, place);
-  const GuardedRow<Vemi8u> bytes(count, place), dstBytes(count, place);
-  ptrdiff_t next = 0;
-  const auto copyStretch = [&](ptrdiff_t first, ptrdiff_t n, T* out, Vemi8u* outBytes) {
-    ASSERT_EQ(first, next);
-    ASSERT_EQ(first % period, 0);
-    ASSERT_GT(n, 0);
-    std::memcpy(out, src.data() + first, static_cast<size_t>(n) * sizeof(T));
-    std::memcpy(outBytes, bytes.data() + first, static_cast<size_t>(n));
-    next += n;
-  };
-  streamRow<period>(count, copyStretch, dst.data(), dstBytes.data());
-  finishStreaming();
-  ASSERT_EQ(next, count);
-  ASSERT_TRUE(dst.holds(src.original()) && dstBytes.holds(bytes.original()))
-      << count << " elements in periods of " << period << ", slack " << place.slack;
-}
-
-TEST(StreamRow, StretchesMakeUpTheRow) {
-  forTypes<Vemi8u, Vemi16s, Vemi32f, int64_t>([](auto element) {
-    using T = decltype(element);
-    for (ptrdiff_t pixels : {1, 2, 5, 63, 64, 170, 171, 511, 512, 513, 2000, 4099}) {
-      for (const ptrdiff_t slack : {0, 1, 4, 6, 16, 52, 63}) {
-        expectStreamed<1, T>(pixels, {false, slack});
-        expectStreamed<3, T>(3 * pixels, {false, slack});
-        expectStreamed<4, T>(4 * pixels, {true, slack});
-      }
-    }
-  });
-}
-
 // ---- Fills --------------------------------------------------------------------------------------------------------
 
 /// `count` elements, the values in turn.

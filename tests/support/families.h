@@ -1,5 +1,6 @@
 // The table of families: what the generic tests and the digest must know of each beyond its names and prototypes.
-// A new family joins them by a row in families.cpp.
+// A new family joins them by a row in its subsystem's families_*.cpp; of those the first one that fits a function
+// counts.
 #pragma once
 
 #include <string>
@@ -34,6 +35,10 @@ struct Family {
   /// arrays show what it may change.
   void (*retouch)(Call&) = nullptr;
 };
+
+std::vector<Family> coreFamilies();
+std::vector<Family> arithFamilies();
+std::vector<Family> mapFamilies();
 
 /// Throws where the table has no row for the function.
 const Family& familyOf(const Export& function);

@@ -1,0 +1,181 @@
+#include "support/families.h"
+
+#include <limits.h>
+#include <algorithm>
+#include <cfloat>
+#include <cmath>
+
+namespace vemi::test {
+namespace {
+
+double numberAt(Element element, const std::byte* place) {
+  return element == Element::f32 ? load<float>(place) : static_cast<double>(loadInteger(element, place));
+}
+
+void byLessOrGreater(Call& call) { call.set("cmpOp", call.random.below(2) == 0 ? vemiCmpLess : vemiCmpGreater); }
+
+/// Some of the pixels lie on a threshold.
+void onThresholds(Call& call) {
+  const bool isBand = call.function.indexOf("thresholdLT") >= 0;
+  const View source = call.source();
+  for (int x = 0; x < source.size.width; ++x) {
+    if (call.random.below(4) != 0) continue;
+    const std::string threshold = !isBand ? "threshold" : call.random.below(2) == 0 ? "thresholdLT" : "thresholdGT";
+    for (int channel = 0; channel < source.channels; ++channel) {
+      const int y = call.random.below(source.size.height);
+      std::memcpy(source.at(x, y, channel), call.constant(threshold, channel),
+                  static_cast<size_t>(bytesOf(source.element)));
+    }
+  }
+}
+
+/// The lower threshold is the lower one, or both are the same.
+void inOrder(Call& call) {
+  const View source = call.source();
+  const auto bytes = static_cast<size_t>(bytesOf(source.element));
+  for (int channel = 0; channel < source.channels; ++channel) {
+    std::byte* const lower = call.constant("thresholdLT", channel);
+    std::byte* const upper = call.constant("thresholdGT", channel);
+    for (std::byte* const each : {lower, upper}) {
+      if (std::isnan(numberAt(source.element, each))) storeNumber(source.element, each, 1);
+    }
+    if (numberAt(source.element, lower) > numberAt(source.element, upper))
+      std::swap_ranges(lower, lower + bytes, upper);
+    if (call.random.below(8) == 0) std::memcpy(lower, upper, bytes);
+  }
+  onThresholds(call);
+}
+
+template <int channel>
+bool disorder(Call& call) {
+  if (channel >= call.source().channels) return false;
+  call.setNumber("thresholdLT", 100, channel);
+  call.setNumber("thresholdGT", 99, channel);
+  return true;
+}
+
+template <int channel>
+bool noThreshold(Call& call) {
+  if (call.source().element != Element::f32 || channel >= call.source().channels) return false;
+  call.setNumber(channel == 1 ? "thresholdLT" : "thresholdGT", NAN, channel);
+  return true;
+}
+
+void compared(Call& call) {
+  call.image("pDst").layout = {1, 1, false};
+  if (call.function.indexOf("cmpOp") >= 0) {
+    call.set("cmpOp", call.random.below(5));
+  } else {
+    static const float tolerances[] = {0, -0.0f, 1e-40f, 0.5f, 1000, INFINITY};
+    call.set("eps", tolerances[call.random.below(6)]);
+  }
+}
+
+/// Most of the elements equal what they are compared with, or differ by just the tolerance; random ones hardly would.
+void alike(Call& call) {
+  const View first = call.source();
+  const bool hasConstant = call.function.indexOf("value") >= 0;
+  const bool hasTolerance = call.function.indexOf("eps") >= 0;
+  const auto bytes = static_cast<size_t>(bytesOf(first.element));
+  for (int y = 0; y < first.size.height; ++y) {
+    for (int x = 0; x < first.size.width; ++x) {
+      for (int channel = 0; channel < first.channels; ++channel) {
+        const int kind = call.random.below(12);
+        if (kind == 0) continue;
+        std::byte* const element = first.at(x, y, channel);
+        std::memcpy(element, hasConstant ? call.constant(channel) : call.source(1).at(x, y, channel), bytes);
+        if (hasTolerance && kind < 4) store(element, load<float>(element) + call.get<float>("eps"));
+        if (hasTolerance && kind == 4) store(element, load<float>(element) - 1.5f * call.get<float>("eps"));
+      }
+    }
+  }
+}
+
+/// Any number but vemiRndNear truncates.
+void withRoundMode(Call& call) { call.set("roundMode", call.random.below(4) - 1); }
+
+/// Any number but vemiHintAccurate is fast.
+void withHint(Call& call) { call.set("hint", call.random.below(5) - 1); }
+
+/// Ranges that most elements miss, meet or fill, and some whose length or its reciprocal is infinite.
+void withRange(Call& call) {
+  const Vemi32f huge = FLT_MAX,
+                ranges[][2] = {{0, 1},        {-1, 1},       {-100.5f, 37.25f}, {0, 255}, {1e9f, 1e9f + 64},
+                               {-7e3f, 1e4f}, {-huge, huge}, {-1e-39f, 1e-38f}};
+  const auto& range = ranges[call.random.below(std::size(ranges))];
+  call.set("vMin", range[0]);
+  call.set("vMax", range[1]);
+}
+
+/// A bit image is as many bytes wide as its bits need, from its offset on.
+void withBits(Call& call) {
+  const bool isRead = call.function.indexOf("srcBitOffset") >= 0;
+  const int offset = call.random.below(20);
+  call.set(isRead ? "srcBitOffset" : "dstBitOffset", offset);
+  call.image(isRead ? "pSrc" : "pDst").size.width = (offset % 8 + call.scenario.roiSize.width + 7) / 8;
+}
+
+}  // namespace
+
+std::vector<Family> mapFamilies() {
+  return {
+      {"vemiThreshold vemiThreshold_Val",
+       ".*",
+       "null size step arrays own",
+       byLessOrGreater,
+       {{"cmpOp", vemiCmpLessEq, "own", vemiErrUnsupportedMode},
+        {"cmpOp", vemiCmpEq, "own", vemiErrUnsupportedMode},
+        {"cmpOp", vemiCmpGreaterEq, "own", vemiErrUnsupportedMode},
+        {"cmpOp", 5, "own", vemiErrUnsupportedMode},
+        {"cmpOp", -1, "own", vemiErrUnsupportedMode}},
+       onThresholds},
+      {"vemiThreshold_LT vemiThreshold_GT vemiThreshold_LTVal vemiThreshold_GTVal",
+       ".*",
+       "null size step arrays",
+       nullptr,
+       {},
+       onThresholds},
+      {"vemiThreshold_LTValGTVal",
+       ".*",
+       "null size step arrays own",
+       nullptr,
+       {{"thresholdGT[0] below thresholdLT[0]", 0, "own", vemiErrThreshold, disorder<0>},
+        {"thresholdGT[2] below thresholdLT[2]", 0, "own", vemiErrThreshold, disorder<2>},
+        {"thresholdGT[0] not a number", 0, "own", vemiErrThreshold, noThreshold<0>},
+        {"thresholdLT[1] not a number", 0, "own", vemiErrThreshold, noThreshold<1>}},
+       inOrder},
+      {"vemiCompare vemiCompareC", ".*", "null step size", compared, {}, alike},
+      {"vemiCompareEqualEps vemiCompareEqualEpsC",
+       ".*",
+       "null step size own",
+       compared,
+       {{"eps", -0.001, "own", vemiErrEpsilon},
+        {"eps", -INFINITY, "own", vemiErrEpsilon},
+        {"eps", NAN, "own", vemiErrEpsilon}},
+       alike},
+      {"vemiConvert",
+       "1u8u.*",
+       "null size step own",
+       withBits,
+       {{"srcBitOffset", -1, "own", vemiErrSize}, {"srcBitOffset", INT_MIN, "own", vemiErrSize}}},
+      {"vemiConvert",
+       "8u1u.*",
+       "null size",
+       withBits,
+       {{"dstBitOffset", -1, "size", vemiErrSize}, {"dstBitOffset", INT_MIN, "size", vemiErrSize}}},
+      {"vemiConvert", "32f.*", "null size step", withRoundMode},
+      {"vemiConvert", ".*", "null size step"},
+      {"vemiScale",
+       "(8u32f|32f8u).*",
+       "range null size step",
+       withRange,
+       {{"vMax", -INFINITY, "range", vemiErrScaleRange},
+        {"vMax", NAN, "range", vemiErrScaleRange},
+        {"vMin", INFINITY, "range", vemiErrScaleRange},
+        {"vMin", NAN, "range", vemiErrScaleRange}}},
+      {"vemiScale", "(16u8u|16s8u|32s8u).*", "null size step", withHint},
+      {"vemiScale", ".*", "null size step"},
+  };
+}
+
+}  // namespace vemi::test
