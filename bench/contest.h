@@ -66,5 +66,7 @@ Family thresholdFamily();
 Family compareFamily();
 Family convertFamily();
 Family bitImageFamily();
+Family lutFamily();
+Family gammaFamily();
 
 }  // namespace bench

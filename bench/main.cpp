@@ -46,6 +46,8 @@ constexpr FamilyTable families[] = {
     compareFamily,
     convertFamily,
     bitImageFamily,
+    lutFamily,
+    gammaFamily,
 };
 
 constexpr const char* usage =

@@ -64,6 +64,10 @@ constexpr Section sections[] = {
      "Elements below or above a threshold are replaced, by a rule for each channel. Comparisons make maps of one byte "
      "for each pixel, 255 or 0, which are masks for what follows.",
      demoThreshold},
+    {"Lookup tables",
+     "Steps, lines and cubics through points of your choice; palettes; and the transfer curve of video. What costs is "
+     "the table, not the curve.",
+     demoTables},
 };
 
 Options optionsFrom(int argc, char** argv) {

@@ -25,5 +25,6 @@ void demoCurves(const Demo& demo);
 void demoBits(const Demo& demo);
 void demoAlpha(const Demo& demo);
 void demoThreshold(const Demo& demo);
+void demoTables(const Demo& demo);
 
 }  // namespace demo

@@ -1,31 +1,16 @@
 // vemiSqr, vemiSqrt, vemiLn and vemiExp as curves; vemiMulScale, vemiMulCScale and vemiAbs as blends.
 
-#include <algorithm>
-
+#include "chart.h"
 #include "demo.h"
 #include "pictures.h"
 
 namespace demo {
 namespace {
 
-/// A line through a row of 256 values, from the lower left.
-void plot(const Image8u& row, const Vemi8u (&colour)[3], Image8u& chart) {
-  int before = *row.at(0, 0);
-  for (int x = 0; x < 256; x++) {
-    const int value = *row.at(x, 0);
-    const int low = std::min(before, value), high = std::max(before, value);
-    CALL(vemiSet_8u_C3R(colour, chart.at(x, 255 - high), chart.step(), {1, high - low + 1}));
-    before = value;
-  }
-}
-
 void showChart(Page& page) {
   constexpr VemiSize row = {256, 1};
-  constexpr Vemi8u paper[3] = {28, 31, 36}, grey[3] = {120, 124, 130}, blue[3] = {86, 160, 240},
-                   orange[3] = {244, 162, 97}, green[3] = {110, 210, 150};
-  Image8u ramp(row, 1), square(row, 1), root(row, 1), logarithm(row, 1), chart({256, 256}, 3);
-  for (int x = 0; x < 256; x++) CALL(vemiSet_8u_C1R(static_cast<Vemi8u>(x), ramp.at(x, 0), ramp.step(), {1, 1}));
-  CALL(vemiSet_8u_C3R(paper, chart.data(), chart.step(), chart.size()));
+  const Image8u ramp = byteRamp();
+  Image8u square(row, 1), root(row, 1), logarithm(row, 1), chart = emptyChart();
   const Call squares = CALL(vemiSqr_8u_C1RSfs(ramp.data(), ramp.step(), square.data(), square.step(), row, 8));
   const Call roots = CALL(vemiSqrt_8u_C1RSfs(ramp.data(), ramp.step(), root.data(), root.step(), row, -4));
   const Call logarithms = CALL(vemiLn_8u_C1RSfs(ramp.data(), ramp.step(), logarithm.data(), logarithm.step(), row, -5));

@@ -942,6 +942,438 @@ VEMI_API VemiStatus vemiCompareEqualEpsC_32f_AC4R(const Vemi32f* pSrc, int srcSt
 
 /** @} */
 
+/* ---- Lookup tables and transfer curves --------------------------------------------------------------------------- */
+
+/**
+ * @defgroup vemi_lut vemiLUT: a step for each interval of values
+ *
+ *     pDst = the value of the interval that holds pSrc,   or pSrc where no interval holds it
+ *
+ * n levels L[0] < L[1] < ... < L[n-1] bound n - 1 intervals; interval k holds the numbers v with L[k] <= v < L[k+1]. A
+ * pixel in interval k becomes V[k]. A pixel below L[0], and one at or above L[n-1], stays as it is; so the last value
+ * V[n-1] is read by no one here (but the array has it, for vemiLUT_Linear and vemiLUT_Cubic).
+ *
+ *     8u    levels 10, 20     values 7, x          9 -> 9     10 -> 7     19 -> 7     20 -> 20
+ *     8u    levels 0, 256     values 7, x          every pixel -> 7
+ *     8u    levels 0, 64, 128, 192, 256    values 32, 96, 160, 224, x    a picture in four shades
+ *     8u    levels 0, 256     values 300, x        every pixel -> 255
+ *
+ * **8u, 16s.** Levels and values are 32-bit integers. Levels may lie beyond the element's range, and any of the values
+ * too: V[k] is limited to 0..255 or -32768..32767.
+ *
+ * **32f.** Levels and values are floats. V[k] is stored as it is. A NaN lies in no interval, and so stays, bit for bit;
+ * an interval with a NaN for a bound is empty.
+ *
+ * **Levels that do not ascend.** Where L[k+1] is not above L[k], interval k is empty. Then intervals may overlap: in 8u
+ * and 16s the last of the intervals that hold a pixel counts, in 32f the first. At or above the last level L[n-1] a
+ * pixel stays in any case.
+ *
+ * **Channels.** C1 forms take one array of values, one of levels, and their length. The others take an array of
+ * pointers to values, one of pointers to levels, and one of lengths, for each channel: three in C3 and AC4, four in C4.
+ * Several pointers may be the same. AC4 forms leave the fourth channel of the destination as it is.
+ *
+ * @param pSrc,srcStep        first pixel of the source, and the bytes between its rows
+ * @param pDst,dstStep        first pixel of the destination, and the bytes between its rows
+ * @param roiSize             size of the region in pixels
+ * @param pValues             V above: nLevels of them; in all forms but C1, an array of pointers to such arrays
+ * @param pLevels             L above: nLevels of them; in all forms but C1, an array of pointers to such arrays
+ * @param nLevels             the number of levels, from 2 on; in all forms but C1, an array of such numbers
+ *
+ * **Overlap.** pDst does not overlap pSrc, nor the arrays.
+ *
+ * **Statuses**, in the order of the tests:
+ *
+ * - C1: null (pSrc, pDst, pValues or pLevels), size, step, then vemiErrLutLevels where nLevels is below 2.
+ * - C3, C4, AC4: null (pSrc, pDst, or one of the three arrays); then for each channel in turn its pointers, null again,
+ *   and its number of levels, vemiErrLutLevels; then size and step.
+ * - Last, in 16s forms, vemiErrMemAlloc: regions from 6401 pixels on (C1) or 4097 pixels on (the others) look the
+ *   results up in tables of all 65536 values. Nothing is written where there is no memory for them.
+ *
+ * **Threads.** All forms run in the calling thread.
+ * @{
+ */
+
+VEMI_API VemiStatus vemiLUT_8u_C1R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep, VemiSize roiSize,
+                                   const Vemi32s* pValues, const Vemi32s* pLevels, int nLevels);
+VEMI_API VemiStatus vemiLUT_8u_C3R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep, VemiSize roiSize,
+                                   const Vemi32s* const pValues[3], const Vemi32s* const pLevels[3],
+                                   const int nLevels[3]);
+VEMI_API VemiStatus vemiLUT_8u_C4R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep, VemiSize roiSize,
+                                   const Vemi32s* const pValues[4], const Vemi32s* const pLevels[4],
+                                   const int nLevels[4]);
+VEMI_API VemiStatus vemiLUT_8u_AC4R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep, VemiSize roiSize,
+                                    const Vemi32s* const pValues[3], const Vemi32s* const pLevels[3],
+                                    const int nLevels[3]);
+
+VEMI_API VemiStatus vemiLUT_16s_C1R(const Vemi16s* pSrc, int srcStep, Vemi16s* pDst, int dstStep, VemiSize roiSize,
+                                    const Vemi32s* pValues, const Vemi32s* pLevels, int nLevels);
+VEMI_API VemiStatus vemiLUT_16s_C3R(const Vemi16s* pSrc, int srcStep, Vemi16s* pDst, int dstStep, VemiSize roiSize,
+                                    const Vemi32s* const pValues[3], const Vemi32s* const pLevels[3],
+                                    const int nLevels[3]);
+VEMI_API VemiStatus vemiLUT_16s_C4R(const Vemi16s* pSrc, int srcStep, Vemi16s* pDst, int dstStep, VemiSize roiSize,
+                                    const Vemi32s* const pValues[4], const Vemi32s* const pLevels[4],
+                                    const int nLevels[4]);
+VEMI_API VemiStatus vemiLUT_16s_AC4R(const Vemi16s* pSrc, int srcStep, Vemi16s* pDst, int dstStep, VemiSize roiSize,
+                                     const Vemi32s* const pValues[3], const Vemi32s* const pLevels[3],
+                                     const int nLevels[3]);
+
+VEMI_API VemiStatus vemiLUT_32f_C1R(const Vemi32f* pSrc, int srcStep, Vemi32f* pDst, int dstStep, VemiSize roiSize,
+                                    const Vemi32f* pValues, const Vemi32f* pLevels, int nLevels);
+VEMI_API VemiStatus vemiLUT_32f_C3R(const Vemi32f* pSrc, int srcStep, Vemi32f* pDst, int dstStep, VemiSize roiSize,
+                                    const Vemi32f* const pValues[3], const Vemi32f* const pLevels[3],
+                                    const int nLevels[3]);
+VEMI_API VemiStatus vemiLUT_32f_C4R(const Vemi32f* pSrc, int srcStep, Vemi32f* pDst, int dstStep, VemiSize roiSize,
+                                    const Vemi32f* const pValues[4], const Vemi32f* const pLevels[4],
+                                    const int nLevels[4]);
+VEMI_API VemiStatus vemiLUT_32f_AC4R(const Vemi32f* pSrc, int srcStep, Vemi32f* pDst, int dstStep, VemiSize roiSize,
+                                     const Vemi32f* const pValues[3], const Vemi32f* const pLevels[3],
+                                     const int nLevels[3]);
+
+/** @} */
+
+/**
+ * @defgroup vemi_lut_linear vemiLUT_Linear: straight lines between levels
+ *
+ *     pDst = V[k] + (V[k+1] - V[k]) / (L[k+1] - L[k]) * (v - L[k]),   for v = pSrc in interval k
+ *
+ * The curve through the points (L[k], V[k]), straight from point to point. Levels, values, their arrays, the pixels
+ * outside of all intervals, which stay as they are, and levels that do not ascend: all as in vemiLUT.
+ *
+ *     8u    levels 0, 255          values 0, 255         the identity: 255 stays, as it is at the last level
+ *     8u    levels 0, 256          values 255, -1        the negative
+ *     8u    levels 0, 64, 192, 256    values 0, 32, 224, 256    more contrast in the middle, less at the ends
+ *
+ * **8u, 16s.** Computed in double precision; the result is V[k] + 0.5 + slope * (v - L[k]), cut off toward zero, then
+ * limited to 0..255 or -32768..32767. So a positive result is rounded to nearest, ties up; below zero it is not:
+ *
+ *     16s   -0.7 -> 0      -1.2 -> 0      -1.5 -> -1      -1.6 -> -1      -2.5 -> -2
+ *
+ * In an interval that holds a single integer, L[k+1] = L[k] + 1, the pixel becomes V[k], limited; this too is a matter
+ * of the levels as they stand, even if they lie beyond the element's range.
+ *
+ * **32f.** The differences of levels and of values and v - L[k] are taken in single precision, the rest in double:
+ * (v - L[k]) * slope + V[k], then rounded to single.
+ *
+ * @param pSrc,srcStep        first pixel of the source, and the bytes between its rows
+ * @param pDst,dstStep        first pixel of the destination, and the bytes between its rows
+ * @param roiSize             size of the region in pixels
+ * @param pValues,pLevels     V and L above, as in vemiLUT
+ * @param nLevels             the number of levels, or an array of them, as in vemiLUT
+ *
+ * **Overlap.** pDst does not overlap pSrc, nor the arrays.
+ *
+ * **Statuses** as in vemiLUT; but here vemiErrMemAlloc may come from every 16s form (tables of all values) and every
+ * 32f form (a slope for each interval), whatever the size of the region.
+ *
+ * **Threads.** All forms run in the calling thread.
+ * @{
+ */
+
+VEMI_API VemiStatus vemiLUT_Linear_8u_C1R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep, VemiSize roiSize,
+                                          const Vemi32s* pValues, const Vemi32s* pLevels, int nLevels);
+VEMI_API VemiStatus vemiLUT_Linear_8u_C3R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep, VemiSize roiSize,
+                                          const Vemi32s* const pValues[3], const Vemi32s* const pLevels[3],
+                                          const int nLevels[3]);
+VEMI_API VemiStatus vemiLUT_Linear_8u_C4R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep, VemiSize roiSize,
+                                          const Vemi32s* const pValues[4], const Vemi32s* const pLevels[4],
+                                          const int nLevels[4]);
+VEMI_API VemiStatus vemiLUT_Linear_8u_AC4R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep, VemiSize roiSize,
+                                           const Vemi32s* const pValues[3], const Vemi32s* const pLevels[3],
+                                           const int nLevels[3]);
+
+VEMI_API VemiStatus vemiLUT_Linear_16s_C1R(const Vemi16s* pSrc, int srcStep, Vemi16s* pDst, int dstStep,
+                                           VemiSize roiSize, const Vemi32s* pValues, const Vemi32s* pLevels,
+                                           int nLevels);
+VEMI_API VemiStatus vemiLUT_Linear_16s_C3R(const Vemi16s* pSrc, int srcStep, Vemi16s* pDst, int dstStep,
+                                           VemiSize roiSize, const Vemi32s* const pValues[3],
+                                           const Vemi32s* const pLevels[3], const int nLevels[3]);
+VEMI_API VemiStatus vemiLUT_Linear_16s_C4R(const Vemi16s* pSrc, int srcStep, Vemi16s* pDst, int dstStep,
+                                           VemiSize roiSize, const Vemi32s* const pValues[4],
+                                           const Vemi32s* const pLevels[4], const int nLevels[4]);
+VEMI_API VemiStatus vemiLUT_Linear_16s_AC4R(const Vemi16s* pSrc, int srcStep, Vemi16s* pDst, int dstStep,
+                                            VemiSize roiSize, const Vemi32s* const pValues[3],
+                                            const Vemi32s* const pLevels[3], const int nLevels[3]);
+
+VEMI_API VemiStatus vemiLUT_Linear_32f_C1R(const Vemi32f* pSrc, int srcStep, Vemi32f* pDst, int dstStep,
+                                           VemiSize roiSize, const Vemi32f* pValues, const Vemi32f* pLevels,
+                                           int nLevels);
+VEMI_API VemiStatus vemiLUT_Linear_32f_C3R(const Vemi32f* pSrc, int srcStep, Vemi32f* pDst, int dstStep,
+                                           VemiSize roiSize, const Vemi32f* const pValues[3],
+                                           const Vemi32f* const pLevels[3], const int nLevels[3]);
+VEMI_API VemiStatus vemiLUT_Linear_32f_C4R(const Vemi32f* pSrc, int srcStep, Vemi32f* pDst, int dstStep,
+                                           VemiSize roiSize, const Vemi32f* const pValues[4],
+                                           const Vemi32f* const pLevels[4], const int nLevels[4]);
+VEMI_API VemiStatus vemiLUT_Linear_32f_AC4R(const Vemi32f* pSrc, int srcStep, Vemi32f* pDst, int dstStep,
+                                            VemiSize roiSize, const Vemi32f* const pValues[3],
+                                            const Vemi32f* const pLevels[3], const int nLevels[3]);
+
+/** @} */
+
+/**
+ * @defgroup vemi_lut_cubic vemiLUT_Cubic: cubic curves between levels
+ *
+ *     pDst = y + a t + b t^2 + c t^3,   for v = pSrc in interval k
+ *
+ * The cubic of interval k goes through four of the points (L[i], V[i]): the two that bound the interval and their
+ * neighbours on either side. In the first interval they are the first four points, in the last interval the last four.
+ * With (x, y) the second of the four, t = v - x, and a, b, c are the coefficients of the one cubic through all four.
+ * The curve meets every point; at inner levels it may have a bend.
+ *
+ * Levels, values, their arrays, the pixels outside of all intervals, which stay as they are, and levels that do not
+ * ascend: all as in vemiLUT. With fewer than four levels there is no cubic, and the call is that of vemiLUT_Linear; in
+ * C3, C4 and AC4 forms the whole call is, as soon as one channel has fewer than four levels.
+ *
+ *     8u    levels 0, 64, 192, 256    values 0, 32, 224, 256    a smooth curve with more contrast in the middle
+ *     8u    levels 0, 128, 256        values 0, 200, 256        as vemiLUT_Linear
+ *
+ * **8u, 16s.** Computed in double precision; y + 0.5 + a t + b t^2 + c t^3 is cut off toward zero, then limited to
+ * 0..255 or -32768..32767, with the consequences for negative results that vemiLUT_Linear has. In an interval that
+ * holds a single integer, L[k+1] = L[k] + 1, the pixel becomes V[k], limited.
+ *
+ * **32f.** Computed in double precision, from exact differences of levels and values, and rounded to single.
+ *
+ * No cubic goes through points of which two have the same level. Where an interval is not empty and two of its four
+ * points coincide so, its coefficients are infinite or NaN: such a result is a NaN or an infinity in 32f; in 8u and 16s
+ * an infinity is limited like any other number and a NaN gives the lowest value of the type.
+ *
+ * @param pSrc,srcStep        first pixel of the source, and the bytes between its rows
+ * @param pDst,dstStep        first pixel of the destination, and the bytes between its rows
+ * @param roiSize             size of the region in pixels
+ * @param pValues,pLevels     V and L above, as in vemiLUT
+ * @param nLevels             the number of levels, or an array of them, as in vemiLUT
+ *
+ * **Overlap.** pDst does not overlap pSrc, nor the arrays.
+ *
+ * **Statuses** as in vemiLUT; but here vemiErrMemAlloc may come from every 16s form (tables of all values) and every
+ * 32f form (three coefficients for each interval), whatever the size of the region.
+ *
+ * **Threads.** All forms run in the calling thread.
+ * @{
+ */
+
+VEMI_API VemiStatus vemiLUT_Cubic_8u_C1R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep, VemiSize roiSize,
+                                         const Vemi32s* pValues, const Vemi32s* pLevels, int nLevels);
+VEMI_API VemiStatus vemiLUT_Cubic_8u_C3R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep, VemiSize roiSize,
+                                         const Vemi32s* const pValues[3], const Vemi32s* const pLevels[3],
+                                         const int nLevels[3]);
+VEMI_API VemiStatus vemiLUT_Cubic_8u_C4R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep, VemiSize roiSize,
+                                         const Vemi32s* const pValues[4], const Vemi32s* const pLevels[4],
+                                         const int nLevels[4]);
+VEMI_API VemiStatus vemiLUT_Cubic_8u_AC4R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep, VemiSize roiSize,
+                                          const Vemi32s* const pValues[3], const Vemi32s* const pLevels[3],
+                                          const int nLevels[3]);
+
+VEMI_API VemiStatus vemiLUT_Cubic_16s_C1R(const Vemi16s* pSrc, int srcStep, Vemi16s* pDst, int dstStep,
+                                          VemiSize roiSize, const Vemi32s* pValues, const Vemi32s* pLevels,
+                                          int nLevels);
+VEMI_API VemiStatus vemiLUT_Cubic_16s_C3R(const Vemi16s* pSrc, int srcStep, Vemi16s* pDst, int dstStep,
+                                          VemiSize roiSize, const Vemi32s* const pValues[3],
+                                          const Vemi32s* const pLevels[3], const int nLevels[3]);
+VEMI_API VemiStatus vemiLUT_Cubic_16s_C4R(const Vemi16s* pSrc, int srcStep, Vemi16s* pDst, int dstStep,
+                                          VemiSize roiSize, const Vemi32s* const pValues[4],
+                                          const Vemi32s* const pLevels[4], const int nLevels[4]);
+VEMI_API VemiStatus vemiLUT_Cubic_16s_AC4R(const Vemi16s* pSrc, int srcStep, Vemi16s* pDst, int dstStep,
+                                           VemiSize roiSize, const Vemi32s* const pValues[3],
+                                           const Vemi32s* const pLevels[3], const int nLevels[3]);
+
+VEMI_API VemiStatus vemiLUT_Cubic_32f_C1R(const Vemi32f* pSrc, int srcStep, Vemi32f* pDst, int dstStep,
+                                          VemiSize roiSize, const Vemi32f* pValues, const Vemi32f* pLevels,
+                                          int nLevels);
+VEMI_API VemiStatus vemiLUT_Cubic_32f_C3R(const Vemi32f* pSrc, int srcStep, Vemi32f* pDst, int dstStep,
+                                          VemiSize roiSize, const Vemi32f* const pValues[3],
+                                          const Vemi32f* const pLevels[3], const int nLevels[3]);
+VEMI_API VemiStatus vemiLUT_Cubic_32f_C4R(const Vemi32f* pSrc, int srcStep, Vemi32f* pDst, int dstStep,
+                                          VemiSize roiSize, const Vemi32f* const pValues[4],
+                                          const Vemi32f* const pLevels[4], const int nLevels[4]);
+VEMI_API VemiStatus vemiLUT_Cubic_32f_AC4R(const Vemi32f* pSrc, int srcStep, Vemi32f* pDst, int dstStep,
+                                           VemiSize roiSize, const Vemi32f* const pValues[3],
+                                           const Vemi32f* const pLevels[3], const int nLevels[3]);
+
+/** @} */
+
+/**
+ * @defgroup vemi_lut_palette vemiLUTPalette: entries of a palette
+ *
+ *     pDst = pTable[pSrc & (2^nBitSize - 1)]
+ *
+ * The lower nBitSize bits of a pixel are the index of its palette entry; the bits above them are ignored. The palette
+ * has 2^nBitSize entries of the destination's pixels:
+ *
+ *     8u32u, 16u32u    one 32-bit word, such as four bytes of colour and alpha
+ *     8u24u, 16u24u    three bytes; entry i is pTable[3 i] to pTable[3 i + 2]
+ *     16u8u            one byte
+ *
+ *     const Vemi8u blackRedGoldWhite[] = {0,0,0, 221,0,0, 255,204,0, 255,255,255};
+ *     vemiLUTPalette_8u24u_C1R(index, indexStep, rgb, rgbStep, size, blackRedGoldWhite, 2);
+ *
+ * @param pSrc,srcStep        first pixel of the source, and the bytes between its rows
+ * @param pDst,dstStep        first pixel of the destination, and the bytes between its rows; in 24u forms a pixel is
+ *                            three bytes
+ * @param roiSize             size of the region in pixels
+ * @param pTable              the palette
+ * @param nBitSize            bits of a pixel that count: 1 to 8 for an 8u source, 1 to 16 for a 16u source
+ *
+ * **Overlap.** pDst does not overlap pSrc, nor the palette.
+ *
+ * **Statuses**, in the order of the tests: null (the palette among the pointers), step, size, then
+ * vemiErrLutPaletteBits where nBitSize is out of its range.
+ *
+ * **Threads.** All forms run in the calling thread.
+ * @{
+ */
+
+VEMI_API VemiStatus vemiLUTPalette_8u24u_C1R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep,
+                                             VemiSize roiSize, const Vemi8u* pTable, int nBitSize);
+VEMI_API VemiStatus vemiLUTPalette_8u32u_C1R(const Vemi8u* pSrc, int srcStep, Vemi32u* pDst, int dstStep,
+                                             VemiSize roiSize, const Vemi32u* pTable, int nBitSize);
+VEMI_API VemiStatus vemiLUTPalette_16u8u_C1R(const Vemi16u* pSrc, int srcStep, Vemi8u* pDst, int dstStep,
+                                             VemiSize roiSize, const Vemi8u* pTable, int nBitSize);
+VEMI_API VemiStatus vemiLUTPalette_16u24u_C1R(const Vemi16u* pSrc, int srcStep, Vemi8u* pDst, int dstStep,
+                                              VemiSize roiSize, const Vemi8u* pTable, int nBitSize);
+VEMI_API VemiStatus vemiLUTPalette_16u32u_C1R(const Vemi16u* pSrc, int srcStep, Vemi32u* pDst, int dstStep,
+                                              VemiSize roiSize, const Vemi32u* pTable, int nBitSize);
+
+/** @} */
+
+/**
+ * @defgroup vemi_gamma_fwd vemiGammaFwd: gamma correction
+ *
+ * The transfer curve of a video camera (ITU-R BT.709), from light to signal:
+ *
+ *     f(t) = 4.5 t                      for t below 0.018
+ *     f(t) = 1.099 t^0.45 - 0.099       from there on
+ *
+ * Every channel goes through the curve by itself. AC4 forms leave the fourth channel of the destination as it is.
+ *
+ * **8u.** round(255 f(v / 255)), ties to even: 0 stays, 1 gives 4, 2 gives 9, 18 gives 60, 255 stays.
+ *
+ * **16u.** 65535 f(v / 65535), computed in double precision, with 4.5 v below the breakpoint; 0.5 is added, the sum
+ * is rounded to single precision and cut off; a sum that is an odd integer goes down by 1. So ties go to even, and so
+ * do results that single precision cannot tell from a tie: those within 2^-9 of one, at most.
+ *
+ * **32f.** vMin and vMax are the pixel values of black and white. With R = vMax - vMin, in single precision, the rest
+ * in double, d = v - vMin and t = (1 / R) d:
+ *
+ *     4.5 d + vMin                         for t below 0.018
+ *     (1.099 t^0.45 - 0.099) R + vMin      from there on
+ *
+ * rounded to single precision. There is no limit: pixels outside of vMin to vMax follow the same formulas, negative t
+ * the first. A NaN stays (and becomes quiet), infinities stay. The power has less than one unit in the last place of
+ * double precision of error, and the same bits on every processor.
+ *
+ * @param pSrc,srcStep        first pixel of the source, and the bytes between its rows; in P3R, an array of the first
+ *                            pixels of three planes, and the one step of all planes
+ * @param pDst,dstStep        the same of the destination
+ * @param pSrcDst,srcDstStep  the same of the image, or the planes, that is source and destination
+ * @param roiSize             size of the region in pixels
+ * @param vMin,vMax           32f: the values of black and white; vMax above vMin
+ *
+ * **Overlap.** pDst does not overlap pSrc; to work in place, take an IR or IP3R form. Planes do not overlap each other.
+ *
+ * **Statuses**, in the order of the tests:
+ *
+ * - 32f, ahead of all else: vemiErrGammaRange where vMax - vMin is zero, negative or a NaN;
+ * - null (with all plane pointers), size, step;
+ * - 16u: vemiErrMemAlloc. Regions of more than 65536 elements (3 width height) look the results up in a table; nothing
+ *   is written where there is no memory for it.
+ *
+ * **Threads.** All forms run in the calling thread.
+ * @{
+ */
+
+VEMI_API VemiStatus vemiGammaFwd_8u_C3R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiGammaFwd_8u_AC4R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiGammaFwd_8u_P3R(const Vemi8u* const pSrc[3], int srcStep, Vemi8u* const pDst[3], int dstStep,
+                                        VemiSize roiSize);
+VEMI_API VemiStatus vemiGammaFwd_8u_C3IR(Vemi8u* pSrcDst, int srcDstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiGammaFwd_8u_AC4IR(Vemi8u* pSrcDst, int srcDstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiGammaFwd_8u_IP3R(Vemi8u* const pSrcDst[3], int srcDstStep, VemiSize roiSize);
+
+VEMI_API VemiStatus vemiGammaFwd_16u_C3R(const Vemi16u* pSrc, int srcStep, Vemi16u* pDst, int dstStep,
+                                         VemiSize roiSize);
+VEMI_API VemiStatus vemiGammaFwd_16u_AC4R(const Vemi16u* pSrc, int srcStep, Vemi16u* pDst, int dstStep,
+                                          VemiSize roiSize);
+VEMI_API VemiStatus vemiGammaFwd_16u_P3R(const Vemi16u* const pSrc[3], int srcStep, Vemi16u* const pDst[3], int dstStep,
+                                         VemiSize roiSize);
+VEMI_API VemiStatus vemiGammaFwd_16u_C3IR(Vemi16u* pSrcDst, int srcDstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiGammaFwd_16u_AC4IR(Vemi16u* pSrcDst, int srcDstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiGammaFwd_16u_IP3R(Vemi16u* const pSrcDst[3], int srcDstStep, VemiSize roiSize);
+
+VEMI_API VemiStatus vemiGammaFwd_32f_C3R(const Vemi32f* pSrc, int srcStep, Vemi32f* pDst, int dstStep, VemiSize roiSize,
+                                         Vemi32f vMin, Vemi32f vMax);
+VEMI_API VemiStatus vemiGammaFwd_32f_AC4R(const Vemi32f* pSrc, int srcStep, Vemi32f* pDst, int dstStep,
+                                          VemiSize roiSize, Vemi32f vMin, Vemi32f vMax);
+VEMI_API VemiStatus vemiGammaFwd_32f_P3R(const Vemi32f* const pSrc[3], int srcStep, Vemi32f* const pDst[3], int dstStep,
+                                         VemiSize roiSize, Vemi32f vMin, Vemi32f vMax);
+VEMI_API VemiStatus vemiGammaFwd_32f_C3IR(Vemi32f* pSrcDst, int srcDstStep, VemiSize roiSize, Vemi32f vMin,
+                                          Vemi32f vMax);
+VEMI_API VemiStatus vemiGammaFwd_32f_AC4IR(Vemi32f* pSrcDst, int srcDstStep, VemiSize roiSize, Vemi32f vMin,
+                                           Vemi32f vMax);
+VEMI_API VemiStatus vemiGammaFwd_32f_IP3R(Vemi32f* const pSrcDst[3], int srcDstStep, VemiSize roiSize, Vemi32f vMin,
+                                          Vemi32f vMax);
+
+/** @} */
+
+/**
+ * @defgroup vemi_gamma_inv vemiGammaInv: gamma correction undone
+ *
+ * The transfer curve from signal to light:
+ *
+ *     g(t) = 0.2222222222222222 t                                      for t below 0.0812
+ *     g(t) = ((t + 0.099) 0.9099181073703366)^2.2222222222222223       from there on
+ *
+ * that is, t / 4.5 and ((t + 0.099) / 1.099)^(1 / 0.45). Everything else, the rounding of 8u and 16u and the range of
+ * 32f among it, is as in vemiGammaFwd with g in the place of f:
+ *
+ *     8u     round(255 g(v / 255)): 0, 0, 0, 1, 1, 1, 1, 2, ... 255; several values fall together, so that no function
+ *            leads back to all of them
+ *     16u    65535 g(v / 65535), or 0.2222222222222222 v below the breakpoint
+ *     32f    0.2222222222222222 d + vMin, or g(t) R + vMin
+ *
+ * @param pSrc,srcStep        first pixel of the source, and the bytes between its rows; in P3R, an array of the first
+ *                            pixels of three planes, and the one step of all planes
+ * @param pDst,dstStep        the same of the destination
+ * @param pSrcDst,srcDstStep  the same of the image, or the planes, that is source and destination
+ * @param roiSize             size of the region in pixels
+ * @param vMin,vMax           32f: the values of black and white; vMax above vMin
+ *
+ * **Overlap**, **statuses**, **threads** as in vemiGammaFwd.
+ * @{
+ */
+
+VEMI_API VemiStatus vemiGammaInv_8u_C3R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiGammaInv_8u_AC4R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiGammaInv_8u_P3R(const Vemi8u* const pSrc[3], int srcStep, Vemi8u* const pDst[3], int dstStep,
+                                        VemiSize roiSize);
+VEMI_API VemiStatus vemiGammaInv_8u_C3IR(Vemi8u* pSrcDst, int srcDstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiGammaInv_8u_AC4IR(Vemi8u* pSrcDst, int srcDstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiGammaInv_8u_IP3R(Vemi8u* const pSrcDst[3], int srcDstStep, VemiSize roiSize);
+
+VEMI_API VemiStatus vemiGammaInv_16u_C3R(const Vemi16u* pSrc, int srcStep, Vemi16u* pDst, int dstStep,
+                                         VemiSize roiSize);
+VEMI_API VemiStatus vemiGammaInv_16u_AC4R(const Vemi16u* pSrc, int srcStep, Vemi16u* pDst, int dstStep,
+                                          VemiSize roiSize);
+VEMI_API VemiStatus vemiGammaInv_16u_P3R(const Vemi16u* const pSrc[3], int srcStep, Vemi16u* const pDst[3], int dstStep,
+                                         VemiSize roiSize);
+VEMI_API VemiStatus vemiGammaInv_16u_C3IR(Vemi16u* pSrcDst, int srcDstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiGammaInv_16u_AC4IR(Vemi16u* pSrcDst, int srcDstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiGammaInv_16u_IP3R(Vemi16u* const pSrcDst[3], int srcDstStep, VemiSize roiSize);
+
+VEMI_API VemiStatus vemiGammaInv_32f_C3R(const Vemi32f* pSrc, int srcStep, Vemi32f* pDst, int dstStep, VemiSize roiSize,
+                                         Vemi32f vMin, Vemi32f vMax);
+VEMI_API VemiStatus vemiGammaInv_32f_AC4R(const Vemi32f* pSrc, int srcStep, Vemi32f* pDst, int dstStep,
+                                          VemiSize roiSize, Vemi32f vMin, Vemi32f vMax);
+VEMI_API VemiStatus vemiGammaInv_32f_P3R(const Vemi32f* const pSrc[3], int srcStep, Vemi32f* const pDst[3], int dstStep,
+                                         VemiSize roiSize, Vemi32f vMin, Vemi32f vMax);
+VEMI_API VemiStatus vemiGammaInv_32f_C3IR(Vemi32f* pSrcDst, int srcDstStep, VemiSize roiSize, Vemi32f vMin,
+                                          Vemi32f vMax);
+VEMI_API VemiStatus vemiGammaInv_32f_AC4IR(Vemi32f* pSrcDst, int srcDstStep, VemiSize roiSize, Vemi32f vMin,
+                                           Vemi32f vMax);
+VEMI_API VemiStatus vemiGammaInv_32f_IP3R(Vemi32f* const pSrcDst[3], int srcDstStep, VemiSize roiSize, Vemi32f vMin,
+                                          Vemi32f vMax);
+
+/** @} */
+
 #ifdef __cplusplus
 }
 #endif

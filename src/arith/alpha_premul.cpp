@@ -94,15 +94,7 @@ VemiStatus premultiplyPlanesC(Planes<const T, 4> src, const T* alpha, Planes<T, 
 
 using namespace vemi;
 
-// Planes to planes, without and with a constant; in place, the source is the destination.
-#define VEMI_PLANES_PLANES(name, T, planes, ...)                                                                    \
-  VemiStatus name(const T* const pSrc[planes], int srcStep, T* const pDst[planes], int dstStep, VemiSize roiSize) { \
-    return __VA_ARGS__(Planes<const T, planes>{pSrc, srcStep}, Planes<T, planes>{pDst, dstStep}, roiSize);          \
-  }
-#define VEMI_PLANES_SRCDST(name, T, planes, ...)                                                                       \
-  VemiStatus name(T* const pSrcDst[planes], int srcDstStep, VemiSize roiSize) {                                        \
-    return __VA_ARGS__(Planes<const T, planes>{pSrcDst, srcDstStep}, Planes<T, planes>{pSrcDst, srcDstStep}, roiSize); \
-  }
+// Planes and a constant; in place, the source is the destination.
 #define VEMI_PLANES_VALUE_PLANES(name, T, planes, ...)                                                             \
   VemiStatus name(const T* const pSrc[planes], int srcStep, T value, T* const pDst[planes], int dstStep,           \
                   VemiSize roiSize) {                                                                              \

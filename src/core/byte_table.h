@@ -9,21 +9,23 @@
 
 namespace vemi {
 
-/// A byte whose upper half is h is found in the h-th sixteen entries. For each of them the bytes are moved so that its
-/// own end up in 0x70..0x7f and all others at 0x80 and above, which the lookup answers with zero.
+/// The lower half of a byte finds an entry in each of sixteen rows; the bits of the upper half then choose among them,
+/// one bit in each round.
 struct ByteTable {
   alignas(16) uint8_t entry[256];
 
   template <class D, class V>
   HWY_INLINE V operator()(D d, V v) const {
-    V result = hn::Zero(d);
-    V moved = v;
-    unrolled<16>([&](auto h) HWY_ATTR {
-      const V index = hn::SaturatedAdd(moved, hn::Set(d, 0x70));
-      result = hn::Or(result, hn::TableLookupBytesOr0(hn::LoadDup128(d, entry + 16 * h), index));
-      moved = hn::Sub(moved, hn::Set(d, 16));
+    const V lowerHalf = hn::And(v, hn::Set(d, 15));
+    V found[16];
+    unrolled<16>([&](auto row)
+                     HWY_ATTR { found[row] = hn::TableLookupBytes(hn::LoadDup128(d, entry + 16 * row), lowerHalf); });
+    unrolled<4>([&](auto round) HWY_ATTR {
+      const auto isSet = hn::TestBit(v, hn::Set(d, 16 << round));
+      unrolled<(8 >> round)>([&](auto i)
+                                 HWY_ATTR { found[i] = hn::IfThenElse(isSet, found[2 * i + 1], found[2 * i]); });
     });
-    return result;
+    return found[0];
   }
 };
 

@@ -116,3 +116,13 @@
   VemiStatus name(const S* pSrc, int srcStep, T* pDst, int dstStep, VemiSize roiSize, Vemi32f vMin, Vemi32f vMax) { \
     return __VA_ARGS__(Image<const S>{pSrc, srcStep}, Image<T>{pDst, dstStep}, roiSize, vMin, vMax);                \
   }
+
+// Planes to planes; in place, the source is the destination.
+#define VEMI_PLANES_PLANES(name, T, planes, ...)                                                                    \
+  VemiStatus name(const T* const pSrc[planes], int srcStep, T* const pDst[planes], int dstStep, VemiSize roiSize) { \
+    return __VA_ARGS__(Planes<const T, planes>{pSrc, srcStep}, Planes<T, planes>{pDst, dstStep}, roiSize);          \
+  }
+#define VEMI_PLANES_SRCDST(name, T, planes, ...)                                                                       \
+  VemiStatus name(T* const pSrcDst[planes], int srcDstStep, VemiSize roiSize) {                                        \
+    return __VA_ARGS__(Planes<const T, planes>{pSrcDst, srcDstStep}, Planes<T, planes>{pSrcDst, srcDstStep}, roiSize); \
+  }

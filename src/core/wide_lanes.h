@@ -19,4 +19,12 @@ HWY_INLINE hn::Vec<D> inWideLanes(D d, const F& f, V... v) {
   return hn::BitCast(d, hn::Or(even, hn::ShiftLeft<bits>(odd)));
 }
 
+/// f(half of each vector) of the lower and of the upper halves, put together to lanes of `d`: for lanes that are
+/// promoted on the way, which only fits halves.
+template <class D, class F, class... V>
+HWY_INLINE hn::Vec<D> inHalves(D d, const F& f, V... v) {
+  return hn::Combine(d, f(hn::UpperHalf(hn::Half<hn::DFromV<V>>(), v)...),
+                     f(hn::LowerHalf(hn::Half<hn::DFromV<V>>(), v)...));
+}
+
 }  // namespace vemi

@@ -236,7 +236,9 @@ void Call::fill(Image& image) {
   const Margin& margin = image.margin;
   const bool isRead = !image.written || function.inPlace;  // what is only written may hold anything
   for (size_t n = 0; n < image.contents.size(); ++n) {
-    std::copy(image.contents[n].begin(), image.contents[n].end(), image.planes[n].before.begin());
+    Image::Plane& plane = image.planes[n];
+    std::copy(image.contents[n].begin(), image.contents[n].end(),
+              plane.before.begin() + (plane.first - plane.memory.begin()));
   }
   for (int y = -margin.top; isRead && image.contents.empty() && y < image.size.height + margin.bottom; ++y) {
     for (int x = -margin.left; x < image.size.width + margin.right; ++x) {

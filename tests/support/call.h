@@ -109,7 +109,7 @@ class Call {
   /// What a pointer without a step points at: elements of the prototype's type, or anything where that is no element.
   template <class T>
   void setArray(const std::string& parameter, const std::vector<T>& elements) {
-    setArrays(parameter, std::vector{elements});
+    setArrays(parameter, std::vector<std::vector<T>>{elements});
   }
   /// The same for an array of pointers, such as one of tables for each channel.
   template <class T>

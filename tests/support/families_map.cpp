@@ -1,9 +1,11 @@
 #include "support/families.h"
 
 #include <limits.h>
+
 #include <algorithm>
 #include <cfloat>
 #include <cmath>
+#include <set>
 
 namespace vemi::test {
 namespace {
@@ -115,6 +117,102 @@ void withBits(Call& call) {
   call.image(isRead ? "pSrc" : "pDst").size.width = (offset % 8 + call.scenario.roiSize.width + 7) / 8;
 }
 
+/// Levels in and around the range of the pixels: in order, next to each other, turned round, with two of them exchanged
+/// or equal, or up to the ends of integers. Those of cubics differ, and floats are short, so that determinants of their
+/// differences are exact.
+template <class V>
+std::vector<V> randomLevels(Call& call, int lowest, int highest) {
+  enum Kind { ordered, adjacent, turned, exchanged, equal, endless };
+  const int lengths[] = {3, 5, 9, 9, 9, 40, 200};
+  Random& random = call.random;
+  const bool cubics = call.function.operation == "vemiLUT_Cubic";
+  const auto kind = static_cast<Kind>(random.below(6));
+  const int count = 2 + random.below(lengths[random.below(7)]);
+  const int span = highest - lowest + 1, start = lowest + random.below(span);
+  std::set<int> different;
+  while (static_cast<int>(different.size()) < count) {
+    const int next = start + static_cast<int>(different.size());
+    different.insert(kind == adjacent ? next : lowest - span / 8 + random.below(span * 5 / 4));
+  }
+  std::vector<V> levels;
+  for (const int level : different) levels.push_back(static_cast<V>(level));
+  const auto any = [&] { return levels.begin() + random.below(count); };
+  if (kind == turned) std::rotate(levels.begin(), any(), levels.end());
+  if (kind == exchanged) std::iter_swap(any(), any());
+  if (kind == equal && !cubics) *any() = *any();
+  if constexpr (std::is_integral_v<V>) {
+    if (kind == endless && !cubics) levels.front() = INT_MIN, levels.back() = INT_MAX;
+  } else {
+    for (V& level : levels) level /= 8;
+  }
+  return levels;
+}
+
+/// Values in and around the range of the pixels; for all but cubics, integers of all sizes too.
+template <class V>
+std::vector<V> randomValues(Call& call, int lowest, int highest, size_t count) {
+  const int span = highest - lowest + 1;
+  const bool cubics = call.function.operation == "vemiLUT_Cubic";
+  const bool large = std::is_integral_v<V> && !cubics && call.random.below(4) == 0;
+  std::vector<V> values(count);
+  for (V& value : values) {
+    value = static_cast<V>(lowest - span / 8 + call.random.below(span * 5 / 4));
+    if (large) value = static_cast<V>(static_cast<int32_t>(call.random.next()));
+  }
+  return values;
+}
+
+template <class V>
+void setLevels(Call& call, int lowest, int highest) {
+  std::vector<std::vector<V>> levels, values;
+  std::vector<int> counts;
+  for (int channel = 0; channel < call.function.source.channels; ++channel) {
+    levels.push_back(randomLevels<V>(call, lowest, highest));
+    values.push_back(randomValues<V>(call, lowest, highest, levels.back().size()));
+    counts.push_back(static_cast<int>(levels.back().size()));
+  }
+  call.setArrays("pLevels", levels);
+  call.setArrays("pValues", values);
+  if (counts.size() == 1) {
+    call.set("nLevels", counts[0]);
+  } else {
+    call.setArray("nLevels", counts);
+  }
+}
+
+void withLevels(Call& call) {
+  switch (call.function.parameters[0].element) {
+    case Element::u8:
+      return setLevels<Vemi32s>(call, 0, 255);
+    case Element::s16:
+      return setLevels<Vemi32s>(call, -32768, 32767);
+    default:
+      return setLevels<Vemi32f>(call, -100, 100);
+  }
+}
+
+/// Every index width. Pixels of 24 bits are three bytes.
+void withPalette(Call& call) {
+  const bool threeBytes = call.function.members.find("24u") != std::string::npos;
+  const int bits = 1 + call.random.below(8 * bytesOf(call.function.parameters[0].element));
+  if (threeBytes) call.image("pDst").layout = {3, 3, false};
+  call.setLengths("pTable", {(threeBytes ? 3 : 1) << bits});
+  call.set("nBitSize", bits);
+}
+
+void withGammaRange(Call& call) {
+  static const float ranges[][2] = {{0, 1}, {0, 255}, {-1, 1}, {16, 235}, {-300, 4000}, {1e-30f, 3e-30f}};
+  const auto& range = ranges[call.random.below(6)];
+  call.set("vMin", range[0]);
+  call.set("vMax", range[1]);
+}
+
+/// vMax so that vMax - vMin is zero.
+bool emptyRange(Call& call) {
+  call.set("vMax", call.get<float>("vMin"));
+  return true;
+}
+
 }  // namespace
 
 std::vector<Family> mapFamilies() {
@@ -175,6 +273,40 @@ std::vector<Family> mapFamilies() {
         {"vMin", NAN, "range", vemiErrScaleRange}}},
       {"vemiScale", "(16u8u|16s8u|32s8u).*", "null size step", withHint},
       {"vemiScale", ".*", "null size step"},
+      {"vemiLUT vemiLUT_Linear vemiLUT_Cubic",
+       ".*_C1R",
+       "null size step own",
+       withLevels,
+       {{"nLevels", 1, "own", vemiErrLutLevels},
+        {"nLevels", 0, "own", vemiErrLutLevels},
+        {"nLevels", INT_MIN, "own", vemiErrLutLevels}}},
+      {"vemiLUT vemiLUT_Linear vemiLUT_Cubic",
+       ".*",
+       "null channels size step",
+       withLevels,
+       {{"nLevels", 1, "channels", vemiErrLutLevels}, {"nLevels", INT_MIN, "channels", vemiErrLutLevels}}},
+      {"vemiLUTPalette",
+       "8u.*",
+       "null step size own",
+       withPalette,
+       {{"nBitSize", 0, "own", vemiErrLutPaletteBits},
+        {"nBitSize", INT_MIN, "own", vemiErrLutPaletteBits},
+        {"nBitSize", 9, "own", vemiErrLutPaletteBits}}},
+      {"vemiLUTPalette",
+       "16u.*",
+       "null step size own",
+       withPalette,
+       {{"nBitSize", 0, "own", vemiErrLutPaletteBits}, {"nBitSize", 17, "own", vemiErrLutPaletteBits}}},
+      {"vemiGammaFwd vemiGammaInv",
+       "32f.*",
+       "own null size step",
+       withGammaRange,
+       {{"vMax", 0, "own", vemiErrGammaRange, emptyRange},
+        {"vMax", -1e6, "own", vemiErrGammaRange},
+        {"vMax", NAN, "own", vemiErrGammaRange},
+        {"vMin", NAN, "own", vemiErrGammaRange},
+        {"vMin", 1e6, "own", vemiErrGammaRange}}},
+      {"vemiGammaFwd vemiGammaInv", ".*", "null size step"},
   };
 }
 

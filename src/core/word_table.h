@@ -1,0 +1,44 @@
+// Functions of a 16-bit element by a table of all 65536 results. Such a table is too long for lanes.
+#pragma once
+
+#include <cstddef>
+#include <cstring>
+#include <limits>
+
+#include "core/image.h"
+#include "core/parallel.h"
+
+namespace vemi {
+
+inline constexpr int wordTableSize = 65536;
+
+namespace detail {
+
+/// The table begins with the result of the lowest value of T.
+template <class T>
+T lookedUp(const T* table, const T* place) {
+  T value;
+  std::memcpy(&value, place, sizeof value);
+  return table[value - std::numeric_limits<T>::min()];
+}
+
+}  // namespace detail
+
+/// destination = table[channel][source], of as many tables as there are channels at least, in the calling thread. A
+/// source may be the destination.
+template <class L, class T, int tables>
+void mapByWordTables(VemiSize roiSize, const T* const (&table)[tables], Image<T> dst, Image<const T> src) {
+  const Extent extent = mergedExtent(roiSize, isContiguous<L>(dst, roiSize) && isContiguous<L>(src, roiSize));
+  rowsSerially(extent.height, [&](ptrdiff_t y) {
+    const T* in = src.row(y);
+    T* out = dst.row(y);
+    for (ptrdiff_t x = 0; x < extent.width; ++x, in += L::elements, out += L::elements) {
+      for (int channel = 0; channel < L::channels; ++channel) {
+        const T value = detail::lookedUp(table[channel], in + channel);
+        std::memcpy(out + channel, &value, sizeof value);
+      }
+    }
+  });
+}
+
+}  // namespace vemi

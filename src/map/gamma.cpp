@@ -1,0 +1,242 @@
+// vemiGammaFwd, vemiGammaInv: the transfer curve of ITU-R BT.709 and its inverse. The results of bytes are constants;
+// 16-bit elements are computed, by way of a table where that is less work; floats are computed in double lanes.
+// Checks: null, size, step; of floats, the range ahead of all.
+
+#include <numeric>
+
+#include "core/alloc.h"
+#include "core/byte_table.h"
+#include "core/checks.h"
+#include "core/exports.h"
+#include "core/map_region.h"
+#include "core/wide_lanes.h"
+#include "core/word_table.h"
+#include "signal/pow.h"
+#include "vemi/map.h"
+
+namespace vemi {
+namespace {
+
+/// From light to signal. Below the breakpoint, t times the slope; from there on, the power.
+struct Forward {
+  static constexpr double breakpoint = 0.018, slope = 4.5;
+
+  template <class D, class V>
+  HWY_INLINE static V power(D d, V t) {
+    return hn::Sub(hn::Mul(Power{0.45}(d, t), hn::Set(d, 1.099)), hn::Set(d, 0.099));
+  }
+
+  static constexpr ByteTable ofBytes = {
+      {0,   4,   9,   14,  18,  23,  27,  30,  34,  37,  40,  43,  46,  48,  51,  53,  55,  58,  60,  62,  64,  66,
+       68,  70,  72,  73,  75,  77,  78,  80,  82,  83,  85,  86,  88,  89,  91,  92,  94,  95,  97,  98,  99,  101,
+       102, 103, 104, 106, 107, 108, 109, 111, 112, 113, 114, 115, 116, 118, 119, 120, 121, 122, 123, 124, 125, 126,
+       127, 128, 129, 130, 131, 132, 133, 134, 135, 136, 137, 138, 139, 140, 141, 142, 143, 144, 145, 146, 147, 147,
+       148, 149, 150, 151, 152, 153, 154, 154, 155, 156, 157, 158, 159, 159, 160, 161, 162, 163, 164, 164, 165, 166,
+       167, 168, 168, 169, 170, 171, 171, 172, 173, 174, 174, 175, 176, 177, 177, 178, 179, 180, 180, 181, 182, 182,
+       183, 184, 185, 185, 186, 187, 187, 188, 189, 189, 190, 191, 191, 192, 193, 193, 194, 195, 195, 196, 197, 197,
+       198, 199, 199, 200, 201, 201, 202, 203, 203, 204, 205, 205, 206, 206, 207, 208, 208, 209, 209, 210, 211, 211,
+       212, 213, 213, 214, 214, 215, 216, 216, 217, 217, 218, 218, 219, 220, 220, 221, 221, 222, 223, 223, 224, 224,
+       225, 225, 226, 227, 227, 228, 228, 229, 229, 230, 230, 231, 232, 232, 233, 233, 234, 234, 235, 235, 236, 236,
+       237, 238, 238, 239, 239, 240, 240, 241, 241, 242, 242, 243, 243, 244, 244, 245, 245, 246, 246, 247, 247, 248,
+       248, 249, 249, 250, 251, 251, 252, 252, 253, 253, 254, 254, 255, 255}};
+};
+
+/// From signal to light.
+struct Inverse {
+  static constexpr double breakpoint = 0.0812, slope = 0.2222222222222222;
+
+  template <class D, class V>
+  HWY_INLINE static V power(D d, V t) {
+    const V base = hn::Mul(hn::Add(t, hn::Set(d, 0.099)), hn::Set(d, 0.9099181073703366));
+    return Power{2.2222222222222223}(d, base);
+  }
+
+  static constexpr ByteTable ofBytes = {
+      {0,   0,   0,   1,   1,   1,   1,   2,   2,   2,   2,   2,   3,   3,   3,   3,   4,   4,   4,   4,   4,   5,
+       5,   5,   5,   6,   6,   6,   6,   7,   7,   7,   7,   8,   8,   8,   9,   9,   9,   10,  10,  10,  11,  11,
+       11,  12,  12,  13,  13,  13,  14,  14,  15,  15,  15,  16,  16,  17,  17,  18,  18,  19,  19,  20,  20,  21,
+       21,  22,  22,  23,  23,  24,  24,  25,  25,  26,  27,  27,  28,  28,  29,  30,  30,  31,  31,  32,  33,  33,
+       34,  35,  35,  36,  37,  37,  38,  39,  40,  40,  41,  42,  43,  43,  44,  45,  46,  46,  47,  48,  49,  50,
+       51,  51,  52,  53,  54,  55,  56,  57,  57,  58,  59,  60,  61,  62,  63,  64,  65,  66,  67,  68,  69,  70,
+       71,  72,  73,  74,  75,  76,  77,  78,  79,  80,  81,  82,  83,  84,  85,  86,  88,  89,  90,  91,  92,  93,
+       94,  96,  97,  98,  99,  100, 102, 103, 104, 105, 107, 108, 109, 110, 112, 113, 114, 116, 117, 118, 119, 121,
+       122, 124, 125, 126, 128, 129, 130, 132, 133, 135, 136, 138, 139, 140, 142, 143, 145, 146, 148, 149, 151, 152,
+       154, 155, 157, 158, 160, 162, 163, 165, 166, 168, 170, 171, 173, 174, 176, 178, 179, 181, 183, 184, 186, 188,
+       190, 191, 193, 195, 197, 198, 200, 202, 204, 205, 207, 209, 211, 213, 214, 216, 218, 220, 222, 224, 226, 228,
+       229, 231, 233, 235, 237, 239, 241, 243, 245, 247, 249, 251, 253, 255}};
+};
+
+/// Of half a vector of integers, 65535 times the curve plus one half, in single precision.
+template <class Direction>
+struct CurveOfIntegers {
+  template <class V>
+  HWY_INLINE auto operator()(V pixels) const {
+    const hn::DFromV<V> di;
+    const hn::Rebind<double, decltype(di)> d;
+    const auto pixel = hn::PromoteTo(d, pixels);
+    const auto t = hn::Mul(pixel, hn::Set(d, 1.5259021896696422e-05));
+    const auto linear = hn::Mul(pixel, hn::Set(d, Direction::slope));
+    const auto curved = hn::Mul(Direction::power(d, t), hn::Set(d, 65535.0));
+    const auto result = hn::IfThenElse(hn::Lt(t, hn::Set(d, Direction::breakpoint)), linear, curved);
+    return hn::DemoteTo(hn::RebindToFloat<decltype(di)>(), hn::Add(result, hn::Set(d, 0.5)));
+  }
+};
+
+/// 16u: to nearest. Ties go to even: a sum with one half that is an odd integer goes down.
+template <class Direction>
+struct OfWords {
+  template <class D, class V>
+  HWY_INLINE V operator()(D d, V v) const {
+    const auto rounded = [](auto dWide, auto wide) HWY_ATTR {
+      const hn::RebindToSigned<decltype(dWide)> di;
+      const hn::RebindToFloat<decltype(dWide)> df;
+      const auto sum = inHalves(df, CurveOfIntegers<Direction>(), hn::BitCast(di, wide));
+      const auto whole = hn::ConvertTo(di, sum);
+      const auto isWhole = hn::RebindMask(di, hn::Eq(hn::ConvertTo(df, whole), sum));
+      return hn::BitCast(dWide, hn::Sub(whole, hn::IfThenElseZero(isWhole, hn::And(whole, hn::Set(di, 1)))));
+    };
+    return inWideLanes(d, rounded, v);
+  }
+};
+
+/// 32f, with black at vMin and white `range` above it.
+template <class Direction>
+struct OfFloats {
+  double vMin, range, inverseRange;
+
+  OfFloats(float low, float difference) : vMin(low), range(difference), inverseRange(1.0 / range) {}
+
+  template <class D, class V>
+  HWY_INLINE V operator()(D d, V v) const {
+    return inHalves(d, *this, v);
+  }
+
+  /// Of half a vector.
+  template <class V>
+  HWY_INLINE V operator()(V pixels) const {
+    const hn::DFromV<V> dHalf;
+    const hn::Rebind<double, decltype(dHalf)> d;
+    const auto black = hn::Set(d, vMin);
+    const auto difference = hn::Sub(hn::PromoteTo(d, pixels), black);
+    const auto t = hn::Mul(hn::Set(d, inverseRange), difference);
+    const auto linear = hn::Add(hn::Mul(difference, hn::Set(d, Direction::slope)), black);
+    const auto isFinite = hn::Lt(t, hn::Set(d, std::numeric_limits<double>::infinity()));
+    const auto power = hn::IfThenElse(isFinite, Direction::power(d, t), t);  // infinity and NaNs stay
+    const auto curved = hn::Add(hn::Mul(power, hn::Set(d, range)), black);
+    return hn::DemoteTo(dHalf, hn::IfThenElse(hn::Lt(t, hn::Set(d, Direction::breakpoint)), linear, curved));
+  }
+};
+
+// ---- Regions: one image of layout L, or three planes of layout C1 ---------------------------------------------------
+
+template <class T, class F>
+void forEachImage(Image<const T> src, Image<T> dst, const F& f) {
+  f(src, dst);
+}
+
+template <class T, class F>
+void forEachImage(Planes<const T, 3> src, Planes<T, 3> dst, const F& f) {
+  for (int n = 0; n < 3; ++n) f(src[n], dst[n]);
+}
+
+template <class L, class Op, class Src, class Dst>
+void mapImages(Src src, Dst dst, VemiSize roiSize, const Op& op) {
+  const auto indexedOp = eachVector<1>(op);
+  forEachImage(src, dst, [&](auto from, auto to) { mapRegion<L, CallerRows>(roiSize, false, indexedOp, to, from); });
+}
+
+template <class Direction, class L, class Src, class Dst>
+VemiStatus gamma8u(Src src, Dst dst, VemiSize roiSize) {
+  if (const VemiStatus bad = firstOf(checkNull(src, dst), checkSize(roiSize), checkStep(src, dst))) return bad;
+  mapImages<L>(src, dst, roiSize, Direction::ofBytes);
+  return vemiOk;
+}
+
+/// More elements than a table has are looked up in one.
+template <class Direction, class L, class Src, class Dst>
+VemiStatus gamma16u(Src src, Dst dst, VemiSize roiSize) {
+  if (const VemiStatus bad = firstOf(checkNull(src, dst), checkSize(roiSize), checkStep(src, dst))) return bad;
+  const OfWords<Direction> op;
+  if (Vemi64s{3} * roiSize.width * roiSize.height <= wordTableSize) {
+    mapImages<L>(src, dst, roiSize, op);
+    return vemiOk;
+  }
+  Vemi16u* const table = static_cast<Vemi16u*>(alignedAllocBytes(sizeof(Vemi16u) * wordTableSize));
+  if (table == nullptr) return vemiErrMemAlloc;
+  std::iota(table, table + wordTableSize, Vemi16u{0});
+  mapElements<Alpha::none>(wordTableSize, eachVector(op), table, static_cast<const Vemi16u*>(table));
+  const Vemi16u* const tables[3] = {table, table, table};
+  forEachImage(src, dst, [&](auto from, auto to) { mapByWordTables<L>(roiSize, tables, to, from); });
+  vemiAlignedFree(table);
+  return vemiOk;
+}
+
+template <class Direction, class L, class Src, class Dst>
+VemiStatus gamma32f(Src src, Dst dst, VemiSize roiSize, Vemi32f vMin, Vemi32f vMax) {
+  const float range = vMax - vMin;
+  if (!(range > 0)) return vemiErrGammaRange;
+  if (const VemiStatus bad = firstOf(checkNull(src, dst), checkSize(roiSize), checkStep(src, dst))) return bad;
+  mapImages<L>(src, dst, roiSize, OfFloats<Direction>(vMin, range));
+  return vemiOk;
+}
+
+}  // namespace
+}  // namespace vemi
+
+using namespace vemi;
+
+// With the values of black and white behind the region.
+#define VEMI_SRC_DST_RANGE(name, T, ...) VEMI_SRC_DST_AND(name, T, (T vMin, T vMax), (vMin, vMax), __VA_ARGS__)
+#define VEMI_SRCDST_RANGE(name, T, ...) VEMI_SRCDST_AND(name, T, (T vMin, T vMax), (vMin, vMax), __VA_ARGS__)
+#define VEMI_PLANES_PLANES_RANGE(name, T, planes, ...)                                                                 \
+  VemiStatus name(const T* const pSrc[planes], int srcStep, T* const pDst[planes], int dstStep, VemiSize roiSize,      \
+                  T vMin, T vMax) {                                                                                    \
+    return __VA_ARGS__(Planes<const T, planes>{pSrc, srcStep}, Planes<T, planes>{pDst, dstStep}, roiSize, vMin, vMax); \
+  }
+#define VEMI_PLANES_SRCDST_RANGE(name, T, planes, ...)                                                                \
+  VemiStatus name(T* const pSrcDst[planes], int srcDstStep, VemiSize roiSize, T vMin, T vMax) {                       \
+    return __VA_ARGS__(Planes<const T, planes>{pSrcDst, srcDstStep}, Planes<T, planes>{pSrcDst, srcDstStep}, roiSize, \
+                       vMin, vMax);                                                                                   \
+  }
+
+VEMI_SRC_DST(vemiGammaFwd_8u_C3R, Vemi8u, gamma8u<Forward, C3>)
+VEMI_SRC_DST(vemiGammaFwd_8u_AC4R, Vemi8u, gamma8u<Forward, AC4>)
+VEMI_PLANES_PLANES(vemiGammaFwd_8u_P3R, Vemi8u, 3, gamma8u<Forward, C1>)
+VEMI_SRCDST(vemiGammaFwd_8u_C3IR, Vemi8u, gamma8u<Forward, C3>)
+VEMI_SRCDST(vemiGammaFwd_8u_AC4IR, Vemi8u, gamma8u<Forward, AC4>)
+VEMI_PLANES_SRCDST(vemiGammaFwd_8u_IP3R, Vemi8u, 3, gamma8u<Forward, C1>)
+
+VEMI_SRC_DST(vemiGammaFwd_16u_C3R, Vemi16u, gamma16u<Forward, C3>)
+VEMI_SRC_DST(vemiGammaFwd_16u_AC4R, Vemi16u, gamma16u<Forward, AC4>)
+VEMI_PLANES_PLANES(vemiGammaFwd_16u_P3R, Vemi16u, 3, gamma16u<Forward, C1>)
+VEMI_SRCDST(vemiGammaFwd_16u_C3IR, Vemi16u, gamma16u<Forward, C3>)
+VEMI_SRCDST(vemiGammaFwd_16u_AC4IR, Vemi16u, gamma16u<Forward, AC4>)
+VEMI_PLANES_SRCDST(vemiGammaFwd_16u_IP3R, Vemi16u, 3, gamma16u<Forward, C1>)
+
+VEMI_SRC_DST_RANGE(vemiGammaFwd_32f_C3R, Vemi32f, gamma32f<Forward, C3>)
+VEMI_SRC_DST_RANGE(vemiGammaFwd_32f_AC4R, Vemi32f, gamma32f<Forward, AC4>)
+VEMI_PLANES_PLANES_RANGE(vemiGammaFwd_32f_P3R, Vemi32f, 3, gamma32f<Forward, C1>)
+VEMI_SRCDST_RANGE(vemiGammaFwd_32f_C3IR, Vemi32f, gamma32f<Forward, C3>)
+VEMI_SRCDST_RANGE(vemiGammaFwd_32f_AC4IR, Vemi32f, gamma32f<Forward, AC4>)
+VEMI_PLANES_SRCDST_RANGE(vemiGammaFwd_32f_IP3R, Vemi32f, 3, gamma32f<Forward, C1>)
+
+VEMI_SRC_DST(vemiGammaInv_8u_C3R, Vemi8u, gamma8u<Inverse, C3>)
+VEMI_SRC_DST(vemiGammaInv_8u_AC4R, Vemi8u, gamma8u<Inverse, AC4>)
+VEMI_PLANES_PLANES(vemiGammaInv_8u_P3R, Vemi8u, 3, gamma8u<Inverse, C1>)
+VEMI_SRCDST(vemiGammaInv_8u_C3IR, Vemi8u, gamma8u<Inverse, C3>)
+VEMI_SRCDST(vemiGammaInv_8u_AC4IR, Vemi8u, gamma8u<Inverse, AC4>)
+VEMI_PLANES_SRCDST(vemiGammaInv_8u_IP3R, Vemi8u, 3, gamma8u<Inverse, C1>)
+
+VEMI_SRC_DST(vemiGammaInv_16u_C3R, Vemi16u, gamma16u<Inverse, C3>)
+VEMI_SRC_DST(vemiGammaInv_16u_AC4R, Vemi16u, gamma16u<Inverse, AC4>)
+VEMI_PLANES_PLANES(vemiGammaInv_16u_P3R, Vemi16u, 3, gamma16u<Inverse, C1>)
+VEMI_SRCDST(vemiGammaInv_16u_C3IR, Vemi16u, gamma16u<Inverse, C3>)
+VEMI_SRCDST(vemiGammaInv_16u_AC4IR, Vemi16u, gamma16u<Inverse, AC4>)
+VEMI_PLANES_SRCDST(vemiGammaInv_16u_IP3R, Vemi16u, 3, gamma16u<Inverse, C1>)
+
+VEMI_SRC_DST_RANGE(vemiGammaInv_32f_C3R, Vemi32f, gamma32f<Inverse, C3>)
+VEMI_SRC_DST_RANGE(vemiGammaInv_32f_AC4R, Vemi32f, gamma32f<Inverse, AC4>)
+VEMI_PLANES_PLANES_RANGE(vemiGammaInv_32f_P3R, Vemi32f, 3, gamma32f<Inverse, C1>)
+VEMI_SRCDST_RANGE(vemiGammaInv_32f_C3IR, Vemi32f, gamma32f<Inverse, C3>)
+VEMI_SRCDST_RANGE(vemiGammaInv_32f_AC4IR, Vemi32f, gamma32f<Inverse, AC4>)
+VEMI_PLANES_SRCDST_RANGE(vemiGammaInv_32f_IP3R, Vemi32f, 3, gamma32f<Inverse, C1>)

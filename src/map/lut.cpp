@@ -1,0 +1,149 @@
+// vemiLUT, vemiLUT_Linear, vemiLUT_Cubic of integers: a table of all results for each channel, and one look-up for each
+// element. Only the steps of a small 16s region are searched among the levels instead.
+// Checks of C1: null, size, step, levels; of the others: null, each channel's levels, size, step.
+
+#include <algorithm>
+#include <cstring>
+#include <limits>
+#include <numeric>
+
+#include "core/alloc.h"
+#include "core/byte_table.h"
+#include "core/map_channels.h"
+#include "core/numbers.h"
+#include "core/word_table.h"
+#include "map/level_search.h"
+#include "vemi/map.h"
+
+namespace vemi {
+namespace {
+
+/// Cut off toward zero, then limited; a NaN gives the lowest value.
+template <class T>
+T truncated(double value) {
+  constexpr double lowest = std::numeric_limits<T>::min(), highest = std::numeric_limits<T>::max();
+  const double limited = value > lowest ? (value < highest ? value : highest) : lowest;
+  return static_cast<T>(static_cast<int>(limited));
+}
+
+/// What the curve makes of the numbers from `from` to `to`, which lie in the interval.
+template <class T>
+void fillInterval(Curve curve, const Levels<Vemi32s>& levels, int interval, int from, int to, T* result) {
+  const Vemi32s* const level = levels.level + interval;
+  const Vemi32s* const value = levels.value + interval;
+  const double x = level[0], y = value[0];
+  const double width = level[1] - x;
+  if (curve == Curve::steps || width == 1) {
+    std::fill(result, result + (to - from), saturate<T>(Vemi64s{value[0]}));
+  } else if (curve == Curve::lines) {
+    const double slope = (value[1] - y) / width;
+    for (int v = from; v < to; ++v) *result++ = truncated<T>(y + 0.5 + slope * (v - x));
+  } else {
+    const Cubic cubic = cubicOf(levels, interval);
+    for (int v = from; v < to; ++v) {
+      const double t = v - cubic.x;
+      *result++ = truncated<T>(cubic.y + 0.5 + cubic.a * t + cubic.b * (t * t) + cubic.c * (t * t * t));
+    }
+  }
+}
+
+/// The results of all values of T. The intervals are filled in their order, so that the later one counts.
+template <class T>
+void fillTable(Curve curve, const Levels<Vemi32s>& levels, T* table) {
+  constexpr int lowest = std::numeric_limits<T>::min(), end = std::numeric_limits<T>::max() + 1;
+  const auto limited = [=](Vemi32s level) { return std::clamp<int>(level, lowest, end); };
+  std::iota(table, table + (end - lowest), static_cast<T>(lowest));
+  for (int k = 0; k < levels.intervals(); ++k) {
+    const int from = limited(levels.level[k]), to = limited(levels.level[k + 1]);
+    if (from < to) fillInterval(curve, levels, k, from, to, table + (from - lowest));
+  }
+  const int last = limited(levels.level[levels.intervals()]);
+  std::iota(table + (last - lowest), table + (end - lowest), static_cast<T>(last));
+}
+
+template <class L, Curve wanted>
+VemiStatus lut8u(Image<const Vemi8u> src, Image<Vemi8u> dst, VemiSize roiSize, LevelLists<Vemi32s> lists) {
+  if (const VemiStatus bad = checkLevels<L>(src, dst, roiSize, lists)) return bad;
+  const Curve curve = possibleCurve<L>(wanted, lists);
+  PerChannel<ByteTable, L::channels> tables;
+  for (int channel = 0; channel < L::channels; ++channel) fillTable(curve, lists[channel], tables.of[channel].entry);
+  mapChannels<L>(roiSize, tables, dst, src);
+  return vemiOk;
+}
+
+/// The step of each element, found among the levels.
+struct StepSearch {
+  LevelSearch<Vemi32s> search;
+
+  template <class D, class V>
+  HWY_INLINE V operator()(D d, V v) const {
+    const hn::RepartitionToWide<D> dWide;
+    auto wide = widen(d, v);
+    wide.lower = search.stepOf(dWide, wide.lower);
+    wide.upper = search.stepOf(dWide, wide.upper);
+    return narrow(d, wide);
+  }
+};
+
+/// Steps of a region below these sizes must not need memory.
+template <class L>
+bool isWorthTables(VemiSize roiSize) {
+  return Vemi64s{roiSize.width} * roiSize.height >= (L::elements == 1 ? 6401 : 4097);
+}
+
+template <class L, Curve wanted>
+VemiStatus lut16s(Image<const Vemi16s> src, Image<Vemi16s> dst, VemiSize roiSize, LevelLists<Vemi32s> lists) {
+  if (const VemiStatus bad = checkLevels<L>(src, dst, roiSize, lists)) return bad;
+  if (wanted == Curve::steps && !isWorthTables<L>(roiSize)) {
+    PerChannel<StepSearch, L::channels> searches;
+    for (int channel = 0; channel < L::channels; ++channel) searches.of[channel] = {LevelSearch(lists[channel])};
+    mapChannels<L>(roiSize, searches, dst, src);
+    return vemiOk;
+  }
+  Vemi16s* const tables = vemiAlignedAlloc16(L::channels * wordTableSize);
+  if (tables == nullptr) return vemiErrMemAlloc;
+  const Curve curve = possibleCurve<L>(wanted, lists);
+  const Vemi16s* table[L::channels];
+  for (int channel = 0; channel < L::channels; ++channel) {
+    table[channel] = tables + channel * wordTableSize;
+    fillTable(curve, lists[channel], tables + channel * wordTableSize);
+  }
+  mapByWordTables<L>(roiSize, table, dst, src);
+  vemiAlignedFree(tables);
+  return vemiOk;
+}
+
+}  // namespace
+}  // namespace vemi
+
+using namespace vemi;
+
+VEMI_SRC_DST_LEVELS(vemiLUT_8u_C1R, Vemi8u, Vemi32s, lut8u<C1, Curve::steps>)
+VEMI_SRC_DST_CHANNEL_LEVELS(vemiLUT_8u_C3R, Vemi8u, Vemi32s, 3, lut8u<C3, Curve::steps>)
+VEMI_SRC_DST_CHANNEL_LEVELS(vemiLUT_8u_C4R, Vemi8u, Vemi32s, 4, lut8u<C4, Curve::steps>)
+VEMI_SRC_DST_CHANNEL_LEVELS(vemiLUT_8u_AC4R, Vemi8u, Vemi32s, 3, lut8u<AC4, Curve::steps>)
+
+VEMI_SRC_DST_LEVELS(vemiLUT_16s_C1R, Vemi16s, Vemi32s, lut16s<C1, Curve::steps>)
+VEMI_SRC_DST_CHANNEL_LEVELS(vemiLUT_16s_C3R, Vemi16s, Vemi32s, 3, lut16s<C3, Curve::steps>)
+VEMI_SRC_DST_CHANNEL_LEVELS(vemiLUT_16s_C4R, Vemi16s, Vemi32s, 4, lut16s<C4, Curve::steps>)
+VEMI_SRC_DST_CHANNEL_LEVELS(vemiLUT_16s_AC4R, Vemi16s, Vemi32s, 3, lut16s<AC4, Curve::steps>)
+
+VEMI_SRC_DST_LEVELS(vemiLUT_Linear_8u_C1R, Vemi8u, Vemi32s, lut8u<C1, Curve::lines>)
+VEMI_SRC_DST_CHANNEL_LEVELS(vemiLUT_Linear_8u_C3R, Vemi8u, Vemi32s, 3, lut8u<C3, Curve::lines>)
+VEMI_SRC_DST_CHANNEL_LEVELS(vemiLUT_Linear_8u_C4R, Vemi8u, Vemi32s, 4, lut8u<C4, Curve::lines>)
+VEMI_SRC_DST_CHANNEL_LEVELS(vemiLUT_Linear_8u_AC4R, Vemi8u, Vemi32s, 3, lut8u<AC4, Curve::lines>)
+
+VEMI_SRC_DST_LEVELS(vemiLUT_Linear_16s_C1R, Vemi16s, Vemi32s, lut16s<C1, Curve::lines>)
+VEMI_SRC_DST_CHANNEL_LEVELS(vemiLUT_Linear_16s_C3R, Vemi16s, Vemi32s, 3, lut16s<C3, Curve::lines>)
+VEMI_SRC_DST_CHANNEL_LEVELS(vemiLUT_Linear_16s_C4R, Vemi16s, Vemi32s, 4, lut16s<C4, Curve::lines>)
+VEMI_SRC_DST_CHANNEL_LEVELS(vemiLUT_Linear_16s_AC4R, Vemi16s, Vemi32s, 3, lut16s<AC4, Curve::lines>)
+
+VEMI_SRC_DST_LEVELS(vemiLUT_Cubic_8u_C1R, Vemi8u, Vemi32s, lut8u<C1, Curve::cubics>)
+VEMI_SRC_DST_CHANNEL_LEVELS(vemiLUT_Cubic_8u_C3R, Vemi8u, Vemi32s, 3, lut8u<C3, Curve::cubics>)
+VEMI_SRC_DST_CHANNEL_LEVELS(vemiLUT_Cubic_8u_C4R, Vemi8u, Vemi32s, 4, lut8u<C4, Curve::cubics>)
+VEMI_SRC_DST_CHANNEL_LEVELS(vemiLUT_Cubic_8u_AC4R, Vemi8u, Vemi32s, 3, lut8u<AC4, Curve::cubics>)
+
+VEMI_SRC_DST_LEVELS(vemiLUT_Cubic_16s_C1R, Vemi16s, Vemi32s, lut16s<C1, Curve::cubics>)
+VEMI_SRC_DST_CHANNEL_LEVELS(vemiLUT_Cubic_16s_C3R, Vemi16s, Vemi32s, 3, lut16s<C3, Curve::cubics>)
+VEMI_SRC_DST_CHANNEL_LEVELS(vemiLUT_Cubic_16s_C4R, Vemi16s, Vemi32s, 4, lut16s<C4, Curve::cubics>)
+VEMI_SRC_DST_CHANNEL_LEVELS(vemiLUT_Cubic_16s_AC4R, Vemi16s, Vemi32s, 3, lut16s<AC4, Curve::cubics>)

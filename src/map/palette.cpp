@@ -1,0 +1,57 @@
+// vemiLUTPalette: the palette entry that the lower bits of a pixel name. Checks: null, step, size, bits.
+
+#include <cstdint>
+#include <cstring>
+
+#include "core/blocks.h"
+#include "core/checks.h"
+#include "core/image.h"
+#include "core/parallel.h"
+#include "vemi/map.h"
+
+namespace vemi {
+namespace {
+
+/// Pixels come eight bytes at a time: their indices then wait for one load.
+template <int elements, class S, class T>
+void paletteRow(ptrdiff_t width, const T* table, unsigned mask, T* dst, const S* src) {
+  constexpr int pixels = sizeof(uint64_t) / sizeof(S);
+  const auto kernel = [=](const S* in, T* out) {
+    uint64_t block;
+    std::memcpy(&block, in, sizeof block);
+    unrolled<pixels>([&](auto k) {
+      const unsigned index = static_cast<unsigned>(block >> (8 * sizeof(S) * k)) & mask;
+      std::memcpy(out + k * elements, table + index * elements, elements * sizeof(T));
+    });
+  };
+  forBlocks<pixels>(width, kernel, Strand<const S>{src}, Strand<T, elements>{dst});
+}
+
+/// An entry has as many elements as a destination pixel.
+template <class Entry, class S, class T>
+VemiStatus palette(Image<const S> src, Image<T> dst, VemiSize roiSize, const T* table, int bits) {
+  if (const VemiStatus bad = firstOf(checkNull(src, dst, table), checkStep(src, dst), checkSize(roiSize))) return bad;
+  if (bits < 1 || bits > 8 * static_cast<int>(sizeof(S))) return vemiErrLutPaletteBits;
+  const bool contiguous = isContiguous<C1>(src, roiSize) && isContiguous<Entry>(dst, roiSize);
+  const Extent extent = mergedExtent(roiSize, contiguous);
+  rowsSerially(extent.height, [&](ptrdiff_t y) {
+    paletteRow<Entry::elements>(extent.width, table, (1u << bits) - 1, dst.row(y), src.row(y));
+  });
+  return vemiOk;
+}
+
+}  // namespace
+}  // namespace vemi
+
+using namespace vemi;
+
+#define VEMI_PALETTE(name, S, T, ...)                                                                                  \
+  VemiStatus name(const S* pSrc, int srcStep, T* pDst, int dstStep, VemiSize roiSize, const T* pTable, int nBitSize) { \
+    return __VA_ARGS__(Image<const S>{pSrc, srcStep}, Image<T>{pDst, dstStep}, roiSize, pTable, nBitSize);             \
+  }
+
+VEMI_PALETTE(vemiLUTPalette_8u24u_C1R, Vemi8u, Vemi8u, palette<C3>)
+VEMI_PALETTE(vemiLUTPalette_8u32u_C1R, Vemi8u, Vemi32u, palette<C1>)
+VEMI_PALETTE(vemiLUTPalette_16u8u_C1R, Vemi16u, Vemi8u, palette<C1>)
+VEMI_PALETTE(vemiLUTPalette_16u24u_C1R, Vemi16u, Vemi8u, palette<C3>)
+VEMI_PALETTE(vemiLUTPalette_16u32u_C1R, Vemi16u, Vemi32u, palette<C1>)
