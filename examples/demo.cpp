@@ -60,6 +60,10 @@ constexpr Section sections[] = {
      "Pictures with transparency laid over each other in six ways. Results are premultiplied: colours that have been "
      "multiplied by their alpha.",
      demoAlpha},
+    {"Statistics",
+     "Numbers out of a picture, one for each channel. Integer sums are exact at any size; extremes tell where they are "
+     "met first.",
+     demoStatistics},
     {"Thresholds and comparisons",
      "Elements below or above a threshold are replaced, by a rule for each channel. Comparisons make maps of one byte "
      "for each pixel, 255 or 0, which are masks for what follows.",

@@ -24,6 +24,7 @@ void demoGain(const Demo& demo);
 void demoCurves(const Demo& demo);
 void demoBits(const Demo& demo);
 void demoAlpha(const Demo& demo);
+void demoStatistics(const Demo& demo);
 void demoThreshold(const Demo& demo);
 void demoTables(const Demo& demo);
 

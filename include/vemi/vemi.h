@@ -18,6 +18,7 @@
 #include "vemi/arith.h"
 #include "vemi/core.h"
 #include "vemi/map.h"
+#include "vemi/measure.h"
 #include "vemi/status.h"
 #include "vemi/types.h"
 

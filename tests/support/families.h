@@ -39,6 +39,7 @@ struct Family {
 std::vector<Family> coreFamilies();
 std::vector<Family> arithFamilies();
 std::vector<Family> mapFamilies();
+std::vector<Family> measureFamilies();
 
 /// Throws where the table has no row for the function.
 const Family& familyOf(const Export& function);

@@ -1,0 +1,179 @@
+// The walk of a reduction: numbers out of a region.
+//
+// A row is cut into blocks of lanes that do not depend on the length of a vector, and each vector of a block is added
+// to accumulators of its own phase, so that a lane meets one channel only. The last block ends with the row; what it
+// shares with its predecessor is replaced by elements that change nothing, and so is what a short row lacks.
+// Accumulators are as narrow as they can be and are emptied before they are full.
+//
+// A reduction is a record that gives
+//   Element, Lane         types of the elements that it reads and of the lanes that it adds to;
+//   parts                 accumulators for one vector of elements; part p holds those that are p behind a multiple of
+//                         sizeof(Lane) / sizeof(Element);
+//   capacity              vectors that an accumulator takes before it must be emptied;
+//   order                 what the result may depend on, see below;
+//   start(part)           what lanes begin with;
+//   add(d, k, kept, v...) adds a vector of each source to kept.part[0..parts - 1].v[k];
+//   padding(row, channel) an element that changes nothing, equal in all sources.
+#pragma once
+
+#include <algorithm>
+#include <cstddef>
+#include <cstring>
+
+#include "core/image.h"
+#include "core/lanes.h"
+
+namespace vemi {
+
+enum class Order {
+  any,     // of exact sums; contiguous rows are one long row
+  repeat,  // any, and an element may count more than once
+  fixed    // of float sums: each element of a block has its lane, and the lanes are emptied after each row
+};
+
+/// Elements of a block: whole pixels, and whole vectors of any length.
+template <class T, class L>
+inline constexpr ptrdiff_t blockItems = (L::elements == 3 ? 192 : 128) / static_cast<ptrdiff_t>(sizeof(T));
+
+template <class L, class Reduction>
+struct Accumulators {
+  using Element = typename Reduction::Element;
+  using Lane = typename Reduction::Lane;
+  using V = hn::Vec<Lanes<Lane>>;
+  static constexpr int parts = Reduction::parts;
+  static constexpr ptrdiff_t items = blockItems<Element, L>;
+  static constexpr int vectors = static_cast<int>(items / laneCount<Element>);
+  /// Independent sums, so that an addition need not wait for the one before.
+  static constexpr int chains = Reduction::order == Order::fixed ? vectors
+                                : L::elements == 3               ? 3
+                                : 4 / parts < vectors            ? 4 / parts
+                                                                 : vectors;
+  static constexpr ptrdiff_t capacity = Reduction::capacity / (vectors / chains);  // in blocks
+  static_assert(items % L::elements == 0 && vectors % chains == 0 && capacity > 0);
+
+  static constexpr ptrdiff_t lanesInPart = chains * laneCount<Lane>;
+
+  /// Of lane i of a part.
+  static constexpr int channelOf(int part, ptrdiff_t i) {
+    constexpr ptrdiff_t spread = static_cast<ptrdiff_t>(sizeof(Lane) / sizeof(Element));
+    return static_cast<int>((spread * i + part % spread) % L::elements);
+  }
+
+  Vectors<V, chains> part[parts];
+
+  HWY_INLINE void restart() {
+    unrolled<parts>([&](auto p) HWY_ATTR {
+      const V start = hn::Set(Lanes<Lane>(), Reduction::start(p));
+      unrolled<chains>([&](auto k) HWY_ATTR { part[p].v[k] = start; });
+    });
+  }
+};
+
+/// The lanes of all accumulators, in memory.
+template <class A>
+struct EmptiedLanes {
+  alignas(laneAlignment) typename A::Lane part[A::parts][A::lanesInPart];
+
+  HWY_INLINE explicit EmptiedLanes(const A& kept) {
+    const Lanes<typename A::Lane> d;
+    unrolled<A::parts>([&](auto p) HWY_ATTR {
+      unrolled<A::chains>([&](auto k) HWY_ATTR { hn::Store(kept.part[p].v[k], d, part[p] + k * hn::Lanes(d)); });
+    });
+  }
+};
+
+namespace detail {
+
+/// A function of its own, so that the accumulators have the registers to themselves.
+template <class A, class Reduction, class... Src>
+HWY_NOINLINE void addBlocks(A& accumulators, ptrdiff_t blocks, const Reduction& reduction, const Src*... src) {
+  const Lanes<typename A::Element> d;
+  constexpr ptrdiff_t N = laneCount<typename A::Element>;
+  A kept = accumulators;  // a local, which stays in registers
+  for (; blocks > 0; --blocks) {
+    unrolled<A::vectors>([&](auto k) HWY_ATTR {
+      const std::integral_constant<int, k % A::chains> chain;
+      reduction.add(d, chain, kept, hn::LoadU(d, src + k * N)...);
+    });
+    ((src += A::items), ...);
+  }
+  accumulators = kept;
+}
+
+/// A row's last elements, `count` modulo a block's, at the end of a block.
+template <class L, class A>
+struct RowEnd {
+  using T = typename A::Element;
+  alignas(laneAlignment) T element[A::items];
+
+  template <class Reduction>
+  HWY_INLINE RowEnd(const Reduction& reduction, const T* row, ptrdiff_t count) {
+    const ptrdiff_t rest = count % A::items;
+    if (Reduction::order != Order::repeat || count < A::items) pad(reduction, row);
+    if (count < A::items) {
+      std::memcpy(element + A::items - rest, row, static_cast<size_t>(rest) * sizeof(T));
+      return;
+    }
+    const Lanes<T> d;
+    constexpr ptrdiff_t N = laneCount<T>;
+    const T* const last = row + count - A::items;
+    unrolled<A::vectors>([&](auto k) HWY_ATTR {
+      auto v = hn::LoadU(d, last + k * N);
+      if constexpr (Reduction::order != Order::repeat) {
+        const ptrdiff_t seen = std::clamp<ptrdiff_t>(A::items - rest - k * N, 0, N);
+        v = hn::IfThenElse(hn::FirstN(d, static_cast<size_t>(seen)), hn::Load(d, element + k * N), v);
+      }
+      hn::Store(v, d, element + k * N);
+    });
+  }
+
+ private:
+  template <class Reduction>
+  HWY_INLINE void pad(const Reduction& reduction, const T* row) {
+    for (int channel = 0; channel < L::elements; ++channel) element[channel] = reduction.padding(row, channel);
+    for (ptrdiff_t i = L::elements; i < A::items; ++i) element[i] = element[i - L::elements];
+  }
+};
+
+}  // namespace detail
+
+/// Runs the reduction over all elements of a region and hands its lanes, as EmptiedLanes, to sink(lanes) whenever they
+/// are emptied. L says what a pixel has in memory; an alpha channel is added up like any other, for the sink to ignore.
+template <class L, class Reduction, class Sink, class T, class... Others>
+HWY_NOINLINE void reduceRegion(VemiSize roiSize, const Reduction& reduction, Sink& sink, Image<const T> src,
+                               Others... others) {
+  using A = Accumulators<L, Reduction>;
+  constexpr bool byRow = Reduction::order == Order::fixed;
+  const bool contiguous = isContiguous<L>(src, roiSize) && (isContiguous<L>(others, roiSize) && ...);
+  const Extent pixels = mergedExtent(roiSize, contiguous && !byRow);
+  const ptrdiff_t elements = pixels.width * L::elements;
+  A kept;
+  kept.restart();
+  ptrdiff_t room = A::capacity;
+  const auto empty = [&] {
+    sink(EmptiedLanes<A>(kept));
+    kept.restart();
+    room = A::capacity;
+  };
+  const auto add = [&](ptrdiff_t blocks, auto... row) {
+    while (blocks > 0) {
+      const ptrdiff_t some = std::min(blocks, room);
+      detail::addBlocks(kept, some, reduction, row...);
+      ((row += some * A::items), ...);
+      blocks -= some;
+      room -= some;
+      if (room == 0) empty();
+    }
+  };
+  for (ptrdiff_t y = 0; y < pixels.height; ++y) {
+    add(elements / A::items, src.row(y), others.row(y)...);
+    if (elements % A::items != 0) {
+      const auto endOf = [&](const T* row) { return detail::RowEnd<L, A>(reduction, row, elements); };
+      [&](const auto&... end) { add(1, end.element...); }(endOf(src.row(y)), endOf(others.row(y))...);
+    }
+    if (byRow) empty();
+  }
+  if (!byRow && room < A::capacity) empty();
+}
+
+}  // namespace vemi

@@ -1,0 +1,104 @@
+// vemiCountInRange: how many elements of each channel lie between two bounds, both included. Checks: null, step, size,
+// range.
+
+#include "core/checks.h"
+#include "core/exports.h"
+#include "core/map_row.h"
+#include "measure/exact_sums.h"
+#include "vemi/measure.h"
+
+namespace vemi {
+namespace {
+
+/// Floats are compared, so that a NaN is in no range; bytes have no comparison but that with their extremes.
+struct Inside {
+  template <class D, class V>
+  HWY_INLINE hn::Mask<D> operator()(D, V v, V lower, V upper) const {
+    if constexpr (std::is_floating_point_v<hn::TFromD<D>>) {
+      return hn::And(hn::Ge(v, lower), hn::Le(v, upper));
+    } else {
+      return hn::Eq(hn::Min(hn::Max(v, lower), upper), v);
+    }
+  }
+};
+
+/// The mask of a lane that is inside is -1, which is taken away.
+template <class L, class T>
+struct InRange {
+  using Element = T;
+  using Lane = hwy::UnsignedFromSize<sizeof(T)>;
+  static constexpr int parts = 1;
+  static constexpr ptrdiff_t capacity = detail::capacityFor<Lane>(1);
+  static constexpr Order order = Order::any;
+  static Lane start(int) { return 0; }
+
+  decltype(withConstants<L>(Inside(), static_cast<const T*>(nullptr), static_cast<const T*>(nullptr))) inside;
+  T outside[L::elements];
+
+  InRange(const T* lower, const T* upper) : inside(withConstants<L>(Inside(), lower, upper)) {
+    for (int c = 0; c < L::elements; ++c) {
+      if constexpr (std::is_floating_point_v<T>) {
+        outside[c] = std::numeric_limits<T>::quiet_NaN();
+      } else {
+        outside[c] = c < L::channels && lower[c] == 0 ? T{255} : T{0};  // or everything is inside
+      }
+    }
+  }
+
+  T padding(const T*, int channel) const { return outside[channel]; }
+
+  template <class D, class K, class A, class V>
+  HWY_INLINE void add(D d, K k, A& kept, V v) const {
+    const hn::RebindToUnsigned<D> dLanes;
+    const auto counted = hn::VecFromMask(dLanes, hn::RebindMask(dLanes, inside(d, k, v)));
+    kept.part[0].v[k] = hn::Sub(kept.part[0].v[k], counted);
+  }
+};
+
+template <class L, class T>
+bool isEverything(T lower, T upper) {
+  return std::is_integral_v<T> && lower == std::numeric_limits<T>::min() && upper == std::numeric_limits<T>::max();
+}
+
+template <class L, class T>
+VemiStatus checkRange(const T* lower, const T* upper) {
+  for (int c = 0; c < L::channels; ++c) {
+    if (lower[c] > upper[c]) return vemiErrRange;
+  }
+  return vemiOk;
+}
+
+template <class L, class T>
+VemiStatus countInRange(Image<const T> src, VemiSize roiSize, Vemi32s* pCounts, const T* lower, const T* upper) {
+  if (const VemiStatus bad = firstOf(checkNull(src, pCounts, lower, upper), checkStep(src), checkSize(roiSize))) {
+    return bad;
+  }
+  if (const VemiStatus bad = checkRange<L>(lower, upper)) return bad;
+  const auto counts = exactSums<Interleaved<L::elements>>(roiSize, InRange<L, T>(lower, upper), src);
+  for (int c = 0; c < L::channels; ++c) {
+    const uint64_t pixels = static_cast<uint64_t>(roiSize.width) * static_cast<uint64_t>(roiSize.height);
+    pCounts[c] = static_cast<Vemi32s>(isEverything<L>(lower[c], upper[c]) ? pixels : counts.channel[c]);
+  }
+  return vemiOk;
+}
+
+}  // namespace
+}  // namespace vemi
+
+using namespace vemi;
+
+#define VEMI_SRC_RESULT_LIMITS(name, T, Result, ...)                                                 \
+  VemiStatus name(const T* pSrc, int srcStep, VemiSize roiSize, Result* pResult, T lower, T upper) { \
+    return __VA_ARGS__(Image<const T>{pSrc, srcStep}, roiSize, pResult, &lower, &upper);             \
+  }
+#define VEMI_SRC_RESULT_EACH_LIMITS(name, T, Result, ...)                                                          \
+  VemiStatus name(const T* pSrc, int srcStep, VemiSize roiSize, Result* pResult, const T* lower, const T* upper) { \
+    return __VA_ARGS__(Image<const T>{pSrc, srcStep}, roiSize, pResult, lower, upper);                             \
+  }
+
+VEMI_SRC_RESULT_LIMITS(vemiCountInRange_8u_C1R, Vemi8u, Vemi32s, countInRange<C1>)
+VEMI_SRC_RESULT_EACH_LIMITS(vemiCountInRange_8u_C3R, Vemi8u, Vemi32s, countInRange<C3>)
+VEMI_SRC_RESULT_EACH_LIMITS(vemiCountInRange_8u_AC4R, Vemi8u, Vemi32s, countInRange<AC4>)
+VEMI_SRC_RESULT_LIMITS(vemiCountInRange_32f_C1R, Vemi32f, Vemi32s, countInRange<C1>)
+VEMI_SRC_RESULT_EACH_LIMITS(vemiCountInRange_32f_C3R, Vemi32f, Vemi32s, countInRange<C3>)
+VEMI_SRC_RESULT_EACH_LIMITS(vemiCountInRange_32f_AC4R, Vemi32f, Vemi32s, countInRange<AC4>)

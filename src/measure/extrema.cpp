@@ -1,0 +1,109 @@
+// vemiMin, vemiMax and vemiMinMax: the extremes of each channel. Checks: null, size, step.
+
+#include <bit>
+
+#include "core/checks.h"
+#include "measure/exports.h"
+#include "measure/extremes.h"
+#include "vemi/measure.h"
+
+namespace vemi {
+namespace {
+
+/// Whether a channel holds a float of exactly these bits; a lane of ones says so.
+struct Holds {
+  using Element = float;
+  using Lane = uint32_t;
+  static constexpr int parts = 1;
+  static constexpr ptrdiff_t capacity = 1 << 30;
+  static constexpr Order order = Order::repeat;
+  static Lane start(int) { return 0; }
+  static float padding(const float* row, int channel) { return Extremes<float, float, Same>::padding(row, channel); }
+
+  Lane bits;
+
+  template <class D, class K, class A, class V>
+  HWY_INLINE void add(D, K k, A& kept, V v) const {
+    const Lanes<Lane> d;
+    const auto found = hn::VecFromMask(d, hn::Eq(hn::BitCast(d, v), hn::Set(d, bits)));
+    kept.part[0].v[k] = hn::Or(kept.part[0].v[k], found);
+  }
+};
+
+/// Zeros of both signs are equal to the processor's minimum and maximum, so which of them is left depends on the lanes.
+/// Here the negative zero is the lower one.
+template <class L, class Extreme>
+void settleZeros(VemiSize roiSize, float (&best)[L::elements], Image<const float> src) {
+  if (std::find(best, best + L::elements, 0.0f) == best + L::elements) return;
+  const Holds winner = {std::bit_cast<uint32_t>(Extreme::betterZero)};
+  using A = Accumulators<L, Holds>;
+  uint32_t found[L::elements] = {};
+  const auto sink = [&](const EmptiedLanes<A>& lanes) {
+    for (ptrdiff_t i = 0; i < A::lanesInPart; ++i) found[A::channelOf(0, i)] |= lanes.part[0][i];
+  };
+  reduceRegion<L>(roiSize, winner, sink, src);
+  for (int c = 0; c < L::elements; ++c) {
+    if (best[c] == 0) best[c] = std::bit_cast<float>(found[c] != 0 ? winner.bits : winner.bits ^ 0x80000000u);
+  }
+}
+
+template <class L, class... Extreme, class T, class... Result>
+VemiStatus extrema(Image<const T> src, VemiSize roiSize, Result*... pResult) {
+  if (const VemiStatus bad = firstOf(checkNull(src, pResult...), checkSize(roiSize), checkStep(src))) return bad;
+  using Pixel = Interleaved<L::elements>;
+  auto values = extremes<Pixel>(Extremes<T, T, Same, Extreme...>(), roiSize, src);
+  int part = 0;
+  if constexpr (std::is_floating_point_v<T>) (settleZeros<Pixel, Extreme>(roiSize, values.best[part++], src), ...);
+  part = 0;
+  (std::copy_n(values.best[part++], L::channels, pResult), ...);
+  return vemiOk;
+}
+
+}  // namespace
+}  // namespace vemi
+
+using namespace vemi;
+
+#define VEMI_SRC_2RESULTS(name, T, Result, ...)                                                    \
+  VemiStatus name(const T* pSrc, int srcStep, VemiSize roiSize, Result* pFirst, Result* pSecond) { \
+    return __VA_ARGS__(Image<const T>{pSrc, srcStep}, roiSize, pFirst, pSecond);                   \
+  }
+
+VEMI_SRC_RESULT(vemiMin_8u_C1R, Vemi8u, Vemi8u, extrema<C1, Lowest>)
+VEMI_SRC_RESULT(vemiMin_8u_C3R, Vemi8u, Vemi8u, extrema<C3, Lowest>)
+VEMI_SRC_RESULT(vemiMin_8u_C4R, Vemi8u, Vemi8u, extrema<C4, Lowest>)
+VEMI_SRC_RESULT(vemiMin_8u_AC4R, Vemi8u, Vemi8u, extrema<AC4, Lowest>)
+VEMI_SRC_RESULT(vemiMin_16s_C1R, Vemi16s, Vemi16s, extrema<C1, Lowest>)
+VEMI_SRC_RESULT(vemiMin_16s_C3R, Vemi16s, Vemi16s, extrema<C3, Lowest>)
+VEMI_SRC_RESULT(vemiMin_16s_C4R, Vemi16s, Vemi16s, extrema<C4, Lowest>)
+VEMI_SRC_RESULT(vemiMin_16s_AC4R, Vemi16s, Vemi16s, extrema<AC4, Lowest>)
+VEMI_SRC_RESULT(vemiMin_32f_C1R, Vemi32f, Vemi32f, extrema<C1, Lowest>)
+VEMI_SRC_RESULT(vemiMin_32f_C3R, Vemi32f, Vemi32f, extrema<C3, Lowest>)
+VEMI_SRC_RESULT(vemiMin_32f_C4R, Vemi32f, Vemi32f, extrema<C4, Lowest>)
+VEMI_SRC_RESULT(vemiMin_32f_AC4R, Vemi32f, Vemi32f, extrema<AC4, Lowest>)
+
+VEMI_SRC_RESULT(vemiMax_8u_C1R, Vemi8u, Vemi8u, extrema<C1, Highest>)
+VEMI_SRC_RESULT(vemiMax_8u_C3R, Vemi8u, Vemi8u, extrema<C3, Highest>)
+VEMI_SRC_RESULT(vemiMax_8u_C4R, Vemi8u, Vemi8u, extrema<C4, Highest>)
+VEMI_SRC_RESULT(vemiMax_8u_AC4R, Vemi8u, Vemi8u, extrema<AC4, Highest>)
+VEMI_SRC_RESULT(vemiMax_16s_C1R, Vemi16s, Vemi16s, extrema<C1, Highest>)
+VEMI_SRC_RESULT(vemiMax_16s_C3R, Vemi16s, Vemi16s, extrema<C3, Highest>)
+VEMI_SRC_RESULT(vemiMax_16s_C4R, Vemi16s, Vemi16s, extrema<C4, Highest>)
+VEMI_SRC_RESULT(vemiMax_16s_AC4R, Vemi16s, Vemi16s, extrema<AC4, Highest>)
+VEMI_SRC_RESULT(vemiMax_32f_C1R, Vemi32f, Vemi32f, extrema<C1, Highest>)
+VEMI_SRC_RESULT(vemiMax_32f_C3R, Vemi32f, Vemi32f, extrema<C3, Highest>)
+VEMI_SRC_RESULT(vemiMax_32f_C4R, Vemi32f, Vemi32f, extrema<C4, Highest>)
+VEMI_SRC_RESULT(vemiMax_32f_AC4R, Vemi32f, Vemi32f, extrema<AC4, Highest>)
+
+VEMI_SRC_2RESULTS(vemiMinMax_8u_C1R, Vemi8u, Vemi8u, extrema<C1, Lowest, Highest>)
+VEMI_SRC_2RESULTS(vemiMinMax_8u_C3R, Vemi8u, Vemi8u, extrema<C3, Lowest, Highest>)
+VEMI_SRC_2RESULTS(vemiMinMax_8u_C4R, Vemi8u, Vemi8u, extrema<C4, Lowest, Highest>)
+VEMI_SRC_2RESULTS(vemiMinMax_8u_AC4R, Vemi8u, Vemi8u, extrema<AC4, Lowest, Highest>)
+VEMI_SRC_2RESULTS(vemiMinMax_16s_C1R, Vemi16s, Vemi16s, extrema<C1, Lowest, Highest>)
+VEMI_SRC_2RESULTS(vemiMinMax_16s_C3R, Vemi16s, Vemi16s, extrema<C3, Lowest, Highest>)
+VEMI_SRC_2RESULTS(vemiMinMax_16s_C4R, Vemi16s, Vemi16s, extrema<C4, Lowest, Highest>)
+VEMI_SRC_2RESULTS(vemiMinMax_16s_AC4R, Vemi16s, Vemi16s, extrema<AC4, Lowest, Highest>)
+VEMI_SRC_2RESULTS(vemiMinMax_32f_C1R, Vemi32f, Vemi32f, extrema<C1, Lowest, Highest>)
+VEMI_SRC_2RESULTS(vemiMinMax_32f_C3R, Vemi32f, Vemi32f, extrema<C3, Lowest, Highest>)
+VEMI_SRC_2RESULTS(vemiMinMax_32f_C4R, Vemi32f, Vemi32f, extrema<C4, Lowest, Highest>)
+VEMI_SRC_2RESULTS(vemiMinMax_32f_AC4R, Vemi32f, Vemi32f, extrema<AC4, Lowest, Highest>)

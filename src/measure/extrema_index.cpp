@@ -1,0 +1,141 @@
+// vemiMinIndx and vemiMaxIndx: the extremes of each channel and where they are met first. Checks: null, size, step.
+//
+// Extremes are taken of bands of rows. The first band that has the best value of all is looked through again for its
+// place, so that the pixels are read only once.
+
+#include "core/checks.h"
+#include "core/exports.h"
+#include "measure/extremes.h"
+#include "vemi/measure.h"
+
+namespace vemi {
+namespace {
+
+/// Small enough that a second look costs little, and large enough that a band's own costs do not show.
+constexpr ptrdiff_t bandBytes = 8192;
+
+/// Looks for the elements of one channel that are equal to a value.
+template <class L, class T>
+class Search {
+ public:
+  Search(T value, int channel) : value_(value), channel_(channel) {
+    std::memset(channelLanes_, 0, sizeof channelLanes_);
+    for (ptrdiff_t i = channel; i < items; i += L::elements) std::memset(channelLanes_ + i, 0xff, sizeof(T));
+  }
+
+  /// The first pixel that has the value, or `width`.
+  ptrdiff_t firstIn(const T* row, ptrdiff_t width) const {
+    constexpr ptrdiff_t pixels = items / L::elements;
+    ptrdiff_t x = 0;
+    while (x + pixels <= width && !isIn(row + x * L::elements)) x += pixels;
+    while (x < width && at(row, x) != value_) ++x;
+    return x;
+  }
+
+  T at(const T* row, ptrdiff_t x) const {
+    T element;
+    std::memcpy(&element, row + x * L::elements + channel_, sizeof element);
+    return element;
+  }
+
+ private:
+  static constexpr ptrdiff_t items = blockItems<T, L>;
+
+  bool isIn(const T* block) const {
+    const Lanes<T> d;
+    auto found = hn::Zero(d);
+    for (ptrdiff_t i = 0; i < items; i += laneCount<T>) {
+      const auto equal = hn::VecFromMask(d, hn::Eq(hn::LoadU(d, block + i), hn::Set(d, value_)));
+      found = hn::Or(found, hn::And(equal, hn::Load(d, channelLanes_ + i)));
+    }
+    return !hn::AllFalse(d, hn::MaskFromVec(found));
+  }
+
+  T value_;
+  int channel_;
+  alignas(laneAlignment) T channelLanes_[items];
+};
+
+/// As long as only the band is known, y is its first row and x is below 0.
+template <class T>
+struct Best {
+  T value;
+  ptrdiff_t x, y;
+};
+
+/// The band of each channel's best value, where that is better than the one in `best`.
+template <class L, class Extreme, class T>
+void findBands(Image<const T> src, VemiSize roiSize, Best<T> (&best)[L::elements]) {
+  const ptrdiff_t rowBytes = roiSize.width * pixelBytes<T, L>;
+  const int rows = static_cast<int>(std::max<ptrdiff_t>(1, bandBytes / rowBytes));
+  for (ptrdiff_t y = 0; y < roiSize.height; y += rows) {
+    const VemiSize band = {roiSize.width, static_cast<int>(std::min<ptrdiff_t>(rows, roiSize.height - y))};
+    const auto ofBand = extremes<L>(Extremes<T, T, Same, Extreme>(), band, Image<const T>{src.row(y), src.step});
+    bool canGetBetter = false;
+    for (int c = 0; c < L::elements; ++c) {
+      const T value = ofBand.best[0][c];
+      if (Extreme::isBetter(value, best[c].value)) best[c] = {value, -1, y};
+      canGetBetter |= Extreme::isBetter(Extreme::template nearEnd<T>, best[c].value);
+    }
+    if (std::is_integral_v<T> && !canGetBetter) return;
+  }
+}
+
+template <class L, class Extreme, class T>
+VemiStatus extremeIndex(Image<const T> src, VemiSize roiSize, T* pValue, int* pIndexX, int* pIndexY) {
+  if (const VemiStatus bad = firstOf(checkNull(src, pValue, pIndexX, pIndexY), checkSize(roiSize), checkStep(src))) {
+    return bad;
+  }
+  using Pixel = Interleaved<L::elements>;
+  Best<T> best[L::elements];
+  for (auto& each : best) each = {Extreme::template farthestFinite<T>, 0, 0};
+  findBands<Pixel, Extreme>(src, roiSize, best);
+  for (int c = 0; c < L::channels; ++c) {
+    auto& [value, x, y] = best[c];
+    if (x < 0) {
+      const Search<Pixel, T> search(value, c);
+      while ((x = search.firstIn(src.row(y), roiSize.width)) == roiSize.width) ++y;
+      value = search.at(src.row(y), x);  // of two zeros the one that stands there
+    }
+    pValue[c] = value;
+    pIndexX[c] = static_cast<int>(x);
+    pIndexY[c] = static_cast<int>(y);
+  }
+  return vemiOk;
+}
+
+}  // namespace
+}  // namespace vemi
+
+using namespace vemi;
+
+#define VEMI_SRC_RESULT_INDEX(name, T, ...)                                                               \
+  VemiStatus name(const T* pSrc, int srcStep, VemiSize roiSize, T* pResult, int* pIndexX, int* pIndexY) { \
+    return __VA_ARGS__(Image<const T>{pSrc, srcStep}, roiSize, pResult, pIndexX, pIndexY);                \
+  }
+
+VEMI_SRC_RESULT_INDEX(vemiMinIndx_8u_C1R, Vemi8u, extremeIndex<C1, Lowest>)
+VEMI_SRC_RESULT_INDEX(vemiMinIndx_8u_C3R, Vemi8u, extremeIndex<C3, Lowest>)
+VEMI_SRC_RESULT_INDEX(vemiMinIndx_8u_C4R, Vemi8u, extremeIndex<C4, Lowest>)
+VEMI_SRC_RESULT_INDEX(vemiMinIndx_8u_AC4R, Vemi8u, extremeIndex<AC4, Lowest>)
+VEMI_SRC_RESULT_INDEX(vemiMinIndx_16s_C1R, Vemi16s, extremeIndex<C1, Lowest>)
+VEMI_SRC_RESULT_INDEX(vemiMinIndx_16s_C3R, Vemi16s, extremeIndex<C3, Lowest>)
+VEMI_SRC_RESULT_INDEX(vemiMinIndx_16s_C4R, Vemi16s, extremeIndex<C4, Lowest>)
+VEMI_SRC_RESULT_INDEX(vemiMinIndx_16s_AC4R, Vemi16s, extremeIndex<AC4, Lowest>)
+VEMI_SRC_RESULT_INDEX(vemiMinIndx_32f_C1R, Vemi32f, extremeIndex<C1, Lowest>)
+VEMI_SRC_RESULT_INDEX(vemiMinIndx_32f_C3R, Vemi32f, extremeIndex<C3, Lowest>)
+VEMI_SRC_RESULT_INDEX(vemiMinIndx_32f_C4R, Vemi32f, extremeIndex<C4, Lowest>)
+VEMI_SRC_RESULT_INDEX(vemiMinIndx_32f_AC4R, Vemi32f, extremeIndex<AC4, Lowest>)
+
+VEMI_SRC_RESULT_INDEX(vemiMaxIndx_8u_C1R, Vemi8u, extremeIndex<C1, Highest>)
+VEMI_SRC_RESULT_INDEX(vemiMaxIndx_8u_C3R, Vemi8u, extremeIndex<C3, Highest>)
+VEMI_SRC_RESULT_INDEX(vemiMaxIndx_8u_C4R, Vemi8u, extremeIndex<C4, Highest>)
+VEMI_SRC_RESULT_INDEX(vemiMaxIndx_8u_AC4R, Vemi8u, extremeIndex<AC4, Highest>)
+VEMI_SRC_RESULT_INDEX(vemiMaxIndx_16s_C1R, Vemi16s, extremeIndex<C1, Highest>)
+VEMI_SRC_RESULT_INDEX(vemiMaxIndx_16s_C3R, Vemi16s, extremeIndex<C3, Highest>)
+VEMI_SRC_RESULT_INDEX(vemiMaxIndx_16s_C4R, Vemi16s, extremeIndex<C4, Highest>)
+VEMI_SRC_RESULT_INDEX(vemiMaxIndx_16s_AC4R, Vemi16s, extremeIndex<AC4, Highest>)
+VEMI_SRC_RESULT_INDEX(vemiMaxIndx_32f_C1R, Vemi32f, extremeIndex<C1, Highest>)
+VEMI_SRC_RESULT_INDEX(vemiMaxIndx_32f_C3R, Vemi32f, extremeIndex<C3, Highest>)
+VEMI_SRC_RESULT_INDEX(vemiMaxIndx_32f_C4R, Vemi32f, extremeIndex<C4, Highest>)
+VEMI_SRC_RESULT_INDEX(vemiMaxIndx_32f_AC4R, Vemi32f, extremeIndex<AC4, Highest>)

@@ -1,0 +1,117 @@
+// The lowest and the highest element of each channel of a region, or of terms of several regions' elements.
+//
+// A NaN is passed over: of two lanes of which one is a NaN, the processor's minimum and maximum give their second
+// operand, and that is what was best so far.
+#pragma once
+
+#include <limits>
+
+#include "core/map_row.h"
+#include "core/reduce_region.h"
+
+namespace vemi {
+
+struct Lowest {
+  template <class T>
+  static constexpr T farEnd = std::is_floating_point_v<T> ? std::numeric_limits<T>::infinity()
+                                                          : std::numeric_limits<T>::max();
+  template <class T>
+  static constexpr T farthestFinite = std::numeric_limits<T>::max();
+  template <class T>
+  static constexpr T nearEnd = std::numeric_limits<T>::lowest();
+  static constexpr float betterZero = -0.0f;
+
+  template <class V>
+  HWY_INLINE static V better(V v, V best) {
+    return hn::Min(v, best);
+  }
+  template <class T>
+  static bool isBetter(T value, T best) {
+    return value < best;
+  }
+};
+
+struct Highest {
+  template <class T>
+  static constexpr T farEnd = std::is_floating_point_v<T> ? -std::numeric_limits<T>::infinity()
+                                                          : std::numeric_limits<T>::lowest();
+  template <class T>
+  static constexpr T farthestFinite = std::numeric_limits<T>::lowest();
+  template <class T>
+  static constexpr T nearEnd = std::numeric_limits<T>::max();
+  static constexpr float betterZero = 0.0f;
+
+  template <class V>
+  HWY_INLINE static V better(V v, V best) {
+    return hn::Max(v, best);
+  }
+  template <class T>
+  static bool isBetter(T value, T best) {
+    return value > best;
+  }
+};
+
+/// Of terms that are not negative.
+struct Largest : Highest {
+  template <class T>
+  static constexpr T farEnd = 0;
+};
+
+/// Term gives lanes of type Value from lanes of type T.
+template <class T, class Value, class Term, class... Extreme>
+struct Extremes {
+  using Element = T;
+  using Lane = Value;
+  static constexpr int parts = sizeof...(Extreme);
+  static constexpr ptrdiff_t capacity = 1 << 30;
+  static constexpr Order order = Order::repeat;
+  static Lane start(int part) {
+    constexpr Lane farEnd[] = {Extreme::template farEnd<Lane>...};
+    return farEnd[part];
+  }
+  static T padding(const T* row, int channel) {
+    T element;
+    std::memcpy(&element, row + channel, sizeof element);
+    return element;
+  }
+
+  template <class D, class K, class A, class... V>
+  HWY_INLINE void add(D d, K k, A& kept, V... v) const {
+    const auto term = Term()(d, v...);
+    int part = 0;
+    ((kept.part[part].v[k] = Extreme::better(term, kept.part[part].v[k]), ++part), ...);
+  }
+};
+
+/// One row for each extreme, one column for each channel of a pixel.
+template <class L, class Reduction>
+struct ExtremeValues {
+  using T = typename Reduction::Lane;
+  T best[Reduction::parts][L::elements];
+};
+
+template <class L, class T, class Value, class Term, class... Extreme, class... Others>
+auto extremes(Extremes<T, Value, Term, Extreme...> reduction, VemiSize roiSize, Image<const T> src, Others... others) {
+  using A = Accumulators<L, decltype(reduction)>;
+  ExtremeValues<L, decltype(reduction)> values;
+  for (int p = 0; p < A::parts; ++p) {
+    for (auto& each : values.best[p]) each = reduction.start(p);
+  }
+  const auto sink = [&](const EmptiedLanes<A>& lanes) {
+    const auto fold = [&]<class One>(One, int p) {
+      for (int c = 0; c < L::elements; ++c) {
+        auto best = values.best[p][c];
+        for (ptrdiff_t i = c; i < A::lanesInPart; i += L::elements) {
+          best = One::isBetter(lanes.part[p][i], best) ? lanes.part[p][i] : best;
+        }
+        values.best[p][c] = best;
+      }
+    };
+    int part = 0;
+    (fold(Extreme(), part++), ...);
+  };
+  reduceRegion<L>(roiSize, reduction, sink, src, others...);
+  return values;
+}
+
+}  // namespace vemi

@@ -1,0 +1,79 @@
+// vemiNormRel_Inf, vemiNormRel_L1, vemiNormRel_L2: norms of the difference of two images over those of the second one,
+// channel by channel. Checks: null, size, step.
+
+#include "measure/exports.h"
+#include "measure/norms.h"
+#include "vemi/measure.h"
+
+namespace vemi {
+namespace {
+
+template <class L, auto normDiffOf, auto normOf, class T, class... Hint>
+VemiStatus normRel(Image<const T> src1, Image<const T> src2, VemiSize roiSize, Vemi64f* pValue, Hint... hint) {
+  double numerator[L::channels], denominator[L::channels];
+  if (const VemiStatus bad = checkNull(pValue)) return bad;
+  if (const VemiStatus bad = normDiffOf(src1.first, src1.step, src2.first, src2.step, roiSize, numerator, hint...)) {
+    return bad;
+  }
+  normOf(src2.first, src2.step, roiSize, denominator, hint...);
+  bool zero = false;
+  for (const double each : denominator) zero |= each < std::numeric_limits<double>::min();
+  for (int c = 0; c < L::channels; ++c) pValue[c] = zero ? numerator[c] : numerator[c] / denominator[c];
+  return zero ? vemiWarnDivByZero : vemiOk;
+}
+
+}  // namespace
+}  // namespace vemi
+
+using namespace vemi;
+
+VEMI_2SRC_RESULT(vemiNormRel_Inf_8u_C1R, Vemi8u, Vemi64f, normRel<C1, vemiNormDiff_Inf_8u_C1R, vemiNorm_Inf_8u_C1R>)
+VEMI_2SRC_RESULT(vemiNormRel_Inf_8u_C3R, Vemi8u, Vemi64f, normRel<C3, vemiNormDiff_Inf_8u_C3R, vemiNorm_Inf_8u_C3R>)
+VEMI_2SRC_RESULT(vemiNormRel_Inf_8u_C4R, Vemi8u, Vemi64f, normRel<C4, vemiNormDiff_Inf_8u_C4R, vemiNorm_Inf_8u_C4R>)
+VEMI_2SRC_RESULT(vemiNormRel_Inf_8u_AC4R, Vemi8u, Vemi64f, normRel<AC4, vemiNormDiff_Inf_8u_AC4R, vemiNorm_Inf_8u_AC4R>)
+VEMI_2SRC_RESULT(vemiNormRel_Inf_16s_C1R, Vemi16s, Vemi64f, normRel<C1, vemiNormDiff_Inf_16s_C1R, vemiNorm_Inf_16s_C1R>)
+VEMI_2SRC_RESULT(vemiNormRel_Inf_16s_C3R, Vemi16s, Vemi64f, normRel<C3, vemiNormDiff_Inf_16s_C3R, vemiNorm_Inf_16s_C3R>)
+VEMI_2SRC_RESULT(vemiNormRel_Inf_16s_C4R, Vemi16s, Vemi64f, normRel<C4, vemiNormDiff_Inf_16s_C4R, vemiNorm_Inf_16s_C4R>)
+VEMI_2SRC_RESULT(vemiNormRel_Inf_16s_AC4R, Vemi16s, Vemi64f,
+                 normRel<AC4, vemiNormDiff_Inf_16s_AC4R, vemiNorm_Inf_16s_AC4R>)
+VEMI_2SRC_RESULT(vemiNormRel_Inf_32f_C1R, Vemi32f, Vemi64f, normRel<C1, vemiNormDiff_Inf_32f_C1R, vemiNorm_Inf_32f_C1R>)
+VEMI_2SRC_RESULT(vemiNormRel_Inf_32f_C3R, Vemi32f, Vemi64f, normRel<C3, vemiNormDiff_Inf_32f_C3R, vemiNorm_Inf_32f_C3R>)
+VEMI_2SRC_RESULT(vemiNormRel_Inf_32f_C4R, Vemi32f, Vemi64f, normRel<C4, vemiNormDiff_Inf_32f_C4R, vemiNorm_Inf_32f_C4R>)
+VEMI_2SRC_RESULT(vemiNormRel_Inf_32f_AC4R, Vemi32f, Vemi64f,
+                 normRel<AC4, vemiNormDiff_Inf_32f_AC4R, vemiNorm_Inf_32f_AC4R>)
+
+VEMI_2SRC_RESULT(vemiNormRel_L1_8u_C1R, Vemi8u, Vemi64f, normRel<C1, vemiNormDiff_L1_8u_C1R, vemiNorm_L1_8u_C1R>)
+VEMI_2SRC_RESULT(vemiNormRel_L1_8u_C3R, Vemi8u, Vemi64f, normRel<C3, vemiNormDiff_L1_8u_C3R, vemiNorm_L1_8u_C3R>)
+VEMI_2SRC_RESULT(vemiNormRel_L1_8u_C4R, Vemi8u, Vemi64f, normRel<C4, vemiNormDiff_L1_8u_C4R, vemiNorm_L1_8u_C4R>)
+VEMI_2SRC_RESULT(vemiNormRel_L1_8u_AC4R, Vemi8u, Vemi64f, normRel<AC4, vemiNormDiff_L1_8u_AC4R, vemiNorm_L1_8u_AC4R>)
+VEMI_2SRC_RESULT(vemiNormRel_L1_16s_C1R, Vemi16s, Vemi64f, normRel<C1, vemiNormDiff_L1_16s_C1R, vemiNorm_L1_16s_C1R>)
+VEMI_2SRC_RESULT(vemiNormRel_L1_16s_C3R, Vemi16s, Vemi64f, normRel<C3, vemiNormDiff_L1_16s_C3R, vemiNorm_L1_16s_C3R>)
+VEMI_2SRC_RESULT(vemiNormRel_L1_16s_C4R, Vemi16s, Vemi64f, normRel<C4, vemiNormDiff_L1_16s_C4R, vemiNorm_L1_16s_C4R>)
+VEMI_2SRC_RESULT(vemiNormRel_L1_16s_AC4R, Vemi16s, Vemi64f,
+                 normRel<AC4, vemiNormDiff_L1_16s_AC4R, vemiNorm_L1_16s_AC4R>)
+VEMI_2SRC_RESULT_HINT(vemiNormRel_L1_32f_C1R, Vemi32f, Vemi64f,
+                      normRel<C1, vemiNormDiff_L1_32f_C1R, vemiNorm_L1_32f_C1R>)
+VEMI_2SRC_RESULT_HINT(vemiNormRel_L1_32f_C3R, Vemi32f, Vemi64f,
+                      normRel<C3, vemiNormDiff_L1_32f_C3R, vemiNorm_L1_32f_C3R>)
+VEMI_2SRC_RESULT_HINT(vemiNormRel_L1_32f_C4R, Vemi32f, Vemi64f,
+                      normRel<C4, vemiNormDiff_L1_32f_C4R, vemiNorm_L1_32f_C4R>)
+VEMI_2SRC_RESULT_HINT(vemiNormRel_L1_32f_AC4R, Vemi32f, Vemi64f,
+                      normRel<AC4, vemiNormDiff_L1_32f_AC4R, vemiNorm_L1_32f_AC4R>)
+
+VEMI_2SRC_RESULT(vemiNormRel_L2_8u_C1R, Vemi8u, Vemi64f, normRel<C1, vemiNormDiff_L2_8u_C1R, vemiNorm_L2_8u_C1R>)
+VEMI_2SRC_RESULT(vemiNormRel_L2_8u_C3R, Vemi8u, Vemi64f, normRel<C3, vemiNormDiff_L2_8u_C3R, vemiNorm_L2_8u_C3R>)
+VEMI_2SRC_RESULT(vemiNormRel_L2_8u_C4R, Vemi8u, Vemi64f, normRel<C4, vemiNormDiff_L2_8u_C4R, vemiNorm_L2_8u_C4R>)
+VEMI_2SRC_RESULT(vemiNormRel_L2_8u_AC4R, Vemi8u, Vemi64f, normRel<AC4, vemiNormDiff_L2_8u_AC4R, vemiNorm_L2_8u_AC4R>)
+VEMI_2SRC_RESULT(vemiNormRel_L2_16s_C1R, Vemi16s, Vemi64f, normRel<C1, vemiNormDiff_L2_16s_C1R, vemiNorm_L2_16s_C1R>)
+VEMI_2SRC_RESULT(vemiNormRel_L2_16s_C3R, Vemi16s, Vemi64f, normRel<C3, vemiNormDiff_L2_16s_C3R, vemiNorm_L2_16s_C3R>)
+VEMI_2SRC_RESULT(vemiNormRel_L2_16s_C4R, Vemi16s, Vemi64f, normRel<C4, vemiNormDiff_L2_16s_C4R, vemiNorm_L2_16s_C4R>)
+VEMI_2SRC_RESULT(vemiNormRel_L2_16s_AC4R, Vemi16s, Vemi64f,
+                 normRel<AC4, vemiNormDiff_L2_16s_AC4R, vemiNorm_L2_16s_AC4R>)
+VEMI_2SRC_RESULT_HINT(vemiNormRel_L2_32f_C1R, Vemi32f, Vemi64f,
+                      normRel<C1, vemiNormDiff_L2_32f_C1R, vemiNorm_L2_32f_C1R>)
+VEMI_2SRC_RESULT_HINT(vemiNormRel_L2_32f_C3R, Vemi32f, Vemi64f,
+                      normRel<C3, vemiNormDiff_L2_32f_C3R, vemiNorm_L2_32f_C3R>)
+VEMI_2SRC_RESULT_HINT(vemiNormRel_L2_32f_C4R, Vemi32f, Vemi64f,
+                      normRel<C4, vemiNormDiff_L2_32f_C4R, vemiNorm_L2_32f_C4R>)
+VEMI_2SRC_RESULT_HINT(vemiNormRel_L2_32f_AC4R, Vemi32f, Vemi64f,
+                      normRel<AC4, vemiNormDiff_L2_32f_AC4R, vemiNorm_L2_32f_AC4R>)

@@ -1,0 +1,94 @@
+// vemiSum and vemiMean: the sum of each channel, and that sum divided by the number of pixels. Checks: null, size,
+// step.
+
+#include "core/checks.h"
+#include "core/map_row.h"
+#include "measure/exact_sums.h"
+#include "measure/exports.h"
+#include "measure/float_sums.h"
+#include "vemi/measure.h"
+
+namespace vemi {
+namespace {
+
+/// The float forms' term in both of their ways: the element.
+struct Element : Same {
+  using Same::operator();
+  double operator()(double value) const { return value; }
+};
+
+template <class L>
+void sums(VemiSize roiSize, double (&sum)[L::elements], Image<const Vemi8u> src) {
+  using Adding = std::conditional_t<L::elements == 1, AddBytes, AddApart<Vemi8u>>;
+  const ChannelSums<L> exact = exactSums<L>(roiSize, ExactSums<Vemi8u, Same, Adding>(), src);
+  for (int c = 0; c < L::elements; ++c) sum[c] = static_cast<double>(exact.channel[c]);
+}
+
+template <class L>
+void sums(VemiSize roiSize, double (&sum)[L::elements], Image<const Vemi16s> src) {
+  using Adding = std::conditional_t<L::elements == 1, AddSignedPairs, AddSignedApart>;
+  const ChannelSums<L> exact = exactSums<L>(roiSize, ExactSums<Vemi16s, Same, Adding>(), src);
+  for (int c = 0; c < L::elements; ++c) sum[c] = static_cast<double>(static_cast<int64_t>(exact.channel[c]));
+}
+
+template <class L>
+void sums(VemiSize roiSize, double (&sum)[L::elements], Image<const Vemi32f> src, vemiHint hint) {
+  floatSums<L, Element>(roiSize, sum, hint, src);
+}
+
+/// Only the 32f forms have a hint.
+template <class L, class T, class... Hint>
+VemiStatus sum(Image<const T> src, VemiSize roiSize, Vemi64f* pSum, Hint... hint) {
+  if (const VemiStatus bad = firstOf(checkNull(src, pSum), checkSize(roiSize), checkStep(src))) return bad;
+  double channel[L::elements];
+  sums<Interleaved<L::elements>>(roiSize, channel, src, hint...);
+  std::copy_n(channel, L::channels, pSum);
+  return vemiOk;
+}
+
+/// The number of pixels is their 32-bit product. Several channels are multiplied by its reciprocal, one is divided by
+/// it, which may differ in the last bit.
+template <class L, auto sumOf, class T, class... Hint>
+VemiStatus mean(Image<const T> src, VemiSize roiSize, Vemi64f* pMean, Hint... hint) {
+  if (const VemiStatus bad = sumOf(src.first, src.step, roiSize, pMean, hint...)) return bad;
+  const auto product = static_cast<uint32_t>(roiSize.width) * static_cast<uint32_t>(roiSize.height);
+  const double pixels = static_cast<int32_t>(product);
+  if constexpr (L::channels == 1) {
+    *pMean /= pixels;
+  } else {
+    const double reciprocal = 1.0 / pixels;
+    for (int c = 0; c < L::channels; ++c) pMean[c] *= reciprocal;
+  }
+  return vemiOk;
+}
+
+}  // namespace
+}  // namespace vemi
+
+using namespace vemi;
+
+VEMI_SRC_RESULT(vemiSum_8u_C1R, Vemi8u, Vemi64f, sum<C1>)
+VEMI_SRC_RESULT(vemiSum_8u_C3R, Vemi8u, Vemi64f, sum<C3>)
+VEMI_SRC_RESULT(vemiSum_8u_C4R, Vemi8u, Vemi64f, sum<C4>)
+VEMI_SRC_RESULT(vemiSum_8u_AC4R, Vemi8u, Vemi64f, sum<AC4>)
+VEMI_SRC_RESULT(vemiSum_16s_C1R, Vemi16s, Vemi64f, sum<C1>)
+VEMI_SRC_RESULT(vemiSum_16s_C3R, Vemi16s, Vemi64f, sum<C3>)
+VEMI_SRC_RESULT(vemiSum_16s_C4R, Vemi16s, Vemi64f, sum<C4>)
+VEMI_SRC_RESULT(vemiSum_16s_AC4R, Vemi16s, Vemi64f, sum<AC4>)
+VEMI_SRC_RESULT_HINT(vemiSum_32f_C1R, Vemi32f, Vemi64f, sum<C1>)
+VEMI_SRC_RESULT_HINT(vemiSum_32f_C3R, Vemi32f, Vemi64f, sum<C3>)
+VEMI_SRC_RESULT_HINT(vemiSum_32f_C4R, Vemi32f, Vemi64f, sum<C4>)
+VEMI_SRC_RESULT_HINT(vemiSum_32f_AC4R, Vemi32f, Vemi64f, sum<AC4>)
+
+VEMI_SRC_RESULT(vemiMean_8u_C1R, Vemi8u, Vemi64f, mean<C1, vemiSum_8u_C1R>)
+VEMI_SRC_RESULT(vemiMean_8u_C3R, Vemi8u, Vemi64f, mean<C3, vemiSum_8u_C3R>)
+VEMI_SRC_RESULT(vemiMean_8u_C4R, Vemi8u, Vemi64f, mean<C4, vemiSum_8u_C4R>)
+VEMI_SRC_RESULT(vemiMean_8u_AC4R, Vemi8u, Vemi64f, mean<AC4, vemiSum_8u_AC4R>)
+VEMI_SRC_RESULT(vemiMean_16s_C1R, Vemi16s, Vemi64f, mean<C1, vemiSum_16s_C1R>)
+VEMI_SRC_RESULT(vemiMean_16s_C3R, Vemi16s, Vemi64f, mean<C3, vemiSum_16s_C3R>)
+VEMI_SRC_RESULT(vemiMean_16s_C4R, Vemi16s, Vemi64f, mean<C4, vemiSum_16s_C4R>)
+VEMI_SRC_RESULT(vemiMean_16s_AC4R, Vemi16s, Vemi64f, mean<AC4, vemiSum_16s_AC4R>)
+VEMI_SRC_RESULT_HINT(vemiMean_32f_C1R, Vemi32f, Vemi64f, mean<C1, vemiSum_32f_C1R>)
+VEMI_SRC_RESULT_HINT(vemiMean_32f_C3R, Vemi32f, Vemi64f, mean<C3, vemiSum_32f_C3R>)
+VEMI_SRC_RESULT_HINT(vemiMean_32f_C4R, Vemi32f, Vemi64f, mean<C4, vemiSum_32f_C4R>)
+VEMI_SRC_RESULT_HINT(vemiMean_32f_AC4R, Vemi32f, Vemi64f, mean<AC4, vemiSum_32f_AC4R>)
