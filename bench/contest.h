@@ -71,5 +71,6 @@ Family convertFamily();
 Family bitImageFamily();
 Family lutFamily();
 Family gammaFamily();
+Family countsFamily();
 
 }  // namespace bench

@@ -51,6 +51,7 @@ constexpr FamilyTable families[] = {
     bitImageFamily,
     lutFamily,
     gammaFamily,
+    countsFamily,
 };
 
 constexpr const char* usage =

@@ -72,6 +72,8 @@ constexpr Section sections[] = {
      "Steps, lines and cubics through points of your choice; palettes; and the transfer curve of video. What costs is "
      "the table, not the curve.",
      demoTables},
+    {"Histograms and moments",
+     "Numbers out of a picture: how many pixels lie between levels, and where their values are gathered.", demoCounts},
 };
 
 Options optionsFrom(int argc, char** argv) {

@@ -27,5 +27,6 @@ void demoAlpha(const Demo& demo);
 void demoStatistics(const Demo& demo);
 void demoThreshold(const Demo& demo);
 void demoTables(const Demo& demo);
+void demoCounts(const Demo& demo);
 
 }  // namespace demo

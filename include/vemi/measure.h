@@ -622,6 +622,344 @@ VEMI_API VemiStatus vemiNormRel_L2_32f_AC4R(const Vemi32f* pSrc1, int src1Step, 
 
 /** @} */
 
+/**
+ * @defgroup vemi_moment_state Moment states
+ *
+ * A state is where vemiMoments64f or vemiMoments64s leaves the sums of an image, for up to three channels:
+ *
+ *     S(m, n) = sum of x^m * y^n * f(x, y)    over the region, m + n <= 3, x and y counted from 0 at its top left pixel
+ *
+ * and where any number of vemiGet... calls then read moments from. There are two kinds. The sums of a **64f** state are
+ * doubles. The sums of a **64s** state are integers of 64 bits, and exact: its getters give integers, scaled by a power
+ * of two. The functions of one kind answer a state of the other with vemiErrContext.
+ *
+ * A state is made by vemiMomentInitAlloc and released by vemiMomentFree; a 64s state may also be the caller's memory,
+ * which vemiMomentInit_64s makes a state of, and which is not to be passed to vemiMomentFree. Until vemiMoments has
+ * run, a state has no channels, and each getter returns vemiErrChannelIndex. Running it again overwrites the sums. A
+ * call that writes a state must be the only one that uses it; getters only read, and may share a state among threads.
+ *
+ *     VemiMomentState* state;
+ *     Vemi64f area, sumX, sumY;
+ *     vemiMomentInitAlloc_64f(&state, vemiHintFast);
+ *     vemiMoments64f_8u_C1R(image, step, size, state);
+ *     vemiGetSpatialMoment_64f(state, 0, 0, 0, 0, 0, &area);
+ *     vemiGetSpatialMoment_64f(state, 1, 0, 0, 0, 0, &sumX);
+ *     vemiGetSpatialMoment_64f(state, 0, 1, 0, 0, 0, &sumY);
+ *     vemiMomentFree_64f(state);                               // the centroid is (sumX / area, sumY / area)
+ * @{
+ */
+
+/** The record behind a state: 400 bytes. Programs have no need to look into it, and must not write to it. */
+typedef struct VemiMomentState {
+  int tag;       /**< 33 in a 64f state, 34 in a 64s state, 0 after vemiMomentFree */
+  int hint;      /**< as passed to the function that made the state */
+  int nChannels; /**< -1 before the first vemiMoments call, then 1 or 3 */
+  int reserved;  /**< not used */
+  union {
+    Vemi64f f[3][16]; /**< of a 64f state */
+    Vemi64s s[3][16]; /**< of a 64s state */
+  } sum;              /**< of each channel; S(m, n) is entry m + 4 * n, and entries of m + n > 3 are 0 */
+} VemiMomentState;
+
+/**
+ * Makes a state without channels.
+ *
+ * @param ppState  where the address of the new state is stored; untouched after an error
+ * @param hint     of a 64f state: vemiHintAccurate has vemiMoments64f sum pixel by pixel, any other number fast. A 64s
+ *                 state keeps the hint and does not use it.
+ *
+ * **Statuses**: vemiErrNullPtr; vemiErrMemAlloc.
+ */
+
+VEMI_API VemiStatus vemiMomentInitAlloc_64f(VemiMomentState** ppState, vemiHint hint);
+VEMI_API VemiStatus vemiMomentInitAlloc_64s(VemiMomentState** ppState, vemiHint hint);
+
+/**
+ * Releases a state that vemiMomentInitAlloc made. Its tag is cleared first.
+ *
+ * **Statuses**, in the order of the tests: vemiErrNullPtr; vemiErrContext for a state of the other kind.
+ */
+
+VEMI_API VemiStatus vemiMomentFree_64f(VemiMomentState* pState);
+VEMI_API VemiStatus vemiMomentFree_64s(VemiMomentState* pState);
+
+/**
+ * Makes a 64s state without channels out of memory that the caller owns: a VemiMomentState, or as many bytes as
+ * vemiMomentGetStateSize_64s tells, aligned for 64-bit integers.
+ *
+ * **Status**: vemiErrNullPtr.
+ */
+
+VEMI_API VemiStatus vemiMomentInit_64s(VemiMomentState* pState, vemiHint hint);
+
+/**
+ * Stores the size of a 64s state in bytes: 400, whatever the hint.
+ *
+ * **Status**: vemiErrNullPtr.
+ */
+
+VEMI_API VemiStatus vemiMomentGetStateSize_64s(vemiHint hint, int* pSize);
+
+/** @} */
+
+/**
+ * @defgroup vemi_moments vemiMoments64f, vemiMoments64s: the sums of an image
+ *
+ * One pass over the region, which replaces what the state held: the ten sums S(m, n) above for each channel. C1 forms
+ * leave a state of one channel, C3 and AC4 forms one of three; AC4 forms pass over the fourth element of a pixel.
+ *
+ * **64s of 8u.** Exact integers, modulo 2^64. S(3, 0) and S(0, 3), the largest, leave the range of 64 bits where a
+ * white image is larger than about 2700 x 2700; all sums of order 2 fit up to about 18000 x 18000.
+ *
+ * **64f of 8u.** The fast way sums integers within a row piece and doubles beyond, so every sum below 2^53 is exact, as
+ * it is in the accurate way; larger ones are rounded, a few times for each row in the fast way and once for each pixel
+ * in the accurate one.
+ *
+ * **64f of 32f.** All arithmetic is in double precision. The fast way forms the sums of x^m * f of a row piece of 1024
+ * pixels in eight strands of columns, adds the strands, then the pieces, and takes the row in under y^n. The accurate
+ * way keeps one running sum for each S(m, n), from left to right and top to bottom, and adds x^m * (y^n * f) to it.
+ * Both are the same bits on every processor. They differ by roundings of doubles only, which shows where values cancel.
+ * A NaN or an infinity in the image makes NaNs or infinities of the sums that it takes part in.
+ *
+ * @param pSrc,srcStep  first pixel of the image, and the bytes between its rows; a row must fit the step
+ * @param roiSize       size of the region in pixels
+ * @param pState        state of the kind in the function's name (64f or 64s)
+ *
+ * **Statuses**, in the order of the tests: vemiErrNullPtr; vemiErrContext; step; size; vemiErrStride where
+ * roiSize.width times the bytes of a pixel (1, 3 and 4 in 8u, 4, 12 and 16 in 32f) exceeds srcStep. Mind that
+ * vemiErrStep comes before vemiErrSize.
+ *
+ * **Threads.** All forms run in the calling thread.
+ * @{
+ */
+
+VEMI_API VemiStatus vemiMoments64f_8u_C1R(const Vemi8u* pSrc, int srcStep, VemiSize roiSize, VemiMomentState* pState);
+VEMI_API VemiStatus vemiMoments64f_8u_C3R(const Vemi8u* pSrc, int srcStep, VemiSize roiSize, VemiMomentState* pState);
+VEMI_API VemiStatus vemiMoments64f_8u_AC4R(const Vemi8u* pSrc, int srcStep, VemiSize roiSize, VemiMomentState* pState);
+VEMI_API VemiStatus vemiMoments64f_32f_C1R(const Vemi32f* pSrc, int srcStep, VemiSize roiSize, VemiMomentState* pState);
+VEMI_API VemiStatus vemiMoments64f_32f_C3R(const Vemi32f* pSrc, int srcStep, VemiSize roiSize, VemiMomentState* pState);
+VEMI_API VemiStatus vemiMoments64f_32f_AC4R(const Vemi32f* pSrc, int srcStep, VemiSize roiSize,
+                                            VemiMomentState* pState);
+
+VEMI_API VemiStatus vemiMoments64s_8u_C1R(const Vemi8u* pSrc, int srcStep, VemiSize roiSize, VemiMomentState* pState);
+VEMI_API VemiStatus vemiMoments64s_8u_C3R(const Vemi8u* pSrc, int srcStep, VemiSize roiSize, VemiMomentState* pState);
+VEMI_API VemiStatus vemiMoments64s_8u_AC4R(const Vemi8u* pSrc, int srcStep, VemiSize roiSize, VemiMomentState* pState);
+
+/** @} */
+
+/**
+ * @defgroup vemi_moment_getters Spatial, central, normalised and Hu moments
+ *
+ * Numbers from the sums of a state, without the image. All are computed in double precision from the sums S.
+ *
+ * **Spatial**, of order m + n <= 3, as if the region's first pixel stood at (X, Y) = (offsetX, offsetY):
+ *
+ *     M(m, n) = sum of (x + X)^m * (y + Y)^n * f(x, y)
+ *
+ * expanded into the sums S by binomials, so that M(1, 0) = X * S(0, 0) + S(1, 0), and M(m, n) = S(m, n) at (0, 0).
+ *
+ * **Central**, about the centroid (x0, y0) = (S(1, 0) / S(0, 0), S(0, 1) / S(0, 0)):
+ *
+ *     c(m, n) = sum of (x - x0)^m * (y - y0)^n * f(x, y)
+ *
+ * again from the sums: c(2, 0) = S(2, 0) - x0 * S(1, 0) and so on, c(1, 0) = c(0, 1) = 0 exactly, c(0, 0) = S(0, 0).
+ *
+ * **Normalised**: M or c times S(0, 0)^(-(m + n + 2) / 2), the power by the C library's pow. A normalised central
+ * moment does not change when the picture is moved or scaled.
+ *
+ * **Hu.** Seven numbers that do not change either when the picture is turned (M.-K. Hu, Visual pattern recognition by
+ * moment invariants, 1962), of the normalised central moments e, with p = e30 + e12, q = e21 + e03, r = e12 + e03,
+ * s = e30 - 3 e12, t = 3 e21 - e03:
+ *
+ *     pHu[0] = e20 + e02
+ *     pHu[1] = (e20 - e02)^2 + 4 e11^2
+ *     pHu[2] = t^2 + s^2
+ *     pHu[3] = p^2 + q^2
+ *     pHu[4] = s p (r^2 - 3 q^2) + t q (3 p^2 - q^2)
+ *     pHu[5] = (p^2 - q^2) (e20 - e02) + 4 e11 p q
+ *     pHu[6] = t p (p^2 - 3 q^2) - q s (3 p^2 - q^2)
+ *
+ * The first bracket of pHu[4] has r where the published invariant has p: this one is not invariant under rotation. That
+ * is deliberate and will stay.
+ *
+ * **64f** forms give doubles. **64s** forms take the sums as doubles, compute the same, divide by 2^scaleFactor
+ * (multiply where it is negative) and convert to an integer in the rounding mode of the processor, to nearest with ties
+ * to even unless the program changed it. What does not fit, NaN included, becomes the smallest 64-bit integer. Every
+ * scaleFactor is legal:
+ *
+ *     S(0, 0) = 3     scaleFactor  1    1.5 ->  2
+ *     S(0, 0) = 5     scaleFactor  1    2.5 ->  2
+ *     S(0, 0) = 3     scaleFactor -2    12
+ *
+ * Normalised moments are small numbers; a scale factor of -20 or -30 keeps their digits.
+ *
+ * @param pState           state of the kind in the function's name
+ * @param mOrd,nOrd        orders in x and y, not negative, together at most 3
+ * @param nChannel         channel, from 0
+ * @param offsetX,offsetY  column and row at which the region begins, any int
+ * @param pValue           where the result is stored
+ * @param pHu              array of seven results
+ * @param scaleFactor      as above
+ *
+ * **Statuses**, in the order of the tests: vemiErrNullPtr; vemiErrContext; vemiErrSize for orders out of range (not in
+ * vemiGetHuMoments); vemiErrChannelIndex for a channel that the state does not have; and in all but
+ * vemiGetSpatialMoment vemiErrMomentZero where |S(0, 0)| is at most 2.220446049250313e-16, whatever the orders. Errors
+ * leave the result alone, with one exception: on vemiErrMomentZero, vemiGetNormalizedSpatialMoment has stored what
+ * vemiGetSpatialMoment gives.
+ * @{
+ */
+
+VEMI_API VemiStatus vemiGetSpatialMoment_64f(const VemiMomentState* pState, int mOrd, int nOrd, int nChannel,
+                                             int offsetX, int offsetY, Vemi64f* pValue);
+VEMI_API VemiStatus vemiGetSpatialMoment_64s(const VemiMomentState* pState, int mOrd, int nOrd, int nChannel,
+                                             int offsetX, int offsetY, Vemi64s* pValue, int scaleFactor);
+
+VEMI_API VemiStatus vemiGetNormalizedSpatialMoment_64f(const VemiMomentState* pState, int mOrd, int nOrd, int nChannel,
+                                                       int offsetX, int offsetY, Vemi64f* pValue);
+VEMI_API VemiStatus vemiGetNormalizedSpatialMoment_64s(const VemiMomentState* pState, int mOrd, int nOrd, int nChannel,
+                                                       int offsetX, int offsetY, Vemi64s* pValue, int scaleFactor);
+
+VEMI_API VemiStatus vemiGetCentralMoment_64f(const VemiMomentState* pState, int mOrd, int nOrd, int nChannel,
+                                             Vemi64f* pValue);
+VEMI_API VemiStatus vemiGetCentralMoment_64s(const VemiMomentState* pState, int mOrd, int nOrd, int nChannel,
+                                             Vemi64s* pValue, int scaleFactor);
+
+VEMI_API VemiStatus vemiGetNormalizedCentralMoment_64f(const VemiMomentState* pState, int mOrd, int nOrd, int nChannel,
+                                                       Vemi64f* pValue);
+VEMI_API VemiStatus vemiGetNormalizedCentralMoment_64s(const VemiMomentState* pState, int mOrd, int nOrd, int nChannel,
+                                                       Vemi64s* pValue, int scaleFactor);
+
+VEMI_API VemiStatus vemiGetHuMoments_64f(const VemiMomentState* pState, int nChannel, Vemi64f pHu[7]);
+VEMI_API VemiStatus vemiGetHuMoments_64s(const VemiMomentState* pState, int nChannel, Vemi64s pHu[7], int scaleFactor);
+
+/** @} */
+
+/**
+ * @defgroup vemi_histogram vemiHistogramRange, vemiHistogramEven: counts of pixels between levels
+ *
+ * nLevels levels L(0), L(1), ... make nLevels - 1 bins, and pHist[k] becomes the number of pixels v of the region with
+ *
+ *     L(k) <= v < L(k + 1)
+ *
+ * What pHist held before is of no account. Pixels below the first level, or from the last one on, are in no bin: to
+ * count white in 8u, the last level has to be 256. A NaN pixel is in no bin.
+ *
+ * In **vemiHistogramRange** the levels are the caller's: integers for 8u and 16s, which may lie outside the range of
+ * the pixels, and floats for 32f. They usually increase, but need not. A bin whose levels do not, L(k) >= L(k + 1), is
+ * empty; bins may overlap, and each of them counts what it holds. A NaN level empties the bins on both of its sides.
+ *
+ * **vemiHistogramEven** makes the levels, from lowerLevel on, stores them in pLevels, and counts between them. With
+ * n = nLevels - 1, width = (upperLevel - lowerLevel) / n rounded toward zero and rest = upperLevel - lowerLevel - n *
+ * width,
+ *
+ *     upperLevel - lowerLevel >= 0    the first `rest` bins are width + 1 wide, the others width, and the last level is
+ *                                     upperLevel; with less than n, the last bins are empty, their levels all
+ * upperLevel upperLevel - lowerLevel <= -n   levels fall in the same manner, and all bins are empty in between (-n to
+ * -1)           all levels are lowerLevel, and all bins are empty
+ *
+ *     0 to 255 in 2 bins      0, 128, 255
+ *     0 to 256 in 256 bins    0, 1, 2, ... 256: one bin for each value of 8u
+ *     10 to 12 in 4 bins      10, 11, 12, 12, 12
+ *
+ * C1 forms have one histogram. The others count each channel by itself, between levels of its own: pHist and pLevels
+ * are then arrays of one pointer for each channel, nLevels, lowerLevel and upperLevel arrays of one number for each,
+ * three of them in C3 and AC4 and four in C4. AC4 forms do not count the fourth channel.
+ *
+ * Counts are exact whatever the levels, and modulo 2^32 in the unlikely case that a bin receives that many.
+ *
+ * @param pSrc,srcStep           first pixel of the image, and the bytes between its rows
+ * @param roiSize                size of the region in pixels
+ * @param pHist                  nLevels - 1 counts; or an array of pointers to them
+ * @param pLevels                nLevels levels; or an array of pointers to them. vemiHistogramEven writes them.
+ * @param nLevels                number of levels, at least 2; or an array of numbers
+ * @param lowerLevel,upperLevel  first and last level, any int; or arrays of them
+ *
+ * **Overlap.** What is written overlaps nothing that is read, and no other result.
+ *
+ * **Statuses**, in the order of the tests.
+ *
+ *     C1        null, size, step, vemiErrHistogramLevels for nLevels below 2
+ *     others    null (the arrays themselves); then for one channel after the other null for its pointers to counts and
+ * to levels, and vemiErrHistogramLevels; size; step
+ *
+ * **Memory.** 16s forms may count in a table of 65536 counters for each channel, and return vemiErrMemAlloc where that
+ * cannot be had; the counts are then untouched, the levels of vemiHistogramEven made. This is so for large images, or
+ * many levels: for regions of at least 12544 pixels (1024 where the levels of any channel do not increase throughout)
+ * and more levels than a limit that falls with the number of pixels, to 6 in C1, 10 in C3 and AC4, 14 or 10 in C4. It
+ * never happens in vemiHistogramEven where the bins of each channel are all equally wide.
+ *
+ * **Threads.** All forms run in the calling thread.
+ *
+ *     Vemi32s counts[256], levels[257];
+ *     vemiHistogramEven_8u_C1R(image, step, size, counts, levels, 257, 0, 256);
+ *
+ *     const Vemi32f limits[4] = {0.0f, 0.1f, 0.5f, 1.0f};       // shadows, middle tones, lights
+ *     vemiHistogramRange_32f_C1R(image, step, size, counts, limits, 4);
+ * @{
+ */
+
+VEMI_API VemiStatus vemiHistogramRange_8u_C1R(const Vemi8u* pSrc, int srcStep, VemiSize roiSize, Vemi32s* pHist,
+                                              const Vemi32s* pLevels, int nLevels);
+VEMI_API VemiStatus vemiHistogramRange_8u_C3R(const Vemi8u* pSrc, int srcStep, VemiSize roiSize,
+                                              Vemi32s* const pHist[3], const Vemi32s* const pLevels[3],
+                                              const int nLevels[3]);
+VEMI_API VemiStatus vemiHistogramRange_8u_C4R(const Vemi8u* pSrc, int srcStep, VemiSize roiSize,
+                                              Vemi32s* const pHist[4], const Vemi32s* const pLevels[4],
+                                              const int nLevels[4]);
+VEMI_API VemiStatus vemiHistogramRange_8u_AC4R(const Vemi8u* pSrc, int srcStep, VemiSize roiSize,
+                                               Vemi32s* const pHist[3], const Vemi32s* const pLevels[3],
+                                               const int nLevels[3]);
+
+VEMI_API VemiStatus vemiHistogramRange_16s_C1R(const Vemi16s* pSrc, int srcStep, VemiSize roiSize, Vemi32s* pHist,
+                                               const Vemi32s* pLevels, int nLevels);
+VEMI_API VemiStatus vemiHistogramRange_16s_C3R(const Vemi16s* pSrc, int srcStep, VemiSize roiSize,
+                                               Vemi32s* const pHist[3], const Vemi32s* const pLevels[3],
+                                               const int nLevels[3]);
+VEMI_API VemiStatus vemiHistogramRange_16s_C4R(const Vemi16s* pSrc, int srcStep, VemiSize roiSize,
+                                               Vemi32s* const pHist[4], const Vemi32s* const pLevels[4],
+                                               const int nLevels[4]);
+VEMI_API VemiStatus vemiHistogramRange_16s_AC4R(const Vemi16s* pSrc, int srcStep, VemiSize roiSize,
+                                                Vemi32s* const pHist[3], const Vemi32s* const pLevels[3],
+                                                const int nLevels[3]);
+
+VEMI_API VemiStatus vemiHistogramRange_32f_C1R(const Vemi32f* pSrc, int srcStep, VemiSize roiSize, Vemi32s* pHist,
+                                               const Vemi32f* pLevels, int nLevels);
+VEMI_API VemiStatus vemiHistogramRange_32f_C3R(const Vemi32f* pSrc, int srcStep, VemiSize roiSize,
+                                               Vemi32s* const pHist[3], const Vemi32f* const pLevels[3],
+                                               const int nLevels[3]);
+VEMI_API VemiStatus vemiHistogramRange_32f_C4R(const Vemi32f* pSrc, int srcStep, VemiSize roiSize,
+                                               Vemi32s* const pHist[4], const Vemi32f* const pLevels[4],
+                                               const int nLevels[4]);
+VEMI_API VemiStatus vemiHistogramRange_32f_AC4R(const Vemi32f* pSrc, int srcStep, VemiSize roiSize,
+                                                Vemi32s* const pHist[3], const Vemi32f* const pLevels[3],
+                                                const int nLevels[3]);
+
+VEMI_API VemiStatus vemiHistogramEven_8u_C1R(const Vemi8u* pSrc, int srcStep, VemiSize roiSize, Vemi32s* pHist,
+                                             Vemi32s* pLevels, int nLevels, Vemi32s lowerLevel, Vemi32s upperLevel);
+VEMI_API VemiStatus vemiHistogramEven_8u_C3R(const Vemi8u* pSrc, int srcStep, VemiSize roiSize, Vemi32s* const pHist[3],
+                                             Vemi32s* const pLevels[3], const int nLevels[3],
+                                             const Vemi32s lowerLevel[3], const Vemi32s upperLevel[3]);
+VEMI_API VemiStatus vemiHistogramEven_8u_C4R(const Vemi8u* pSrc, int srcStep, VemiSize roiSize, Vemi32s* const pHist[4],
+                                             Vemi32s* const pLevels[4], const int nLevels[4],
+                                             const Vemi32s lowerLevel[4], const Vemi32s upperLevel[4]);
+VEMI_API VemiStatus vemiHistogramEven_8u_AC4R(const Vemi8u* pSrc, int srcStep, VemiSize roiSize,
+                                              Vemi32s* const pHist[3], Vemi32s* const pLevels[3], const int nLevels[3],
+                                              const Vemi32s lowerLevel[3], const Vemi32s upperLevel[3]);
+
+VEMI_API VemiStatus vemiHistogramEven_16s_C1R(const Vemi16s* pSrc, int srcStep, VemiSize roiSize, Vemi32s* pHist,
+                                              Vemi32s* pLevels, int nLevels, Vemi32s lowerLevel, Vemi32s upperLevel);
+VEMI_API VemiStatus vemiHistogramEven_16s_C3R(const Vemi16s* pSrc, int srcStep, VemiSize roiSize,
+                                              Vemi32s* const pHist[3], Vemi32s* const pLevels[3], const int nLevels[3],
+                                              const Vemi32s lowerLevel[3], const Vemi32s upperLevel[3]);
+VEMI_API VemiStatus vemiHistogramEven_16s_C4R(const Vemi16s* pSrc, int srcStep, VemiSize roiSize,
+                                              Vemi32s* const pHist[4], Vemi32s* const pLevels[4], const int nLevels[4],
+                                              const Vemi32s lowerLevel[4], const Vemi32s upperLevel[4]);
+VEMI_API VemiStatus vemiHistogramEven_16s_AC4R(const Vemi16s* pSrc, int srcStep, VemiSize roiSize,
+                                               Vemi32s* const pHist[3], Vemi32s* const pLevels[3], const int nLevels[3],
+                                               const Vemi32s lowerLevel[3], const Vemi32s upperLevel[3]);
+
+/** @} */
+
 #ifdef __cplusplus
 }
 #endif

@@ -7,6 +7,7 @@
 #include <cmath>
 #include <functional>
 #include <stdexcept>
+#include <utility>
 
 #include "support/families.h"
 
@@ -53,6 +54,16 @@ bool isAccepted(const std::byte* expected, const std::byte* actual, bool anyNaN,
   const double e = load<T>(expected), a = load<T>(actual);
   if (std::isnan(e) || std::isnan(a)) return anyNaN && std::isnan(e) && std::isnan(a);
   return tolerance > 0 && std::fabs(a - e) <= tolerance * std::max(1.0, std::fabs(e));
+}
+
+/// The function that makes or frees what this one frees or makes: their names differ in one word.
+const Export& partnerOf(const Export& function, const std::string& word, const std::string& otherWord) {
+  std::string name = function.name;
+  name.replace(name.find(word), word.size(), otherWord);
+  for (const Export& each : exports()) {
+    if (each.name == name) return each;
+  }
+  throw std::logic_error("no function " + name);
 }
 
 }  // namespace
@@ -148,6 +159,15 @@ void Call::addArgument(const Parameter& parameter, int index) {
       } else {
         undecided_.insert(parameter.name);
       }
+      break;
+    }
+    case Role::newRecord:
+      slot.put(&newRecord_);
+      break;
+    case Role::freedRecord: {
+      maker_ = std::make_unique<Call>(partnerOf(function, "Free", "InitAlloc"), scenario);
+      maker_->invoke();
+      slot.put(maker_->record_.get());
       break;
     }
     case Role::other:
@@ -310,6 +330,15 @@ VemiStatus Call::invoke() {
   noteCall(text());
   const VemiStatus status = function.call(function.function, arguments.data());
   currentCall[0] = '\0';
+  if (newRecord_ != nullptr) {
+    const Export& destructor = partnerOf(function, "InitAlloc", "Free");
+    record_ = {std::exchange(newRecord_, nullptr), [&](void* record) {
+                 Slot argument;
+                 argument.put(record);
+                 destructor.call(destructor.function, &argument);
+               }};
+  }
+  if (maker_ != nullptr && status == vemiOk) maker_->record_.release();
   return status;
 }
 

@@ -6,6 +6,8 @@
 //   const std::string fault = call.difference();
 #pragma once
 
+#include <functional>
+#include <memory>
 #include <optional>
 #include <set>
 #include <string>
@@ -176,7 +178,10 @@ class Call {
   void acceptFloats(Image& image);
 
   std::vector<Slot> goodArguments_;
-  std::set<std::string> undecided_;  // parameters that the family's shape must still set
+  void* newRecord_ = nullptr;                                 // where the function stores a record that it makes
+  std::unique_ptr<void, std::function<void(void*)>> record_;  // which is freed with the call
+  std::unique_ptr<Call> maker_;                               // the call that made the record which this one frees
+  std::set<std::string> undecided_;                           // parameters that the family's shape must still set
   std::optional<View> mask_;
   const std::byte* constants_ = nullptr;
   int constantBytes_ = 0;

@@ -91,6 +91,11 @@ Fault badValue(const std::string& parameter, const std::string& text, const std:
 }
 
 void addNullFaults(const Call& call, const Family& family, std::vector<Fault>& faults) {
+  for (const Parameter& parameter : call.function.parameters) {
+    if (parameter.role == Role::newRecord || parameter.role == Role::freedRecord) {
+      faults.push_back(badValue<void*>(parameter.name, "null", "null", vemiErrNullPtr, nullptr));
+    }
+  }
   const bool byChannel = hasStage(family, "channels");
   for (size_t n = 0; n < call.images.size(); ++n) {
     const Image& image = call.images[n];

@@ -101,6 +101,10 @@ void settleRoles(Export& function) {
   Parameter* pointer = nullptr;
   for (Parameter& parameter : function.parameters) {
     if (parameter.role == Role::array) pointer = &parameter;
+    if (parameter.role == Role::other && parameter.isPlanes) parameter.role = Role::newRecord;
+    if (parameter.role == Role::other && function.name.find("Free_") != std::string::npos) {
+      parameter.role = Role::freedRecord;
+    }
     if (parameter.element != Element::s32 || parameter.role != Role::constant) continue;
     if (endsWith(parameter.name, "Step") && pointer != nullptr) {
       parameter.role = Role::step;

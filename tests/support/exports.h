@@ -34,13 +34,15 @@ struct Slot {
 };
 
 enum class Role {
-  image,     // a pointer, or an array of plane pointers, that a step belongs to
-  mask,      // pMask: an image of bytes
-  array,     // a pointer without a step: constants, tables, results
-  step,      // the step of the last pointer in front of it
-  size,      // a VemiSize
-  constant,  // an element by value
-  number,    // any other integer
+  image,        // a pointer, or an array of plane pointers, that a step belongs to
+  mask,         // pMask: an image of bytes
+  array,        // a pointer without a step: constants, tables, results
+  step,         // the step of the last pointer in front of it
+  size,         // a VemiSize
+  constant,     // an element by value
+  number,       // any other integer
+  newRecord,    // of an InitAlloc function: where it stores the address of the record that it makes
+  freedRecord,  // of a Free function: such a record
   other
 };
 

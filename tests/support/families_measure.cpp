@@ -1,5 +1,11 @@
 #include "support/families.h"
 
+#include <limits.h>
+
+#include <algorithm>
+#include <cmath>
+#include <cstring>
+
 namespace vemi::test {
 namespace {
 
@@ -26,6 +32,147 @@ void setLimits(Call& call, int highest) {
   }
 }
 
+/// Whether the name speaks of a state, or of sums, of 64-bit floats.
+bool hasDoubles(const Call& call) { return call.function.name.find("64f") != std::string::npos; }
+
+/// A state of three channels, with sums as of a picture of some size.
+void setMomentState(Call& call) {
+  VemiMomentState state = {hasDoubles(call) ? 33 : 34, call.random.below(3), 3, 0, {}};
+  for (int channel = 0; channel < 3; ++channel) {
+    for (int entry = 0; entry < 16; ++entry) {
+      const Vemi64s sum = 1 + Vemi64s{call.random.below(1 << 20)} * (1 + entry % 4 * 50) * (1 + entry / 4 * 30);
+      if (hasDoubles(call)) {
+        state.sum.f[channel][entry] = static_cast<double>(sum) / 16;
+      } else {
+        state.sum.s[channel][entry] = sum;
+      }
+    }
+  }
+  call.setArray("pState", std::vector{state});
+}
+
+void momentHint(Call& call) {
+  call.set("hint", call.random.below(4));
+  if (call.function.operation == "vemiMomentInit") setMomentState(call);
+}
+
+void momentGetter(Call& call) {
+  setMomentState(call);
+  call.set("nChannel", call.random.below(3));
+  for (const char* const number : {"offsetX", "offsetY"}) {
+    if (call.function.indexOf(number) >= 0) call.set(number, call.random.below(2001) - 1000);
+  }
+  if (call.function.indexOf("scaleFactor") >= 0) call.set("scaleFactor", call.random.below(81) - 60);
+  if (call.function.indexOf("mOrd") < 0) return;
+  const int mOrd = call.random.below(4);
+  call.set("mOrd", mOrd);
+  call.set("nOrd", call.random.below(4 - mOrd));
+}
+
+/// The record of another kind of function, or one that was freed.
+bool otherRecord(Call& call) {
+  static int noRecord[128] = {};
+  if (call.get<void*>("pState") != nullptr) call.set<void*>("pState", noRecord);  // a null stays
+  return true;
+}
+
+bool shortStep(Call& call) {
+  const View image = call.source();
+  if (call.get<int>("srcStep") > 0) call.set("srcStep", static_cast<int>(image.pixelBytes) * image.size.width - 1);
+  return true;
+}
+
+/// A vanishing sum to divide by. Normalised spatial moments then leave something behind, and are tested by themselves.
+bool noDivisor(Call& call) {
+  if (call.function.operation.find("Spatial") != std::string::npos) return false;
+  const VemiMomentState cleared = {hasDoubles(call) ? 33 : 34, 0, 3, 0, {}};
+  for (Image::Plane& plane : call.image("pState").planes) {
+    const ptrdiff_t offset = plane.first - plane.memory.begin();
+    std::memcpy(plane.memory.begin() + offset, &cleared, sizeof cleared);
+    std::memcpy(plane.expected.data() + offset, &cleared, sizeof cleared);
+  }
+  return true;
+}
+
+/// Levels of each channel: few or many, rising or in any order, among the values of pixels or around them.
+template <class Level>
+std::vector<Level> randomLevels(Call& call, Element pixels) {
+  const int count = 2 + (call.random.below(2) == 0 ? call.random.below(9) : call.random.below(150));
+  const bool rising = call.random.below(3) != 0;
+  std::vector<Level> levels;
+  while (static_cast<int>(levels.size()) < count) {
+    std::byte place[4];
+    fillElement(pixels, place, call.random);
+    if (pixels == Element::f32) unifyNaNs(pixels, place);
+    Level level = pixels == Element::f32 ? static_cast<Level>(load<float>(place))
+                                         : static_cast<Level>(loadInteger(pixels, place) + call.random.below(3) - 1);
+    if (call.random.below(20) == 0) level *= 1000;
+    if (!std::isnan(static_cast<double>(level)) || !rising) levels.push_back(level);
+  }
+  if (rising) {
+    std::sort(levels.begin(), levels.end());
+    levels.erase(std::unique(levels.begin(), levels.end()), levels.end());
+    if (levels.size() < 2) levels.push_back(levels[0] + 1);
+  }
+  return levels;
+}
+
+void setHistograms(Call& call, const std::vector<int>& levelCounts) {
+  std::vector<int> bins;
+  for (const int count : levelCounts) bins.push_back(count - 1);
+  call.setLengths("pHist", bins);
+  if (call.function.source.elements == 1) {
+    call.set("nLevels", levelCounts[0]);
+  } else {
+    call.setArray("nLevels", levelCounts);
+  }
+}
+
+template <class Level>
+void levelsOfCaller(Call& call, Element pixels) {
+  std::vector<std::vector<Level>> levels;
+  std::vector<int> counts;
+  for (int channel = 0; channel < call.function.source.channels; ++channel) {
+    levels.push_back(randomLevels<Level>(call, pixels));
+    counts.push_back(static_cast<int>(levels.back().size()));
+  }
+  call.setArrays("pLevels", levels);
+  setHistograms(call, counts);
+}
+
+void histogramRange(Call& call) {
+  const Element pixels = call.image("pSrc").element;
+  if (pixels == Element::f32) {
+    levelsOfCaller<Vemi32f>(call, pixels);
+  } else {
+    levelsOfCaller<Vemi32s>(call, pixels);
+  }
+}
+
+void histogramEven(Call& call) {
+  const int channels = call.function.source.channels;
+  const int extent = call.image("pSrc").element == Element::u8 ? 300 : 70000;
+  std::vector<Vemi32s> lower, upper;
+  std::vector<int> counts;
+  const bool even = call.random.below(2) == 0;
+  for (int channel = 0; channel < channels; ++channel) {
+    const int bins = 1 + call.random.below(call.random.below(2) == 0 ? 8 : 300);
+    lower.push_back(call.random.below(extent) - extent / 2);
+    upper.push_back(even ? lower.back() + bins * call.random.below(1 + extent / bins)
+                         : call.random.below(extent) - extent / 3);
+    counts.push_back(1 + bins);
+  }
+  call.setLengths("pLevels", counts);
+  setHistograms(call, counts);
+  if (call.function.source.elements == 1) {
+    call.set("lowerLevel", lower[0]);
+    call.set("upperLevel", upper[0]);
+  } else {
+    call.setArray("lowerLevel", lower);
+    call.setArray("upperLevel", upper);
+  }
+}
+
 }  // namespace
 
 std::vector<Family> measureFamilies() {
@@ -43,6 +190,63 @@ std::vector<Family> measureFamilies() {
        "null step size own",
        [](Call& call) { setLimits<Vemi32f>(call, 10000); },
        {{"lower", 10001, "own", vemiErrRange}}},
+      {"vemiMomentInitAlloc vemiMomentInit vemiMomentGetStateSize", ".*", "null", momentHint},
+      {"vemiMomentFree", ".*", "null tag", nullptr, {{"pState", 0, "tag", vemiErrContext, otherRecord}}},
+      {"vemiMoments64f vemiMoments64s",
+       ".*",
+       "null tag step size own",
+       setMomentState,
+       {{"pState", 0, "tag", vemiErrContext, otherRecord}, {"srcStep", 0, "own", vemiErrStride, shortStep}}},
+      {"vemiGetSpatialMoment vemiGetNormalizedSpatialMoment vemiGetCentralMoment vemiGetNormalizedCentralMoment",
+       ".*",
+       "null tag order channel divisor",
+       momentGetter,
+       {{"pState", 0, "tag", vemiErrContext, otherRecord},
+        {"mOrd", 4, "order", vemiErrSize},
+        {"mOrd", INT_MAX, "order", vemiErrSize},
+        {"mOrd", -1, "order", vemiErrSize},
+        {"nOrd", INT_MAX, "order", vemiErrSize},
+        {"nOrd", INT_MIN, "order", vemiErrSize},
+        {"nChannel", 3, "channel", vemiErrChannelIndex},
+        {"nChannel", -1, "channel", vemiErrChannelIndex},
+        {"S(0, 0)", 0, "divisor", vemiErrMomentZero, noDivisor}}},
+      {"vemiGetHuMoments",
+       ".*",
+       "null tag channel divisor",
+       momentGetter,
+       {{"pState", 0, "tag", vemiErrContext, otherRecord},
+        {"nChannel", 3, "channel", vemiErrChannelIndex},
+        {"nChannel", INT_MIN, "channel", vemiErrChannelIndex},
+        {"S(0, 0)", 0, "divisor", vemiErrMomentZero, noDivisor}}},
+
+      {"vemiHistogramRange",
+       ".*_C1R",
+       "null size step own",
+       histogramRange,
+       {{"nLevels", 1, "own", vemiErrHistogramLevels},
+        {"nLevels", 0, "own", vemiErrHistogramLevels},
+        {"nLevels", INT_MIN, "own", vemiErrHistogramLevels}}},
+      {"vemiHistogramRange",
+       ".*",
+       "null channels size step",
+       histogramRange,
+       {{"nLevels", 1, "channels", vemiErrHistogramLevels},
+        {"nLevels", 0, "channels", vemiErrHistogramLevels},
+        {"nLevels", INT_MIN, "channels", vemiErrHistogramLevels}}},
+      {"vemiHistogramEven",
+       ".*_C1R",
+       "null size step own",
+       histogramEven,
+       {{"nLevels", 1, "own", vemiErrHistogramLevels},
+        {"nLevels", 0, "own", vemiErrHistogramLevels},
+        {"nLevels", INT_MIN, "own", vemiErrHistogramLevels}}},
+      {"vemiHistogramEven",
+       ".*",
+       "null channels size step",
+       histogramEven,
+       {{"nLevels", 1, "channels", vemiErrHistogramLevels},
+        {"nLevels", 0, "channels", vemiErrHistogramLevels},
+        {"nLevels", INT_MIN, "channels", vemiErrHistogramLevels}}},
   };
 }
 

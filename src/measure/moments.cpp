@@ -1,0 +1,302 @@
+// The pass over the pixels: S(m, n) = sum of x^m y^n f, m + n <= 3, for each channel, and the states that take the
+// sums.
+//
+// A row first gives its four sums of x^m f, which then join those of the other rows under y^n. Bytes are summed as
+// integers, so nothing is rounded before a sum leaves 64 bits (64s) or the 53 bits of a double (64f). Floats are summed
+// in double precision in eight fixed strands of columns. The accurate way is the plain one, pixel by pixel.
+//
+// Checks: null, tag, step, size, stride.
+
+#include <cstring>
+#include <type_traits>
+
+#include "core/alloc.h"
+#include "core/exports.h"
+#include "core/image.h"
+#include "core/lanes.h"
+#include "measure/moment_state.h"
+#include "measure/row_pieces.h"
+
+namespace vemi {
+namespace {
+
+// ---- States -------------------------------------------------------------------------------------------------------
+
+void begin(VemiMomentState* pState, int tag, vemiHint hint) {
+  pState->tag = tag;
+  pState->hint = hint;
+  pState->nChannels = -1;
+}
+
+template <class Sum>
+VemiStatus initAlloc(VemiMomentState** ppState, vemiHint hint) {
+  if (ppState == nullptr) return vemiErrNullPtr;
+  void* const block = alignedAllocBytes(sizeof(VemiMomentState));
+  if (block == nullptr) return vemiErrMemAlloc;
+  *ppState = static_cast<VemiMomentState*>(block);
+  begin(*ppState, momentTag<Sum>, hint);
+  return vemiOk;
+}
+
+template <class Sum>
+VemiStatus release(VemiMomentState* pState) {
+  if (pState == nullptr) return vemiErrNullPtr;
+  if (VemiStatus bad = checkContext<Sum>(pState)) return bad;
+  pState->tag = 0;
+  vemiAlignedFree(pState);
+  return vemiOk;
+}
+
+// ---- Four sums of a piece of a row ---------------------------------------------------------------------------------
+
+/// The sums of x^m f for m = 0 to 3.
+template <class Sum>
+using RowSums = Vectors<Sum, momentOrders>;
+
+/// The sums of (origin + x)^m f from those of x^m f; of numbers or of lanes.
+template <class Sum>
+HWY_INLINE RowSums<Sum> shifted(Sum origin, const RowSums<Sum>& sums) {
+  const Sum s0 = sums.v[0], s1 = sums.v[1], s2 = sums.v[2], s3 = sums.v[3];
+  return {{s0, origin * s0 + s1, origin * (origin * s0 + (s1 + s1)) + s2,
+           origin * (origin * (origin * s0 + (s1 + s1 + s1)) + (s2 + s2 + s2)) + s3}};
+}
+
+template <class Sum>
+HWY_INLINE void addTo(RowSums<Sum>& total, const RowSums<Sum>& sums) {
+  unrolled<momentOrders>([&](auto m) { total.v[m] = total.v[m] + sums.v[m]; });
+}
+
+/// Up to this number of steps a lane's sums of sums fit 31 bits: 255 * (112 * 113 * 114 * 115) / 24 < 2^31.
+constexpr ptrdiff_t mostSteps = 112;
+constexpr int ladders = 2;  // vectors that climb side by side, since each addition waits for the one before it
+
+template <class T>
+constexpr ptrdiff_t pieceLength = sizeof(T) == 1 ? mostSteps* ladders* laneCount<int32_t> : 1024;
+
+/// Each lane of bytes takes nothing but four additions: to the sum, to the sum of the sums so far, and so on. After B
+/// steps these hold the lane's values under the binomials of their distance d = B - b from the end, from which the sums
+/// of d^k f follow; and the column of lane l is l + N b = (l + N B) - N d, with N the lanes of both vectors. All of it
+/// is far below 2^53, thus exact in doubles.
+template <class Sum>
+HWY_INLINE RowSums<Sum> sumsOfPiece(ptrdiff_t x, const Vemi8u* values, ptrdiff_t count) {
+  const Lanes<int32_t> d;
+  const hn::Rebind<uint8_t, decltype(d)> dBytes;
+  constexpr ptrdiff_t perVector = laneCount<int32_t>, N = ladders * perVector;
+  using V = hn::Vec<decltype(d)>;
+  RowSums<V> sum[ladders];
+  unrolled<ladders>([&](auto k) { unrolled<momentOrders>([&](auto m) { sum[k].v[m] = hn::Zero(d); }); });
+  const auto step = [&](const Vemi8u* bytes) HWY_ATTR {
+    unrolled<ladders>([&](auto k) HWY_ATTR {
+      V value = hn::PromoteTo(d, hn::LoadU(dBytes, bytes + k * perVector));
+      unrolled<momentOrders>([&](auto m) HWY_ATTR { value = sum[k].v[m] = hn::Add(sum[k].v[m], value); });
+    });
+  };
+  const ptrdiff_t whole = count / N, rest = count % N;
+  for (ptrdiff_t b = 0; b < whole; ++b) step(values + b * N);
+  if (rest > 0) {
+    Vemi8u last[N] = {};
+    std::memcpy(last, values + whole * N, static_cast<size_t>(rest));
+    step(last);
+  }
+
+  const Lanes<double> dSums;
+  constexpr double n = N;
+  const auto of = [&](double number) HWY_ATTR { return hn::Set(dSums, number); };
+  RowSums<hn::Vec<decltype(dSums)>> total;
+  unrolled<momentOrders>([&](auto m) { total.v[m] = hn::Zero(dSums); });
+  const auto addLanes = [&](ptrdiff_t first, const auto& part) HWY_ATTR {
+    const auto d0 = part(0), d1 = part(1), binomial2 = part(2), binomial3 = part(3);
+    const auto d2 = binomial2 + binomial2 - d1, d3 = of(6) * (binomial3 - binomial2) + d1;
+    const auto end = hn::Iota(dSums, static_cast<double>(N * (whole + (rest > 0)) + first));
+    addTo(total, shifted(end, decltype(total){{d0, of(-n) * d1, of(n * n) * d2, of(-n * n * n) * d3}}));
+  };
+  unrolled<ladders>([&](auto k) HWY_ATTR {
+    const auto lower = [&](int m) HWY_ATTR { return hn::PromoteTo(dSums, hn::LowerHalf(sum[k].v[m])); };
+    const auto upper = [&](int m) HWY_ATTR {
+      return hn::PromoteTo(dSums, hn::UpperHalf(hn::Half<decltype(d)>(), sum[k].v[m]));
+    };
+    addLanes(k * perVector, lower);
+    addLanes(k * perVector + perVector / 2, upper);
+  });
+  RowSums<Sum> sums;
+  unrolled<momentOrders>([&](auto m) HWY_ATTR {
+    sums.v[m] = static_cast<Sum>(static_cast<Vemi64s>(hn::GetLane(hn::SumOfLanes(dSums, total.v[m]))));
+  });
+  return shifted(static_cast<Sum>(x), sums);
+}
+
+/// Strand j takes the columns x + 8 i + j; the strands are added in halves.
+template <class Sum>
+HWY_INLINE RowSums<Sum> sumsOfPiece(ptrdiff_t x, const Vemi32f* values, ptrdiff_t count) {
+  constexpr ptrdiff_t strands = 8;
+  const hn::CappedTag<double, strands> d;
+  const hn::Rebind<float, decltype(d)> dFloats;
+  constexpr ptrdiff_t N = hn::MaxLanes(decltype(d)());
+  constexpr int vectors = strands / N;
+  using V = hn::Vec<decltype(d)>;
+  Vectors<V, vectors> sum[momentOrders], column;
+  unrolled<vectors>([&](auto k) HWY_ATTR {
+    unrolled<momentOrders>([&](auto m) HWY_ATTR { sum[m].v[k] = hn::Zero(d); });
+    column.v[k] = hn::Iota(d, static_cast<double>(x + k * N));
+  });
+  const auto step = [&](const Vemi32f* floats) HWY_ATTR {
+    unrolled<vectors>([&](auto k) HWY_ATTR {
+      V term = hn::PromoteTo(d, hn::LoadU(dFloats, floats + k * N));
+      sum[0].v[k] = hn::Add(sum[0].v[k], term);
+      unrolled<momentOrders - 1>([&](auto m) HWY_ATTR {
+        term = hn::Mul(term, column.v[k]);
+        sum[m + 1].v[k] = hn::Add(sum[m + 1].v[k], term);
+      });
+      column.v[k] = hn::Add(column.v[k], hn::Set(d, double{strands}));
+    });
+  };
+  const ptrdiff_t whole = count / strands * strands;
+  for (ptrdiff_t i = 0; i < whole; i += strands) step(values + i);
+  if (whole < count) {
+    Vemi32f last[strands] = {};
+    std::memcpy(last, values + whole, static_cast<size_t>(count - whole) * sizeof(Vemi32f));
+    step(last);
+  }
+  RowSums<Sum> sums;
+  unrolled<momentOrders>([&](auto m) HWY_ATTR {
+    alignas(laneAlignment) double strand[strands];
+    unrolled<vectors>([&](auto k) HWY_ATTR { hn::Store(sum[m].v[k], d, strand + k * N); });
+    for (int half = strands / 2; half > 0; half /= 2) {
+      for (int j = 0; j < half; ++j) strand[j] += strand[j + half];
+    }
+    sums.v[m] = strand[0];
+  });
+  return sums;
+}
+
+// ---- The region ---------------------------------------------------------------------------------------------------
+
+/// Unsigned where it counts, since sums of integers may wrap.
+template <class Sum>
+using Arithmetic = std::conditional_t<std::is_same_v<Sum, Vemi64s>, uint64_t, double>;
+
+template <class A>
+using Table = A[momentEntries];
+
+/// table[m + 4 n] += y^n * sums of x^m f.
+template <class A>
+void addRow(A y, const RowSums<A>& row, Table<A>& table) {
+  A power = 1;
+  for (int n = 0; n < momentOrders; ++n, power *= y) {
+    for (int m = 0; m < momentOrders - n; ++m) table[m + momentOrders * n] += power * row.v[m];
+  }
+}
+
+template <class L, class A, class T>
+void sumByRows(Image<const T> src, VemiSize roiSize, Table<A>* table) {
+  for (ptrdiff_t y = 0; y < roiSize.height; ++y) {
+    RowSums<A> row[L::channels] = {};
+    forEachPiece<L, pieceLength<T>>(src.row(y), roiSize.width,
+                                    [&](int channel, ptrdiff_t x, const T* values, ptrdiff_t count) {
+                                      addTo(row[channel], sumsOfPiece<A>(x, values, count));
+                                    });
+    for (int channel = 0; channel < L::channels; ++channel) addRow(static_cast<A>(y), row[channel], table[channel]);
+  }
+}
+
+/// One running sum for each entry, which takes x^m (y^n f) pixel after pixel. The powers of y stand side by side in
+/// lanes; the sums beyond order 3 are not wanted.
+template <class L, class T>
+void sumByPixels(Image<const T> src, VemiSize roiSize, Table<double>* table) {
+  const hn::CappedTag<double, momentOrders> d;
+  constexpr int N = static_cast<int>(hn::MaxLanes(decltype(d)()));
+  constexpr int vectors = momentOrders / N;
+  using V = hn::Vec<decltype(d)>;
+  for (int channel = 0; channel < L::channels; ++channel) {
+    Vectors<V, momentOrders> sum[vectors];
+    unrolled<vectors>([&](auto k) { unrolled<momentOrders>([&](auto m) { sum[k].v[m] = hn::Zero(d); }); });
+    for (ptrdiff_t y = 0; y < roiSize.height; ++y) {
+      const T* const row = src.row(y) + channel;
+      const double v = static_cast<double>(y);
+      alignas(laneAlignment) const double powers[momentOrders] = {1, v, v * v, v * v * v};
+      V column = hn::Zero(d);
+      for (ptrdiff_t x = 0; x < roiSize.width; ++x) {
+        T value;
+        std::memcpy(&value, row + x * L::elements, sizeof value);
+        const V f = hn::Set(d, static_cast<double>(value)), column2 = hn::Mul(column, column);
+        unrolled<vectors>([&](auto k) HWY_ATTR {
+          const V term = hn::Mul(hn::Load(d, powers + k * N), f);
+          sum[k].v[0] = hn::Add(sum[k].v[0], term);
+          sum[k].v[1] = hn::Add(sum[k].v[1], hn::Mul(column, term));
+          sum[k].v[2] = hn::Add(sum[k].v[2], hn::Mul(column2, term));
+          sum[k].v[3] = hn::Add(sum[k].v[3], hn::Mul(hn::Mul(column2, column), term));
+        });
+        column = hn::Add(column, hn::Set(d, 1.0));
+      }
+    }
+    unrolled<momentOrders>([&](auto m) HWY_ATTR {
+      alignas(laneAlignment) double entry[momentOrders];
+      unrolled<vectors>([&](auto k) HWY_ATTR { hn::Store(sum[k].v[m], d, entry + k * N); });
+      for (int n = 0; n < momentOrders - m; ++n) table[channel][m + momentOrders * n] = entry[n];
+    });
+  }
+}
+
+template <class Sum, class L, class T>
+VemiStatus moments(Image<const T> src, VemiSize roiSize, VemiMomentState* pState) {
+  if (VemiStatus bad = checkNull(src, pState)) return bad;
+  if (VemiStatus bad = firstOf(checkContext<Sum>(pState), checkStep(src), checkSize(roiSize))) return bad;
+  if (roiSize.width * pixelBytes < T, L >> src.step) return vemiErrStride;
+  using A = Arithmetic<Sum>;
+  Table<A> table[3] = {};
+  if constexpr (std::is_same_v<Sum, Vemi64f>) {
+    if (pState->hint == vemiHintAccurate) {
+      sumByPixels<L>(src, roiSize, table);
+    } else {
+      sumByRows<L, A>(src, roiSize, table);
+    }
+  } else {
+    sumByRows<L, A>(src, roiSize, table);
+  }
+  std::memcpy(&pState->sum, table, sizeof table);
+  pState->nChannels = L::channels;
+  return vemiOk;
+}
+
+}  // namespace
+}  // namespace vemi
+
+using namespace vemi;
+
+VemiStatus vemiMomentInitAlloc_64f(VemiMomentState** ppState, vemiHint hint) {
+  return initAlloc<Vemi64f>(ppState, hint);
+}
+VemiStatus vemiMomentInitAlloc_64s(VemiMomentState** ppState, vemiHint hint) {
+  return initAlloc<Vemi64s>(ppState, hint);
+}
+
+VemiStatus vemiMomentFree_64f(VemiMomentState* pState) { return release<Vemi64f>(pState); }
+VemiStatus vemiMomentFree_64s(VemiMomentState* pState) { return release<Vemi64s>(pState); }
+
+VemiStatus vemiMomentInit_64s(VemiMomentState* pState, vemiHint hint) {
+  if (pState == nullptr) return vemiErrNullPtr;
+  begin(pState, momentTag<Vemi64s>, hint);
+  return vemiOk;
+}
+
+VemiStatus vemiMomentGetStateSize_64s(vemiHint /*hint*/, int* pSize) {
+  if (pSize == nullptr) return vemiErrNullPtr;
+  *pSize = sizeof(VemiMomentState);
+  return vemiOk;
+}
+
+// A source whose sums a state record takes.
+#define VEMI_SRC_STATE(name, T, ...)                                                       \
+  VemiStatus name(const T* pSrc, int srcStep, VemiSize roiSize, VemiMomentState* pState) { \
+    return __VA_ARGS__(Image<const T>{pSrc, srcStep}, roiSize, pState);                    \
+  }
+
+VEMI_SRC_STATE(vemiMoments64f_8u_C1R, Vemi8u, moments<Vemi64f, C1>)
+VEMI_SRC_STATE(vemiMoments64f_8u_C3R, Vemi8u, moments<Vemi64f, C3>)
+VEMI_SRC_STATE(vemiMoments64f_8u_AC4R, Vemi8u, moments<Vemi64f, AC4>)
+VEMI_SRC_STATE(vemiMoments64f_32f_C1R, Vemi32f, moments<Vemi64f, C1>)
+VEMI_SRC_STATE(vemiMoments64f_32f_C3R, Vemi32f, moments<Vemi64f, C3>)
+VEMI_SRC_STATE(vemiMoments64f_32f_AC4R, Vemi32f, moments<Vemi64f, AC4>)
+VEMI_SRC_STATE(vemiMoments64s_8u_C1R, Vemi8u, moments<Vemi64s, C1>)
+VEMI_SRC_STATE(vemiMoments64s_8u_C3R, Vemi8u, moments<Vemi64s, C3>)
+VEMI_SRC_STATE(vemiMoments64s_8u_AC4R, Vemi8u, moments<Vemi64s, AC4>)

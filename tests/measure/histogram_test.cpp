@@ -1,0 +1,248 @@
+// Histograms: every method against counting pixel by pixel, bin by bin.
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+#include <numeric>
+
+#include "core/alloc.h"
+#include "support/check.h"
+
+using namespace vemi::test;
+
+namespace {
+
+double number(Element element, const std::byte* place) {
+  return element == Element::f32 ? static_cast<double>(load<float>(place))
+                                 : static_cast<double>(loadInteger(element, place));
+}
+
+/// By the numbered rules for even levels.
+std::vector<double> evenLevels(int lower, int upper, int count) {
+  const int64_t distance = int64_t{upper} - lower, n = count - 1, step = distance / n;
+  int64_t rest = distance % n;
+  std::vector<double> levels = {static_cast<double>(lower)};
+  for (int k = 1; k < count; ++k) {
+    double level = levels.back() + static_cast<double>(step);
+    if (step >= 0 && rest > 0) level += 1, --rest;
+    if (step < 0 && rest < 0) level -= 1, ++rest;
+    levels.push_back(level);
+  }
+  return levels;
+}
+
+void counted(Call& call) {
+  const View image = call.source(), levelArrays = call.array("pLevels");
+  const View histograms = call.array("pHist");
+  for (int channel = 0; channel < image.channels; ++channel) {
+    const int count = load<int>(call.constant("nLevels", channel));
+    std::vector<double> levels;
+    if (call.function.indexOf("lowerLevel") >= 0) {
+      levels = evenLevels(load<int>(call.constant("lowerLevel", channel)),
+                          load<int>(call.constant("upperLevel", channel)), count);
+      for (int k = 0; k < count; ++k) {
+        store(levelArrays.at(k, 0, channel), static_cast<Vemi32s>(levels[static_cast<size_t>(k)]));
+      }
+    } else {
+      for (int k = 0; k < count; ++k) levels.push_back(number(levelArrays.element, levelArrays.at(k, 0, channel)));
+    }
+    for (int bin = 0; bin < count - 1; ++bin) {
+      const double low = levels[static_cast<size_t>(bin)], high = levels[static_cast<size_t>(bin) + 1];
+      Vemi32s pixels = 0;
+      for (int y = 0; y < image.size.height; ++y) {
+        for (int x = 0; x < image.size.width; ++x) {
+          const double v = number(image.element, image.at(x, y, channel));
+          pixels += low <= v && v < high;
+        }
+      }
+      store(histograms.at(bin, 0, channel), pixels);
+    }
+  }
+}
+
+TEST(Histogram, EveryMember) {
+  expectDefinition(membersOf("vemiHistogramRange"), counted);
+  expectDefinition(membersOf("vemiHistogramEven"), counted);
+}
+
+/// Regions that are large enough for tables of 16-bit values, and pieces of rows.
+TEST(Histogram, LargerRegions) {
+  for (const char* const operation : {"vemiHistogramRange", "vemiHistogramEven"}) {
+    for (const Export* const function : membersOf(operation, "(16s|32f)_.*")) {
+      Scenario scenario;
+      for (const VemiSize size : {VemiSize{1024, 3}, VemiSize{1025, 2}, VemiSize{2070, 3}, VemiSize{131, 140}}) {
+        for (int seed = 0; seed < 6; ++seed) {
+          scenario.seed += 1;
+          scenario.roiSize = size;
+          if (!expectCall(*function, scenario, counted)) return;
+        }
+      }
+    }
+  }
+}
+
+/// A C1 call of 16s, straight.
+std::vector<Vemi32s> countsOf(const std::vector<Vemi16s>& pixels, const std::vector<Vemi32s>& levels, int width) {
+  std::vector<Vemi32s> counts(levels.size() - 1, -1);
+  EXPECT_EQ(vemiHistogramRange_16s_C1R(pixels.data(), width * 2, {width, static_cast<int>(pixels.size()) / width},
+                                       counts.data(), levels.data(), static_cast<int>(levels.size())),
+            vemiOk);
+  return counts;
+}
+
+std::vector<Vemi16s> allWords() {
+  std::vector<Vemi16s> words(65536);
+  std::iota(words.begin(), words.end(), Vemi16s{-32768});
+  return words;
+}
+
+/// Every value of 16 bits once; in small parts, which are searched or compared, and in one, which takes a table.
+TEST(Histogram, EveryWordInEveryMethod) {
+  const std::vector<Vemi16s> words = allWords();
+  std::vector<Vemi32s> finest(65537), thousands, few = {-40000, -32768, -5, 0, 1, 32767, 32768, 70000};
+  std::iota(finest.begin(), finest.end(), -32768);
+  for (int level = -32768; level <= 32768; level += 512) thousands.push_back(level);
+  std::vector<Vemi32s> shuffled = thousands;
+  std::reverse(shuffled.begin() + 10, shuffled.begin() + 90);
+  for (const std::vector<Vemi32s>& levels : {finest, thousands, few, shuffled}) {
+    std::vector<Vemi32s> expected(levels.size() - 1), parts(levels.size() - 1);
+    for (size_t k = 0; k + 1 < levels.size(); ++k) {
+      const Vemi32s low = std::clamp(levels[k], -32768, 32768), high = std::clamp(levels[k + 1], -32768, 32768);
+      expected[k] = std::max(high - low, 0);
+    }
+    EXPECT_EQ(countsOf(words, levels, 256), expected);
+    for (int part = 0; part < 16; ++part) {
+      const std::vector<Vemi16s> some(words.begin() + part * 4096, words.begin() + (part + 1) * 4096);
+      const std::vector<Vemi32s> counts = countsOf(some, levels, 64);
+      for (size_t k = 0; k < counts.size(); ++k) parts[k] += counts[k];
+    }
+    EXPECT_EQ(parts, expected);
+  }
+}
+
+/// Levels of which many fall together where a search would divide the range evenly.
+TEST(Histogram, CrowdedLevels) {
+  constexpr float infinity = std::numeric_limits<float>::infinity(), largest = std::numeric_limits<float>::max();
+  std::vector<std::vector<float>> lists(4);
+  for (int i = 0; i < 200; ++i) lists[0].push_back(std::ldexp(1.0f, i - 140));
+  for (int i = 0; i < 150; ++i) lists[1].push_back(1.0f + static_cast<float>(i) * 1.2e-7f);
+  lists[1].push_back(1e30f);
+  for (int i = 0; i < 100; ++i) lists[2].push_back(static_cast<float>(i) * 1e-44f);
+  for (int i = 0; i < 100; ++i) lists[3].push_back(static_cast<float>(i - 50) * 1e36f);
+  lists[3].insert(lists[3].begin(), {-infinity, -largest});
+  lists[3].insert(lists[3].end(), {largest, infinity});
+  for (std::vector<float>& levels : lists) {
+    std::sort(levels.begin(), levels.end());
+    levels.erase(std::unique(levels.begin(), levels.end()), levels.end());
+    std::vector<float> pixels = {infinity, -infinity, std::numeric_limits<float>::quiet_NaN(), 0.0f, -0.0f};
+    for (const float level : levels) {
+      pixels.insert(pixels.end(), {level, std::nextafter(level, -infinity), std::nextafter(level, infinity)});
+    }
+    std::vector<Vemi32s> expected(levels.size() - 1), counts(levels.size() - 1, -1);
+    for (const float v : pixels) {
+      for (size_t k = 0; k + 1 < levels.size(); ++k) expected[k] += levels[k] <= v && v < levels[k + 1];
+    }
+    const int width = static_cast<int>(pixels.size());
+    EXPECT_EQ(vemiHistogramRange_32f_C1R(pixels.data(), width * 4, {width, 1}, counts.data(), levels.data(),
+                                         static_cast<int>(levels.size())),
+              vemiOk);
+    EXPECT_EQ(counts, expected);
+  }
+}
+
+TEST(Histogram, EvenLevels) {
+  const struct {
+    Vemi32s lower, upper;
+    std::vector<Vemi32s> levels;
+  } cases[] = {
+      {0, 255, {0, 128, 255}},
+      {10, 12, {10, 11, 12, 12, 12}},
+      {0, 11, {0, 4, 8, 11}},
+      {11, 0, {11, 7, 3, 0}},
+      {5, 3, {5, 5, 5, 5}},
+      {7, 7, {7, 7, 7}},
+      {std::numeric_limits<int>::min(),
+       std::numeric_limits<int>::max(),
+       {std::numeric_limits<int>::min(), 0, std::numeric_limits<int>::max()}},
+      {std::numeric_limits<int>::max(),
+       std::numeric_limits<int>::min(),
+       {std::numeric_limits<int>::max(), -1, std::numeric_limits<int>::min()}},
+  };
+  for (const auto& each : cases) {
+    const int count = static_cast<int>(each.levels.size());
+    std::vector<Vemi32s> levels(each.levels.size()), counts(each.levels.size() - 1);
+    const Vemi8u pixel = 3;
+    EXPECT_EQ(vemiHistogramEven_8u_C1R(&pixel, 1, {1, 1}, counts.data(), levels.data(), count, each.lower, each.upper),
+              vemiOk);
+    EXPECT_EQ(levels, each.levels);
+    const Vemi16s word = 3;
+    EXPECT_EQ(vemiHistogramEven_16s_C1R(&word, 2, {1, 1}, counts.data(), levels.data(), count, each.lower, each.upper),
+              vemiOk);
+    EXPECT_EQ(levels, each.levels);
+  }
+}
+
+/// Of all calls with levels of one kind, those that take a table are the ones that fail without memory.
+class ShortMemory : public ::testing::Test {
+ protected:
+  ShortMemory() : former_(vemi::testing::allocate) {
+    vemi::testing::allocate = [](size_t) -> void* { return nullptr; };
+  }
+  ~ShortMemory() override { vemi::testing::allocate = former_; }
+
+ private:
+  void* (*former_)(size_t);
+};
+using HistogramWithoutMemory = ShortMemory;
+
+TEST_F(HistogramWithoutMemory, FailsWhereTheRuleTakesATable) {
+  const std::vector<Vemi16s> pixels(4 * 124000);
+  const auto statusOf = [&](int channels, int pixelCount, int levelCount, bool rising) {
+    std::vector<Vemi32s> levels(static_cast<size_t>(levelCount)), counts(levels.size(), 77);
+    std::iota(levels.begin(), levels.end(), 0);
+    if (!rising) levels[1] = levels[0];
+    Vemi32s* const pHist[4] = {counts.data(), counts.data(), counts.data(), counts.data()};
+    const Vemi32s* const pLevels[4] = {levels.data(), levels.data(), levels.data(), levels.data()};
+    const int nLevels[4] = {levelCount, levelCount, levelCount, levelCount};
+    const VemiSize size = {pixelCount, 1};
+    const int step = 1;
+    const VemiStatus status =
+        channels == 1 ? vemiHistogramRange_16s_C1R(pixels.data(), step, size, counts.data(), levels.data(), levelCount)
+        : channels == 3 ? vemiHistogramRange_16s_C3R(pixels.data(), step, size, pHist, pLevels, nLevels)
+                        : vemiHistogramRange_16s_C4R(pixels.data(), step, size, pHist, pLevels, nLevels);
+    EXPECT_EQ(counts[0] == 77, status == vemiErrMemAlloc);
+    return status;
+  };
+  const struct {
+    int channels, pixels, levels;
+    bool rising;
+  } firstToFail[] = {{1, 12544, 215, true}, {1, 16384, 75, true},  {1, 123904, 7, true},  {1, 1024, 443, false},
+                     {1, 82944, 7, false},  {3, 12544, 263, true}, {3, 1024, 407, false}, {3, 73984, 15, true},
+                     {4, 12544, 191, true}, {4, 50176, 19, true},  {4, 1024, 359, false}, {4, 57600, 15, false}};
+  for (const auto& each : firstToFail) {
+    // A third of three equal numbers of levels comes out one less.
+    const int atLimit = each.levels - 1, above = each.channels == 3 ? each.levels + 1 : each.levels;
+    EXPECT_EQ(statusOf(each.channels, each.pixels, above, each.rising), vemiErrMemAlloc)
+        << each.channels << " channels, " << each.pixels << " pixels, " << above << " levels";
+    EXPECT_EQ(statusOf(each.channels, each.pixels, atLimit, each.rising), vemiOk);
+    EXPECT_EQ(statusOf(each.channels, each.pixels - 1, above, each.rising), vemiOk);
+  }
+}
+
+TEST_F(HistogramWithoutMemory, EvenBinsNeverFail) {
+  const std::vector<Vemi16s> pixels = allWords();
+  const VemiSize size = {256, 256};
+  std::vector<Vemi32s> counts(65536, 77), levels(65537);
+  EXPECT_EQ(vemiHistogramEven_16s_C1R(pixels.data(), 512, size, counts.data(), levels.data(), 65537, -32768, 32768),
+            vemiOk);
+  EXPECT_EQ(std::count(counts.begin(), counts.end(), 1), 65536);
+  counts[0] = 77;
+  EXPECT_EQ(vemiHistogramEven_16s_C1R(pixels.data(), 512, size, counts.data(), levels.data(), 101, 0, 101),
+            vemiErrMemAlloc);
+  EXPECT_EQ(counts[0], 77);
+  EXPECT_EQ(levels[1], 2);
+}
+
+}  // namespace
