@@ -72,5 +72,7 @@ Family bitImageFamily();
 Family lutFamily();
 Family gammaFamily();
 Family countsFamily();
+Family noiseFamily();
+Family generatedFamily();
 
 }  // namespace bench

@@ -52,6 +52,8 @@ constexpr FamilyTable families[] = {
     lutFamily,
     gammaFamily,
     countsFamily,
+    noiseFamily,
+    generatedFamily,
 };
 
 constexpr const char* usage =

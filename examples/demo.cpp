@@ -74,6 +74,10 @@ constexpr Section sections[] = {
      demoTables},
     {"Histograms and moments",
      "Numbers out of a picture: how many pixels lie between levels, and where their values are gathered.", demoCounts},
+    {"Patterns, noise, windows",
+     "Images out of numbers: ramps and a chirp to test with, noise that a seed repeats to the bit, and windows that "
+     "let a picture fade towards its rim.",
+     demoGenerate},
 };
 
 Options optionsFrom(int argc, char** argv) {

@@ -28,5 +28,6 @@ void demoStatistics(const Demo& demo);
 void demoThreshold(const Demo& demo);
 void demoTables(const Demo& demo);
 void demoCounts(const Demo& demo);
+void demoGenerate(const Demo& demo);
 
 }  // namespace demo

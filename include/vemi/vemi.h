@@ -17,6 +17,7 @@
 
 #include "vemi/arith.h"
 #include "vemi/core.h"
+#include "vemi/generate.h"
 #include "vemi/map.h"
 #include "vemi/measure.h"
 #include "vemi/status.h"

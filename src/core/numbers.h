@@ -121,6 +121,33 @@ HWY_INLINE V roundTiesEven(D d, V value) {
   return hn::Add(down, hn::IfThenElseZero(up, hn::Set(d, 1.0f)));
 }
 
+namespace detail {
+
+/// Its lower half is the nearest integer: at the size of 2^52 the last bit of a double counts ones.
+template <class V>
+HWY_INLINE auto integerInLowerHalf(V v) {
+  const hn::DFromV<V> d;
+  return hn::BitCast(hn::RebindToUnsigned<decltype(d)>(), hn::Add(v, hn::Set(d, 0x1.8p52)));
+}
+
+}  // namespace detail
+
+/// The nearest integers, ties to even, of two vectors of doubles below 2^31, one behind the other. A double sum rounds
+/// them, in the rounding mode of all sums.
+template <class D, class V>
+HWY_INLINE hn::Vec<D> nearestIntegers(D d, V lower, V upper) {
+  return hn::ConcatEven(d, hn::BitCast(d, detail::integerInLowerHalf(upper)),
+                        hn::BitCast(d, detail::integerInLowerHalf(lower)));
+}
+
+/// The same, by turns.
+template <class D, class V>
+HWY_INLINE hn::Vec<D> nearestIntegerPairs(D d, V even, V odd) {
+  const auto lower = detail::integerInLowerHalf(even), upper = detail::integerInLowerHalf(odd);
+  const auto lowerHalf = hn::Set(hn::DFromV<decltype(lower)>(), 0xffffffff);
+  return hn::BitCast(d, hn::Or(hn::And(lower, lowerHalf), hn::ShiftLeft<32>(upper)));
+}
+
 // ---- The approximate reciprocal -----------------------------------------------------------------------------------
 //
 // Processors differ in theirs, so it is computed by its classic definition. For a normal x = (1 + f) 2^e let i be the

@@ -89,6 +89,39 @@ struct LnOfInteger {
   static constexpr uint64_t rootOfHalf = 0x3fe6a09e667f3bcd;
 };
 
+/// The logarithm of positive normal numbers in double-precision lanes, within one unit in the last place; the same bits
+/// on all levels. Of other numbers it makes anything.
+///
+/// With x = 2^e (1 + f), 1 + f from the root of 1/2 to the root of 2, and t = f / (2 + f):
+/// ln(1 + f) = 2 artanh t = 2 t + t R(t^2) = f - f^2 / 2 + t (f^2 / 2 + R(t^2)).
+struct Ln64f {
+  template <class D, class V>
+  HWY_INLINE V operator()(D d, V x) const {
+    const hn::RebindToUnsigned<D> du;
+    // The exponent above the fraction, both counted from the root of 1/2.
+    const auto aboveRoot = hn::Sub(hn::BitCast(du, x), hn::Set(du, rootOfHalf));
+    const auto biased = hn::ShiftRight<52>(hn::Add(aboveRoot, hn::Set(du, uint64_t{1023} << 52)));
+    const V e = hn::Sub(hn::BitCast(d, hn::Or(biased, hn::BitCast(du, hn::Set(d, 0x1p52)))), hn::Set(d, 0x1p52 + 1023));
+    const auto fraction = hn::And(aboveRoot, hn::Set(du, (uint64_t{1} << 52) - 1));
+    const V f = hn::Sub(hn::BitCast(d, hn::Add(fraction, hn::Set(du, rootOfHalf))), hn::Set(d, 1.0));
+
+    const V t = hn::Div(f, hn::Add(hn::Set(d, 2.0), f));
+    const V t2 = hn::Mul(t, t);
+    const V halfSquare = hn::Mul(hn::Mul(f, f), hn::Set(d, 0.5));
+    const V odd = hn::Mul(t, hn::Add(halfSquare, hn::Mul(t2, polynomial(d, t2, p))));
+    const V small = hn::Sub(halfSquare, hn::Add(odd, hn::Mul(e, hn::Set(d, ln2Lower))));
+    return hn::Sub(hn::Mul(e, hn::Set(d, ln2Upper)), hn::Sub(small, f));
+  }
+
+ private:
+  static constexpr uint64_t rootOfHalf = 0x3fe6a09e667f3bcd;
+  // ln 2 in two parts; the first has so few bits that its product with an exponent is exact.
+  static constexpr double ln2Upper = 0x1.62e42fefp-1, ln2Lower = 0x1.473de6af278edp-34;
+  // The minimax polynomial of R(t^2) / t^2.
+  static constexpr double p[] = {0x1.5555555555592p-1, 0x1.999999997fd7ap-2, 0x1.24924941f4e05p-2, 0x1.c71c520615de1p-3,
+                                 0x1.74663fa07a006p-3, 0x1.39a1a70c46460p-3, 0x1.2f0634596e756p-3};
+};
+
 struct IsNotAboveZero {
   template <class D, class V>
   HWY_INLINE auto operator()(D d, V v) const {

@@ -224,6 +224,27 @@ TEST(RoundTiesEven, IsIndependentOfTheRoundingMode) {
   });
 }
 
+TEST(NearestIntegers, OfDoublesKeepTheirOrder) {
+  std::vector<double> values = {2147483646.5, -2147483647.5, 2147483647.25, -2147483648.25, 0.0, -0.0};
+  for (int k = -3000; k <= 3000; ++k) {
+    for (const double v : {k + 0.5, std::nextafter(k + 0.5, -1e9), std::nextafter(k + 0.5, 1e9)}) values.push_back(v);
+  }
+  const Lanes<int32_t> d;
+  const Lanes<double> dWide;
+  constexpr size_t N = laneCount<double>;
+  std::vector<int32_t> inSequence(2 * N), byTurns(2 * N);
+  for (size_t first = 0; first + 2 * N <= values.size(); first += 2 * N) {
+    const auto lower = hn::LoadU(dWide, &values[first]), upper = hn::LoadU(dWide, &values[first + N]);
+    hn::StoreU(nearestIntegers(d, lower, upper), d, inSequence.data());
+    hn::StoreU(nearestIntegerPairs(d, lower, upper), d, byTurns.data());
+    for (size_t i = 0; i < 2 * N; ++i) {
+      const double expected = std::nearbyint(values[first + i]);
+      ASSERT_EQ(inSequence[i], expected) << values[first + i];
+      ASSERT_EQ(byTurns[i < N ? 2 * i : 2 * (i - N) + 1], expected) << values[first + i];
+    }
+  }
+}
+
 uint32_t reciprocalBits(uint32_t bits) {
   return std::bit_cast<uint32_t>(approximateReciprocal(std::bit_cast<float>(bits)));
 }

@@ -40,6 +40,7 @@ std::vector<Family> coreFamilies();
 std::vector<Family> arithFamilies();
 std::vector<Family> mapFamilies();
 std::vector<Family> measureFamilies();
+std::vector<Family> generateFamilies();
 
 /// Throws where the table has no row for the function.
 const Family& familyOf(const Export& function);

@@ -1,0 +1,145 @@
+// vemiWinBartlett, vemiWinHamming and their Sep forms.
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cmath>
+#include <cstdlib>
+#include <vector>
+
+#include "core/alloc.h"
+#include "support/check.h"
+
+using namespace vemi::test;
+
+namespace {
+
+constexpr double twoPi = 6.283185307179586;
+
+bool isTooSmall(Call& call) {
+  const VemiSize size = call.get<VemiSize>("roiSize");
+  if (size.width >= 3 && size.height >= 3) return false;
+  call.expectedStatus = vemiErrSize;
+  return true;
+}
+
+template <class Weighted>
+void multiply(Call& call, const Weighted& weighted) {
+  if (isTooSmall(call)) return;
+  const View source = call.source(), destination = call.destination();
+  call.anyNaN = true;
+  call.forEachElement([&](int x, int y, int) {
+    if (source.element == Element::f32) {
+      store(destination.at(x, y), weighted(x, y, load<float>(source.at(x, y))));
+    } else {
+      const float value = static_cast<float>(loadInteger(source.element, source.at(x, y)));
+      storeSaturated(source.element, destination.at(x, y), static_cast<int64_t>(std::nearbyint(weighted(x, y, value))));
+    }
+  });
+}
+
+double bartlett(int k, int n) { return std::min(2.0 * k, 2.0 * (n - 1 - k)) / (n - 1); }
+double hamming(int k, int n) { return 0.54 - 0.46 * std::cos(twoPi * std::min(k, n - 1 - k) / (n - 1)); }
+
+Reference separable(double (*window)(int k, int n)) {
+  return [=](Call& call) {
+    const VemiSize size = call.get<VemiSize>("roiSize");
+    multiply(call, [=](int x, int y, float value) {
+      const volatile float first = value * static_cast<float>(window(x, size.width));
+      const volatile float second = first * static_cast<float>(window(y, size.height));
+      return second;
+    });
+  };
+}
+
+/// A 32f product is rounded to single precision, an 8u product from double precision to an integer.
+template <class Weight>
+Reference radial(Weight weight) {
+  return [=](Call& call) {
+    const VemiSize size = call.get<VemiSize>("roiSize");
+    const double cx = 0.5 * size.width, cy = 0.5 * size.height, q = cy / cx;
+    const auto product = [=](int x, int y, double value) {
+      const double dx = cx - std::min(x, size.width - 1 - x), dy = cy - std::min(y, size.height - 1 - y);
+      if (dx * dx / (cx * cx) + dy * dy / (cy * cy) >= 1.0) return 0.0;
+      return value * weight(std::sqrt(dx * dx + dy * dy / (q * q)), size.width);
+    };
+    if (call.function.members.find("32f") != std::string::npos) {
+      multiply(call, [=](int x, int y, float value) { return static_cast<float>(product(x, y, value)); });
+    } else {
+      multiply(call, [=](int x, int y, float value) { return product(x, y, value); });
+    }
+  };
+}
+
+double radialBartlett(double r, int width) { return 1.0 - r / (0.5 * width); }
+double radialHamming(double r, int width) { return 0.54 - 0.46 * std::cos((0.5 * width - r) * twoPi / width); }
+
+template <class T>
+using InPlace = VemiStatus(T* pSrcDst, int srcDstStep, VemiSize roiSize);
+
+std::vector<Vemi32f> ofOnes(InPlace<Vemi32f>* function, VemiSize size) {
+  std::vector<Vemi32f> image(static_cast<size_t>(size.width * size.height), 1.0f);
+  EXPECT_EQ(function(image.data(), 4 * size.width, size), vemiOk);
+  return image;
+}
+
+}  // namespace
+
+TEST(WinSep, EveryMember) {
+  expectDefinition(membersOf("vemiWinBartlettSep"), separable(bartlett));
+  expectDefinition(membersOf("vemiWinHammingSep"), separable(hamming));
+}
+
+TEST(Win, EveryMember) {
+  expectDefinition(membersOf("vemiWinBartlett"), radial(radialBartlett));
+  expectDefinition(membersOf("vemiWinHamming"), radial(radialHamming));
+}
+
+TEST(Win, LargeRegions) {
+  for (const VemiSize size : {VemiSize{1001, 600}, VemiSize{600, 1001}, VemiSize{512, 512}}) {
+    for (const char* members : {"8u_C1R", "32f_C1R"}) {
+      expectCall(*membersOf("vemiWinBartlett", members).front(), {size}, radial(radialBartlett));
+      expectCall(*membersOf("vemiWinHamming", members).front(), {size}, radial(radialHamming));
+    }
+  }
+}
+
+TEST(WinSep, OfThreeByThreeLeavesTheMiddle) {
+  const std::vector<Vemi32f> expected = {0, 0, 0, 0, 1, 0, 0, 0, 0};
+  EXPECT_EQ(ofOnes(vemiWinBartlettSep_32f_C1IR, {3, 3}), expected);
+}
+
+TEST(Win, CornersAreZero) {
+  for (int width = 3; width < 40; ++width) {
+    for (const int height : {3, 4, 17, 64}) {
+      for (InPlace<Vemi32f>* const function : {vemiWinBartlett_32f_C1IR, vemiWinHamming_32f_C1IR}) {
+        const std::vector<Vemi32f> image = ofOnes(function, {width, height});
+        const size_t right = static_cast<size_t>(width - 1), bottom = image.size() - 1 - right;
+        for (const size_t corner : {size_t{0}, right, bottom, bottom + right}) EXPECT_EQ(image[corner], 0.0f);
+      }
+    }
+  }
+}
+
+// Any of the allocations of a call fails: nothing is written, nothing is lost.
+TEST(Win, ReportsMissingMemory) {
+  static int allowed, held;
+  vemi::testing::allocate = [](size_t size) -> void* { return allowed-- > 0 ? ++held, std::malloc(size) : nullptr; };
+  vemi::testing::release = [](void* base) { --held, std::free(base); };
+  const auto expectFailures = [](InPlace<Vemi32f>* function, int allocations) {
+    for (int n = 0; n <= allocations; ++n) {
+      Vemi32f image[16] = {1};
+      allowed = n;
+      held = 0;
+      EXPECT_EQ(function(image, 16, {4, 4}), n < allocations ? vemiErrMemAlloc : vemiOk);
+      EXPECT_EQ(image[0] == 1, n < allocations);
+      EXPECT_EQ(held, 0);
+    }
+  };
+  expectFailures(vemiWinBartlett_32f_C1IR, 1);
+  expectFailures(vemiWinHamming_32f_C1IR, 1);
+  expectFailures(vemiWinBartlettSep_32f_C1IR, 2);
+  expectFailures(vemiWinHammingSep_32f_C1IR, 2);
+  vemi::testing::allocate = std::malloc;
+  vemi::testing::release = std::free;
+}
