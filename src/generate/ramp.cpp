@@ -15,24 +15,18 @@
 namespace vemi {
 namespace {
 
-/// Half away from zero and limited to T; half of one is added in single precision. A NaN is zero.
+/// Halves away from zero and limited to T; half of one is added in single precision. A NaN is zero.
 template <class T, class D, class V>
 HWY_INLINE auto elementsOf(D d, V v) {
   if constexpr (std::is_same_v<T, float>) {
     return v;
   } else {
     const hn::RebindToSigned<D> di;
-    const V half = hn::Set(d, 0.5f);
-    V magnified;
-    if constexpr (std::is_unsigned_v<T>) {
-      magnified = hn::Add(v, half);
-    } else {
-      magnified = hn::Add(v, hn::IfThenElse(hn::Gt(v, hn::Zero(d)), half, hn::Neg(half)));
-    }
+    const V magnified = hn::Add(v, hn::CopySign(hn::Set(d, 0.5f), v));
     const auto integer = hn::ConvertTo(di, hn::IfThenElseZero(hn::Eq(v, v), magnified));
     if constexpr (sizeof(T) == 4) {
       return integer;
-    } else {  // the lane library narrows to bytes rightly from 16 bits alone
+    } else {  // narrowing to bytes, the lane library takes what 16 bits do not hold for negative
       const auto limited = hn::Min(integer, hn::Set(di, std::numeric_limits<T>::max()));
       return hn::DemoteTo(hn::Rebind<T, D>(), limited);
     }

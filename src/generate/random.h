@@ -104,7 +104,7 @@ class BorrowingSequence {
  private:
   using D = hn::CappedTag<uint32_t, 8>;
   using V = hn::Vec<D>;
-  static constexpr int N = static_cast<int>(hn::MaxLanes(D())), half = 8 / N;
+  static constexpr ptrdiff_t N = hn::MaxLanes(D()), half = 8 / N;
 
   /// A block's values without borrows.
   using Continued = Vectors<V, 2 * half>;
@@ -142,13 +142,10 @@ class BorrowingSequence {
   /// To the next block. The continuation is linear, so it need not wait for the values: it goes on from its own end,
   /// with the responses to this block's signs.
   HWY_INLINE void goOn(size_t early, size_t late) {
-    alignas(laneAlignment) static constexpr uint32_t places[3][8] = {
-        {N - 3, N - 3, N - 3, N - 3, N - 3, N - 3, N - 3, N - 3},
-        {N - 2, N - 2, N - 2, N - 2, N - 2, N - 2, N - 2, N - 2},
-        {N - 1, N - 1, N - 1, N - 1, N - 1, N - 1, N - 1, N - 1}};
     const V end = here_.v[2 * half - 1];
     const auto part = [&](int which, int v) HWY_ATTR {
-      const V last = hn::TableLookupLanes(end, hn::SetTableIndices(D(), places[which]));
+      const auto place = hn::IndicesFromVec(D(), hn::Set(D(), static_cast<uint32_t>(N - 3 + which)));
+      const V last = hn::TableLookupLanes(end, place);
       return hn::Mul(last, hn::Load(D(), detail::borrowingResponses.ofLast[which] + v * N));
     };
     const auto continuation = [&](int v) HWY_ATTR { return hn::Add(hn::Add(part(0, v), part(1, v)), part(2, v)); };

@@ -2,8 +2,6 @@
 // Checks: null, size (3 at least), step; then scratch.
 
 #include <algorithm>
-#include <bit>
-#include <cmath>
 #include <cstring>
 #include <type_traits>
 
