@@ -37,9 +37,8 @@ extern "C" {
  *     vemiRndZero   2     3     0     255        -2      0    127
  *
  * Infinities are limited like numbers; a NaN gives the largest value of the destination's type. The rounding mode of
- * the calling thread has no influence and is the same after the call as before. The other controls of its
- * floating-point unit stay in force: if exceptions are unmasked, an inexact conversion or a NaN raises its own, in
- * alpha too.
+ * the calling thread has no influence, and no floating-point exception reaches it, be it unmasked: on return the
+ * thread's control word is what it was before the call, with its rounding mode, masks and flags.
  *
  * @param pSrc,srcStep   first pixel of the source, and the bytes between its rows
  * @param pDst,dstStep   the same of the destination
@@ -296,10 +295,16 @@ VEMI_API VemiStatus vemiConvert_8u1u_C1R(const Vemi8u* pSrc, int srcStep, Vemi1u
  * 254. Products and sums are double precision. What 8u was scaled up comes back by the fast path, and from 32s by the
  * accurate one too.
  *
- * **8u32f.** vMin + x ((vMax - vMin) / 255). **32f8u.** Values are limited to vMin..vMax; then, with k = 255 / (vMax -
- * vMin), the nearest integer to x k + (-k vMin), ties to the even one, limited to 0..255. Each operation is rounded to
- * single precision on its own. A NaN counts as vMin. Where vMax - vMin or k overflows single precision all results are
- * 0. The rounding mode of the calling thread has no influence and is the same after the call as before.
+ * **8u32f.** vMin + x ((vMax - vMin) / 255). Where vMax - vMin overflows single precision this is an infinity or, as
+ * for 0, a NaN.
+ *
+ * **32f8u.** Values are limited to vMin..vMax; then, with k = 255 / (vMax - vMin), the nearest integer to x k +
+ * (-k vMin), ties to the even one, limited to 0..255. A NaN counts as vMin. Where vMax - vMin or k overflows single
+ * precision all results are 0.
+ *
+ * Each of these operations is rounded to single precision on its own. The rounding mode of the calling thread has no
+ * influence, and no floating-point exception reaches it; on return its control word is what it was before the call.
+ * Denormal floats are numbers, unless the thread has told its floating-point unit to flush them to zero.
  *
  * @param pSrc,srcStep   first pixel of the source, and the bytes between its rows
  * @param pDst,dstStep   the same of the destination
@@ -917,8 +922,7 @@ VEMI_API VemiStatus vemiCompareC_32f_AC4R(const Vemi32f* pSrc, int srcStep, cons
  *
  * **Threads.** All forms run in the calling thread.
  *
- *     vemiCompareEqualEps_32f_C1R(a, aStep, b, bStep, map, mapStep, size, 0.5f);   // 1.0 and 1.5 -> 255, 1.0 and 2.0
- * -> 0
+ *     vemiCompareEqualEps_32f_C1R(a, aStep, b, bStep, map, mapStep, size, 0.5f);   // 1 and 1.5 -> 255
  * @{
  */
 

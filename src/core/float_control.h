@@ -3,6 +3,7 @@
 #pragma once
 
 #include "core/lanes.h"
+#include "vemi/status.h"
 
 #if !HWY_ARCH_X86
 #error "the control word of this processor's lanes is to be written"
@@ -20,22 +21,23 @@ namespace detail {
 
 /// The compiler moves float arithmetic freely across a change of the control word, but not out of a function.
 template <class F>
-HWY_NOINLINE void runApart(const F& f) {
-  f();
+HWY_NOINLINE VemiStatus runApart(const F& f) {
+  return f();
 }
 
 }  // namespace detail
 
-/// Calls f() while lanes and SSE scalars round as told. No exception ends the program, whatever the caller has
+/// f(), a status, while lanes and SSE scalars round as told. No exception ends the program, whatever the caller has
 /// unmasked, and afterwards the control word is the caller's again, with its flags.
 template <class F>
-void withRounding(Rounding rounding, const F& f) {
+VemiStatus withRounding(Rounding rounding, const F& f) {
   const unsigned callers = _mm_getcsr();
   const unsigned own =
       (callers & ~unsigned{_MM_ROUND_MASK | _MM_EXCEPT_INVALID}) | _MM_MASK_MASK | static_cast<unsigned>(rounding);
   if (own != callers) _mm_setcsr(own);
-  detail::runApart(f);
+  const VemiStatus status = detail::runApart(f);
   if (_mm_getcsr() != callers) _mm_setcsr(callers);
+  return status;
 }
 
 /// Within withRounding: whether an operation so far had no valid result. So a fast kernel runs without looking at its

@@ -137,10 +137,4 @@ HWY_INLINE hn::Vec<D> packBytes(D, V lower, V upper) {
   return hn::Vec<D>{detail::packBytes(lower, upper)};
 }
 
-/// Lanes of 16 bits that are all ones or zero as such bytes, arranged as by packBytes.
-template <class V>
-HWY_INLINE auto packMasks(V lower, V upper) {
-  return hn::Vec<Lanes<uint8_t>>{detail::packSignedBytes(lower, upper)};
-}
-
 }  // namespace vemi

@@ -5,63 +5,23 @@
 #include <cstddef>
 #include <cstdint>
 
+#include "core/element_width.h"
 #include "core/interleave.h"
 #include "core/lanes.h"
 
 namespace vemi {
 
-namespace detail {
-
-/// Packing `vectors` vectors into one joins their first 128-bit blocks, then their second ones, and so on. This is
-/// where each 32-bit unit of the row is found in that.
-template <int vectors>
-struct PackedOrder {
-  alignas(laneAlignment) uint32_t index[laneCount<uint32_t>];
-
-  constexpr PackedOrder() : index() {
-    constexpr uint32_t count = laneCount<uint32_t>, blocks = count / 4, unit = 4 / vectors;
-    for (uint32_t i = 0; i < count; ++i) {
-      const uint32_t vector = i / (blocks * unit), block = i / unit % blocks;
-      index[i] = block * 4 + vector * unit + i % unit;
-    }
-  }
-};
-
-template <int vectors>
-inline constexpr PackedOrder<vectors> packedOrder;
-
-/// Packed lanes of `vectors` vectors in the order of the row.
-template <int vectors, class V>
-HWY_INLINE auto inRowOrder(V packed) {
-  const Lanes<uint32_t> dUnits;
-  const auto units = hn::BitCast(dUnits, packed);
-  if constexpr (laneCount<uint32_t> == 4) return units;
-  return hn::TableLookupLanes(units, hn::SetTableIndices(dUnits, packedOrder<vectors>.index));
-}
-
-}  // namespace detail
-
 /// Masks of bytes, or of as many vectors of wider elements as an element has bytes, in one vector of bytes.
-template <class V>
-HWY_INLINE auto maskBytes(V v) {
-  static_assert(sizeof(hn::TFromV<V>) == 1);
-  return hn::BitCast(Lanes<uint8_t>(), v);
-}
-
-template <class V>
-HWY_INLINE auto maskBytes(V v0, V v1) {
-  static_assert(sizeof(hn::TFromV<V>) == 2);
-  return hn::BitCast(Lanes<uint8_t>(), detail::inRowOrder<2>(packMasks(v0, v1)));
-}
-
-template <class V>
-HWY_INLINE auto maskBytes(V v0, V v1, V v2, V v3) {
-  static_assert(sizeof(hn::TFromV<V>) == 4);
-  const auto in16Bits = [](V lower, V upper) HWY_ATTR {
-    const Lanes<int32_t> d32;
-    return hn::ReorderDemote2To(Lanes<int16_t>(), hn::BitCast(d32, lower), hn::BitCast(d32, upper));
-  };
-  return hn::BitCast(Lanes<uint8_t>(), detail::inRowOrder<4>(packMasks(in16Bits(v0, v1), in16Bits(v2, v3))));
+template <class V, class... More>
+HWY_INLINE auto maskBytes(V v, More... more) {
+  const Lanes<uint8_t> d;
+  static_assert(sizeof(hn::TFromV<V>) == 1 + sizeof...(More));
+  if constexpr (sizeof...(More) == 0) {
+    return hn::BitCast(d, v);
+  } else {
+    const hn::RebindToSigned<hn::DFromV<V>> dSigned;
+    return hn::BitCast(d, packInOrder(Lanes<int8_t>(), hn::BitCast(dSigned, v), hn::BitCast(dSigned, more)...));
+  }
 }
 
 /// Byte masks of interleaved pixels, `elements` vectors of them, to one byte for each pixel: set where all channels

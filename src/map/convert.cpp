@@ -70,11 +70,11 @@ VemiStatus convert(Image<const S> src, Image<T> dst, VemiSize roiSize) {
 template <class L, class T>
 VemiStatus convertRounded(Image<const Vemi32f> src, Image<T> dst, VemiSize roiSize, vemiRoundMode roundMode) {
   if (const VemiStatus bad = firstOf(checkNull(src, dst), checkSize(roiSize), checkStep(src, dst))) return bad;
-  withRounding(roundMode == vemiRndNear ? Rounding::nearest : Rounding::towardZero, [&] {
+  return withRounding(roundMode == vemiRndNear ? Rounding::nearest : Rounding::towardZero, [&] {
     mapRegion<L, CallerRows>(roiSize, false, eachVector(Rounded()), dst, src);
     if (metInvalid()) mapRegion<L, CallerRows>(roiSize, false, eachVector(LimitedAndRounded()), dst, src);
+    return vemiOk;
   });
-  return vemiOk;
 }
 
 }  // namespace

@@ -148,36 +148,35 @@ VemiStatus scaleDown(Image<const S> src, Image<Vemi8u> dst, VemiSize roiSize, ve
   return scaleBy<L>(ScaledDownFast(), src, dst, roiSize);
 }
 
-VemiStatus checkRange(Vemi32f vMin, Vemi32f vMax) { return vMax - vMin > 0 ? vemiOk : vemiErrScaleRange; }
+/// The frame of the forms with floats: run() if the arguments are good.
+template <class S, class T, class Run>
+VemiStatus scaleRange(Image<S> src, Image<T> dst, VemiSize roiSize, Vemi32f vMin, Vemi32f vMax, const Run& run) {
+  return withRounding(Rounding::nearest, [&] {
+    const VemiStatus rangeStatus = vMax - vMin > 0 ? vemiOk : vemiErrScaleRange;
+    const VemiStatus bad = firstOf(rangeStatus, checkNull(src, dst), checkSize(roiSize), checkStep(src, dst));
+    if (bad == vemiOk) run();
+    return bad;
+  });
+}
 
 template <class L>
 VemiStatus scaleToRange(Image<const Vemi8u> src, Image<Vemi32f> dst, VemiSize roiSize, Vemi32f vMin, Vemi32f vMax) {
-  if (const VemiStatus bad =
-          firstOf(checkRange(vMin, vMax), checkNull(src, dst), checkSize(roiSize), checkStep(src, dst))) {
-    return bad;
-  }
-  withRounding(Rounding::nearest,
-               [&] { mapRegion<L, CallerRows>(roiSize, false, eachVector(ToRange(vMin, vMax)), dst, src); });
-  return vemiOk;
+  return scaleRange(src, dst, roiSize, vMin, vMax,
+                    [&] { mapRegion<L, CallerRows>(roiSize, false, eachVector(ToRange(vMin, vMax)), dst, src); });
 }
 
 /// The sums rise with the values, so that what is below vMin makes 0 without a limit, and what is above vMax makes 255
 /// if vMax itself does.
 template <class L>
 VemiStatus scaleFromRange(Image<const Vemi32f> src, Image<Vemi8u> dst, VemiSize roiSize, Vemi32f vMin, Vemi32f vMax) {
-  if (const VemiStatus bad =
-          firstOf(checkRange(vMin, vMax), checkNull(src, dst), checkSize(roiSize), checkStep(src, dst))) {
-    return bad;
-  }
-  const auto run = [&](const auto& op) { mapRegion<L, CallerRows>(roiSize, false, eachVector(op), dst, src); };
-  withRounding(Rounding::nearest, [&] {
+  const auto map = [&](const auto& op) { mapRegion<L, CallerRows>(roiSize, false, eachVector(op), dst, src); };
+  return scaleRange(src, dst, roiSize, vMin, vMax, [&] {
     const RangeSum range(vMin, vMax);
     const bool limitsItself = range(vMax) > 254.5f;
-    if (limitsItself && vMin == 0) run(FromRange<RangeProduct>{{range.factor}});
-    if (limitsItself && vMin != 0) run(FromRange<RangeSum>{range});
-    if (!limitsItself || metInvalid()) run(FromLimitedRange{range, vMin, vMax});
+    if (limitsItself && vMin == 0) map(FromRange<RangeProduct>{{range.factor}});
+    if (limitsItself && vMin != 0) map(FromRange<RangeSum>{range});
+    if (!limitsItself || metInvalid()) map(FromLimitedRange{range, vMin, vMax});
   });
-  return vemiOk;
 }
 
 }  // namespace
