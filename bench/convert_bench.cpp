@@ -124,6 +124,7 @@ Family convertFamily() {
               {"Scale 32s8u C1 accurate", "OpenCV convertTo",
                scaledDown<Vemi32s, 1, vemiScale_32s8u_C1R, vemiHintAccurate>},
               {"Scale 32f8u C1", "OpenCV convertTo", scaledFromFloat<1, vemiScale_32f8u_C1R, 0>},
+              {"Scale 32f8u C1 around 0", "OpenCV convertTo", scaledFromFloat<1, vemiScale_32f8u_C1R, -65535>},
               {"Scale 32f8u C3", "OpenCV convertTo", scaledFromFloat<3, vemiScale_32f8u_C3R, 0>},
 #endif
           }};
