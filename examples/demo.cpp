@@ -60,18 +60,22 @@ constexpr Section sections[] = {
      "Pictures with transparency laid over each other in six ways. Results are premultiplied: colours that have been "
      "multiplied by their alpha.",
      demoAlpha},
-    {"Statistics",
-     "Numbers out of a picture, one for each channel. Integer sums are exact at any size; extremes tell where they are "
-     "met first.",
-     demoStatistics},
     {"Thresholds and comparisons",
      "Elements below or above a threshold are replaced, by a rule for each channel. Comparisons make maps of one byte "
      "for each pixel, 255 or 0, which are masks for what follows.",
      demoThreshold},
+    {"Other element types",
+     "vemiConvert keeps the values and limits them to the new type, vemiScale spreads the range of one type over the "
+     "other's. One bit for each pixel makes a picture of dots.",
+     demoDepth},
     {"Lookup tables",
      "Steps, lines and cubics through points of your choice; palettes; and the transfer curve of video. What costs is "
      "the table, not the curve.",
      demoTables},
+    {"Statistics",
+     "Numbers out of a picture, one for each channel. Integer sums are exact at any size; extremes tell where they are "
+     "met first.",
+     demoStatistics},
     {"Histograms and moments",
      "Numbers out of a picture: how many pixels lie between levels, and where their values are gathered.", demoCounts},
     {"Patterns, noise, windows",

@@ -24,9 +24,10 @@ void demoGain(const Demo& demo);
 void demoCurves(const Demo& demo);
 void demoBits(const Demo& demo);
 void demoAlpha(const Demo& demo);
-void demoStatistics(const Demo& demo);
 void demoThreshold(const Demo& demo);
+void demoDepth(const Demo& demo);
 void demoTables(const Demo& demo);
+void demoStatistics(const Demo& demo);
 void demoCounts(const Demo& demo);
 void demoGenerate(const Demo& demo);
 

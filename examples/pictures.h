@@ -1,10 +1,6 @@
 // Pictures made from others, for sections that combine two of them.
 #pragma once
 
-#include <algorithm>
-#include <cmath>
-#include <limits>
-
 #include "shapes.h"
 
 namespace demo {
@@ -35,21 +31,24 @@ inline Image8u softMaskOf(const Ellipse& ellipse, VemiSize size, Vemi8u outside,
   return mask;
 }
 
-/// The elements as another type; integers are rounded and limited.
+inline void convert(const Image8u& from, Image<Vemi16s>& to) {
+  CALL(vemiConvert_8u16s_C3R(from.data(), from.step(), to.data(), to.step(), from.size()));
+}
+inline void convert(const Image8u& from, Image<Vemi32f>& to) {
+  CALL(vemiConvert_8u32f_C3R(from.data(), from.step(), to.data(), to.step(), from.size()));
+}
+inline void convert(const Image<Vemi16s>& from, Image8u& to) {
+  CALL(vemiConvert_16s8u_C3R(from.data(), from.step(), to.data(), to.step(), from.size()));
+}
+inline void convert(const Image<Vemi32f>& from, Image8u& to) {
+  CALL(vemiConvert_32f8u_C3R(from.data(), from.step(), to.data(), to.step(), from.size(), vemiRndNear));
+}
+
+/// Three channels as another type; floats are rounded, and what the type does not hold is limited.
 template <class To, class From>
-Image<To> converted(const Image<From>& image) {
-  Image<To> result(image.size(), image.channels());
-  const auto element = [](From value) {
-    if constexpr (std::numeric_limits<To>::is_integer) {
-      const double low = std::numeric_limits<To>::min(), high = std::numeric_limits<To>::max();
-      return static_cast<To>(std::nearbyint(std::clamp<double>(value, low, high)));
-    } else {
-      return static_cast<To>(value);
-    }
-  };
-  for (int y = 0; y < image.height(); y++) {
-    std::transform(image.at(0, y), image.at(image.width(), y), result.at(0, y), element);
-  }
+Image<To> converted(const Image<From>& photo) {
+  Image<To> result(photo.size(), 3);
+  convert(photo, result);
   return result;
 }
 
