@@ -11,7 +11,7 @@ Image8u bitImage(VemiSize size) { return {{(size.width + 7) / 8, size.height}, 1
 
 void showDither(const Image8u& photo, Page& page) {
   const VemiSize size = photo.size();
-  Image8u green(size, 1), dots(size, 1), colours(size, 3), bits = bitImage(size);
+  Image8u green(size, 1), channel(size, 1), dots(size, 1), colours(size, 3), bits = bitImage(size);
   CALL(vemiCopy_8u_C3C1R(photo.data() + 1, photo.step(), green.data(), green.step(), size));
   page.show(dots, "Black and white dots",
             "The green channel in one bit for each pixel. What a dot is too dark or too light goes to its neighbours, "
@@ -21,8 +21,7 @@ void showDither(const Image8u& photo, Page& page) {
 
   Call dithered = {}, expanded = {}, merged = {};
   for (int n = 0; n < 3; n++) {
-    CALL(vemiCopy_8u_C3C1R(photo.data() + n, photo.step(), green.data(), green.step(), size));
-    const Image8u& channel = green;
+    CALL(vemiCopy_8u_C3C1R(photo.data() + n, photo.step(), channel.data(), channel.step(), size));
     dithered = CALL(vemiConvert_8u1u_C1R(channel.data(), channel.step(), bits.data(), bits.step(), 0, size, 128));
     expanded = CALL(vemiConvert_1u8u_C1R(bits.data(), bits.step(), 0, dots.data(), dots.step(), size));
     merged = CALL(vemiCopy_8u_C1C3R(dots.data(), dots.step(), colours.data() + n, colours.step(), size));
