@@ -3,23 +3,27 @@
 #   make test                     builds and runs the tests
 #   make bench [BENCH=words]      times the library against its peers
 #   make check                    format, warnings, static analysis
+#   make fuzz [SECONDS=60]        calls all functions with arguments that a fuzzer makes up, under AddressSanitizer
+#   make race                     calls all functions from many threads at once, under ThreadSanitizer
 #   make docs                     the reference, as build/docs/html/index.html
 #   make install [PREFIX=...]     installs the library for every 64-bit processor level
 # PRESET picks another build of CMakePresets.json for demo, test and bench.
 PRESET ?= x86-64-v3
 PREFIX ?= /usr/local
 IMAGE ?=
+SECONDS ?= 60
 
 BUILD := build/$(PRESET)
 JOBS := $(shell nproc)
 BUILD_PACKAGES := g++ cmake ninja-build pkg-config libhwy-dev libpng-dev libgtest-dev
 IA32_PACKAGES := g++-multilib googletest
+CLANG_PACKAGES := clang libclang-rt-dev libomp-dev
 PEER_PACKAGES := libopencv-core-dev libopencv-imgproc-dev libyuv-dev libpixman-1-dev
 ifeq ($(PRESET),ia32)
 BUILD_PACKAGES += $(IA32_PACKAGES)
 endif
 
-.PHONY: all demo test bench peers bench-build check docs install exports format build configure clean
+.PHONY: all demo test fuzz race bench peers bench-build check docs install exports format build configure clean
 
 all: build
 
@@ -37,6 +41,27 @@ demo: configure
 
 test: build
 	ctest --preset $(PRESET)
+
+# What the fuzzer found worth keeping stays in the build folder, and the next run begins with it.
+fuzz:
+	@tools/need.sh $(BUILD_PACKAGES) $(CLANG_PACKAGES)
+	@cmake --preset fuzz >/dev/null
+	cmake --build build/fuzz -j $(JOBS) --target vemi_fuzz
+	@mkdir -p build/fuzz/corpus
+	build/fuzz/tests/vemi_fuzz -max_total_time=$(SECONDS) -max_len=512 -print_final_stats=1 \
+	  -artifact_prefix=build/fuzz/ build/fuzz/corpus
+
+# Twice, because libarcher, which tells the sanitizer where the threads of a team wait for each other, hides races
+# between callers: the threads of teams with it, then eight callers without it and without teams.
+race: export OMP_WAIT_POLICY = passive
+race: export TSAN_OPTIONS = halt_on_error=1 ignore_noninstrumented_modules=1
+race:
+	@tools/need.sh $(BUILD_PACKAGES) $(CLANG_PACKAGES)
+	@cmake --preset race >/dev/null
+	cmake --build build/race -j $(JOBS) --target vemi_driver
+	OMP_TOOL_LIBRARIES=$$(dirname $$(readlink -f $$(command -v clang)))/../lib/libarcher.so \
+	  build/race/tests/vemi_driver --callers 1
+	OMP_TOOL=disabled OMP_THREAD_LIMIT=1 KMP_WARNINGS=0 build/race/tests/vemi_driver --callers 8
 
 bench: peers bench-build
 	OMP_NUM_THREADS=1 $(BUILD)/bench/vemi_bench $(BENCH)

@@ -38,11 +38,19 @@ target_compile_options(vemi_warnings INTERFACE
   -Wall -Wextra -Wconversion -Wshadow -Wpointer-arith -Wno-psabi $<$<BOOL:${VEMI_WERROR}>:-Werror>)
 target_link_libraries(vemi_flags INTERFACE vemi_warnings)
 
-if(VEMI_SANITIZE)
+if(VEMI_SANITIZE STREQUAL "address")
   # Rows may start at any byte, so element pointers are legally unaligned on the processors that the library supports.
   # The checks for null and for object sizes double the compile time of templates and find what the address sanitizer
   # finds as well.
   add_compile_options(-fsanitize=address,undefined -fno-sanitize=alignment,null,object-size
                       -fno-sanitize-recover=all -fno-omit-frame-pointer)
   add_link_options(-fsanitize=address,undefined)
+elseif(VEMI_SANITIZE STREQUAL "thread")  # clang, whose OpenMP runtime tells the sanitizer when threads meet
+  add_compile_options(-fsanitize=thread)
+  add_link_options(-fsanitize=thread)
+elseif(VEMI_SANITIZE STREQUAL "fuzzer")  # clang
+  add_compile_options(-fsanitize=fuzzer-no-link,address)
+  add_link_options(-fsanitize=address)
+elseif(VEMI_SANITIZE)
+  message(FATAL_ERROR "VEMI_SANITIZE is '${VEMI_SANITIZE}'; it must be address, thread or fuzzer")
 endif()

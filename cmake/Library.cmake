@@ -25,9 +25,10 @@ target_link_libraries(vemi PRIVATE vemi_compile)
 target_include_directories(vemi INTERFACE
   $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}/include> $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}>)
 # Linked as C, so that the C++ runtime library stays out; the version script hides what headers of the C++ library
-# declare visible; -z defs turns a missing dependency into an error of this link.
+# declare visible; -z defs turns a missing dependency into an error of this link (clang's sanitizers are one until the
+# program is linked).
 target_link_options(vemi PRIVATE
-  -Wl,-z,defs -Wl,-Bsymbolic-functions -Wl,--version-script=${PROJECT_SOURCE_DIR}/cmake/vemi.map)
+  $<$<NOT:$<CXX_COMPILER_ID:Clang>>:-Wl,-z,defs> -Wl,-Bsymbolic-functions -Wl,--version-script=${PROJECT_SOURCE_DIR}/cmake/vemi.map)
 set_target_properties(vemi PROPERTIES
   LINKER_LANGUAGE C
   LINK_DEPENDS ${PROJECT_SOURCE_DIR}/cmake/vemi.map

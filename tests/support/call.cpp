@@ -16,7 +16,7 @@ namespace {
 
 // ---- Naming the call that touched a guard page ----
 
-char currentCall[512];
+thread_local char currentCall[512];
 struct sigaction formerAction;
 
 void reportCall(int signal) {
@@ -95,7 +95,10 @@ View Image::view(std::vector<std::byte> Plane::*bytes) {
 // ---- Building the arguments ----
 
 Call::Call(const Export& called, const Scenario& how)
-    : function(called), scenario(how), random(how.seed ^ hashOf(called.name)), arguments(called.parameters.size()) {
+    : function(called),
+      scenario(how),
+      random(how.seed ^ hashOf(called.name), how.numbers),
+      arguments(called.parameters.size()) {
   if (function.call == nullptr) throw std::logic_error(function.name + " returns no status");
   for (size_t n = 0; n < function.parameters.size(); ++n) addArgument(function.parameters[n], static_cast<int>(n));
   const Family& family = familyOf(function);
@@ -340,6 +343,26 @@ VemiStatus Call::invoke() {
   }
   if (maker_ != nullptr && status == vemiOk) maker_->record_.release();
   return status;
+}
+
+void Call::acceptWritten() {
+  for (Image& image : images) {
+    if (!image.written) continue;
+    const View view = image.view(&Image::Plane::expected);
+    const Margin& margin = image.margin;
+    for (int channel = 0; channel < view.channels; ++channel) {
+      const size_t plane = image.layout.planar ? static_cast<size_t>(channel) : 0;
+      const std::byte* const memory = image.planes[plane].memory.begin();
+      const ptrdiff_t bytes = bytesOf(image.element);
+      for (int y = -margin.top; y < image.size.height + margin.bottom; ++y) {
+        for (int x = -margin.left; x < image.widthOf(plane) + margin.right; ++x) {
+          std::byte* const expected = view.at(x, y, channel);
+          const std::byte* const actual = memory + (expected - image.planes[plane].expected.data());
+          std::copy(actual, actual + bytes, expected);
+        }
+      }
+    }
+  }
 }
 
 void Call::restore() {

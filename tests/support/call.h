@@ -37,7 +37,8 @@ struct Scenario {
   Edge edge = Edge::back;
   unsigned seed = 1;
   int scaleFactor = 0;
-  bool oneNaN = false;  // all NaNs that are read have the same bits
+  bool oneNaN = false;                      // all NaNs that are read have the same bits
+  std::span<const std::byte> numbers = {};  // what the random numbers begin with
 
   std::string text() const;
 };
@@ -163,6 +164,8 @@ class Call {
   VemiStatus invoke();
   /// Makes all arguments good again, and lays the memory out as it was before the call.
   void restore();
+  /// Expects the elements that were written as they are: for callers that do not know what is computed.
+  void acceptWritten();
   /// Where memory differs from what is expected, over all bytes of all images; empty where it does not.
   std::string difference();
   std::string text() const;

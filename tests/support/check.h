@@ -19,8 +19,4 @@ bool expectCall(const Export& function, const Scenario& scenario, const Referenc
 void expectDefinition(const std::vector<const Export*>& members, const Reference& reference,
                       const std::vector<int>& scaleFactors = {0});
 
-/// Every bad argument, alone and together with each other one, gives the status of the one that its family tests
-/// first, and leaves all memory as it was.
-void expectStatusOrder(const Export& function);
-
 }  // namespace vemi::test

@@ -115,8 +115,13 @@ void storeNumber(Element element, std::byte* place, double value) {
   });
 }
 
-uint64_t Random::next() {  // splitmix64
-  uint64_t z = state_ += 0x9e3779b97f4a7c15u;
+uint64_t Random::next() {
+  if (first_.size() >= sizeof(uint64_t)) {
+    const auto number = load<uint64_t>(first_.data());
+    first_ = first_.subspan(sizeof number);
+    return number;
+  }
+  uint64_t z = state_ += 0x9e3779b97f4a7c15u;  // splitmix64
   z = (z ^ (z >> 30)) * 0xbf58476d1ce4e5b9u;
   z = (z ^ (z >> 27)) * 0x94d049bb133111ebu;
   return z ^ (z >> 31);

@@ -4,6 +4,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
+#include <span>
 #include <type_traits>
 
 #include "vemi/types.h"
@@ -58,12 +59,15 @@ void storeNumber(Element element, std::byte* place, double value);
 class Random {
  public:
   explicit Random(uint64_t seed) : state_(seed) {}
+  /// Begins with the numbers that stand in `first`.
+  Random(uint64_t seed, std::span<const std::byte> first) : state_(seed), first_(first) {}
   uint64_t next();
   int below(int bound) { return static_cast<int>(next() % static_cast<uint64_t>(bound)); }
   void fill(std::byte* bytes, size_t count);
 
  private:
   uint64_t state_;
+  std::span<const std::byte> first_ = {};
 };
 
 /// Random bits, mixed with what arithmetic stumbles over: ends of the range, zeros of both signs, ones, infinities,

@@ -1,5 +1,6 @@
 #include "support/families.h"
 
+#include <algorithm>
 #include <map>
 #include <sstream>
 #include <stdexcept>
@@ -29,13 +30,18 @@ bool fits(const Family& family, const Export& function) {
 }  // namespace
 
 const Family& familyOf(const Export& function) {
-  static std::map<const Export*, const Family*> found;
-  const Family*& family = found[&function];
-  for (const Family& each : families()) {
-    if (family == nullptr && fits(each, function)) family = &each;
-  }
-  if (family == nullptr) throw std::logic_error("tests/support/families_*.cpp have no row for " + function.name);
-  return *family;
+  static const std::map<std::string, const Family*> found = [] {
+    std::map<std::string, const Family*> first;
+    for (const Export& each : exports()) {
+      const auto at =
+          std::find_if(families().begin(), families().end(), [&](const Family& f) { return fits(f, each); });
+      if (at != families().end()) first[each.name] = &*at;
+    }
+    return first;
+  }();
+  const auto family = found.find(function.name);
+  if (family == found.end()) throw std::logic_error("tests/support/families_*.cpp have no row for " + function.name);
+  return *family->second;
 }
 
 }  // namespace vemi::test

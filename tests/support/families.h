@@ -20,6 +20,12 @@ struct OwnFault {
   bool (*commit)(Call&) = nullptr;
 };
 
+/// Where a family departs from what holds for all others.
+struct Exceptions {
+  bool wholeSteps = false;        // steps are rounded down to whole elements
+  VemiStatus lateError = vemiOk;  // an error that leaves the destination written
+};
+
 struct Family {
   const char* operations;  // names up to the type, separated by blanks
   const char* members;     // regular expression over type and descriptor
@@ -34,6 +40,7 @@ struct Family {
   /// Changes what images, arrays and constants hold, where random contents would leave a case out. Views of sources and
   /// arrays show what it may change.
   void (*retouch)(Call&) = nullptr;
+  Exceptions exceptions = {};
 };
 
 std::vector<Family> coreFamilies();

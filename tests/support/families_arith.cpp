@@ -18,13 +18,14 @@ std::vector<Family> arithFamilies() {
   return {
       {"vemiAdd vemiSub vemiMul", "(8u|16s)_C[34].*", "width null size step"},
       {"vemiAdd vemiAddC vemiSub vemiSubC vemiMul vemiMulC", ".*", "null size step"},
-      {"vemiDiv vemiDivC", ".*", "null size step"},
+      {"vemiDiv vemiDivC", ".*", "null size step", nullptr, {}, nullptr, {.lateError = vemiErrDivByZero}},
 
       {"vemiNot", "8u_C[34].*", "size null step"},
       {"vemiAnd vemiOr vemiXor vemiAndC vemiOrC vemiXorC vemiNot", ".*", "null step size"},
       {"vemiLShiftC vemiRShiftC", ".*", "null step size"},
 
-      {"vemiAbs vemiSqr vemiSqrt vemiLn vemiExp", ".*", "null size step"},
+      {"vemiAbs vemiSqrt", ".*", "null size step", nullptr, {}, nullptr, {.wholeSteps = true}},
+      {"vemiSqr vemiLn vemiExp", ".*", "null size step"},
       {"vemiMulScale vemiMulCScale vemiComplement", ".*", "null step size"},
 
       {"vemiAlphaComp vemiAlphaCompC",

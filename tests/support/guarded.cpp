@@ -19,7 +19,7 @@ size_t pageSize() {
 
 /// Blocks that no one holds, by size: mapping anew for each image would take most of a test's time.
 std::map<size_t, std::vector<std::byte*>>& spareBlocks() {
-  static std::map<size_t, std::vector<std::byte*>> spare;
+  thread_local std::map<size_t, std::vector<std::byte*>> spare;
   return spare;
 }
 

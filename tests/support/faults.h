@@ -1,0 +1,31 @@
+// All that can be wrong with the arguments of a call.
+#pragma once
+
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "support/call.h"
+
+namespace vemi::test {
+
+struct Fault {
+  std::string text, stage;
+  VemiStatus status;
+  std::function<void(Call&)> commit;
+  int channel = 0;  // of faults at the stage `channels`
+};
+
+/// In the order in which the function's family finds them; Call::restore undoes them. What the family does not test is
+/// left out.
+std::vector<Fault> faultsOf(Call& call);
+
+struct FaultCount {
+  long single = 0, pairs = 0;
+};
+
+/// Every fault, alone and together with each other one, must give the status of the one that is found first and leave
+/// all memory as it was. Returns what went wrong, or nothing.
+std::string tryFaults(const Export& function, FaultCount& count);
+
+}  // namespace vemi::test
