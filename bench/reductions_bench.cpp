@@ -135,7 +135,8 @@ Contest count(VemiSize size) {
   const Image<Vemi8u> mask = blankImage<Vemi8u>(size, 1);
   const auto found = std::make_shared<Vemi32s>();
   const T lower = 40, upper = 180;
-  const auto peers = [from = mat(src), inside = mat(mask), found]() mutable {
+  const auto peers = [from = mat(src), mask, found] {
+    cv::Mat inside = mat(mask);
     cv::inRange(from, 40, 180, inside);
     *found = cv::countNonZero(inside);
   };

@@ -1,5 +1,6 @@
 // Numbers out of a photograph: sums, means, extremes and their places, counts and norms.
 
+#include <cmath>
 #include <cstdio>
 
 #include "demo.h"
@@ -8,9 +9,10 @@
 namespace demo {
 namespace {
 
-std::string rounded(double value) {
+/// Whole numbers in full, others to six digits.
+std::string written(double value) {
   char text[32];
-  std::snprintf(text, sizeof text, "%.6g", value);
+  std::snprintf(text, sizeof text, value == std::floor(value) ? "%.0f" : "%.6g", value);
   return text;
 }
 
@@ -18,7 +20,7 @@ std::string rounded(double value) {
 template <class T>
 std::vector<std::string> line(const char* what, const T (&number)[3], const Call& call) {
   const std::string code = "<code>" + escaped(call.text) + "</code>";
-  return {what, rounded(number[0]), rounded(number[1]), rounded(number[2]), code};
+  return {what, written(number[0]), written(number[1]), written(number[2]), code};
 }
 
 void showNumbers(const Image8u& photo, Page& page) {
@@ -65,7 +67,7 @@ void showPlaces(const Image8u& photo, Page& page) {
   const Call brightest = CALL(vemiMaxIndx_8u_C3R(photo.data(), photo.step(), size, high, highX, highY));
   Image8u marked(size, 3);
   CALL(vemiCopy_8u_C3R(photo.data(), photo.step(), marked.data(), marked.step(), size));
-  for (int c = 0; c < 3; c++) {
+  for (int c = 0; c < 3; ++c) {
     mark(lowX[c], lowY[c], colours[c], marked);
     mark(highX[c], highY[c], colours[c], marked);
   }

@@ -15,11 +15,13 @@ extern "C" {
 /**
  * @defgroup vemi_reductions Reductions: what all of them share
  *
- * A reduction reads a region once and stores a number for each channel:
+ * A reduction reads a region and stores a number for each channel:
  *
  *     C1          one value, through a plain pointer
- *     C3, AC4     an array of three values, for the channels 0, 1, 2; a fourth channel of AC4 does not take part,
- * though its elements must be readable memory like any other C4          an array of four values
+ *     C3, AC4     an array of three values, for the channels 0, 1 and 2
+ *     C4          an array of four values
+ *
+ * The fourth element of an AC4 pixel does not take part, but it must be readable memory like any other.
  *
  * Only the pixels of the region are read, and nothing but the results is written; after an error not even those.
  *
@@ -28,9 +30,9 @@ extern "C" {
  * region, and are then converted to double. Those of 32f elements take a hint:
  *
  * - vemiHintAccurate (2): each element is widened to double, and doubles are added in the order of the elements, row by
- *   row. C1 forms have two accumulators, which take the elements of the whole region in turn, from the end of one row
- * to the start of the next without a break, and are added at the end; the others have one for each channel. The result
- * is that of the same additions written as a loop, to the bit.
+ *   row. C1 forms have two accumulators, which take the elements of the whole region in turn, without a break from the
+ *   end of one row to the start of the next, and are added at the end; the others have one for each channel. The result
+ *   is that of the same additions written as a loop, to the bit.
  * - any other number: each row is added up in lanes of single precision (32 of them in C1, 16 for a channel in C3, 8 in
  *   C4 and AC4), which join a running total with a significand of 64 bits after each row, and after every 8192 elements
  *   (12288 in C3) of a longer one. That total is rounded to double. A lane takes no more than 256 elements before it is

@@ -22,6 +22,7 @@
 
 #include "core/image.h"
 #include "core/lanes.h"
+#include "core/map_row.h"
 
 namespace vemi {
 
@@ -108,30 +109,26 @@ struct RowEnd {
 
   template <class Reduction>
   HWY_INLINE RowEnd(const Reduction& reduction, const T* row, ptrdiff_t count) {
+    constexpr ptrdiff_t N = laneCount<T>;
+    const Lanes<T> d;
+    T pixel[L::elements];
+    for (int channel = 0; channel < L::elements; ++channel) pixel[channel] = reduction.padding(row, channel);
+    const auto padding = channelConstants<L>(pixel);
     const ptrdiff_t rest = count % A::items;
-    if (Reduction::order != Order::repeat || count < A::items) pad(reduction, row);
     if (count < A::items) {
+      unrolled<A::vectors>([&](auto k) HWY_ATTR { hn::Store(padding.v[k % pixelVectors<L>], d, element + k * N); });
       std::memcpy(element + A::items - rest, row, static_cast<size_t>(rest) * sizeof(T));
       return;
     }
-    const Lanes<T> d;
-    constexpr ptrdiff_t N = laneCount<T>;
     const T* const last = row + count - A::items;
     unrolled<A::vectors>([&](auto k) HWY_ATTR {
       auto v = hn::LoadU(d, last + k * N);
       if constexpr (Reduction::order != Order::repeat) {
         const ptrdiff_t seen = std::clamp<ptrdiff_t>(A::items - rest - k * N, 0, N);
-        v = hn::IfThenElse(hn::FirstN(d, static_cast<size_t>(seen)), hn::Load(d, element + k * N), v);
+        v = hn::IfThenElse(hn::FirstN(d, static_cast<size_t>(seen)), padding.v[k % pixelVectors<L>], v);
       }
       hn::Store(v, d, element + k * N);
     });
-  }
-
- private:
-  template <class Reduction>
-  HWY_INLINE void pad(const Reduction& reduction, const T* row) {
-    for (int channel = 0; channel < L::elements; ++channel) element[channel] = reduction.padding(row, channel);
-    for (ptrdiff_t i = L::elements; i < A::items; ++i) element[i] = element[i - L::elements];
   }
 };
 

@@ -5,6 +5,7 @@
 
 #include "core/checks.h"
 #include "core/exports.h"
+#include "core/map_row.h"
 #include "measure/extremes.h"
 #include "vemi/measure.h"
 
@@ -19,15 +20,18 @@ template <class L, class T>
 class Search {
  public:
   Search(T value, int channel) : value_(value), channel_(channel) {
-    std::memset(channelLanes_, 0, sizeof channelLanes_);
-    for (ptrdiff_t i = channel; i < items; i += L::elements) std::memset(channelLanes_ + i, 0xff, sizeof(T));
+    T pixel[L::elements] = {};
+    std::memset(pixel + channel, 0xff, sizeof(T));
+    ofChannel_ = channelConstants<L>(pixel);
   }
 
   /// The first pixel that has the value, or `width`.
   ptrdiff_t firstIn(const T* row, ptrdiff_t width) const {
-    constexpr ptrdiff_t pixels = items / L::elements;
+    constexpr ptrdiff_t pixels = vectors * laneCount<T> / L::elements;
     ptrdiff_t x = 0;
     while (x + pixels <= width && !isIn(row + x * L::elements)) x += pixels;
+    const bool isRest = x + pixels > width && pixels <= width;
+    if (isRest && !isIn(row + (width - pixels) * L::elements)) return width;
     while (x < width && at(row, x) != value_) ++x;
     return x;
   }
@@ -39,21 +43,21 @@ class Search {
   }
 
  private:
-  static constexpr ptrdiff_t items = blockItems<T, L>;
+  static constexpr int vectors = L::elements == 3 ? 3 : 1;
 
   bool isIn(const T* block) const {
     const Lanes<T> d;
     auto found = hn::Zero(d);
-    for (ptrdiff_t i = 0; i < items; i += laneCount<T>) {
-      const auto equal = hn::VecFromMask(d, hn::Eq(hn::LoadU(d, block + i), hn::Set(d, value_)));
-      found = hn::Or(found, hn::And(equal, hn::Load(d, channelLanes_ + i)));
-    }
+    unrolled<vectors>([&](auto k) HWY_ATTR {
+      const auto equal = hn::VecFromMask(d, hn::Eq(hn::LoadU(d, block + k * laneCount<T>), hn::Set(d, value_)));
+      found = hn::Or(found, hn::And(equal, ofChannel_.v[k]));
+    });
     return !hn::AllFalse(d, hn::MaskFromVec(found));
   }
 
   T value_;
   int channel_;
-  alignas(laneAlignment) T channelLanes_[items];
+  Vectors<hn::Vec<Lanes<T>>, pixelVectors<L>> ofChannel_;
 };
 
 /// As long as only the band is known, y is its first row and x is below 0.

@@ -33,10 +33,17 @@ struct ExtendedTotals {
 
   /// Lanes are added by halves in double precision.
   void operator()(const EmptiedLanes<A>& lanes) {
-    double sum[A::items];
-    for (ptrdiff_t i = 0; i < A::items; ++i) sum[i] = lanes.part[0][i];
+    const Lanes<double> d;
+    const hn::Rebind<float, decltype(d)> dFloat;
+    constexpr ptrdiff_t N = laneCount<double>;
+    alignas(laneAlignment) double sum[A::items];
+    for (ptrdiff_t i = 0; i < A::items; i += N) {
+      hn::Store(hn::PromoteTo(d, hn::Load(dFloat, lanes.part[0] + i)), d, sum + i);
+    }
     for (ptrdiff_t half = A::items / 2; half >= L::elements; half /= 2) {
-      for (ptrdiff_t i = 0; i < half; ++i) sum[i] += sum[i + half];
+      ptrdiff_t i = 0;
+      for (; i + N <= half; i += N) hn::Store(hn::Add(hn::Load(d, sum + i), hn::LoadU(d, sum + half + i)), d, sum + i);
+      for (; i < half; ++i) sum[i] += sum[half + i];
     }
     for (int c = 0; c < L::elements; ++c) channel[c] += sum[c];
   }
