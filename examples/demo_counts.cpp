@@ -12,31 +12,31 @@
 namespace demo {
 namespace {
 
-constexpr int values = 256;
-
-/// Counts and levels of three channels.
+/// Counts and levels of three channels, over all values of a byte.
 struct Histogram {
-  std::vector<Vemi32s> memory = std::vector<Vemi32s>(3 * (values + values + 1));
-  Vemi32s* counts[3] = {&memory[0], &memory[values], &memory[2 * values]};
-  Vemi32s* levels[3] = {&memory[3 * values], &memory[4 * values + 1], &memory[5 * values + 2]};
-  int nLevels[3] = {values + 1, values + 1, values + 1};
-  Vemi32s lower[3] = {0, 0, 0}, upper[3] = {values, values, values};
+  int bins;
+  std::vector<Vemi32s> memory = std::vector<Vemi32s>(static_cast<size_t>(3 * (bins + bins + 1)));
+  Vemi32s* counts[3] = {&memory[0], counts[0] + bins, counts[1] + bins};
+  Vemi32s* levels[3] = {counts[2] + bins, levels[0] + bins + 1, levels[1] + bins + 1};
+  int nLevels[3] = {bins + 1, bins + 1, bins + 1};
+  Vemi32s lower[3] = {0, 0, 0}, upper[3] = {256, 256, 256};
 };
 
 /// Three bar charts over each other, each in the light of its channel.
 Image8u chartOf(const Histogram& histogram) {
-  constexpr int bar = 2, height = 200;
+  constexpr int width = 512, height = 200;
   constexpr Vemi8u paper[3] = {28, 31, 36};
-  Image8u chart({values * bar, height}, 3);
+  Image8u chart({width, height}, 3);
   CALL(vemiSet_8u_C3R(paper, chart.data(), chart.step(), chart.size()));
+  const int bar = width / histogram.bins;
   for (int channel = 0; channel < 3; channel++) {
     const Vemi32s* const counts = histogram.counts[channel];
     // The ends often tower above the rest.
-    const Vemi32s highest = std::max(1, *std::max_element(counts + 1, counts + values - 1));
-    for (int value = 0; value < values; value++) {
-      const int length = static_cast<int>(std::min<Vemi64s>(height, Vemi64s{counts[value]} * height / highest));
+    const Vemi32s highest = std::max(1, *std::max_element(counts + 1, counts + histogram.bins - 1));
+    for (int bin = 0; bin < histogram.bins; bin++) {
+      const int length = static_cast<int>(std::min<Vemi64s>(height, Vemi64s{counts[bin]} * height / highest));
       if (length == 0) continue;
-      CALL(vemiSet_8u_C3CR(230, chart.at(value * bar, height - length) + channel, chart.step(), {bar, length}));
+      CALL(vemiSet_8u_C3CR(230, chart.at(bin * bar, height - length) + channel, chart.step(), {bar, length}));
     }
   }
   return chart;
@@ -44,15 +44,15 @@ Image8u chartOf(const Histogram& histogram) {
 
 void showHistograms(const Image8u& photo, Page& page) {
   const VemiSize size = photo.size();
-  Histogram histogram;
-  const auto count = [&](const Image8u& picture) {
+  Histogram four = {64}, each = {256};
+  const auto count = [&](const Image8u& picture, Histogram& histogram) {
     return CALL(vemiHistogramEven_8u_C3R(picture.data(), picture.step(), size, histogram.counts, histogram.levels,
                                          histogram.nLevels, histogram.lower, histogram.upper));
   };
-  const Call counted = count(photo);
-  page.show(chartOf(histogram), "How often each value occurs",
-            "From black on the left to white on the right, for red, green and blue; where two or three overlap, their "
-            "light adds up.",
+  const Call counted = count(photo, four);
+  page.show(chartOf(four), "How often values occur",
+            "Four values to a bin, from black on the left to white on the right, for red, green and blue; where two or "
+            "three overlap, their light adds up.",
             {counted});
 
   const Vemi8u steep[3] = {51, 51, 51}, black[3] = {48, 48, 48};
@@ -60,8 +60,8 @@ void showHistograms(const Image8u& photo, Page& page) {
   const Call lowered =
       CALL(vemiSubC_8u_C3RSfs(photo.data(), photo.step(), black, contrast.data(), contrast.step(), size, 0));
   const Call raised = CALL(vemiMulC_8u_C3IRSfs(steep, contrast.data(), contrast.step(), size, 5));
-  const Call recounted = count(contrast);
-  page.show(chartOf(histogram), "The same with more contrast",
+  const Call recounted = count(contrast, each);
+  page.show(chartOf(each), "Every value, with more contrast",
             "Fewer values are spread over the same range: gaps between them, and at both ends what was cut off.",
             {lowered, raised, recounted});
 }

@@ -713,9 +713,9 @@ VEMI_API VemiStatus vemiMomentGetStateSize_64s(vemiHint hint, int* pSize);
  * **64s of 8u.** Exact integers, modulo 2^64. S(3, 0) and S(0, 3), the largest, leave the range of 64 bits where a
  * white image is larger than about 2700 x 2700; all sums of order 2 fit up to about 18000 x 18000.
  *
- * **64f of 8u.** The fast way sums integers within a row piece and doubles beyond, so every sum below 2^53 is exact, as
- * it is in the accurate way; larger ones are rounded, a few times for each row in the fast way and once for each pixel
- * in the accurate one.
+ * **64f of 8u.** The fast way sums integers within pieces of a row and doubles beyond, so every sum below 2^53 is
+ * exact, as it is in the accurate way; larger ones are rounded, once for each piece of 896 pixels and once for each row
+ * in the fast way, once for each pixel in the accurate one.
  *
  * **64f of 32f.** All arithmetic is in double precision. The fast way forms the sums of x^m * f of a row piece of 1024
  * pixels in eight strands of columns, adds the strands, then the pieces, and takes the row in under y^n. The accurate
@@ -851,13 +851,13 @@ VEMI_API VemiStatus vemiGetHuMoments_64s(const VemiMomentState* pState, int nCha
  * empty; bins may overlap, and each of them counts what it holds. A NaN level empties the bins on both of its sides.
  *
  * **vemiHistogramEven** makes the levels, from lowerLevel on, stores them in pLevels, and counts between them. With
- * n = nLevels - 1, width = (upperLevel - lowerLevel) / n rounded toward zero and rest = upperLevel - lowerLevel - n *
- * width,
+ * n = nLevels - 1 and distance = upperLevel - lowerLevel, width = distance / n rounded toward zero, and rest what the
+ * division leaves over:
  *
- *     upperLevel - lowerLevel >= 0    the first `rest` bins are width + 1 wide, the others width, and the last level is
- *                                     upperLevel; with less than n, the last bins are empty, their levels all
- * upperLevel upperLevel - lowerLevel <= -n   levels fall in the same manner, and all bins are empty in between (-n to
- * -1)           all levels are lowerLevel, and all bins are empty
+ *     distance >= n           the first `rest` bins are width + 1 wide, the others width; the last level is upperLevel
+ *     0 <= distance < n       the first `rest` bins are 1 wide, the others empty, their levels all upperLevel
+ *     -n < distance < 0       all levels are lowerLevel, and all bins are empty
+ *     distance <= -n          levels fall in the same manner, and all bins are empty
  *
  *     0 to 255 in 2 bins      0, 128, 255
  *     0 to 256 in 256 bins    0, 1, 2, ... 256: one bin for each value of 8u
@@ -881,8 +881,8 @@ VEMI_API VemiStatus vemiGetHuMoments_64s(const VemiMomentState* pState, int nCha
  * **Statuses**, in the order of the tests.
  *
  *     C1        null, size, step, vemiErrHistogramLevels for nLevels below 2
- *     others    null (the arrays themselves); then for one channel after the other null for its pointers to counts and
- * to levels, and vemiErrHistogramLevels; size; step
+ *     others    null (the arrays themselves); for one channel after the other null (its counts and its levels) and
+ *               vemiErrHistogramLevels; then size, step
  *
  * **Memory.** 16s forms may count in a table of 65536 counters for each channel, and return vemiErrMemAlloc where that
  * cannot be had; the counts are then untouched, the levels of vemiHistogramEven made. This is so for large images, or

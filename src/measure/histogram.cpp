@@ -19,6 +19,7 @@ namespace {
 template <class L, class Level>
 using Channels = Bins<Level>[L::channels];
 
+/// Counters of 16 bits keep all tables in the nearest cache; they are collected before one of them can overflow.
 template <class L>
 void countBytes(Image<const Vemi8u> src, VemiSize roiSize, const Channels<L, Vemi32s>& bins) {
   constexpr int tables = 2;

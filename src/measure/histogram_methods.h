@@ -69,7 +69,7 @@ void countRow(const T* row, ptrdiff_t width, Counter (*table)[L::channels][value
       std::memcpy(&value, row + x * L::elements + channel, sizeof value);
       ++counters[half][value - std::numeric_limits<T>::min()];
     };
-    constexpr int apart = 8;
+    constexpr ptrdiff_t apart = 8;
     ptrdiff_t x = 0;
     for (; x + 2 * apart <= width; x += 2 * apart) {
       unrolled<apart>([&](auto i) {

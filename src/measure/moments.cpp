@@ -7,13 +7,14 @@
 //
 // Checks: null, tag, step, size, stride.
 
+#include <algorithm>
 #include <cstring>
 #include <type_traits>
 
 #include "core/alloc.h"
-#include "core/exports.h"
 #include "core/image.h"
 #include "core/lanes.h"
+#include "measure/exports.h"
 #include "measure/moment_state.h"
 #include "measure/row_pieces.h"
 
@@ -66,12 +67,16 @@ HWY_INLINE void addTo(RowSums<Sum>& total, const RowSums<Sum>& sums) {
   unrolled<momentOrders>([&](auto m) { total.v[m] = total.v[m] + sums.v[m]; });
 }
 
-/// Up to this number of steps a lane's sums of sums fit 31 bits: 255 * (112 * 113 * 114 * 115) / 24 < 2^31.
-constexpr ptrdiff_t mostSteps = 112;
+/// Pieces end at the same columns whatever the length of a vector, so that sums which doubles must round are the same.
+template <class T>
+constexpr ptrdiff_t pieceLength = 1024;
+template <>
+constexpr ptrdiff_t pieceLength<Vemi8u> = 896;
+
 constexpr int ladders = 2;  // vectors that climb side by side, since each addition waits for the one before it
 
-template <class T>
-constexpr ptrdiff_t pieceLength = sizeof(T) == 1 ? mostSteps* ladders* laneCount<int32_t> : 1024;
+/// Over 112 steps a lane's sums of sums fit 31 bits: 255 * (112 * 113 * 114 * 115) / 24 < 2^31.
+static_assert(pieceLength<Vemi8u> <= laneCount<int32_t> * ladders * 112);
 
 /// Each lane of bytes takes nothing but four additions: to the sum, to the sum of the sums so far, and so on. After B
 /// steps these hold the lane's values under the binomials of their distance d = B - b from the end, from which the sums
@@ -199,6 +204,24 @@ void sumByRows(Image<const T> src, VemiSize roiSize, Table<A>* table) {
   }
 }
 
+/// Pixels and the powers of their columns, set out where a loop can load one number into all lanes.
+struct PixelsSetOut {
+  static constexpr int most = 256;
+  double f[most], column[most], square[most], cube[most];
+
+  template <class L, class T>
+  void take(int x, const T* pixels, int count) {
+    for (int i = 0; i < count; ++i) {
+      T value;
+      std::memcpy(&value, pixels + ptrdiff_t{i} * L::elements, sizeof value);
+      f[i] = static_cast<double>(value);
+      column[i] = x + i;
+      square[i] = column[i] * column[i];
+      cube[i] = square[i] * column[i];
+    }
+  }
+};
+
 /// One running sum for each entry, which takes x^m (y^n f) pixel after pixel. The powers of y stand side by side in
 /// lanes; the sums beyond order 3 are not wanted.
 template <class L, class T>
@@ -206,27 +229,25 @@ void sumByPixels(Image<const T> src, VemiSize roiSize, Table<double>* table) {
   const hn::CappedTag<double, momentOrders> d;
   constexpr int N = static_cast<int>(hn::MaxLanes(decltype(d)()));
   constexpr int vectors = momentOrders / N;
-  using V = hn::Vec<decltype(d)>;
+  PixelsSetOut pixels;
   for (int channel = 0; channel < L::channels; ++channel) {
-    Vectors<V, momentOrders> sum[vectors];
+    Vectors<hn::Vec<decltype(d)>, momentOrders> sum[vectors];
     unrolled<vectors>([&](auto k) { unrolled<momentOrders>([&](auto m) { sum[k].v[m] = hn::Zero(d); }); });
-    for (ptrdiff_t y = 0; y < roiSize.height; ++y) {
-      const T* const row = src.row(y) + channel;
-      const double v = static_cast<double>(y);
-      alignas(laneAlignment) const double powers[momentOrders] = {1, v, v * v, v * v * v};
-      V column = hn::Zero(d);
-      for (ptrdiff_t x = 0; x < roiSize.width; ++x) {
-        T value;
-        std::memcpy(&value, row + x * L::elements, sizeof value);
-        const V f = hn::Set(d, static_cast<double>(value)), column2 = hn::Mul(column, column);
-        unrolled<vectors>([&](auto k) HWY_ATTR {
-          const V term = hn::Mul(hn::Load(d, powers + k * N), f);
-          sum[k].v[0] = hn::Add(sum[k].v[0], term);
-          sum[k].v[1] = hn::Add(sum[k].v[1], hn::Mul(column, term));
-          sum[k].v[2] = hn::Add(sum[k].v[2], hn::Mul(column2, term));
-          sum[k].v[3] = hn::Add(sum[k].v[3], hn::Mul(hn::Mul(column2, column), term));
-        });
-        column = hn::Add(column, hn::Set(d, 1.0));
+    for (int y = 0; y < roiSize.height; ++y) {
+      alignas(laneAlignment) const double powers[momentOrders] = {1, 1.0 * y, 1.0 * y * y, 1.0 * y * y * y};
+      for (int x = 0, count; x < roiSize.width; x += count) {
+        count = std::min(PixelsSetOut::most, roiSize.width - x);
+        pixels.take<L>(x, src.row(y) + ptrdiff_t{x} * L::elements + channel, count);
+        for (int i = 0; i < count; ++i) {
+          unrolled<vectors>([&](auto k) HWY_ATTR {
+            auto& s = sum[k].v;
+            const auto term = hn::Mul(hn::Load(d, powers + k * N), hn::Set(d, pixels.f[i]));
+            s[0] = hn::Add(s[0], term);
+            s[1] = hn::Add(s[1], hn::Mul(hn::Set(d, pixels.column[i]), term));
+            s[2] = hn::Add(s[2], hn::Mul(hn::Set(d, pixels.square[i]), term));
+            s[3] = hn::Add(s[3], hn::Mul(hn::Set(d, pixels.cube[i]), term));
+          });
+        }
       }
     }
     unrolled<momentOrders>([&](auto m) HWY_ATTR {
@@ -285,18 +306,12 @@ VemiStatus vemiMomentGetStateSize_64s(vemiHint /*hint*/, int* pSize) {
   return vemiOk;
 }
 
-// A source whose sums a state record takes.
-#define VEMI_SRC_STATE(name, T, ...)                                                       \
-  VemiStatus name(const T* pSrc, int srcStep, VemiSize roiSize, VemiMomentState* pState) { \
-    return __VA_ARGS__(Image<const T>{pSrc, srcStep}, roiSize, pState);                    \
-  }
-
-VEMI_SRC_STATE(vemiMoments64f_8u_C1R, Vemi8u, moments<Vemi64f, C1>)
-VEMI_SRC_STATE(vemiMoments64f_8u_C3R, Vemi8u, moments<Vemi64f, C3>)
-VEMI_SRC_STATE(vemiMoments64f_8u_AC4R, Vemi8u, moments<Vemi64f, AC4>)
-VEMI_SRC_STATE(vemiMoments64f_32f_C1R, Vemi32f, moments<Vemi64f, C1>)
-VEMI_SRC_STATE(vemiMoments64f_32f_C3R, Vemi32f, moments<Vemi64f, C3>)
-VEMI_SRC_STATE(vemiMoments64f_32f_AC4R, Vemi32f, moments<Vemi64f, AC4>)
-VEMI_SRC_STATE(vemiMoments64s_8u_C1R, Vemi8u, moments<Vemi64s, C1>)
-VEMI_SRC_STATE(vemiMoments64s_8u_C3R, Vemi8u, moments<Vemi64s, C3>)
-VEMI_SRC_STATE(vemiMoments64s_8u_AC4R, Vemi8u, moments<Vemi64s, AC4>)
+VEMI_SRC_RESULT(vemiMoments64f_8u_C1R, Vemi8u, VemiMomentState, moments<Vemi64f, C1>)
+VEMI_SRC_RESULT(vemiMoments64f_8u_C3R, Vemi8u, VemiMomentState, moments<Vemi64f, C3>)
+VEMI_SRC_RESULT(vemiMoments64f_8u_AC4R, Vemi8u, VemiMomentState, moments<Vemi64f, AC4>)
+VEMI_SRC_RESULT(vemiMoments64f_32f_C1R, Vemi32f, VemiMomentState, moments<Vemi64f, C1>)
+VEMI_SRC_RESULT(vemiMoments64f_32f_C3R, Vemi32f, VemiMomentState, moments<Vemi64f, C3>)
+VEMI_SRC_RESULT(vemiMoments64f_32f_AC4R, Vemi32f, VemiMomentState, moments<Vemi64f, AC4>)
+VEMI_SRC_RESULT(vemiMoments64s_8u_C1R, Vemi8u, VemiMomentState, moments<Vemi64s, C1>)
+VEMI_SRC_RESULT(vemiMoments64s_8u_C3R, Vemi8u, VemiMomentState, moments<Vemi64s, C3>)
+VEMI_SRC_RESULT(vemiMoments64s_8u_AC4R, Vemi8u, VemiMomentState, moments<Vemi64s, AC4>)

@@ -117,7 +117,7 @@ std::vector<Level> randomLevels(Call& call, Element pixels) {
   return levels;
 }
 
-void setHistograms(Call& call, const std::vector<int>& levelCounts) {
+void setBins(Call& call, const std::vector<int>& levelCounts) {
   std::vector<int> bins;
   for (const int count : levelCounts) bins.push_back(count - 1);
   call.setLengths("pHist", bins);
@@ -129,7 +129,7 @@ void setHistograms(Call& call, const std::vector<int>& levelCounts) {
 }
 
 template <class Level>
-void levelsOfCaller(Call& call, Element pixels) {
+void setLevels(Call& call, Element pixels) {
   std::vector<std::vector<Level>> levels;
   std::vector<int> counts;
   for (int channel = 0; channel < call.function.source.channels; ++channel) {
@@ -137,19 +137,10 @@ void levelsOfCaller(Call& call, Element pixels) {
     counts.push_back(static_cast<int>(levels.back().size()));
   }
   call.setArrays("pLevels", levels);
-  setHistograms(call, counts);
+  setBins(call, counts);
 }
 
-void histogramRange(Call& call) {
-  const Element pixels = call.image("pSrc").element;
-  if (pixels == Element::f32) {
-    levelsOfCaller<Vemi32f>(call, pixels);
-  } else {
-    levelsOfCaller<Vemi32s>(call, pixels);
-  }
-}
-
-void histogramEven(Call& call) {
+void setEvenLevels(Call& call) {
   const int channels = call.function.source.channels;
   const int extent = call.image("pSrc").element == Element::u8 ? 300 : 70000;
   std::vector<Vemi32s> lower, upper;
@@ -163,13 +154,24 @@ void histogramEven(Call& call) {
     counts.push_back(1 + bins);
   }
   call.setLengths("pLevels", counts);
-  setHistograms(call, counts);
+  setBins(call, counts);
   if (call.function.source.elements == 1) {
     call.set("lowerLevel", lower[0]);
     call.set("upperLevel", upper[0]);
   } else {
     call.setArray("lowerLevel", lower);
     call.setArray("upperLevel", upper);
+  }
+}
+
+void setHistograms(Call& call) {
+  const Element pixels = call.image("pSrc").element;
+  if (call.function.indexOf("lowerLevel") >= 0) {
+    setEvenLevels(call);
+  } else if (pixels == Element::f32) {
+    setLevels<Vemi32f>(call, pixels);
+  } else {
+    setLevels<Vemi32s>(call, pixels);
   }
 }
 
@@ -219,31 +221,17 @@ std::vector<Family> measureFamilies() {
         {"nChannel", INT_MIN, "channel", vemiErrChannelIndex},
         {"S(0, 0)", 0, "divisor", vemiErrMomentZero, noDivisor}}},
 
-      {"vemiHistogramRange",
+      {"vemiHistogramRange vemiHistogramEven",
        ".*_C1R",
        "null size step own",
-       histogramRange,
+       setHistograms,
        {{"nLevels", 1, "own", vemiErrHistogramLevels},
         {"nLevels", 0, "own", vemiErrHistogramLevels},
         {"nLevels", INT_MIN, "own", vemiErrHistogramLevels}}},
-      {"vemiHistogramRange",
+      {"vemiHistogramRange vemiHistogramEven",
        ".*",
        "null channels size step",
-       histogramRange,
-       {{"nLevels", 1, "channels", vemiErrHistogramLevels},
-        {"nLevels", 0, "channels", vemiErrHistogramLevels},
-        {"nLevels", INT_MIN, "channels", vemiErrHistogramLevels}}},
-      {"vemiHistogramEven",
-       ".*_C1R",
-       "null size step own",
-       histogramEven,
-       {{"nLevels", 1, "own", vemiErrHistogramLevels},
-        {"nLevels", 0, "own", vemiErrHistogramLevels},
-        {"nLevels", INT_MIN, "own", vemiErrHistogramLevels}}},
-      {"vemiHistogramEven",
-       ".*",
-       "null channels size step",
-       histogramEven,
+       setHistograms,
        {{"nLevels", 1, "channels", vemiErrHistogramLevels},
         {"nLevels", 0, "channels", vemiErrHistogramLevels},
         {"nLevels", INT_MIN, "channels", vemiErrHistogramLevels}}},
