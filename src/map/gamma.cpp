@@ -2,6 +2,8 @@
 // 16-bit elements are computed, by way of a table where that is less work; floats are computed in double lanes.
 // Checks: null, size, step; of floats, the range ahead of all.
 
+#include <algorithm>
+#include <limits>
 #include <numeric>
 
 #include "core/alloc.h"
@@ -11,20 +13,19 @@
 #include "core/map_region.h"
 #include "core/wide_lanes.h"
 #include "core/word_table.h"
+#include "signal/near_power.h"
 #include "signal/pow.h"
 #include "vemi/map.h"
 
 namespace vemi {
 namespace {
 
-/// From light to signal. Below the breakpoint, t times the slope; from there on, the power.
+/// From light to signal. Below the breakpoint, t times the slope; from there on,
+/// ((t + lift) * factor)^exponent * gain - offset.
 struct Forward {
   static constexpr double breakpoint = 0.018, slope = 4.5;
-
-  template <class D, class V>
-  HWY_INLINE static V power(D d, V t) {
-    return hn::Sub(hn::Mul(Power{0.45}(d, t), hn::Set(d, 1.099)), hn::Set(d, 0.099));
-  }
+  static constexpr double lift = 0, factor = 1, exponent = 0.45, gain = 1.099, offset = 0.099;
+  static constexpr NearPower nearPower{exponent};
 
   static constexpr ByteTable ofBytes = {
       {0,   4,   9,   14,  18,  23,  27,  30,  34,  37,  40,  43,  46,  48,  51,  53,  55,  58,  60,  62,  64,  66,
@@ -44,12 +45,9 @@ struct Forward {
 /// From signal to light.
 struct Inverse {
   static constexpr double breakpoint = 0.0812, slope = 0.2222222222222222;
-
-  template <class D, class V>
-  HWY_INLINE static V power(D d, V t) {
-    const V base = hn::Mul(hn::Add(t, hn::Set(d, 0.099)), hn::Set(d, 0.9099181073703366));
-    return Power{2.2222222222222223}(d, base);
-  }
+  static constexpr double lift = 0.099, factor = 0.9099181073703366, exponent = 2.2222222222222223, gain = 1,
+                          offset = 0;
+  static constexpr NearPower nearPower{exponent};
 
   static constexpr ByteTable ofBytes = {
       {0,   0,   0,   1,   1,   1,   1,   2,   2,   2,   2,   2,   3,   3,   3,   3,   4,   4,   4,   4,   4,   5,
@@ -66,64 +64,98 @@ struct Inverse {
        229, 231, 233, 235, 237, 239, 241, 243, 245, 247, 249, 251, 253, 255}};
 };
 
-/// Of half a vector of integers, 65535 times the curve plus one half, in single precision.
+/// The curve of floats, with d = pixel - black and t = d * inverse: d * slope + shift, or f(t) * range + shift;
+/// computed in double precision and rounded to single. Nearly always a power near the exact one will do: where both
+/// ends of its error are rounded to one number, so is the exact result.
 template <class Direction>
-struct CurveOfIntegers {
+class Curve {
+ public:
+  Curve(double black, double range, double inverse, double shift)
+      : black_(black), range_(range), inverse_(inverse), shift_(shift) {}
+
+  template <class D, class V>
+  HWY_INLINE V operator()(D d, V pixels) const {
+    const auto lower = nearOnes(hn::LowerHalf(pixels)), upper = nearOnes(hn::UpperHalf(hn::Half<D>(), pixels));
+    const V least = hn::Combine(d, upper.least, lower.least), most = hn::Combine(d, upper.most, lower.most);
+    const hn::RebindToSigned<D> di;  // by bits, which tell zeros apart
+    const auto isOne = hn::RebindMask(d, hn::Eq(hn::BitCast(di, least), hn::BitCast(di, most)));
+    const auto isKnown = hn::And(isOne, hn::Lt(pixels, hn::Set(d, nearLimit_)));
+    if (HWY_LIKELY(hn::AllTrue(d, isKnown))) return least;
+    return inHalves(
+        d, [&](auto half) HWY_ATTR { return exactOnes(half); }, pixels);
+  }
+
+ private:
+  double black_, range_, inverse_, shift_;
+  // Below the limit t is less than 3, and the power, with its gain, less than 1.9 (Forward, 2^-41 of it wrong) or 11
+  // (Inverse, 2^-44).
+  double nearGain_ = Direction::gain * range_, nearShift_ = shift_ - Direction::offset * range_;
+  double nearError_ = 0x1p-40 * (range_ + (shift_ < 0 ? -shift_ : shift_));
+  float nearLimit_ = static_cast<float>(std::min<double>(black_ + 3 * range_, std::numeric_limits<float>::max()));
+
   template <class V>
-  HWY_INLINE auto operator()(V pixels) const {
-    const hn::DFromV<V> di;
-    const hn::Rebind<double, decltype(di)> d;
-    const auto pixel = hn::PromoteTo(d, pixels);
-    const auto t = hn::Mul(pixel, hn::Set(d, 1.5259021896696422e-05));
-    const auto linear = hn::Mul(pixel, hn::Set(d, Direction::slope));
-    const auto curved = hn::Mul(Direction::power(d, t), hn::Set(d, 65535.0));
-    const auto result = hn::IfThenElse(hn::Lt(t, hn::Set(d, Direction::breakpoint)), linear, curved);
-    return hn::DemoteTo(hn::RebindToFloat<decltype(di)>(), hn::Add(result, hn::Set(d, 0.5)));
+  struct Line {
+    V t, value;
+    hn::Mask<hn::DFromV<V>> holds;
+  };
+
+  template <class D, class V>
+  HWY_INLINE Line<hn::Vec<D>> lineOf(D d, V half) const {
+    const auto difference = hn::Sub(hn::PromoteTo(d, half), hn::Set(d, black_));
+    const auto t = hn::Mul(hn::Set(d, inverse_), difference);
+    const auto value = hn::Add(hn::Mul(difference, hn::Set(d, Direction::slope)), hn::Set(d, shift_));
+    return {t, value, hn::Lt(t, hn::Set(d, Direction::breakpoint))};
+  }
+
+  template <class V>
+  HWY_INLINE V exactOnes(V half) const {
+    const hn::DFromV<V> dHalf;
+    const hn::Rebind<double, decltype(dHalf)> d;
+    const auto line = lineOf(d, half);
+    const auto isFinite = hn::Lt(line.t, hn::Set(d, std::numeric_limits<double>::infinity()));
+    const auto base = hn::Mul(hn::Add(line.t, hn::Set(d, Direction::lift)), hn::Set(d, Direction::factor));
+    const auto power = hn::IfThenElse(isFinite, Power{Direction::exponent}(d, base), line.t);  // infinity and NaNs stay
+    const auto signal = hn::Sub(hn::Mul(power, hn::Set(d, Direction::gain)), hn::Set(d, Direction::offset));
+    const auto value = hn::Add(hn::Mul(signal, hn::Set(d, range_)), hn::Set(d, shift_));
+    return hn::DemoteTo(dHalf, hn::IfThenElse(line.holds, line.value, value));
+  }
+
+  template <class V>
+  struct Bounds {
+    V least, most;
+  };
+
+  template <class V>
+  HWY_INLINE Bounds<V> nearOnes(V half) const {
+    const hn::DFromV<V> dHalf;
+    const hn::Rebind<double, decltype(dHalf)> d;
+    const auto line = lineOf(d, half);
+    const auto base =
+        hn::MulAdd(line.t, hn::Set(d, Direction::factor), hn::Set(d, Direction::lift * Direction::factor));
+    const auto power = Direction::nearPower(d, base);
+    const auto curved = hn::MulAdd(power, hn::Set(d, nearGain_), hn::Set(d, nearShift_));
+    const auto value = hn::IfThenElse(line.holds, line.value, curved);
+    const auto error = hn::IfThenZeroElse(line.holds, hn::Set(d, nearError_));
+    return {hn::DemoteTo(dHalf, hn::Sub(value, error)), hn::DemoteTo(dHalf, hn::Add(value, error))};
   }
 };
 
-/// 16u: to nearest. Ties go to even: a sum with one half that is an odd integer goes down.
+/// 16u: 65535 times the curve, to nearest. Ties go to even: a sum with one half that is an odd integer goes down.
 template <class Direction>
 struct OfWords {
+  Curve<Direction> curve{0, 65535, 1.5259021896696422e-05, 0.5};
+
   template <class D, class V>
   HWY_INLINE V operator()(D d, V v) const {
-    const auto rounded = [](auto dWide, auto wide) HWY_ATTR {
+    const auto rounded = [&](auto dWide, auto wide) HWY_ATTR {
       const hn::RebindToSigned<decltype(dWide)> di;
       const hn::RebindToFloat<decltype(dWide)> df;
-      const auto sum = inHalves(df, CurveOfIntegers<Direction>(), hn::BitCast(di, wide));
+      const auto sum = curve(df, hn::ConvertTo(df, hn::BitCast(di, wide)));
       const auto whole = hn::ConvertTo(di, sum);
       const auto isWhole = hn::RebindMask(di, hn::Eq(hn::ConvertTo(df, whole), sum));
       return hn::BitCast(dWide, hn::Sub(whole, hn::IfThenElseZero(isWhole, hn::And(whole, hn::Set(di, 1)))));
     };
     return inWideLanes(d, rounded, v);
-  }
-};
-
-/// 32f, with black at vMin and white `range` above it.
-template <class Direction>
-struct OfFloats {
-  double vMin, range, inverseRange;
-
-  OfFloats(float low, float difference) : vMin(low), range(difference), inverseRange(1.0 / range) {}
-
-  template <class D, class V>
-  HWY_INLINE V operator()(D d, V v) const {
-    return inHalves(d, *this, v);
-  }
-
-  /// Of half a vector.
-  template <class V>
-  HWY_INLINE V operator()(V pixels) const {
-    const hn::DFromV<V> dHalf;
-    const hn::Rebind<double, decltype(dHalf)> d;
-    const auto black = hn::Set(d, vMin);
-    const auto difference = hn::Sub(hn::PromoteTo(d, pixels), black);
-    const auto t = hn::Mul(hn::Set(d, inverseRange), difference);
-    const auto linear = hn::Add(hn::Mul(difference, hn::Set(d, Direction::slope)), black);
-    const auto isFinite = hn::Lt(t, hn::Set(d, std::numeric_limits<double>::infinity()));
-    const auto power = hn::IfThenElse(isFinite, Direction::power(d, t), t);  // infinity and NaNs stay
-    const auto curved = hn::Add(hn::Mul(power, hn::Set(d, range)), black);
-    return hn::DemoteTo(dHalf, hn::IfThenElse(hn::Lt(t, hn::Set(d, Direction::breakpoint)), linear, curved));
   }
 };
 
@@ -176,7 +208,7 @@ VemiStatus gamma32f(Src src, Dst dst, VemiSize roiSize, Vemi32f vMin, Vemi32f vM
   const float range = vMax - vMin;
   if (!(range > 0)) return vemiErrGammaRange;
   if (const VemiStatus bad = firstOf(checkNull(src, dst), checkSize(roiSize), checkStep(src, dst))) return bad;
-  mapImages<L>(src, dst, roiSize, OfFloats<Direction>(vMin, range));
+  mapImages<L>(src, dst, roiSize, Curve<Direction>(vMin, range, 1.0 / range, vMin));
   return vemiOk;
 }
 

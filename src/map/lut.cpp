@@ -3,7 +3,6 @@
 // Checks of C1: null, size, step, levels; of the others: null, each channel's levels, size, step.
 
 #include <algorithm>
-#include <cstring>
 #include <limits>
 #include <numeric>
 

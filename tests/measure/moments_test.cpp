@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cfenv>
 #include <cmath>
 #include <limits>
 #include <memory>
@@ -330,6 +331,24 @@ TEST(MomentGetters, ConversionsToIntegers) {
     Vemi64s value = 77;
     EXPECT_EQ(vemiGetSpatialMoment_64s(&state, 0, 0, 0, 0, 0, &value, each.scaleFactor), vemiOk);
     EXPECT_EQ(value, each.result) << each.sum << " and scaleFactor " << each.scaleFactor;
+  }
+}
+
+TEST(MomentGetters, ConversionsFollowTheRoundingMode) {
+  VemiMomentState state = stateOf(34, 0);
+  state.nChannels = 1;
+  state.sum.s[0][0] = 5;
+  const struct {
+    int mode;
+    Vemi64s result;
+  } cases[] = {{FE_UPWARD, 3}, {FE_DOWNWARD, 2}, {FE_TOWARDZERO, 2}, {FE_TONEAREST, 2}};  // 2.5
+  for (const auto& each : cases) {
+    Vemi64s value = 77;
+    std::fesetround(each.mode);
+    const VemiStatus status = vemiGetSpatialMoment_64s(&state, 0, 0, 0, 0, 0, &value, 1);
+    std::fesetround(FE_TONEAREST);
+    EXPECT_EQ(status, vemiOk);
+    EXPECT_EQ(value, each.result) << each.mode;
   }
 }
 
