@@ -56,7 +56,7 @@ struct Accumulators {
 
   /// Of lane i of a part.
   static constexpr int channelOf(int part, ptrdiff_t i) {
-    constexpr ptrdiff_t spread = static_cast<ptrdiff_t>(sizeof(Lane) / sizeof(Element));
+    constexpr ptrdiff_t spread = laneCount<Element> / laneCount<Lane>;
     return static_cast<int>((spread * i + part % spread) % L::elements);
   }
 

@@ -104,8 +104,9 @@ VemiStatus lut16s(Image<const Vemi16s> src, Image<Vemi16s> dst, VemiSize roiSize
   const Curve curve = possibleCurve<L>(wanted, lists);
   const Vemi16s* table[L::channels];
   for (int channel = 0; channel < L::channels; ++channel) {
-    table[channel] = tables + channel * wordTableSize;
-    fillTable(curve, lists[channel], tables + channel * wordTableSize);
+    Vemi16s* const ofChannel = tables + ptrdiff_t{channel} * wordTableSize;
+    fillTable(curve, lists[channel], ofChannel);
+    table[channel] = ofChannel;
   }
   mapByWordTables<L>(roiSize, table, dst, src);
   vemiAlignedFree(tables);

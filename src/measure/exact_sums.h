@@ -55,7 +55,7 @@ constexpr ptrdiff_t capacityFor(uint64_t largestTerm) {
 struct AddBytes {
   using Lane = uint64_t;
   static constexpr int parts = 1;
-  static constexpr ptrdiff_t capacity = detail::capacityFor<Lane>(8 * 255);
+  static constexpr ptrdiff_t capacity = detail::capacityFor<Lane>(uint64_t{8} * 255);
   template <class F, class V>
   HWY_INLINE static void addTerm(const F& addTo, V bytes) {
     addTo(0, hn::SumsOf8(bytes));
@@ -80,7 +80,7 @@ struct AddApart {
 struct AddSignedPairs {
   using Lane = int32_t;
   static constexpr int parts = 1;
-  static constexpr ptrdiff_t capacity = detail::capacityFor<Lane>(2 * 32768);
+  static constexpr ptrdiff_t capacity = detail::capacityFor<Lane>(uint64_t{2} * 32768);
   template <class F, class V>
   HWY_INLINE static void addTerm(const F& addTo, V v) {
     addTo(0, detail::pairsOfProducts(v, hn::Set(Lanes<int16_t>(), int16_t{1})));
@@ -104,7 +104,7 @@ struct AddSignedApart {
 struct AddSquaredBytes {
   using Lane = uint32_t;
   static constexpr int parts = 1;
-  static constexpr ptrdiff_t capacity = detail::capacityFor<Lane>(4 * 255 * 255);
+  static constexpr ptrdiff_t capacity = detail::capacityFor<Lane>(uint64_t{4} * 255 * 255);
   template <class F, class V>
   HWY_INLINE static void addTerm(const F& addTo, V bytes) {
     const Lanes<int16_t> d;

@@ -22,7 +22,8 @@ class NearPower {
       const int octave = n / perOctave;  // of exponents modulo 8: 1 begins at 1/64, 7 at 1, and then 0 at 2
       const double begin = octave == 0 ? 2 : (1 << octave) / 128.0;
       const double middle = begin * (1 + (n % perOctave + 0.5) / perOctave);
-      middle_[2 * n] = 1 / middle, middle_[2 * n + 1] = power(middle, exponent);
+      double* const ofCell = middle_ + ptrdiff_t{2} * n;
+      ofCell[0] = 1 / middle, ofCell[1] = power(middle, exponent);
     }
   }
 
