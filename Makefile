@@ -1,7 +1,7 @@
 # The door: each target installs the Debian packages that it misses, then builds and runs what it names.
 #   make demo [IMAGE=photo.png]   builds the library and runs the demo, which writes build/demo/index.html
 #   make test                     builds and runs the tests
-#   make bench [BENCH=words]      times the library against its peers
+#   make bench [BENCH=words]      times the library against its peers; without words, writes docs/performance.md
 #   make check                    format, warnings, static analysis
 #   make fuzz [SECONDS=60]        calls all functions with arguments that a fuzzer makes up, under AddressSanitizer
 #   make race                     calls all functions from many threads at once, under ThreadSanitizer
@@ -63,8 +63,11 @@ race:
 	  build/race/tests/vemi_driver --callers 1
 	OMP_TOOL=disabled OMP_THREAD_LIMIT=1 KMP_WARNINGS=0 build/race/tests/vemi_driver --callers 8
 
+# A whole table goes into docs/performance.md.
+bench: SHELL := /bin/bash -o pipefail
 bench: peers bench-build
-	OMP_NUM_THREADS=1 $(BUILD)/bench/vemi_bench $(BENCH)
+	OMP_NUM_THREADS=1 $(BUILD)/bench/vemi_bench $(BENCH) | tee $(BUILD)/bench.txt
+	$(if $(filter-out --quick,$(BENCH)),,tools/write-performance.sh $(BUILD)/bench.txt)
 
 peers:
 	@tools/need.sh $(PEER_PACKAGES)

@@ -134,7 +134,7 @@ class Report {
       means.add(ratios);
       if (family.against == Against::peers) overall_.add(ratios);
     }
-    means.print("= " + family.name);
+    means.print((family.against == Against::peers ? "= " : "- ") + family.name);
   }
 
   // Returns whether every row was a fair one.

@@ -1,0 +1,62 @@
+#!/bin/bash
+# Puts a whole table of vemi_bench into docs/performance.md, and draws its families' means as docs/performance.svg.
+# usage: write-performance.sh OUTPUT_OF_VEMI_BENCH
+set -euo pipefail
+cd "$(dirname "$0")/.."
+output=$1
+
+table=$(mktemp)
+trap 'rm -f "$table"' EXIT
+sed -e 's/ *$//' -e '/^== all/q' "$output" >"$table"
+if ! grep -q '^== all' "$table"; then
+  echo "$output: not a whole table" >&2
+  exit 1
+fi
+
+# The first block of code behind the heading is the table.
+awk -v table="$table" '
+  /^## A measured run/ { behind = 1 }
+  behind && /^```/ && inside { inside = behind = 0 }
+  !inside { print }
+  behind && /^```/ { inside = 1; while ((getline line < table) > 0) print line }
+' docs/performance.md >"$table.md"
+mv "$table.md" docs/performance.md
+
+# Bars from 1 to the mean, on a logarithmic axis from 1/2 to 16; one bar for each size.
+awk '
+  function place(ratio) { return left + (log(ratio < 0.5 ? 0.5 : ratio > 16 ? 16 : ratio) / log(2) + 1) * octave }
+  function text(x, y, anchor, what) {
+    printf "  <text x=\"%.0f\" y=\"%.0f\" text-anchor=\"%s\">%s</text>\n", x, y, anchor, what
+  }
+  BEGIN { left = 190; octave = 110; bar = 6; gap = 8; top = 56; split("#1f6f8b #f0a202 #b23a48", colour, " ") }
+  NR == 2 { for (i = 1; i <= 3; ++i) size[i] = $(NF - 3 + i) }
+  /^= / {
+    name[++families] = $2
+    for (i = 3; i <= NF - 3; ++i) name[families] = name[families] " " $i
+    for (i = 1; i <= 3; ++i) mean[families, i] = $(NF - 3 + i)
+  }
+  END {
+    bottom = top + families * (3 * bar + gap)
+    printf "<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"%d\" height=\"%d\" font-family=\"sans-serif\"", left + 5 * octave + 60, bottom + 30
+    print " font-size=\"12\">"
+    print "  <rect width=\"100%\" height=\"100%\" fill=\"white\"/>"
+    text(left, 18, "start", "Time of the peer / time of Vemi, geometric mean over the rows of a family")
+    for (i = 1; i <= 3; ++i) {
+      printf "  <rect x=\"%d\" y=\"28\" width=\"12\" height=\"10\" fill=\"%s\"/>\n", left + 130 * (i - 1), colour[i]
+      text(left + 130 * (i - 1) + 18, 37, "start", size[i])
+    }
+    for (ratio = 0.5; ratio <= 16; ratio *= 2) {
+      printf "  <line x1=\"%.0f\" y1=\"%d\" x2=\"%.0f\" y2=\"%d\" stroke=\"%s\"/>\n", place(ratio), top - 8, place(ratio), bottom, ratio == 1 ? "black" : "#ccc"
+      text(place(ratio), bottom + 16, "middle", ratio)
+    }
+    for (f = 1; f <= families; ++f) {
+      y = top + (f - 1) * (3 * bar + gap)
+      text(left - 8, y + 2 * bar + 1, "end", name[f])
+      for (i = 1; i <= 3; ++i) {
+        from = place(1); to = place(mean[f, i])
+        printf "  <rect x=\"%.1f\" y=\"%d\" width=\"%.1f\" height=\"%d\" fill=\"%s\"/>\n", from < to ? from : to, y + (i - 1) * bar, (from < to ? to - from : from - to) + 0.5, bar - 1, colour[i]
+      }
+    }
+    print "</svg>"
+  }
+' "$table" >docs/performance.svg
