@@ -24,7 +24,7 @@ struct Magnitude {
 template <class T, class L>
 VemiStatus absolute(Image<const T> src, Image<T> dst, VemiSize roiSize) {
   if (const VemiStatus bad = firstOf(checkNull(src, dst), checkSize(roiSize), checkStep(src, dst))) return bad;
-  mapRegion<L, CallerRows>(roiSize, false, eachVector(Magnitude()), wholeElements(dst), wholeElements(src));
+  mapRegion<L>(CallerRows(), roiSize, eachVector(Magnitude()), wholeElements(dst), wholeElements(src));
   return vemiOk;
 }
 

@@ -160,7 +160,7 @@ template <class T>
 VemiStatus compositeAlphas(Image<const T> src1, Image<const T> src2, Image<T> dst, VemiSize roiSize, int alphaType) {
   if (const VemiStatus bad = check(roiSize, alphaType, src1, src2, dst)) return bad;
   withOperatorOn<T, Colours::premultiplied>(alphaType, [&](auto op, Masks<T> masks) {
-    mapRegion<C1, CallerRows>(roiSize, false, eachVector(AlphaOnly<decltype(op), T>{masks}), dst, src1, src2);
+    mapRegion<C1>(CallerRows(), roiSize, eachVector(AlphaOnly<decltype(op), T>{masks}), dst, src1, src2);
   });
   return vemiOk;
 }
@@ -170,7 +170,7 @@ VemiStatus compositePixels(Image<const T> src1, Image<const T> src2, Image<T> ds
   if (const VemiStatus bad = check(roiSize, alphaType, src1, src2, dst)) return bad;
   withOperator<T>(alphaType, [&](auto op, Masks<T> masks) {
     const auto onPixels = withConstants<C4>(AlphaWithin<decltype(op), T>{masks}, alphaLanes<T>);
-    mapRegion<C4, CallerRows>(roiSize, false, onPixels, dst, src1, src2);
+    mapRegion<C4>(CallerRows(), roiSize, onPixels, dst, src1, src2);
   });
   return vemiOk;
 }
@@ -202,7 +202,7 @@ VemiStatus compositeC(Image<const T> src1, T alpha1, Image<const T> src2, T alph
   if (const VemiStatus bad = check(roiSize, alphaType, src1, src2, dst)) return bad;
   withOperator<T>(alphaType, [&](auto op, Masks<T> masks) {
     const AlphaConstant<decltype(op), T> onColours = {masks, alpha1, alpha2};
-    mapRegion<L, CallerRows>(roiSize, false, eachVector(onColours), dst, src1, src2);
+    mapRegion<L>(CallerRows(), roiSize, eachVector(onColours), dst, src1, src2);
   });
   return vemiOk;
 }

@@ -42,7 +42,7 @@ struct TimesConstant {
 template <class T>
 VemiStatus premultiply(Image<const T> src, Image<T> dst, VemiSize roiSize) {
   if (const VemiStatus bad = firstOf(checkNull(src, dst), checkSize(roiSize), checkStep(src, dst))) return bad;
-  mapRegion<C4, CallerRows>(roiSize, false, withConstants<C4>(TimesOwnAlpha(), alphaLanes<T>), dst, src);
+  mapRegion<C4>(CallerRows(), roiSize, withConstants<C4>(TimesOwnAlpha(), alphaLanes<T>), dst, src);
   return vemiOk;
 }
 
@@ -62,7 +62,7 @@ VemiStatus premultiplyPlanes(Planes<const T, 4> src, Planes<T, 4> dst, VemiSize 
 /// The element-wise product is the same for all layouts.
 template <class T, class L>
 void timesConstant(Image<const T> src, T alpha, const T* ones, Image<T> dst, VemiSize roiSize) {
-  mapRegion<L, CallerRows>(roiSize, false, withConstants<C4>(TimesConstant<T>{alpha}, ones), dst, src);
+  mapRegion<L>(CallerRows(), roiSize, withConstants<C4>(TimesConstant<T>{alpha}, ones), dst, src);
 }
 
 template <class T>

@@ -20,7 +20,7 @@ struct SignAndMagnitude {
 
 VemiStatus complement(Image<const Vemi32s> src, Image<Vemi32s> dst, VemiSize roiSize) {
   if (const VemiStatus bad = firstOf(checkNull(dst), checkStep(dst), checkSize(roiSize))) return bad;
-  mapRegion<C1, CallerRows>(roiSize, false, eachVector(SignAndMagnitude()), dst, src);
+  mapRegion<C1>(CallerRows(), roiSize, eachVector(SignAndMagnitude()), dst, src);
   return vemiOk;
 }
 

@@ -15,13 +15,13 @@ namespace vemi {
 
 template <class L, class C, class Op>
 VemiStatus mapComplex(VemiSize roiSize, const Op& op, Image<C> dst, Image<const C> src1, Image<const C> src2) {
-  mapRegion<L, CallerRows>(roiSize, false, eachVector(op), inLanes(dst), inLanes(src2), inLanes(src1));
+  mapRegion<L>(CallerRows(), roiSize, eachVector(op), inLanes(dst), inLanes(src2), inLanes(src1));
   return vemiOk;
 }
 
 template <class L, class C, class Op, class... Src>
 VemiStatus mapComplexC(VemiSize roiSize, const Op& op, const C* value, Image<C> dst, Image<const Src>... src) {
-  mapRegion<L, CallerRows>(roiSize, false, withConstants<L>(op, inLanes(value)), inLanes(dst), inLanes(src)...);
+  mapRegion<L>(CallerRows(), roiSize, withConstants<L>(op, inLanes(value)), inLanes(dst), inLanes(src)...);
   return vemiOk;
 }
 

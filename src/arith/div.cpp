@@ -162,7 +162,7 @@ VemiStatus quotientOfOne(Image<const T> src, const T* value, Image<T> dst, VemiS
   if (const VemiStatus bad = firstOf(checkNull(src, dst), checkSize(roiSize), checkStep(src, dst))) return bad;
   if (*value == 0) return vemiErrDivByZero;
   const ScaledByFactor<T> op = {factorOf(*value, scaleFactor)};
-  mapRegion<C1, CallerRows>(roiSize, false, eachVector(op), dst, src);
+  mapRegion<C1>(CallerRows(), roiSize, eachVector(op), dst, src);
   return vemiOk;
 }
 
@@ -171,7 +171,7 @@ VemiStatus quotientOfEach(Image<const T> src, const T* value, Image<T> dst, Vemi
   if (const VemiStatus bad = firstOf(checkNull(src, value, dst), checkSize(roiSize), checkStep(src, dst))) return bad;
   const bool anyZero = value[0] == 0 || value[1] == 0 || value[2] == 0;
   const Quotient<true, Reach::any> quotient = {quotientScale<float>(scaleFactor)};
-  mapRegion<C3, CallerRows>(roiSize, false, withConstants<C3>(quotient, value), dst, src);
+  mapRegion<C3>(CallerRows(), roiSize, withConstants<C3>(quotient, value), dst, src);
   return anyZero ? vemiErrDivByZero : vemiOk;
 }
 
@@ -184,7 +184,7 @@ VemiStatus quotientFloatC(Image<const Vemi32f> src, const Vemi32f* value, Image<
     if (!(value[c] < 0.0f || value[c] > 0.0f)) return vemiErrDivByZero;
     reciprocal[c] = 1.0f / value[c];
   }
-  mapRegion<L, CallerRows>(roiSize, false, withConstants<L>(PlainProduct(), reciprocal), dst, src);
+  mapRegion<L>(CallerRows(), roiSize, withConstants<L>(PlainProduct(), reciprocal), dst, src);
   return vemiOk;
 }
 

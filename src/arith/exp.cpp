@@ -63,14 +63,14 @@ struct ExpWindow {
 template <class T, class L>
 VemiStatus expScaled(Image<const T> src, Image<T> dst, VemiSize roiSize, int scaleFactor) {
   if (const VemiStatus bad = firstOf(checkNull(src, dst), checkSize(roiSize), checkStep(src, dst))) return bad;
-  mapRegion<L, CallerRows>(roiSize, false, eachVector(ExpWindow<T>(scaleFactor)), dst, src);
+  mapRegion<L>(CallerRows(), roiSize, eachVector(ExpWindow<T>(scaleFactor)), dst, src);
   return vemiOk;
 }
 
 template <class L>
 VemiStatus exp32f(Image<const Vemi32f> src, Image<Vemi32f> dst, VemiSize roiSize) {
   if (const VemiStatus bad = firstOf(checkNull(src, dst), checkSize(roiSize), checkStep(src, dst))) return bad;
-  mapRegion<L, CallerRows>(roiSize, false, eachVector(Exp()), dst, src);
+  mapRegion<L>(CallerRows(), roiSize, eachVector(Exp()), dst, src);
   return vemiOk;
 }
 

@@ -36,14 +36,14 @@ VemiStatus logical(Image<const T> src1, Image<const T> src2, Image<T> dst, VemiS
   if (const VemiStatus bad = firstOf(checkNull(src1, src2, dst), checkStep(src1, src2, dst), checkSize(roiSize))) {
     return bad;
   }
-  mapRegion<L, CallerRows>(roiSize, true, eachVector(Op()), dst, src1, src2);
+  mapRegion<L>(CallerRows(), roiSize, eachVector(Op()), dst, src1, src2);
   return vemiOk;
 }
 
 template <class L, class Op, class T>
 VemiStatus logicalC(Image<const T> src, const T* value, Image<T> dst, VemiSize roiSize) {
   if (const VemiStatus bad = firstOf(checkNull(src, value, dst), checkStep(src, dst), checkSize(roiSize))) return bad;
-  mapRegion<L, CallerRows>(roiSize, true, withConstants<L>(Op(), value), dst, src);
+  mapRegion<L>(CallerRows(), roiSize, withConstants<L>(Op(), value), dst, src);
   return vemiOk;
 }
 

@@ -33,14 +33,14 @@ VemiStatus mulScale(Image<const T> src1, Image<const T> src2, Image<T> dst, Vemi
   if (const VemiStatus bad = firstOf(checkNull(src1, src2, dst), checkStep(src1, src2, dst), checkSize(roiSize))) {
     return bad;
   }
-  mapRegion<L, CallerRows>(roiSize, false, eachVector(ScaledProduct()), dst, src1, src2);
+  mapRegion<L>(CallerRows(), roiSize, eachVector(ScaledProduct()), dst, src1, src2);
   return vemiOk;
 }
 
 template <class T, class L>
 VemiStatus mulScaleC(Image<const T> src, const T* value, Image<T> dst, VemiSize roiSize) {
   if (const VemiStatus bad = firstOf(checkNull(src, value, dst), checkStep(src, dst), checkSize(roiSize))) return bad;
-  mapRegion<L, CallerRows>(roiSize, false, withConstants<L>(ScaledProduct(), value), dst, src);
+  mapRegion<L>(CallerRows(), roiSize, withConstants<L>(ScaledProduct(), value), dst, src);
   return vemiOk;
 }
 

@@ -10,6 +10,7 @@
 #pragma once
 
 #include <limits>
+#include <type_traits>
 
 #include "arith/settled.h"
 #include "core/checks.h"
@@ -22,9 +23,13 @@ namespace vemi {
 enum class Answer { computed, zero, source, highest };
 
 /// The serial threshold stands on the branches for scale factors of 0 and more; the rare others fork without it.
-template <class T, class L>
-bool staysSerial(VemiSize roiSize, int scaleFactor) {
-  return scaleFactor >= 0 && belowSerialThreshold(roiSize.height, roiSize.width * pixelBytes<T, L>);
+template <class Rows, class T, class L>
+Rows rowsOf([[maybe_unused]] VemiSize roiSize, [[maybe_unused]] int scaleFactor) {
+  if constexpr (std::is_same_v<Rows, TeamRows>) {
+    return {scaleFactor >= 0 && belowSerialThreshold(roiSize.height, roiSize.width * pixelBytes<T, L>)};
+  } else {
+    return {};
+  }
 }
 
 template <class Operation, class L, class Rows, class T>
@@ -34,7 +39,7 @@ VemiStatus scaled(Image<const T> src1, Image<const T> src2, Image<T> dst, VemiSi
   }
   if (scaleFactor > Operation::template largestScale<T>) return fillRegion<T, L>(0, dst, roiSize);
   Operation::template withKernel<T>(scaleFactor, [&](const auto& kernel) {
-    mapRegion<L, Rows>(roiSize, staysSerial<T, L>(roiSize, scaleFactor), eachVector(kernel), dst, src2, src1);
+    mapRegion<L>(rowsOf<Rows, T, L>(roiSize, scaleFactor), roiSize, eachVector(kernel), dst, src2, src1);
   });
   return vemiOk;
 }
@@ -52,7 +57,7 @@ VemiStatus plain(Image<const Vemi32f> src1, Image<const Vemi32f> src2, Image<Vem
     return bad;
   }
   const auto kernel = eachVector(typename Operation::Float());
-  mapRegion<L, Rows>(roiSize, staysSerial<Vemi32f, L>(roiSize, 0), kernel, dst, src2, src1);
+  mapRegion<L>(rowsOf<Rows, Vemi32f, L>(roiSize, 0), roiSize, kernel, dst, src2, src1);
   return vemiOk;
 }
 
@@ -77,7 +82,7 @@ VemiStatus scaledC(Image<const T> src, const T* value, Image<T> dst, VemiSize ro
       break;
   }
   Operation::template withKernel<T>(scaleFactor, [&](const auto& kernel) {
-    mapRegion<L, Rows>(roiSize, staysSerial<T, L>(roiSize, scaleFactor), withConstants<L>(kernel, value), dst, src);
+    mapRegion<L>(rowsOf<Rows, T, L>(roiSize, scaleFactor), roiSize, withConstants<L>(kernel, value), dst, src);
   });
   return vemiOk;
 }
@@ -86,7 +91,7 @@ template <class Operation, class L, class Rows>
 VemiStatus plainC(Image<const Vemi32f> src, const Vemi32f* value, Image<Vemi32f> dst, VemiSize roiSize) {
   if (const VemiStatus bad = firstOf(checkNull(src, value, dst), checkSize(roiSize), checkStep(src, dst))) return bad;
   const auto kernel = withConstants<L>(typename Operation::Float(), value);
-  mapRegion<L, Rows>(roiSize, staysSerial<Vemi32f, L>(roiSize, 0), kernel, dst, src);
+  mapRegion<L>(rowsOf<Rows, Vemi32f, L>(roiSize, 0), roiSize, kernel, dst, src);
   return vemiOk;
 }
 

@@ -19,7 +19,7 @@ template <class L, class Shift, class T>
 VemiStatus shiftAlike(Image<const T> src, Vemi32u count, Image<T> dst, VemiSize roiSize) {
   if (count == 0) return copyRegion<L>(src, dst, roiSize);
   if (count >= bitsOf<T>) return fillRegion<T, L>(0, dst, roiSize);
-  mapRegion<L, CallerRows>(roiSize, true, eachVector(typename Shift::Alike{static_cast<int>(count)}), dst, src);
+  mapRegion<L>(CallerRows(), roiSize, eachVector(typename Shift::Alike{static_cast<int>(count)}), dst, src);
   return vemiOk;
 }
 
@@ -32,7 +32,7 @@ VemiStatus shiftC(Image<const T> src, const Vemi32u* value, Image<T> dst, VemiSi
   if (std::equal(count + 1, count + L::channels, count)) return shiftAlike<L, Shift>(src, *count, dst, roiSize);
   T factor[L::channels];
   std::transform(count, count + L::channels, factor, Shift::template factor<T>);
-  mapRegion<L, CallerRows>(roiSize, true, withConstants<L>(typename Shift::Each(), factor), dst, src);
+  mapRegion<L>(CallerRows(), roiSize, withConstants<L>(typename Shift::Each(), factor), dst, src);
   return vemiOk;
 }
 

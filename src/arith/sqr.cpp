@@ -112,7 +112,7 @@ VemiStatus squareScaled(Image<const T> src, Image<T> dst, VemiSize roiSize, int 
   constexpr int bits = 8 * sizeof(T);
   if (scaleFactor > 2 * bits) return fillRegion<T, L>(0, dst, roiSize);
   const auto map = [&](const auto& op) {
-    mapRegion<L, CallerRows>(roiSize, false, eachVector(op), dst, src);
+    mapRegion<L>(CallerRows(), roiSize, eachVector(op), dst, src);
     return vemiOk;
   };
   if (scaleFactor > bits + 1) return map(SquareScaledFarDown<T>{scaleFactor});
@@ -123,7 +123,7 @@ VemiStatus squareScaled(Image<const T> src, Image<T> dst, VemiSize roiSize, int 
 template <class L>
 VemiStatus squareFloat(Image<const Vemi32f> src, Image<Vemi32f> dst, VemiSize roiSize) {
   if (const VemiStatus bad = firstOf(checkNull(src, dst), checkSize(roiSize), checkStep(src, dst))) return bad;
-  mapRegion<L, CallerRows>(roiSize, false, eachVector(Square()), dst, src);
+  mapRegion<L>(CallerRows(), roiSize, eachVector(Square()), dst, src);
   return vemiOk;
 }
 

@@ -76,7 +76,7 @@ VemiStatus root16(Image<const T> src, Image<T> dst, VemiSize roiSize, int scaleF
   if (const VemiStatus bad = firstOf(checkNull(src, dst), checkSize(roiSize), checkStep(src, dst))) return bad;
   const ScaledRoot<T> root(scaleFactor);
   if constexpr (std::is_signed_v<T>) return testedRoots<L>(root, src, dst, roiSize);
-  mapRegion<L, CallerRows>(roiSize, false, eachVector(root), wholeElements(dst), wholeElements(src));
+  mapRegion<L>(CallerRows(), roiSize, eachVector(root), wholeElements(dst), wholeElements(src));
   return vemiOk;
 }
 
@@ -84,7 +84,7 @@ template <class L>
 VemiStatus root8u(Image<const Vemi8u> src, Image<Vemi8u> dst, VemiSize roiSize, int scaleFactor) {
   if (const VemiStatus bad = firstOf(checkNull(src, dst), checkSize(roiSize), checkStep(src, dst))) return bad;
   const ByteTable table = byteTableOf<Vemi16u>(ScaledRoot<Vemi16u>(scaleFactor));
-  mapRegion<L, CallerRows>(roiSize, false, eachVector(table), dst, src);
+  mapRegion<L>(CallerRows(), roiSize, eachVector(table), dst, src);
   return vemiOk;
 }
 

@@ -46,7 +46,7 @@ HWY_NOINLINE void mapChannelsRow(ptrdiff_t width, const PerChannel<Op, L::channe
 template <class L, class T, class Op>
 void mapChannels(VemiSize roiSize, const PerChannel<Op, L::channels>& op, Image<T> dst, Image<const T> src) {
   if constexpr (L::elements == 1) {
-    mapRegion<L, CallerRows>(roiSize, false, eachVector(op.of[0]), dst, src);
+    mapRegion<L>(CallerRows(), roiSize, eachVector(op.of[0]), dst, src);
   } else {
     const Extent extent = mergedExtent(roiSize, isContiguous<L>(dst, roiSize) && isContiguous<L>(src, roiSize));
     rowsSerially(extent.height,

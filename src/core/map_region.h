@@ -27,30 +27,29 @@ HWY_NOINLINE void streamElements(ptrdiff_t count, const IndexedOp& indexedOp, T*
 }
 
 template <Alpha alpha, class Rows, class T, class IndexedOp, class... Src>
-HWY_NOINLINE void mapRows(const Rows& rows, Extent elements, bool small, const IndexedOp& op, Image<T> dst,
+HWY_NOINLINE void mapRows(const Rows& rows, Extent elements, const IndexedOp& op, Image<T> dst,
                           Image<const Src>... src) {
   const bool inPlace = (isSameImage(src, dst) || ...);
   const Vemi64s traffic = trafficOf(elements, (sizeof(T) + ... + sizeof(Src)));
   if (alpha == Alpha::none && !inPlace && traffic >= streamedTraffic) {
     rows.run(
-        elements.height, small, [&](ptrdiff_t y) { streamElements(elements.width, op, dst.row(y), src.row(y)...); },
+        elements.height, [&](ptrdiff_t y) { streamElements(elements.width, op, dst.row(y), src.row(y)...); },
         finishStreaming);
   } else {
-    rows.run(elements.height, small,
-             [&](ptrdiff_t y) { mapElements<alpha>(elements.width, op, dst.row(y), src.row(y)...); });
+    rows.run(elements.height, [&](ptrdiff_t y) { mapElements<alpha>(elements.width, op, dst.row(y), src.row(y)...); });
   }
 }
 
 }  // namespace detail
 
-/// destination = indexedOp(sources). Rows says who runs the rows (CallerRows, TeamRows) and `small` whether the image
-/// is below its threshold. A source may be the destination. Contiguous rows that stay in one thread are one long row.
+/// destination = indexedOp(sources). `rows` says who runs the rows: CallerRows or TeamRows. A source may be the
+/// destination. Contiguous rows that stay in one thread are one long row.
 template <class L, class Rows, class T, class IndexedOp, class... Src>
-void mapRegion(VemiSize roiSize, bool small, const IndexedOp& op, Image<T> dst, Image<const Src>... src) {
+void mapRegion(const Rows& rows, VemiSize roiSize, const IndexedOp& op, Image<T> dst, Image<const Src>... src) {
   const bool contiguous = isContiguous<L>(dst, roiSize) && (isContiguous<L>(src, roiSize) && ...);
-  const Extent pixels = mergedExtent(roiSize, contiguous && Rows::inOneThread(small));
+  const Extent pixels = mergedExtent(roiSize, contiguous && rows.inOneThread());
   const Extent elements = {pixels.width * L::elements, pixels.height};
-  detail::mapRows<alphaOf<L>>(Rows(), elements, small, op, dst, src...);
+  detail::mapRows<alphaOf<L>>(rows, elements, op, dst, src...);
 }
 
 namespace detail {
@@ -82,7 +81,7 @@ template <class L, class T, class IndexedOp, class Test, class... Src>
 bool mapRegionTested(VemiSize roiSize, const IndexedOp& op, const Test& test, Image<T> dst, Image<const Src>... src) {
   bool any = false;
   const detail::Tested<L, IndexedOp, Test> tested = {op, test, &any};
-  mapRegion<L, CallerRows>(roiSize, false, tested, dst, src...);
+  mapRegion<L>(CallerRows(), roiSize, tested, dst, src...);
   return any;
 }
 
@@ -95,7 +94,7 @@ struct WatchedRows {
   VemiStatus& status;
 
   template <class Row, class Finish = Nothing>
-  void run(ptrdiff_t height, bool /*small*/, const Row& row, const Finish& finish = {}) const {
+  void run(ptrdiff_t height, const Row& row, const Finish& finish = {}) const {
     const auto watchedRow = [&](ptrdiff_t y) {
       if (status == vemiOk) status = watch(y);
       row(y);
@@ -116,7 +115,7 @@ VemiStatus mapRegionWatched(VemiSize roiSize, const IndexedOp& op, const Watch& 
   VemiStatus status = vemiOk;
   const auto watchRow = [&](ptrdiff_t y) { return watch(src.row(y)..., elements.width); };
   const detail::WatchedRows<decltype(watchRow)> rows = {watchRow, status};
-  detail::mapRows<alphaOf<L>>(rows, elements, false, op, dst, src...);
+  detail::mapRows<alphaOf<L>>(rows, elements, op, dst, src...);
   return status;
 }
 

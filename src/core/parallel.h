@@ -39,23 +39,26 @@ void rowsSerially(ptrdiff_t height, const Row& row, const Finish& finish = {}) {
   finish();
 }
 
-/// Who runs the rows of a member: the calling thread alone, or, unless the image is small, a team.
+// Who runs the rows of a member: the calling thread alone, or, unless the image is small, a team.
+
 struct CallerRows {
-  static bool inOneThread(bool /*small*/) { return true; }
+  static constexpr bool inOneThread() { return true; }
 
   template <class Row, class Finish = Nothing>
-  static void run(ptrdiff_t height, bool /*small*/, const Row& row, const Finish& finish = {}) {
+  void run(ptrdiff_t height, const Row& row, const Finish& finish = {}) const {
     rowsSerially(height, row, finish);
   }
 };
 
 struct TeamRows {
+  bool small;
+
   /// A region of one thread is left out: opening it takes as long as some ten thousand bytes of work.
-  static bool inOneThread(bool small) { return small || omp_get_max_threads() == 1; }
+  bool inOneThread() const { return small || omp_get_max_threads() == 1; }
 
   template <class Row, class Finish = Nothing>
-  static void run(ptrdiff_t height, bool small, const Row& row, const Finish& finish = {}) {
-    if (inOneThread(small)) {
+  void run(ptrdiff_t height, const Row& row, const Finish& finish = {}) const {
+    if (inOneThread()) {
       rowsSerially(height, row, finish);
     } else {
       rowsInTeam(height, row, finish);

@@ -64,7 +64,7 @@ template <class L, class Op, class S, class T>
 VemiStatus convert(Image<const S> src, Image<T> dst, VemiSize roiSize) {
   if (const VemiStatus bad = firstOf(checkNull(src, dst), checkSize(roiSize), checkStep(src, dst))) return bad;
   constexpr int vectors = sizeof(T) > sizeof(S) ? 4 : 2;  // results that outweigh the source gain by longer blocks
-  mapRegion<L, CallerRows>(roiSize, false, eachVector<vectors>(Op()), dst, src);
+  mapRegion<L>(CallerRows(), roiSize, eachVector<vectors>(Op()), dst, src);
   return vemiOk;
 }
 
@@ -72,8 +72,8 @@ template <class L, class T>
 VemiStatus convertRounded(Image<const Vemi32f> src, Image<T> dst, VemiSize roiSize, vemiRoundMode roundMode) {
   if (const VemiStatus bad = firstOf(checkNull(src, dst), checkSize(roiSize), checkStep(src, dst))) return bad;
   return withRounding(roundMode == vemiRndNear ? Rounding::nearest : Rounding::towardZero, [&] {
-    mapRegion<L, CallerRows>(roiSize, false, eachVector(Rounded()), dst, src);
-    if (metInvalid()) mapRegion<L, CallerRows>(roiSize, false, eachVector(LimitedAndRounded()), dst, src);
+    mapRegion<L>(CallerRows(), roiSize, eachVector(Rounded()), dst, src);
+    if (metInvalid()) mapRegion<L>(CallerRows(), roiSize, eachVector(LimitedAndRounded()), dst, src);
     return vemiOk;
   });
 }

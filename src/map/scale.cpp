@@ -133,7 +133,7 @@ struct FromLimitedRange {
 template <class L, class Op, class S, class T>
 VemiStatus scaleBy(const Op& op, Image<const S> src, Image<T> dst, VemiSize roiSize) {
   if (const VemiStatus bad = firstOf(checkNull(src, dst), checkSize(roiSize), checkStep(src, dst))) return bad;
-  mapRegion<L, CallerRows>(roiSize, false, eachVector(op), dst, src);
+  mapRegion<L>(CallerRows(), roiSize, eachVector(op), dst, src);
   return vemiOk;
 }
 
@@ -162,14 +162,14 @@ VemiStatus scaleRange(Image<S> src, Image<T> dst, VemiSize roiSize, Vemi32f vMin
 template <class L>
 VemiStatus scaleToRange(Image<const Vemi8u> src, Image<Vemi32f> dst, VemiSize roiSize, Vemi32f vMin, Vemi32f vMax) {
   return scaleRange(src, dst, roiSize, vMin, vMax,
-                    [&] { mapRegion<L, CallerRows>(roiSize, false, eachVector(ToRange(vMin, vMax)), dst, src); });
+                    [&] { mapRegion<L>(CallerRows(), roiSize, eachVector(ToRange(vMin, vMax)), dst, src); });
 }
 
 /// The sums rise with the values, so that what is below vMin makes 0 without a limit, and what is above vMax makes 255
 /// if vMax itself does.
 template <class L>
 VemiStatus scaleFromRange(Image<const Vemi32f> src, Image<Vemi8u> dst, VemiSize roiSize, Vemi32f vMin, Vemi32f vMax) {
-  const auto map = [&](const auto& op) { mapRegion<L, CallerRows>(roiSize, false, eachVector(op), dst, src); };
+  const auto map = [&](const auto& op) { mapRegion<L>(CallerRows(), roiSize, eachVector(op), dst, src); };
   return scaleRange(src, dst, roiSize, vMin, vMax, [&] {
     const RangeSum range(vMin, vMax);
     const bool limitsItself = range(vMax) > 254.5f;

@@ -75,7 +75,7 @@ VemiStatus check(Image<const T> src, Image<T> dst, VemiSize roiSize, const Const
 
 template <class L, class Op, class T, class... Constants>
 VemiStatus map(Image<const T> src, Image<T> dst, VemiSize roiSize, const Constants*... constants) {
-  mapRegion<L, CallerRows>(roiSize, false, withConstants<L>(Op(), constants...), dst, src);
+  mapRegion<L>(CallerRows(), roiSize, withConstants<L>(Op(), constants...), dst, src);
   return vemiOk;
 }
 

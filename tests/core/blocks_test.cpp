@@ -197,8 +197,8 @@ TEST(MapRegion, AStreamedRegionEqualsItsRows) {
   static_assert(ptrdiff_t{6} * size.width * size.height >= streamedTraffic);
   const GuardedRow<Vemi8u> src(ptrdiff_t{step} * size.height), dst(ptrdiff_t{step} * size.height, {true, 7});
   const Vemi8u value[3] = {0x0f, 0xf0, 0x3c};
-  mapRegion<C3, TeamRows>(size, false, withConstants<C3>(andNotLanes, value), Image<Vemi8u>{dst.data(), step},
-                          Image<const Vemi8u>{src.data(), step});
+  mapRegion<C3>(TeamRows{.small = false}, size, withConstants<C3>(andNotLanes, value), Image<Vemi8u>{dst.data(), step},
+                Image<const Vemi8u>{src.data(), step});
   const auto from = src.original();
   auto expected = dst.original();
   for (size_t y = 0; y < size_t{size.height}; ++y) {

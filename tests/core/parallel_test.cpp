@@ -114,9 +114,9 @@ TEST(RowsInTeam, SmallImagesAndMembersWithoutARegionStayInTheCallingThread) {
   inTeam(3, [](int) {
     Log small(1), serial(1), team(3);
     const auto noteIn = [](Log& log) { return [&log](ptrdiff_t y) { log.note(y); }; };
-    TeamRows::run(4, true, noteIn(small), [&] { small.note(4); });
-    CallerRows::run(4, false, noteIn(serial), [&] { serial.note(4); });
-    TeamRows::run(4, false, noteIn(team));
+    TeamRows{.small = true}.run(4, noteIn(small), [&] { small.note(4); });
+    CallerRows().run(4, noteIn(serial), [&] { serial.note(4); });
+    TeamRows{.small = false}.run(4, noteIn(team));
     small.expectBlocksOfRows(5);
     serial.expectBlocksOfRows(5);
     team.expectBlocksOfRows(4);
