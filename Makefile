@@ -3,7 +3,7 @@
 #   make test                     builds and runs the tests
 #   make bench [BENCH=words]      times the library against its peers; without words, writes docs/performance.md
 #   make check                    format, warnings, static analysis
-#   make fuzz [SECONDS=60]        calls all functions with arguments that a fuzzer makes up, under AddressSanitizer
+#   make fuzz [SECONDS=60 SEED=0] calls all functions with arguments that a fuzzer makes up, under AddressSanitizer
 #   make race                     calls all functions from many threads at once, under ThreadSanitizer
 #   make docs                     the reference, as build/docs/html/index.html
 #   make install [PREFIX=...]     installs the library for every 64-bit processor level
@@ -12,6 +12,7 @@ PRESET ?= x86-64-v3
 PREFIX ?= /usr/local
 IMAGE ?=
 SECONDS ?= 60
+SEED ?= 0
 
 BUILD := build/$(PRESET)
 JOBS := $(shell nproc)
@@ -48,7 +49,7 @@ fuzz:
 	@cmake --preset fuzz >/dev/null
 	cmake --build build/fuzz -j $(JOBS) --target vemi_fuzz
 	@mkdir -p build/fuzz/corpus
-	build/fuzz/tests/vemi_fuzz -max_total_time=$(SECONDS) -max_len=512 -print_final_stats=1 \
+	build/fuzz/tests/vemi_fuzz -seed=$(SEED) -max_total_time=$(SECONDS) -max_len=512 -print_final_stats=1 \
 	  -artifact_prefix=build/fuzz/ build/fuzz/corpus
 
 # Twice, because libarcher, which tells the sanitizer where the threads of a team wait for each other, hides races
