@@ -112,10 +112,6 @@
   VemiStatus name(const S* pSrc, int srcStep, T* pDst, int dstStep, VemiSize roiSize, int mode) { \
     return __VA_ARGS__(Image<const S>{pSrc, srcStep}, Image<T>{pDst, dstStep}, roiSize, mode);    \
   }
-#define VEMI_CONVERSION_RANGE(name, S, T, ...)                                                                      \
-  VemiStatus name(const S* pSrc, int srcStep, T* pDst, int dstStep, VemiSize roiSize, Vemi32f vMin, Vemi32f vMax) { \
-    return __VA_ARGS__(Image<const S>{pSrc, srcStep}, Image<T>{pDst, dstStep}, roiSize, vMin, vMax);                \
-  }
 
 // Planes to planes; in place, the source is the destination.
 #define VEMI_PLANES_PLANES(name, T, planes, ...)                                                                    \

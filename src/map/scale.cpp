@@ -184,6 +184,12 @@ VemiStatus scaleFromRange(Image<const Vemi32f> src, Image<Vemi8u> dst, VemiSize 
 
 using namespace vemi;
 
+// With the range of the floats behind the region.
+#define VEMI_CONVERSION_RANGE(name, S, T, ...)                                                                      \
+  VemiStatus name(const S* pSrc, int srcStep, T* pDst, int dstStep, VemiSize roiSize, Vemi32f vMin, Vemi32f vMax) { \
+    return __VA_ARGS__(Image<const S>{pSrc, srcStep}, Image<T>{pDst, dstStep}, roiSize, vMin, vMax);                \
+  }
+
 VEMI_CONVERSION(vemiScale_8u16u_C1R, Vemi8u, Vemi16u, scaleUp<C1>)
 VEMI_CONVERSION(vemiScale_8u16u_C3R, Vemi8u, Vemi16u, scaleUp<C3>)
 VEMI_CONVERSION(vemiScale_8u16u_C4R, Vemi8u, Vemi16u, scaleUp<C4>)

@@ -101,20 +101,32 @@ std::vector<Fault> faultsOf(Call& call) {
   return ordered;
 }
 
+Outcome tryCall(Call& call) {
+  const VemiStatus status = call.invoke();
+  if (status >= vemiOk || status == familyOf(call.function).exceptions.lateError) call.acceptWritten();
+  const std::string difference = call.difference();
+  return {status, difference.empty() ? difference : difference + " after status " + std::to_string(status)};
+}
+
+std::string tryPair(Call& call, const Fault& first, const Fault& second) {
+  first.commit(call);
+  second.commit(call);
+  const VemiStatus status = call.invoke();
+  const std::string difference = call.difference();
+  call.restore();
+  if (status == first.status && difference.empty()) return {};
+  return call.function.name + " with " + first.text + " and " + second.text + ": status " + std::to_string(status) +
+         ", not " + std::to_string(first.status) + "; " + difference;
+}
+
 std::string tryFaults(const Export& function, FaultCount& count) {
   Call call(function, {});
   const std::vector<Fault> faults = faultsOf(call);
   for (size_t first = 0; first < faults.size(); ++first) {
     for (size_t second = first; second < faults.size(); ++second) {
-      faults[first].commit(call);
-      faults[second].commit(call);
-      const VemiStatus status = call.invoke();
-      const std::string difference = call.difference();
-      call.restore();
+      const std::string failure = tryPair(call, faults[first], faults[second]);
       (first == second ? count.single : count.pairs) += 1;
-      if (status == faults[first].status && difference.empty()) continue;
-      return function.name + " with " + faults[first].text + " and " + faults[second].text + ": status " +
-             std::to_string(status) + ", not " + std::to_string(faults[first].status) + "; " + difference;
+      if (!failure.empty()) return failure;
     }
   }
   return {};

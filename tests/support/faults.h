@@ -20,6 +20,19 @@ struct Fault {
 /// left out.
 std::vector<Fault> faultsOf(Call& call);
 
+/// What came of a call: its status, and what it did that it must not, or nothing.
+struct Outcome {
+  VemiStatus status;
+  std::string failure;
+};
+
+/// An error leaves all memory as it was; anything else changes what is written and no byte beside it.
+Outcome tryCall(Call& call);
+
+/// A good call spoiled by both faults must give the status of the first one and leave all memory as it was. Returns
+/// what went wrong, or nothing.
+std::string tryPair(Call& call, const Fault& first, const Fault& second);
+
 struct FaultCount {
   long single = 0, pairs = 0;
 };
