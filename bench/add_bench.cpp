@@ -104,7 +104,8 @@ using AddInPlace = VemiStatus(const Vemi8u*, int, Vemi8u*, int, VemiSize, int);
 
 template <int channels, AddInPlace* add>
 Contest againstPixman(VemiSize size) {
-  const Image<Vemi8u> src = randomImage<Vemi8u>(size, channels), srcDst = blankImage<Vemi8u>(size, channels);
+  const Image<Vemi8u> src = randomImage<Vemi8u>(size, channels);
+  const Image<Vemi8u> srcDst = blankImage<Vemi8u>(size, channels, inPlace);
   const auto from = pixmanImage(src), to = pixmanImage(srcDst);
   return {[=] { return add(src.data(), src.step, srcDst.data(), srcDst.step, size, 0); },
           [=] {

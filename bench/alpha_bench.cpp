@@ -10,7 +10,9 @@ struct Work {
   Image<Vemi8u> src, dst;
 };
 
-Work images(VemiSize size) { return {randomImage<Vemi8u>(size, 4), randomImage<Vemi8u>(size, 4)}; }
+Work images(VemiSize size, Passes overDst) {
+  return {randomImage<Vemi8u>(size, 4), randomImage<Vemi8u>(size, 4, overDst)};
+}
 
 // The source over what the destination holds.
 std::function<VemiStatus()> over(const Work& work) {
@@ -37,13 +39,13 @@ std::function<void()> pixmanComposite(pixman_op_t op, const Work& work, std::sha
 }
 
 Contest overAgainstPixman(VemiSize size) {
-  const Work work = images(size);
+  const Work work = images(size, inPlace);
   return {over(work), pixmanComposite(PIXMAN_OP_OVER, work, pixmanImage(work.src), nullptr), {}};
 }
 
 // The colours alone as an opaque source, under their own pixels as a mask.
 Contest premulAgainstPixman(VemiSize size) {
-  const Work work = images(size);
+  const Work work = images(size, once);
   const std::shared_ptr<pixman_image_t> colours(
       pixman_image_create_bits(PIXMAN_x8r8g8b8, size.width, size.height, reinterpret_cast<uint32_t*>(work.src.data()),
                                work.src.step),
@@ -54,7 +56,7 @@ Contest premulAgainstPixman(VemiSize size) {
 
 #ifdef VEMI_BENCH_LIBYUV
 Contest overAgainstLibyuv(VemiSize size) {
-  const Work work = images(size);
+  const Work work = images(size, inPlace);
   return {over(work),
           [=] {
             const auto& [src, dst] = work;
@@ -65,7 +67,7 @@ Contest overAgainstLibyuv(VemiSize size) {
 }
 
 Contest premulAgainstLibyuv(VemiSize size) {
-  const Work work = images(size);
+  const Work work = images(size, once);
   return {premultiply(work),
           [=] {
             const auto& [src, dst] = work;
@@ -77,7 +79,7 @@ Contest premulAgainstLibyuv(VemiSize size) {
 
 #ifdef VEMI_BENCH_OPENCV
 Contest premulAgainstOpencv(VemiSize size) {
-  const Work work = images(size);
+  const Work work = images(size, once);
   const auto peers = [from = mat(work.src), to = mat(work.dst)]() mutable {
     cv::cvtColor(from, to, cv::COLOR_RGBA2mRGBA);
   };

@@ -41,8 +41,8 @@ enum class Shape { uniform, normal };
 // The peer fills an image with noise first, and then adds it. It has integers below its upper bound.
 template <class T, int channels, Noise<T>* add, Shape shape>
 Contest noiseAgainstOpencv(VemiSize size) {
-  const Image<T> image = randomImage<T>(size, channels);
-  const Image<T> theirNoise = blankImage<T>(size, channels);
+  const Image<T> image = randomImage<T>(size, channels, inPlace);
+  const Image<T> theirNoise = blankImage<T>(size, channels, peersAlone);
   const auto ours = [=, seed = Vemi32u{1}]() mutable {
     return shape == Shape::uniform ? add(image.data(), image.step, size, low, high, &seed)
                                    : add(image.data(), image.step, size, mean, stDev, &seed);
@@ -62,7 +62,7 @@ Contest noiseAgainstOpencv(VemiSize size) {
 template <class T, Window<T>* window>
 Contest windowAgainstOpencv(VemiSize size) {
   const Image<T> src = randomImage<T>(size, 1), dst = blankImage<T>(size, 1);
-  const Image<Vemi32f> weights = randomImage<Vemi32f>(size, 1);
+  const Image<Vemi32f> weights = randomImage<Vemi32f>(size, 1, peersAlone);
   for (size_t i = 0; i < weights.elements(); ++i) weights.data()[i] /= 65536;
   return {[=] { return window(src.data(), src.step, dst.data(), dst.step, size); },
           [from = mat(src), factor = mat(weights), to = mat(dst), owner = weights.pixels]() mutable {

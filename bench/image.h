@@ -25,24 +25,31 @@ struct Image {
   Bytes bytes() const { return {data(), elements() * sizeof(T)}; }
 };
 
+// What our side moves through the images that a row has made since the report last set it to 0.
+inline size_t bytesMoved = 0;
+
+// How often our side passes over an image: it reads or writes it, does both in place, or leaves it to the peer.
+enum Passes { peersAlone, once, inPlace };
+
 // All pages are touched: none is first met while the clock runs.
 template <class T>
-Image<T> blankImage(VemiSize size, int channels) {
+Image<T> blankImage(VemiSize size, int channels, Passes passes = once) {
   constexpr size_t cacheLine = 64;
   Image<T> image{size, channels, size.width * channels * static_cast<int>(sizeof(T)), nullptr};
   const size_t count = image.bytes().count;
   void* block = std::aligned_alloc(cacheLine, (count + cacheLine - 1) / cacheLine * cacheLine);
   if (!block) throw std::bad_alloc();
   std::memset(block, 0, count);
+  bytesMoved += count * passes;
   image.pixels.reset(static_cast<T*>(block), std::free);
   return image;
 }
 
 // The upper bits of a linear congruential sequence: integers over their whole range, floats from 0 to 65535.
 template <class T>
-Image<T> randomImage(VemiSize size, int channels) {
+Image<T> randomImage(VemiSize size, int channels, Passes passes = once) {
   constexpr int unusedBits = sizeof(T) == 1 ? 24 : 16;
-  const Image<T> image = blankImage<T>(size, channels);
+  const Image<T> image = blankImage<T>(size, channels, passes);
   uint32_t state = 1;
   for (size_t i = 0; i < image.elements(); ++i) {
     state = state * 1664525u + 1013904223u;

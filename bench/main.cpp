@@ -7,10 +7,12 @@
 #include <cstdio>
 #include <cstdlib>
 #include <exception>
+#include <map>
 #include <optional>
-#include <utility>
+#include <tuple>
 
 #include "contest.h"
+#include "image.h"
 #include "peers.h"
 #include "race.h"
 
@@ -112,7 +114,7 @@ class Means {
   void print(const std::string& title) const {
     if (rows_ == 0) return;
     std::printf("%-48s", title.c_str());
-    for (const double logSum : logSums_) std::printf("%7.2f         ", std::exp(logSum / rows_));
+    for (const double logSum : logSums_) std::printf("%7.2f              ", std::exp(logSum / rows_));
     std::printf("\n");
   }
 
@@ -142,7 +144,7 @@ class Report {
     overall_.print("== all families against peers");
     std::sort(slower_.begin(), slower_.end());
     if (!slower_.empty()) std::printf("\nBelow 1.0, the slowest first:\n");
-    for (const auto& [ratio, line] : slower_) std::printf("%7.2f  %s\n", ratio, line.c_str());
+    for (const auto& [ratio, share, line] : slower_) std::printf("%7.2f%7.0f%%  %s\n", ratio, share, line.c_str());
     if (!unfair_.empty()) std::printf("\nA failed call, or not the same result on both sides:\n");
     for (const std::string& line : unfair_) std::printf("         %s\n", line.c_str());
     return unfair_.empty();
@@ -150,8 +152,9 @@ class Report {
 
  private:
   void printHead() {
-    std::printf("Each column: peer's time / our time, and our megapixels a second.\n%-27s%-21s", "row", "peer");
-    for (const VemiSize size : options_.sizes) std::printf("%14s  ", sizeName(size).c_str());
+    std::printf("Each column: peer's time / our time, our megapixels a second, our share of the speed of memcpy.\n");
+    std::printf("%-27s%-21s", "row", "peer");
+    for (const VemiSize size : options_.sizes) std::printf("%19s  ", sizeName(size).c_str());
     std::printf("\n");
     headed_ = true;
   }
@@ -160,23 +163,34 @@ class Report {
     std::printf("%-27s%-21s", row.name.c_str(), row.peer.c_str());
     std::vector<double> ratios;
     for (const VemiSize size : options_.sizes) {
+      bytesMoved = 0;
       const Contest contest = row.prepare(size);
+      const double copy = secondsOfCopy(bytesMoved);
       const std::string line = sizeName(size) + "  " + row.name + ", " + row.peer;
       if (!agree(contest)) unfair_.push_back(line);
       const Times times = race(contest, options_.effort);
       ratios.push_back(times.peers / times.ours);
-      std::printf("%7.2f%7.0f  ", ratios.back(), 1e-6 * size.width * size.height / times.ours);
+      const double share = 100 * copy / times.ours;
+      std::printf("%7.2f%7.0f%4.0f%%  ", ratios.back(), 1e-6 * size.width * size.height / times.ours, share);
       std::fflush(stdout);
-      if (against == Against::peers && ratios.back() < 1) slower_.emplace_back(ratios.back(), line);
+      if (against == Against::peers && ratios.back() < 1) slower_.push_back({ratios.back(), share, line});
     }
     std::printf("\n");
     return ratios;
   }
 
+  // Rows that move as much share one measurement.
+  double secondsOfCopy(size_t bytes) {
+    const auto [at, isNew] = copySeconds_.try_emplace(bytes);
+    if (isNew) at->second = bench::secondsOfCopy(bytes, options_.effort);
+    return at->second;
+  }
+
   const Options& options_;
+  std::map<size_t, double> copySeconds_;
   Means overall_;
   bool headed_ = false;
-  std::vector<std::pair<double, std::string>> slower_;
+  std::vector<std::tuple<double, double, std::string>> slower_;  // ratio, share, line
   std::vector<std::string> unfair_;
 };
 

@@ -70,6 +70,16 @@ bool agree(const Contest& contest) {
   return status == vemiOk && ours == writtenBy(contest.peers, contest.results);
 }
 
+double secondsOfCopy(size_t bytes, Effort effort) {
+  std::vector<char> from(bytes / 2, 1), to(bytes / 2);
+  const auto copy = [&] { std::memcpy(to.data(), from.data(), from.size()); };
+  Side side(copy, effort.batchSeconds);
+  for (int idle = 0; idle < effort.patience; ++idle) {
+    if (side.runBatch()) idle = 0;
+  }
+  return side.best();
+}
+
 Times race(const Contest& contest, Effort effort) {
   Side ours(contest.ours, effort.batchSeconds);
   Side peers(contest.peers, effort.batchSeconds);

@@ -19,6 +19,9 @@ struct Times {
 // Whether the library reports success and, where results are to be equal, both sides write the same bytes.
 bool agree(const Contest& contest);
 
+// What memcpy needs for reading half as many bytes and writing them elsewhere.
+double secondsOfCopy(size_t bytes, Effort effort);
+
 // Lets both sides run in turns, in batches of about effort.batchSeconds, and takes the fastest batch of each: whatever
 // else the machine does can only make a batch slower, and a slow minute meets both sides. What counts is the processor
 // time of the calling thread, which stands still while another program has the core.

@@ -21,7 +21,8 @@ HWY_NOINLINE void streamElements(ptrdiff_t count, const IndexedOp& indexedOp, T*
     mapElements<Alpha::none>(n, indexedOp, dst + i, src + i...);
   };
   const auto kernel = [&](T* out, const Src*... in) HWY_ATTR {
-    unrolled<vectors>([&](auto k) HWY_ATTR { hn::Stream(op(d, k, operandOf(d, in + k * N)...), d, out + k * N); });
+    const auto block = blockOf<vectors>(d, [&](auto k) HWY_ATTR { return op(d, k, operandOf(d, in + k * N)...); });
+    unrolled<vectors>([&](auto k) HWY_ATTR { hn::Stream(block.v[k], d, out + k * N); });
   };
   forStreamedBlocks<vectors * N, IndexedOp::period>(count, plain, kernel, Strand<T>{dst}, Strand<const Src>{src}...);
 }
