@@ -9,10 +9,6 @@ template <class T>
 using DivideScaled = VemiStatus(const T*, int, const T*, int, T*, int, VemiSize, int);
 template <class T>
 using Divide = VemiStatus(const T*, int, const T*, int, T*, int, VemiSize);
-template <class T>
-using DivideByOne = VemiStatus(const T*, int, T, T*, int, VemiSize, int);
-template <class T>
-using DivideByEach = VemiStatus(const T*, int, const T*, T*, int, VemiSize, int);
 
 /// Divisors are never zero: what stands for a quotient then is each library's own.
 template <class T>
@@ -70,15 +66,11 @@ Contest constantAgainstOpencv(VemiSize size) {
   const Image<T> src = randomImage<T>(size, channels), dst = blankImage<T>(size, channels);
   const auto peers = [from = mat(src), to = mat(dst)]() mutable { cv::divide(from, scalarConstants, to); };
   const auto ours = [=] {
-    if constexpr (std::is_same_v<decltype(divide), DivideByOne<T>*>) {
-      return divide(src.data(), src.step, constants<T>[0], dst.data(), dst.step, dst.size, 0);
-    } else if constexpr (std::is_same_v<decltype(divide), DivideByEach<T>*>) {
-      return divide(src.data(), src.step, constants<T>, dst.data(), dst.step, dst.size, 0);
-    } else if constexpr (channels == 1) {
-      return divide(src.data(), src.step, constants<T>[0], dst.data(), dst.step, dst.size);
-    } else {
-      return divide(src.data(), src.step, constants<T>, dst.data(), dst.step, dst.size);
-    }
+    const auto value = argument<channels>(constants<T>);
+    if constexpr (std::is_same_v<T, Vemi32f>)
+      return divide(src.data(), src.step, value, dst.data(), dst.step, dst.size);
+    else
+      return divide(src.data(), src.step, value, dst.data(), dst.step, dst.size, 0);
   };
   return {ours, peers, {}};
 }

@@ -62,4 +62,13 @@ Image<T> randomImage(VemiSize size, int channels, Passes passes = once) {
 template <class T>
 inline constexpr T constants[4] = {11, 22, 33, 44};
 
+// What a function of so many channels takes: one constant, or the array of them.
+template <int channels, class T>
+constexpr auto argument(const T (&values)[4]) {
+  if constexpr (channels == 1)
+    return values[0];
+  else
+    return &values[0];
+}
+
 }  // namespace bench

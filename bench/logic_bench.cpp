@@ -28,10 +28,7 @@ template <class T, int channels, auto logical, OpencvLogical* peer>
 Contest constantAgainstOpencv(VemiSize size) {
   const Image<T> src = randomImage<T>(size, channels), dst = blankImage<T>(size, channels);
   const auto ours = [=] {
-    if constexpr (channels == 1)
-      return logical(src.data(), src.step, constants<T>[0], dst.data(), dst.step, size);
-    else
-      return logical(src.data(), src.step, constants<T>, dst.data(), dst.step, size);
+    return logical(src.data(), src.step, argument<channels>(constants<T>), dst.data(), dst.step, size);
   };
   const auto peers = [=, from = mat(src), to = mat(dst)]() mutable { peer(from, scalarConstants, to, cv::noArray()); };
   return {ours, peers, {dst.bytes()}};

@@ -74,18 +74,16 @@ double secondsOfCopy(size_t bytes, Effort effort) {
   std::vector<char> from(bytes / 2, 1), to(bytes / 2);
   const auto copy = [&] { std::memcpy(to.data(), from.data(), from.size()); };
   Side side(copy, effort.batchSeconds);
-  for (int idle = 0; idle < effort.patience; ++idle) {
-    if (side.runBatch()) idle = 0;
-  }
+  for (int idle = 0; idle < effort.patience;) idle = side.runBatch() ? 0 : idle + 1;
   return side.best();
 }
 
 Times race(const Contest& contest, Effort effort) {
   Side ours(contest.ours, effort.batchSeconds);
   Side peers(contest.peers, effort.batchSeconds);
-  for (int idle = 0; idle < effort.patience; ++idle) {
+  for (int idle = 0; idle < effort.patience;) {
     const bool oursImproved = ours.runBatch(), peersImproved = peers.runBatch();
-    if (oursImproved || peersImproved) idle = 0;
+    idle = oursImproved || peersImproved ? 0 : idle + 1;
   }
   return {ours.best(), peers.best()};
 }

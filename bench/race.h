@@ -8,6 +8,7 @@ namespace bench {
 struct Effort {
   double batchSeconds;
   int patience;  // turns in a row that improve on neither side's best batch by a percent, and so end the race
+  int rounds;    // races in fresh images, of which the one in the middle counts: much depends on which pages they get
 };
 
 // Seconds of one call.

@@ -1,24 +1,13 @@
 // Fills with a constant, against filling the same rows with a byte and against fills of the peers.
 
-#include <type_traits>
-
 #include "peers.h"
 
 namespace bench {
 namespace {
 
-template <class T>
-using SetOne = VemiStatus(T, T*, int, VemiSize);
-template <class T>
-using SetEach = VemiStatus(const T*, T*, int, VemiSize);
-
-template <class T>
-std::function<VemiStatus()> filler(SetOne<T>* set, const Image<T>& dst) {
-  return [=] { return set(constants<T>[0], dst.data(), dst.step, dst.size); };
-}
-template <class T>
-std::function<VemiStatus()> filler(SetEach<T>* set, const Image<T>& dst) {
-  return [=] { return set(constants<T>, dst.data(), dst.step, dst.size); };
+template <int channels, auto set, class T>
+std::function<VemiStatus()> filler(const Image<T>& dst) {
+  return [=] { return set(argument<channels>(constants<T>), dst.data(), dst.step, dst.size); };
 }
 
 template <class T, int channels, auto set>
@@ -31,14 +20,14 @@ Contest againstMemset(VemiSize size) {
     }
   };
   constexpr bool sameBytes = sizeof(T) == 1 && channels == 1;
-  return {filler<T>(set, dst), fillRows, sameBytes ? std::vector{dst.bytes()} : std::vector<Bytes>{}};
+  return {filler<channels, set>(dst), fillRows, sameBytes ? std::vector{dst.bytes()} : std::vector<Bytes>{}};
 }
 
 #ifdef VEMI_BENCH_OPENCV
 template <class T, int channels, auto set>
 Contest againstSetTo(VemiSize size) {
   const Image<T> dst = blankImage<T>(size, channels);
-  return {filler<T>(set, dst), [to = mat(dst)]() mutable { to.setTo(scalarConstants); }, {dst.bytes()}};
+  return {filler<channels, set>(dst), [to = mat(dst)]() mutable { to.setTo(scalarConstants); }, {dst.bytes()}};
 }
 #endif
 
@@ -47,7 +36,7 @@ Contest c4AgainstPixman(VemiSize size) {
   const Image<Vemi8u> dst = blankImage<Vemi8u>(size, 4);
   uint32_t word;
   std::memcpy(&word, constants<Vemi8u>, sizeof word);
-  return {filler<Vemi8u>(vemiSet_8u_C4R, dst),
+  return {filler<4, vemiSet_8u_C4R>(dst),
           [=] {
             pixman_fill(reinterpret_cast<uint32_t*>(dst.data()), size.width, 32, 0, 0, size.width, size.height, word);
           },

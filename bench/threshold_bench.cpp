@@ -20,15 +20,6 @@ constexpr T white[4] = {255, 255, 255, 255};
 template <class T>
 constexpr T middles[4] = {middle<T>, middle<T>, middle<T>, middle<T>};
 
-/// Passes one constant, or the array of them.
-template <int channels, class T>
-auto argument(const T (&values)[4]) {
-  if constexpr (channels == 1)
-    return values[0];
-  else
-    return &values[0];
-}
-
 /// call(src, srcStep, dst, dstStep, size) against peer(mat of src, mat of dst).
 template <class T, class Call, class Peer>
 Contest against(VemiSize size, int channels, bool isSame, const Call& call, const Peer& peer) {
