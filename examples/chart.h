@@ -1,4 +1,4 @@
-// Charts of functions of a byte.
+// Charts: their paper and colours, and the functions of a byte as lines.
 #pragma once
 
 #include <algorithm>
@@ -10,8 +10,8 @@ namespace demo {
 inline constexpr Vemi8u paper[3] = {28, 31, 36}, grey[3] = {120, 124, 130}, blue[3] = {86, 160, 240},
                         orange[3] = {244, 162, 97}, green[3] = {110, 210, 150};
 
-inline Image8u emptyChart() {
-  Image8u chart({256, 256}, 3);
+inline Image8u emptyChart(VemiSize size = {256, 256}) {
+  Image8u chart(size, 3);
   CALL(vemiSet_8u_C3R(paper, chart.data(), chart.step(), chart.size()));
   return chart;
 }

@@ -46,8 +46,7 @@ constexpr Section sections[] = {
      demoAdd},
     {"Differences and gain",
      "vemiSub takes its first source off the second and stops at 0 in 8 bits; vemiMulC and vemiDiv change brightness "
-     "by "
-     "factors, which the scale factor turns into fractions.",
+     "by factors, which the scale factor turns into fractions.",
      demoGain},
     {"Curves and blends",
      "Squares, roots, logarithms and exponentials of each element, absolute values, and products on the full scale, "

@@ -71,8 +71,7 @@ void showOperators(const Image8u& photo, const Image8u& mirror, Page& page) {
                                       layers.at(n % 3 * part.width, n / 3 * part.height), layers.step(), part, n));
   page.show(sheet, "Over, in, out; atop, xor, plus",
             "Types 0 to 5: six ways to lay the left ellipse, a, over the right one, b, which is the mirror image in "
-            "blue. The results "
-            "are premultiplied, and go over a checkerboard as such.",
+            "blue. The results are premultiplied, and go over a checkerboard as such.",
             {operators, CALL(vemiAlphaComp_8u_AC4R(layers.data(), layers.step(), sheet.data(), sheet.step(),
                                                    sheet.data(), sheet.step(), sheet.size(), vemiAlphaOverPremul))});
 }

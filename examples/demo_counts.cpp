@@ -5,6 +5,7 @@
 #include <cstdio>
 #include <vector>
 
+#include "chart.h"
 #include "demo.h"
 #include "pictures.h"
 #include "prepare.h"
@@ -14,6 +15,10 @@ namespace {
 
 /// Counts and levels of three channels, over all values of a byte.
 struct Histogram {
+  explicit Histogram(int binCount) : bins(binCount) {}
+  Histogram(const Histogram&) = delete;  // a copy would point into the original
+  Histogram& operator=(const Histogram&) = delete;
+
   int bins;
   std::vector<Vemi32s> memory = std::vector<Vemi32s>(static_cast<size_t>(3 * (bins + bins + 1)));
   Vemi32s* counts[3] = {&memory[0], counts[0] + bins, counts[1] + bins};
@@ -25,9 +30,7 @@ struct Histogram {
 /// Three bar charts over each other, each in the light of its channel.
 Image8u chartOf(const Histogram& histogram) {
   constexpr int width = 512, height = 200;
-  constexpr Vemi8u paper[3] = {28, 31, 36};
-  Image8u chart({width, height}, 3);
-  CALL(vemiSet_8u_C3R(paper, chart.data(), chart.step(), chart.size()));
+  Image8u chart = emptyChart({width, height});
   const int bar = width / histogram.bins;
   for (int channel = 0; channel < 3; channel++) {
     const Vemi32s* const counts = histogram.counts[channel];
@@ -44,13 +47,13 @@ Image8u chartOf(const Histogram& histogram) {
 
 void showHistograms(const Image8u& photo, Page& page) {
   const VemiSize size = photo.size();
-  Histogram four = {64}, each = {256};
+  Histogram fourToABin(64), oneToABin(256);
   const auto count = [&](const Image8u& picture, Histogram& histogram) {
     return CALL(vemiHistogramEven_8u_C3R(picture.data(), picture.step(), size, histogram.counts, histogram.levels,
                                          histogram.nLevels, histogram.lower, histogram.upper));
   };
-  const Call counted = count(photo, four);
-  page.show(chartOf(four), "How often values occur",
+  const Call counted = count(photo, fourToABin);
+  page.show(chartOf(fourToABin), "How often values occur",
             "Four values to a bin, from black on the left to white on the right, for red, green and blue; where two or "
             "three overlap, their light adds up.",
             {counted});
@@ -60,8 +63,8 @@ void showHistograms(const Image8u& photo, Page& page) {
   const Call lowered =
       CALL(vemiSubC_8u_C3RSfs(photo.data(), photo.step(), black, contrast.data(), contrast.step(), size, 0));
   const Call raised = CALL(vemiMulC_8u_C3IRSfs(steep, contrast.data(), contrast.step(), size, 5));
-  const Call recounted = count(contrast, each);
-  page.show(chartOf(each), "Every value, with more contrast",
+  const Call recounted = count(contrast, oneToABin);
+  page.show(chartOf(oneToABin), "Every value, with more contrast",
             "Fewer values are spread over the same range: gaps between them, and at both ends what was cut off.",
             {lowered, raised, recounted});
 }
@@ -152,13 +155,13 @@ std::vector<std::string> invariantsOf(const char* title, const Moments& moments)
 
 void showInvariants(const Image8u& rgba, const Image8u& photo, Page& page) {
   const Image8u mirror = mirrored(photo), small = halved(rgba);
-  const Moments asItIs, turnedAround, halfSize;
+  const Moments asItIs, asMirrored, halfSize;
   CALL(vemiMoments64f_8u_C3R(photo.data(), photo.step(), photo.size(), asItIs.state()));
-  CALL(vemiMoments64f_8u_C3R(mirror.data(), mirror.step(), mirror.size(), turnedAround.state()));
+  CALL(vemiMoments64f_8u_C3R(mirror.data(), mirror.step(), mirror.size(), asMirrored.state()));
   CALL(vemiMoments64f_8u_AC4R(small.data(), small.step(), small.size(), halfSize.state()));
   page.table({"vemiGetHuMoments_64f, green", "h0", "h1", "h2", "h3", "h4", "h5", "h6"},
              {invariantsOf("the picture", asItIs), invariantsOf("at half the size", halfSize),
-              invariantsOf("its mirror image", turnedAround)});
+              invariantsOf("its mirror image", asMirrored)});
 }
 
 }  // namespace

@@ -3,16 +3,11 @@
 #include <algorithm>
 
 #include "demo.h"
+#include "pictures.h"
 #include "shapes.h"
 
 namespace demo {
 namespace {
-
-Image8u copyOf(const Image8u& photo) {
-  Image8u copy(photo.size(), 3);
-  CALL(vemiCopy_8u_C3R(photo.data(), photo.step(), copy.data(), copy.step(), photo.size()));
-  return copy;
-}
 
 void showFills(const Image8u& photo, Page& page) {
   constexpr Vemi8u palette[5][3] = {{38, 70, 83}, {42, 157, 143}, {233, 196, 106}, {244, 162, 97}, {231, 111, 81}};

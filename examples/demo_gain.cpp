@@ -91,8 +91,7 @@ void showColours(const Image8u& photo, Page& page) {
   CALL(vemiCopy_8u_P3C3R(means, blue.step(), light.data(), light.step(), size));
   page.show(colours, "Colours without light",
             "128 times each channel, divided by a mean of all three that counts green twice. Where that is 0 the call "
-            "goes on, and returns a "
-            "warning in the end.",
+            "goes on, and returns a warning in the end.",
             {outer, all,
              CALL(vemiDiv_8u_C3RSfs(light.data(), light.step(), photo.data(), photo.step(), colours.data(),
                                     colours.step(), size, -7))});

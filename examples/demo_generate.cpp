@@ -26,12 +26,6 @@ void showChirp(Page& page) {
             {CALL(vemiImageJaehne_8u_C1R(rings.data(), rings.step(), rings.size()))});
 }
 
-Image8u copyOf(const Image8u& photo) {
-  Image8u copy(photo.size(), 3);
-  CALL(vemiCopy_8u_C3R(photo.data(), photo.step(), copy.data(), copy.step(), photo.size()));
-  return copy;
-}
-
 void showNoise(const Image8u& photo, Page& page) {
   const VemiSize right = {photo.width() - photo.width() / 2, photo.height()};
   const int middle = photo.width() / 2;

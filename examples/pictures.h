@@ -5,6 +5,13 @@
 
 namespace demo {
 
+/// Three channels, to draw on.
+inline Image8u copyOf(const Image8u& photo) {
+  Image8u copy(photo.size(), 3);
+  CALL(vemiCopy_8u_C3R(photo.data(), photo.step(), copy.data(), copy.step(), photo.size()));
+  return copy;
+}
+
 /// Left and right exchanged; three channels.
 inline Image8u mirrored(const Image8u& photo) {
   Image8u mirror(photo.size(), 3);
