@@ -305,7 +305,7 @@ VEMI_API VemiStatus vemiMaxIndx_32f_AC4R(const Vemi32f* pSrc, int srcStep, VemiS
  *
  * Both limits are in the range, so equal ones count a single value. C1 forms take them by value; the others take arrays
  * of three, one for each channel, and count each channel by itself. A NaN is in no range, and a limit that is NaN
- * leaves nothing in it.
+ * leaves nothing in it. Counts are exact, modulo 2^32.
  *
  *     8u   10 20 30 20,  lower = 20, upper = 30    ->  3
  *
@@ -343,7 +343,8 @@ VEMI_API VemiStatus vemiCountInRange_32f_AC4R(const Vemi32f* pSrc, int srcStep, 
  *
  * for each channel. Nothing saturates: |-32768| is 32768 and, in vemiNorm_Inf_32s_C1R, |-2147483648| is 2147483648. The
  * root is taken in double precision once the sum is complete. The sums of L1 and L2 are exact for 8u and 16s; for 32f
- * see @ref vemi_accuracy "Accuracy". The 32f Inf forms have no hint: they compare floats, and pass over NaN.
+ * see @ref vemi_accuracy "Accuracy". The 32f Inf forms have no hint: they compare floats, and pass over NaN; a
+ * channel of nothing but NaN has the norm 0.
  *
  *     16s  3 -4                  ->  Inf 4, L1 7, L2 5
  *
@@ -766,8 +767,16 @@ VEMI_API VemiStatus vemiMoments64s_8u_AC4R(const Vemi8u* pSrc, int srcStep, Vemi
  *
  * again from the sums: c(2, 0) = S(2, 0) - x0 * S(1, 0) and so on, c(1, 0) = c(0, 1) = 0 exactly, c(0, 0) = S(0, 0).
  *
- * **Normalised**: M or c times S(0, 0)^(-(m + n + 2) / 2), the power by the C library's pow. A normalised central
- * moment does not change when the picture is moved or scaled.
+ * **Normalised**: M or c times S(0, 0)^(-(m + n + 2) / 2). With s = S(0, 0) this power is one of
+ *
+ *     m + n = 0    1 / s
+ *     m + n = 1    1 / (s * root of s)
+ *     m + n = 2    1 / (s * s)
+ *     m + n = 3    1 / (s * s * root of s)
+ *
+ * computed with significands of 64 bits and then rounded to double, which gives the same bits on every processor. The
+ * root of a negative s is NaN, and so is the power, except that that of -infinity is 0. A normalised central moment
+ * does not change when the picture is moved or scaled.
  *
  * **Hu.** Seven numbers that do not change either when the picture is turned (M.-K. Hu, Visual pattern recognition by
  * moment invariants, 1962), of the normalised central moments e, with p = e30 + e12, q = e21 + e03, r = e12 + e03,

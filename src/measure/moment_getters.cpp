@@ -2,9 +2,9 @@
 //
 // Checks: null, tag, order, channel; then the divisor S(0, 0) where there is one.
 
-#include <math.h>
-
 #include <algorithm>
+#include <cmath>
+#include <cstring>
 #include <limits>
 
 #include "measure/moment_state.h"
@@ -83,10 +83,17 @@ double centralMoment(const Sums& S, int m, int n) {
   }
 }
 
-/// What a moment of order m + n is multiplied by to become independent of the size.
-double normalisation(const Sums& S, int order) { return pow(S(0, 0), -(order + 2) / 2.0); }
+/// What a moment of order m + n is multiplied by to become independent of the size: S(0, 0)^(-(order + 2) / 2), as pow
+/// defines it, but by operations whose bits do not depend on the C library. In the x87 format nothing overflows.
+double normalisation(const Sums& S, int order) {
+  static_assert(std::numeric_limits<long double>::digits == 64);
+  const bool isHalfPower = order % 2 == 1;
+  if (isHalfPower && S(0, 0) == -std::numeric_limits<double>::infinity()) return 0;  // where a root would give NaN
+  const long double s = S(0, 0), wholePower = order < 2 ? s : s * s;
+  return static_cast<double>(1 / (isHalfPower ? wholePower * std::sqrt(s) : wholePower));
+}
 
-bool vanishes(const Sums& S) { return fabs(S(0, 0)) <= std::numeric_limits<double>::epsilon(); }
+bool vanishes(const Sums& S) { return std::fabs(S(0, 0)) <= std::numeric_limits<double>::epsilon(); }
 
 void huMoments(const Sums& S, double (&h)[7]) {
   const double size2 = normalisation(S, 2), size3 = normalisation(S, 3);
@@ -109,12 +116,12 @@ void huMoments(const Sums& S, double (&h)[7]) {
 /// As the processor converts: in the rounding mode, with the smallest integer for what does not fit, NaN included.
 Vemi64s toInteger(double value) {
   constexpr double bound = 9223372036854775808.0;  // 2^63
-  return value >= -bound && value < bound ? llrint(value) : std::numeric_limits<Vemi64s>::min();
+  return value >= -bound && value < bound ? std::llrint(value) : std::numeric_limits<Vemi64s>::min();
 }
 
 /// value / 2^scaleFactor; beyond the clamp no double changes any more.
 void put(double value, Vemi64s* pValue, int scaleFactor) {
-  *pValue = toInteger(ldexp(value, -std::clamp(scaleFactor, -5000, 5000)));
+  *pValue = toInteger(std::ldexp(value, -std::clamp(scaleFactor, -5000, 5000)));
 }
 
 void put(double value, Vemi64f* pValue, int /*scaleFactor*/ = 0) { *pValue = value; }

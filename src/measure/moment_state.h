@@ -1,7 +1,7 @@
 // The record between the pass over the pixels and the functions that read moments off it.
 #pragma once
 
-#include <cstring>
+#include <type_traits>
 
 #include "core/checks.h"
 #include "vemi/measure.h"

@@ -262,7 +262,8 @@ template <class Sum, class L, class T>
 VemiStatus moments(Image<const T> src, VemiSize roiSize, VemiMomentState* pState) {
   if (VemiStatus bad = checkNull(src, pState)) return bad;
   if (VemiStatus bad = firstOf(checkContext<Sum>(pState), checkStep(src), checkSize(roiSize))) return bad;
-  if (roiSize.width * pixelBytes < T, L >> src.step) return vemiErrStride;
+  const Vemi64s rowBytes = Vemi64s{roiSize.width} * pixelBytes<T, L>;
+  if (rowBytes > src.step) return vemiErrStride;
   using A = Arithmetic<Sum>;
   Table<A> table[3] = {};
   if constexpr (std::is_same_v<Sum, Vemi64f>) {

@@ -152,6 +152,44 @@ TEST(Moments, OfLongBrightRows) {
   }
 }
 
+/// Beyond 53 bits each pixel is rounded by itself in the accurate way.
+TEST(Moments, OfBrightRowsPixelByPixel) {
+  const int width = 300000, height = 3;
+  std::vector<Vemi8u> bright(width * height);
+  Random random(4);
+  for (Vemi8u& value : bright) value = static_cast<Vemi8u>(252 + random.below(4));
+  double sum[16] = {};
+  for (int64_t y = 0; y < height; ++y) {
+    for (int64_t x = 0; x < width; ++x) {
+      const int64_t f = bright[static_cast<size_t>(y * width + x)];
+      const int64_t ofRows[4] = {f, y * f, y * y * f, y * y * y * f}, ofColumns[4] = {1, x, x * x, x * x * x};
+      for (int n = 0; n < 4; ++n) {
+        for (int m = 0; m + n < 4; ++m) {
+          sum[m + 4 * n] += static_cast<double>(ofColumns[m]) * static_cast<double>(ofRows[n]);
+        }
+      }
+    }
+  }
+  ASSERT_GT(sum[3], 0x1p53);
+  VemiMomentState state = stateOf(33, vemiHintAccurate);
+  ASSERT_EQ(vemiMoments64f_8u_C1R(bright.data(), width, {width, height}, &state), vemiOk);
+  for (int i = 0; i < 16; ++i) EXPECT_EQ(state.sum.f[0][i], sum[i]) << i;
+}
+
+/// Rows whose bytes, taken modulo 2^32, would fit the step.
+TEST(Moments, OfRowsFarBeyondTheStep) {
+  const Vemi8u bytes[16] = {};
+  const float floats[4] = {};
+  VemiMomentState f = stateOf(33, 0), s = stateOf(34, 0);
+  EXPECT_EQ(vemiMoments64f_8u_C3R(bytes, 16, {0x55555556, 1}, &f), vemiErrStride);
+  EXPECT_EQ(vemiMoments64f_8u_AC4R(bytes, 16, {0x40000001, 1}, &f), vemiErrStride);
+  EXPECT_EQ(vemiMoments64s_8u_C3R(bytes, 16, {0x55555556, 1}, &s), vemiErrStride);
+  EXPECT_EQ(vemiMoments64s_8u_AC4R(bytes, 16, {0x40000001, 1}, &s), vemiErrStride);
+  EXPECT_EQ(vemiMoments64f_32f_C1R(floats, 16, {0x40000001, 1}, &f), vemiErrStride);
+  EXPECT_EQ(vemiMoments64f_32f_C3R(floats, 16, {0x15555556, 1}, &f), vemiErrStride);
+  EXPECT_EQ(vemiMoments64f_32f_AC4R(floats, 16, {0x10000001, 1}, &f), vemiErrStride);
+}
+
 TEST(Moments, OfInfinitiesAndNaNs) {
   const float infinity = std::numeric_limits<float>::infinity();
   const float row[12] = {0, 1, infinity, 1, 0, 0, 0, 0, 0, 0, 0, 2};
@@ -225,6 +263,60 @@ TEST(MomentGetters, GiveTheMomentsOfThePixels) {
         expectNear(value, picture.normalised(picture.central(m, n), m + n), picture.normalised(size, m + n));
       }
     }
+  }
+}
+
+/// What a moment of order m is multiplied by where S(0, 0) is `size`. It is read off a moment of 1, except for order 0.
+double normalisationOf(double size, int m) {
+  VemiMomentState state = stateOf(33, 0);
+  state.nChannels = 1;
+  state.sum.f[0][0] = size;
+  if (m > 0) state.sum.f[0][m] = 1;
+  double value = 77;
+  EXPECT_EQ(vemiGetNormalizedSpatialMoment_64f(&state, m, 0, 0, 0, 0, &value), vemiOk);
+  return m == 0 ? value / size : value;
+}
+
+TEST(MomentGetters, NormalisationIsAPowerOfTheSize) {
+  for (const double size : {4.0, 0x1p-48, 0x1p100, 0x1p520}) {
+    const double root = std::sqrt(size);
+    EXPECT_EQ(normalisationOf(size, 0), 1 / size);
+    EXPECT_EQ(normalisationOf(size, 1), 1 / size / root);
+    EXPECT_EQ(normalisationOf(size, 2), 1 / size / size);  // at last below the normal doubles
+    EXPECT_EQ(normalisationOf(size, 3), 1 / size / size / root);
+    EXPECT_EQ(normalisationOf(-size, 0), -1 / size);
+    EXPECT_TRUE(std::isnan(normalisationOf(-size, 1)));
+    EXPECT_EQ(normalisationOf(-size, 2), 1 / size / size);
+    EXPECT_TRUE(std::isnan(normalisationOf(-size, 3)));
+  }
+  Random random(8);
+  for (int i = 0; i < 1000; ++i) {
+    const double size = 1 + random.below(100000000);
+    for (int m = 1; m < 4; ++m) EXPECT_DOUBLE_EQ(normalisationOf(size, m), std::pow(size, -(m + 2) / 2.0));
+  }
+}
+
+/// To the bit where the powers of C libraries differ: exact values, rounded.
+TEST(MomentGetters, NormalisationIsTheSameEverywhere) {
+  EXPECT_EQ(normalisationOf(651, 1), 0x1.f9080c9c5d4a2p-15);
+  EXPECT_EQ(normalisationOf(1541, 1), 0x1.155799a651740p-16);
+  EXPECT_EQ(normalisationOf(6649, 1), 0x1.ef1d3bfc49a42p-20);
+  EXPECT_EQ(normalisationOf(1353, 3), 0x1.fe46b86f52aa6p-27);
+  EXPECT_EQ(normalisationOf(2433, 3), 0x1.d6b613b5f4951p-29);
+  EXPECT_EQ(normalisationOf(7651, 3), 0x1.ad78b22a84279p-33);
+}
+
+/// Sums that are infinite come to nothing under a power below zero, negative ones too.
+TEST(MomentGetters, NormalisationOfInfinity) {
+  for (const double size : {1.0, -1.0}) {
+    VemiMomentState state = stateOf(33, 0);
+    state.nChannels = 1;
+    state.sum.f[0][0] = size * std::numeric_limits<double>::infinity();
+    double value = 77;
+    EXPECT_EQ(vemiGetNormalizedCentralMoment_64f(&state, 1, 0, 0, &value), vemiOk);
+    EXPECT_EQ(value, 0);
+    EXPECT_EQ(vemiGetNormalizedCentralMoment_64f(&state, 3, 0, 0, &value), vemiOk);
+    EXPECT_EQ(value, 0);
   }
 }
 
