@@ -6,6 +6,8 @@
 #include <cmath>
 #include <limits>
 #include <numeric>
+#include <string>
+#include <vector>
 
 #include "core/alloc.h"
 #include "support/check.h"
@@ -197,37 +199,74 @@ class ShortMemory : public ::testing::Test {
 };
 using HistogramWithoutMemory = ShortMemory;
 
-TEST_F(HistogramWithoutMemory, FailsWhereTheRuleTakesATable) {
-  const std::vector<Vemi16s> pixels(4 * 124000);
-  const auto statusOf = [&](int channels, int pixelCount, int levelCount, bool rising) {
-    std::vector<Vemi32s> levels(static_cast<size_t>(levelCount)), counts(levels.size(), 77);
-    std::iota(levels.begin(), levels.end(), 0);
-    if (!rising) levels[1] = levels[0];
+/// One call of vemiHistogramRange_16s for any layout, with the same number of levels in each channel.
+struct RangeCall {
+  const char* layout;
+  int pixels, levels;
+  bool rising;
+
+  VemiStatus status() const {
+    const std::vector<Vemi16s> source(static_cast<size_t>(4 * pixels));
+    std::vector<Vemi32s> limits(static_cast<size_t>(levels)), counts(limits.size(), 77);
+    std::iota(limits.begin(), limits.end(), 0);
+    if (!rising) limits[1] = limits[0];
     Vemi32s* const pHist[4] = {counts.data(), counts.data(), counts.data(), counts.data()};
-    const Vemi32s* const pLevels[4] = {levels.data(), levels.data(), levels.data(), levels.data()};
-    const int nLevels[4] = {levelCount, levelCount, levelCount, levelCount};
-    const VemiSize size = {pixelCount, 1};
-    const int step = 1;
+    const Vemi32s* const pLevels[4] = {limits.data(), limits.data(), limits.data(), limits.data()};
+    const int nLevels[4] = {levels, levels, levels, levels}, step = 1;
+    const VemiSize size = {pixels, 1};
+    const std::string name = layout;
     const VemiStatus status =
-        channels == 1 ? vemiHistogramRange_16s_C1R(pixels.data(), step, size, counts.data(), levels.data(), levelCount)
-        : channels == 3 ? vemiHistogramRange_16s_C3R(pixels.data(), step, size, pHist, pLevels, nLevels)
-                        : vemiHistogramRange_16s_C4R(pixels.data(), step, size, pHist, pLevels, nLevels);
+        name == "C1"   ? vemiHistogramRange_16s_C1R(source.data(), step, size, counts.data(), limits.data(), levels)
+        : name == "C3" ? vemiHistogramRange_16s_C3R(source.data(), step, size, pHist, pLevels, nLevels)
+        : name == "C4" ? vemiHistogramRange_16s_C4R(source.data(), step, size, pHist, pLevels, nLevels)
+                       : vemiHistogramRange_16s_AC4R(source.data(), step, size, pHist, pLevels, nLevels);
     EXPECT_EQ(counts[0] == 77, status == vemiErrMemAlloc);
     return status;
-  };
+  }
+};
+
+void expectStatus(const RangeCall& call, VemiStatus expected) {
+  EXPECT_EQ(call.status(), expected) << call.layout << (call.rising ? " rising, " : " falling, ") << call.pixels
+                                     << " pixels, " << call.levels << " levels";
+}
+
+/// From so many pixels on, more levels than the limit take a table.
+struct SizeAndLimit {
+  int pixels, limit;
+};
+
+const std::vector<SizeAndLimit> ofOneRising = {{12544, 214}, {16384, 74}, {20736, 38}, {25600, 34}, {30976, 22},
+                                               {43264, 18},  {50176, 14}, {65536, 10}, {123904, 6}};
+const std::vector<SizeAndLimit> ofOneOther = {{1024, 442}, {2304, 202}, {4096, 114}, {6400, 74},
+                                              {9216, 54},  {12544, 42}, {16384, 30}, {20736, 22},
+                                              {30976, 18}, {36864, 14}, {50176, 10}, {82944, 6}};
+const std::vector<SizeAndLimit> ofThreeRising = {{12544, 262}, {16384, 126}, {20736, 62}, {25600, 46}, {30976, 34},
+                                                 {36864, 30},  {43264, 22},  {50176, 18}, {73984, 14}, {135424, 10}};
+const std::vector<SizeAndLimit> ofThreeOther = {{1024, 406}, {2304, 194}, {4096, 110}, {6400, 74},
+                                                {9216, 54},  {12544, 42}, {16384, 34}, {20736, 26},
+                                                {25600, 22}, {36864, 18}, {57600, 14}, {92416, 10}};
+const std::vector<SizeAndLimit> ofFourRising = {{12544, 190}, {16384, 102}, {20736, 62}, {25600, 46}, {30976, 38},
+                                                {36864, 34},  {43264, 22},  {50176, 18}, {173056, 14}};
+const std::vector<SizeAndLimit> ofFourOther = {{1024, 358}, {2304, 162}, {4096, 98},  {6400, 66},
+                                               {9216, 50},  {12544, 38}, {16384, 30}, {20736, 26},
+                                               {25600, 22}, {36864, 18}, {57600, 14}, {160000, 10}};
+
+TEST_F(HistogramWithoutMemory, FailsWhereTheRuleTakesATable) {
   const struct {
-    int channels, pixels, levels;
+    const char* layout;
     bool rising;
-  } firstToFail[] = {{1, 12544, 215, true}, {1, 16384, 75, true},  {1, 123904, 7, true},  {1, 1024, 443, false},
-                     {1, 82944, 7, false},  {3, 12544, 263, true}, {3, 1024, 407, false}, {3, 73984, 15, true},
-                     {4, 12544, 191, true}, {4, 50176, 19, true},  {4, 1024, 359, false}, {4, 57600, 15, false}};
-  for (const auto& each : firstToFail) {
-    // A third of three equal numbers of levels comes out one less.
-    const int atLimit = each.levels - 1, above = each.channels == 3 ? each.levels + 1 : each.levels;
-    EXPECT_EQ(statusOf(each.channels, each.pixels, above, each.rising), vemiErrMemAlloc)
-        << each.channels << " channels, " << each.pixels << " pixels, " << above << " levels";
-    EXPECT_EQ(statusOf(each.channels, each.pixels, atLimit, each.rising), vemiOk);
-    EXPECT_EQ(statusOf(each.channels, each.pixels - 1, above, each.rising), vemiOk);
+    const std::vector<SizeAndLimit>& limits;
+  } rules[] = {{"C1", true, ofOneRising},    {"C1", false, ofOneOther},   {"C3", true, ofThreeRising},
+               {"C3", false, ofThreeOther},  {"C4", true, ofFourRising},  {"C4", false, ofFourOther},
+               {"AC4", true, ofThreeRising}, {"AC4", false, ofThreeOther}};
+  for (const auto& rule : rules) {
+    for (const auto& [pixels, limit] : rule.limits) {
+      // A third of three equal numbers of levels comes out one less.
+      const int levels = &rule.limits == &ofThreeRising || &rule.limits == &ofThreeOther ? limit + 1 : limit;
+      expectStatus({rule.layout, pixels, levels, rule.rising}, vemiOk);
+      expectStatus({rule.layout, pixels, levels + 1, rule.rising}, vemiErrMemAlloc);
+      expectStatus({rule.layout, pixels - 1, levels + 1, rule.rising}, vemiOk);
+    }
   }
 }
 
@@ -243,6 +282,37 @@ TEST_F(HistogramWithoutMemory, EvenBinsNeverFail) {
             vemiErrMemAlloc);
   EXPECT_EQ(counts[0], 77);
   EXPECT_EQ(levels[1], 2);
+}
+
+/// A remainder in any channel, -1 for none, takes the road of levels that are the caller's.
+TEST_F(HistogramWithoutMemory, EvenBinsOfAllChannelsNeverFail) {
+  const std::vector<Vemi16s> pixels(4 * 65536, 3);
+  const auto expectEven = [&](auto* even, int channels, int unevenChannel) {
+    constexpr int nLevels[4] = {101, 101, 101, 101}, lower[4] = {0, 0, 0, 0};
+    int upper[4] = {200, 300, 400, 500};
+    if (unevenChannel >= 0) upper[unevenChannel] += 1;
+    std::vector<Vemi32s> counts[4], levels[4];
+    Vemi32s *pHist[4], *pLevels[4];
+    for (int c = 0; c < channels; ++c) {
+      counts[c].assign(100, 77);
+      levels[c].assign(101, 77);
+      pHist[c] = counts[c].data();
+      pLevels[c] = levels[c].data();
+    }
+    const VemiStatus status = even(pixels.data(), 8 * 256, {256, 256}, pHist, pLevels, nLevels, lower, upper);
+    EXPECT_EQ(status, unevenChannel < 0 ? vemiOk : vemiErrMemAlloc);
+    for (int c = 0; c < channels; ++c) {
+      std::vector<Vemi32s> expected(100, status == vemiOk ? 0 : 77);
+      if (status == vemiOk) expected[static_cast<size_t>(3 / (c + 2))] = 65536;  // bins of 2, 3, 4 and 5 values
+      EXPECT_EQ(counts[c], expected) << c;
+      EXPECT_EQ(levels[c].back(), upper[c]);
+    }
+  };
+  for (int uneven = -1; uneven < 4; ++uneven) {
+    if (uneven < 3) expectEven(vemiHistogramEven_16s_C3R, 3, uneven);
+    if (uneven < 3) expectEven(vemiHistogramEven_16s_AC4R, 3, uneven);
+    expectEven(vemiHistogramEven_16s_C4R, 4, uneven);
+  }
 }
 
 }  // namespace
