@@ -9,7 +9,7 @@
 //   Element, Lane         types of the elements that it reads and of the lanes that it adds to;
 //   parts                 accumulators for one vector of elements; part p holds those that are p behind a multiple of
 //                         sizeof(Lane) / sizeof(Element);
-//   capacity              vectors that an accumulator takes before it must be emptied;
+//   capacity              vectors that an accumulator takes before it must be emptied; see below;
 //   order                 what the result may depend on, see below;
 //   start(part)           what lanes begin with;
 //   add(d, k, kept, v...) adds a vector of each source to kept.part[0..parts - 1].v[k];
@@ -18,7 +18,9 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <cstdint>
 #include <cstring>
+#include <limits>
 
 #include "core/image.h"
 #include "core/lanes.h"
@@ -31,6 +33,16 @@ enum class Order {
   repeat,  // any, and an element may count more than once
   fixed    // of float sums: each element of a block has its lane, and the lanes are emptied after each row
 };
+
+/// The capacity of lanes that are never full.
+inline constexpr ptrdiff_t unlimitedCapacity = ptrdiff_t{1} << 30;
+
+/// The capacity of lanes that add up terms of at most `largestTerm`.
+template <class Lane>
+constexpr ptrdiff_t capacityFor(uint64_t largestTerm) {
+  const uint64_t terms = std::numeric_limits<Lane>::max() / largestTerm;
+  return static_cast<ptrdiff_t>(std::min<uint64_t>(terms, unlimitedCapacity));
+}
 
 /// Elements of a block: whole pixels, and whole vectors of any length.
 template <class T, class L>

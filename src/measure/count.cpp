@@ -1,6 +1,10 @@
 // vemiCountInRange: how many elements of each channel lie between two bounds, both included. Checks: null, step, size,
 // range.
 
+#include <cstdint>
+#include <limits>
+#include <type_traits>
+
 #include "core/checks.h"
 #include "core/exports.h"
 #include "core/map_row.h"
@@ -22,27 +26,35 @@ struct Inside {
   }
 };
 
-/// The mask of a lane that is inside is -1, which is taken away.
+/// All bytes. Any other range leaves a value out, and so do all ranges of floats.
+template <class T>
+bool isEverything(T lower, T upper) {
+  return std::is_integral_v<T> && lower == std::numeric_limits<T>::min() && upper == std::numeric_limits<T>::max();
+}
+
+/// A value that the range leaves out; any value where it is everything.
+template <class T>
+T outsideOf(T lower) {
+  if constexpr (std::is_floating_point_v<T>) return std::numeric_limits<T>::quiet_NaN();
+  return lower > std::numeric_limits<T>::min() ? std::numeric_limits<T>::min() : std::numeric_limits<T>::max();
+}
+
+/// The mask of a lane that is inside is -1, which is taken away. Where the range is everything the padding is counted,
+/// too.
 template <class L, class T>
 struct InRange {
   using Element = T;
   using Lane = hwy::UnsignedFromSize<sizeof(T)>;
   static constexpr int parts = 1;
-  static constexpr ptrdiff_t capacity = detail::capacityFor<Lane>(1);
+  static constexpr ptrdiff_t capacity = capacityFor<Lane>(1);
   static constexpr Order order = Order::any;
   static Lane start(int) { return 0; }
 
   decltype(withConstants<L>(Inside(), static_cast<const T*>(nullptr), static_cast<const T*>(nullptr))) inside;
-  T outside[L::elements];
+  T outside[L::elements] = {};
 
   InRange(const T* lower, const T* upper) : inside(withConstants<L>(Inside(), lower, upper)) {
-    for (int c = 0; c < L::elements; ++c) {
-      if constexpr (std::is_floating_point_v<T>) {
-        outside[c] = std::numeric_limits<T>::quiet_NaN();
-      } else {
-        outside[c] = c < L::channels && lower[c] == 0 ? T{255} : T{0};  // or everything is inside
-      }
-    }
+    for (int c = 0; c < L::channels; ++c) outside[c] = outsideOf(lower[c]);
   }
 
   T padding(const T*, int channel) const { return outside[channel]; }
@@ -54,11 +66,6 @@ struct InRange {
     kept.part[0].v[k] = hn::Sub(kept.part[0].v[k], counted);
   }
 };
-
-template <class L, class T>
-bool isEverything(T lower, T upper) {
-  return std::is_integral_v<T> && lower == std::numeric_limits<T>::min() && upper == std::numeric_limits<T>::max();
-}
 
 template <class L, class T>
 VemiStatus checkRange(const T* lower, const T* upper) {
@@ -75,9 +82,9 @@ VemiStatus countInRange(Image<const T> src, VemiSize roiSize, Vemi32s* pCounts, 
   }
   if (const VemiStatus bad = checkRange<L>(lower, upper)) return bad;
   const auto counts = exactSums<Interleaved<L::elements>>(roiSize, InRange<L, T>(lower, upper), src);
+  const uint64_t pixels = static_cast<uint64_t>(roiSize.width) * static_cast<uint64_t>(roiSize.height);
   for (int c = 0; c < L::channels; ++c) {
-    const uint64_t pixels = static_cast<uint64_t>(roiSize.width) * static_cast<uint64_t>(roiSize.height);
-    pCounts[c] = static_cast<Vemi32s>(isEverything<L>(lower[c], upper[c]) ? pixels : counts.channel[c]);
+    pCounts[c] = static_cast<Vemi32s>(isEverything(lower[c], upper[c]) ? pixels : counts.channel[c]);
   }
   return vemiOk;
 }

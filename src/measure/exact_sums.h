@@ -40,13 +40,6 @@ HWY_INLINE auto pairsOfProducts(V a, V b) {
   return hn::ReorderWidenMulAccumulate(d, a, b, hn::Zero(d), none);
 }
 
-template <class Lane>
-constexpr ptrdiff_t capacityFor(uint64_t largestTerm) {
-  constexpr uint64_t enough = 1 << 30;
-  const uint64_t fits = std::numeric_limits<Lane>::max() / largestTerm;
-  return static_cast<ptrdiff_t>(fits < enough ? fits : enough);
-}
-
 }  // namespace detail
 
 // ---- How terms are added up ---------------------------------------------------------------------------------------
@@ -55,7 +48,7 @@ constexpr ptrdiff_t capacityFor(uint64_t largestTerm) {
 struct AddBytes {
   using Lane = uint64_t;
   static constexpr int parts = 1;
-  static constexpr ptrdiff_t capacity = detail::capacityFor<Lane>(uint64_t{8} * 255);
+  static constexpr ptrdiff_t capacity = capacityFor<Lane>(uint64_t{8} * 255);
   template <class F, class V>
   HWY_INLINE static void addTerm(const F& addTo, V bytes) {
     addTo(0, hn::SumsOf8(bytes));
@@ -67,7 +60,7 @@ template <class T>
 struct AddApart {
   using Lane = std::conditional_t<sizeof(T) == 1, uint16_t, uint32_t>;
   static constexpr int parts = 2;
-  static constexpr ptrdiff_t capacity = detail::capacityFor<Lane>(std::numeric_limits<T>::max());
+  static constexpr ptrdiff_t capacity = capacityFor<Lane>(std::numeric_limits<T>::max());
   template <class F, class V>
   HWY_INLINE static void addTerm(const F& addTo, V v) {
     const auto [even, odd] = evenAndOdd(v);
@@ -80,7 +73,7 @@ struct AddApart {
 struct AddSignedPairs {
   using Lane = int32_t;
   static constexpr int parts = 1;
-  static constexpr ptrdiff_t capacity = detail::capacityFor<Lane>(uint64_t{2} * 32768);
+  static constexpr ptrdiff_t capacity = capacityFor<Lane>(uint64_t{2} * 32768);
   template <class F, class V>
   HWY_INLINE static void addTerm(const F& addTo, V v) {
     addTo(0, detail::pairsOfProducts(v, hn::Set(Lanes<int16_t>(), int16_t{1})));
@@ -91,7 +84,7 @@ struct AddSignedPairs {
 struct AddSignedApart {
   using Lane = int32_t;
   static constexpr int parts = 2;
-  static constexpr ptrdiff_t capacity = detail::capacityFor<Lane>(32768);
+  static constexpr ptrdiff_t capacity = capacityFor<Lane>(32768);
   template <class F, class V>
   HWY_INLINE static void addTerm(const F& addTo, V v) {
     const auto wide = hn::BitCast(Lanes<int32_t>(), v);
@@ -104,7 +97,7 @@ struct AddSignedApart {
 struct AddSquaredBytes {
   using Lane = uint32_t;
   static constexpr int parts = 1;
-  static constexpr ptrdiff_t capacity = detail::capacityFor<Lane>(uint64_t{4} * 255 * 255);
+  static constexpr ptrdiff_t capacity = capacityFor<Lane>(uint64_t{4} * 255 * 255);
   template <class F, class V>
   HWY_INLINE static void addTerm(const F& addTo, V bytes) {
     const Lanes<int16_t> d;
@@ -120,7 +113,7 @@ struct AddSquaresApart {
   using Lane = std::conditional_t<sizeof(T) == 1, uint32_t, uint64_t>;
   static constexpr int parts = 4;
   static constexpr ptrdiff_t capacity =
-      detail::capacityFor<Lane>(uint64_t{std::numeric_limits<T>::max()} * std::numeric_limits<T>::max());
+      capacityFor<Lane>(uint64_t{std::numeric_limits<T>::max()} * std::numeric_limits<T>::max());
   template <class F, class V>
   HWY_INLINE static void addTerm(const F& addTo, V v) {
     const auto [even, odd] = evenAndOdd(v);

@@ -1,10 +1,11 @@
 // vemiMin, vemiMax and vemiMinMax: the extremes of each channel. Checks: null, size, step.
 
+#include <algorithm>
 #include <bit>
 
 #include "core/checks.h"
 #include "measure/exports.h"
-#include "measure/extremes.h"
+#include "measure/keep_best.h"
 #include "vemi/measure.h"
 
 namespace vemi {
@@ -15,10 +16,10 @@ struct Holds {
   using Element = float;
   using Lane = uint32_t;
   static constexpr int parts = 1;
-  static constexpr ptrdiff_t capacity = 1 << 30;
+  static constexpr ptrdiff_t capacity = unlimitedCapacity;
   static constexpr Order order = Order::repeat;
   static Lane start(int) { return 0; }
-  static float padding(const float* row, int channel) { return Extremes<float, float, Same>::padding(row, channel); }
+  static float padding(const float* row, int channel) { return KeepBest<float, float, Same>::padding(row, channel); }
 
   Lane bits;
 
@@ -51,7 +52,7 @@ template <class L, class... Extreme, class T, class... Result>
 VemiStatus extrema(Image<const T> src, VemiSize roiSize, Result*... pResult) {
   if (const VemiStatus bad = firstOf(checkNull(src, pResult...), checkSize(roiSize), checkStep(src))) return bad;
   using Pixel = Interleaved<L::elements>;
-  auto values = extremes<Pixel>(Extremes<T, T, Same, Extreme...>(), roiSize, src);
+  auto values = bestOf<Pixel>(KeepBest<T, T, Same, Extreme...>(), roiSize, src);
   int part = 0;
   if constexpr (std::is_floating_point_v<T>) (settleZeros<Pixel, Extreme>(roiSize, values.best[part++], src), ...);
   part = 0;

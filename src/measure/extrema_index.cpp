@@ -3,10 +3,13 @@
 // Extremes are taken of bands of rows. The first band that has the best value of all is looked through again for its
 // place, so that the pixels are read only once.
 
+#include <algorithm>
+#include <cstring>
+
 #include "core/checks.h"
 #include "core/exports.h"
 #include "core/map_row.h"
-#include "measure/extremes.h"
+#include "measure/keep_best.h"
 #include "vemi/measure.h"
 
 namespace vemi {
@@ -62,24 +65,24 @@ class Search {
 
 /// As long as only the band is known, y is its first row and x is below 0.
 template <class T>
-struct Best {
+struct BestPixel {
   T value;
   ptrdiff_t x, y;
 };
 
 /// The band of each channel's best value, where that is better than the one in `best`.
 template <class L, class Extreme, class T>
-void findBands(Image<const T> src, VemiSize roiSize, Best<T> (&best)[L::elements]) {
+void findBands(Image<const T> src, VemiSize roiSize, BestPixel<T> (&best)[L::elements]) {
   const ptrdiff_t rowBytes = roiSize.width * pixelBytes<T, L>;
   const int rows = static_cast<int>(std::max<ptrdiff_t>(1, bandBytes / rowBytes));
   for (ptrdiff_t y = 0; y < roiSize.height; y += rows) {
     const VemiSize band = {roiSize.width, static_cast<int>(std::min<ptrdiff_t>(rows, roiSize.height - y))};
-    const auto ofBand = extremes<L>(Extremes<T, T, Same, Extreme>(), band, Image<const T>{src.row(y), src.step});
+    const auto ofBand = bestOf<L>(KeepBest<T, T, Same, Extreme>(), band, Image<const T>{src.row(y), src.step});
     bool canGetBetter = false;
     for (int c = 0; c < L::elements; ++c) {
       const T value = ofBand.best[0][c];
       if (Extreme::isBetter(value, best[c].value)) best[c] = {value, -1, y};
-      canGetBetter |= Extreme::isBetter(Extreme::template nearEnd<T>, best[c].value);
+      canGetBetter |= Extreme::isBetter(Extreme::template best<T>, best[c].value);
     }
     if (std::is_integral_v<T> && !canGetBetter) return;
   }
@@ -91,8 +94,8 @@ VemiStatus extremeIndex(Image<const T> src, VemiSize roiSize, T* pValue, int* pI
     return bad;
   }
   using Pixel = Interleaved<L::elements>;
-  Best<T> best[L::elements];
-  for (auto& each : best) each = {Extreme::template farthestFinite<T>, 0, 0};
+  BestPixel<T> best[L::elements];
+  for (auto& each : best) each = {Extreme::template worstFinite<T>, 0, 0};
   findBands<Pixel, Extreme>(src, roiSize, best);
   for (int c = 0; c < L::channels; ++c) {
     auto& [value, x, y] = best[c];

@@ -2,6 +2,9 @@
 // depends on the length of a vector: the order of additions is the same in every build.
 #pragma once
 
+#include <cstring>
+#include <limits>
+
 #include "core/reduce_region.h"
 
 namespace vemi {

@@ -5,6 +5,12 @@
 //
 // Checks: null, size, step, levels; with several channels null, the channels (null, levels), size, step.
 
+#include <algorithm>
+#include <cstring>
+#include <iterator>
+#include <limits>
+#include <type_traits>
+
 #include "core/alloc.h"
 #include "core/checks.h"
 #include "core/exports.h"
@@ -90,7 +96,8 @@ void countBetween(Image<const T> src, VemiSize roiSize, const Channels<L, Level>
 
 // ---- The rule for the table of 16-bit values ----------------------------------------------------------------------
 
-/// The most levels that go without a table, by the number of sizes (in pixels) that the region has reached.
+/// The most levels that go without a table, by the number of sizes (in pixels) that the region has reached. A rule of
+/// fewer sizes is filled up with noLimit: the only region to reach that has the same number of levels once more.
 struct TableRule {
   int sizes[12];
   int levels[13];
@@ -134,7 +141,7 @@ bool needsTable(VemiSize roiSize, const Bins<Vemi32s>* bins) {
 }
 
 /// What becomes of a call whose table cannot be had.
-enum class WithoutTable { fails, searches };
+enum class WithoutTable { fails, countsBetween };
 
 template <class L, class T, class Level>
 VemiStatus countPixels(Image<const T> src, VemiSize roiSize, const Channels<L, Level>& bins, WithoutTable without) {
@@ -206,7 +213,7 @@ VemiStatus even(Image<const T> src, VemiSize roiSize, Vemi32s* const* pHist, Vem
     alike &= makeEven(pLevels[channel], nLevels[channel], lowerLevel[channel], upperLevel[channel]);
     bins[channel] = {pHist[channel], pLevels[channel], nLevels[channel]};
   }
-  return countPixels<L>(src, roiSize, bins, alike ? WithoutTable::searches : WithoutTable::fails);
+  return countPixels<L>(src, roiSize, bins, alike ? WithoutTable::countsBetween : WithoutTable::fails);
 }
 
 }  // namespace

@@ -3,7 +3,6 @@
 #pragma once
 
 #include <algorithm>
-#include <cfloat>
 #include <cstring>
 #include <limits>
 #include <type_traits>

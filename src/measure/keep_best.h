@@ -4,21 +4,25 @@
 // operand, and that is what was best so far.
 #pragma once
 
+#include <cstring>
 #include <limits>
+#include <type_traits>
 
 #include "core/map_row.h"
 #include "core/reduce_region.h"
 
 namespace vemi {
 
+/// Which of two values is the better one. None is worse than `worst`, no finite one worse than `worstFinite` or better
+/// than `best`.
 struct Lowest {
   template <class T>
-  static constexpr T farEnd = std::is_floating_point_v<T> ? std::numeric_limits<T>::infinity()
-                                                          : std::numeric_limits<T>::max();
+  static constexpr T worst = std::is_floating_point_v<T> ? std::numeric_limits<T>::infinity()
+                                                         : std::numeric_limits<T>::max();
   template <class T>
-  static constexpr T farthestFinite = std::numeric_limits<T>::max();
+  static constexpr T worstFinite = std::numeric_limits<T>::max();
   template <class T>
-  static constexpr T nearEnd = std::numeric_limits<T>::lowest();
+  static constexpr T best = std::numeric_limits<T>::lowest();
   static constexpr float betterZero = -0.0f;
 
   template <class V>
@@ -33,12 +37,12 @@ struct Lowest {
 
 struct Highest {
   template <class T>
-  static constexpr T farEnd = std::is_floating_point_v<T> ? -std::numeric_limits<T>::infinity()
-                                                          : std::numeric_limits<T>::lowest();
+  static constexpr T worst = std::is_floating_point_v<T> ? -std::numeric_limits<T>::infinity()
+                                                         : std::numeric_limits<T>::lowest();
   template <class T>
-  static constexpr T farthestFinite = std::numeric_limits<T>::lowest();
+  static constexpr T worstFinite = std::numeric_limits<T>::lowest();
   template <class T>
-  static constexpr T nearEnd = std::numeric_limits<T>::max();
+  static constexpr T best = std::numeric_limits<T>::max();
   static constexpr float betterZero = 0.0f;
 
   template <class V>
@@ -54,20 +58,20 @@ struct Highest {
 /// Of terms that are not negative.
 struct Largest : Highest {
   template <class T>
-  static constexpr T farEnd = 0;
+  static constexpr T worst = 0;
 };
 
 /// Term gives lanes of type Value from lanes of type T.
 template <class T, class Value, class Term, class... Extreme>
-struct Extremes {
+struct KeepBest {
   using Element = T;
   using Lane = Value;
   static constexpr int parts = sizeof...(Extreme);
-  static constexpr ptrdiff_t capacity = 1 << 30;
+  static constexpr ptrdiff_t capacity = unlimitedCapacity;
   static constexpr Order order = Order::repeat;
   static Lane start(int part) {
-    constexpr Lane farEnd[] = {Extreme::template farEnd<Lane>...};
-    return farEnd[part];
+    constexpr Lane worst[] = {Extreme::template worst<Lane>...};
+    return worst[part];
   }
   static T padding(const T* row, int channel) {
     T element;
@@ -85,15 +89,15 @@ struct Extremes {
 
 /// One row for each extreme, one column for each channel of a pixel.
 template <class L, class Reduction>
-struct ExtremeValues {
+struct BestValues {
   using T = typename Reduction::Lane;
   T best[Reduction::parts][L::elements];
 };
 
 template <class L, class T, class Value, class Term, class... Extreme, class... Others>
-auto extremes(Extremes<T, Value, Term, Extreme...> reduction, VemiSize roiSize, Image<const T> src, Others... others) {
+auto bestOf(KeepBest<T, Value, Term, Extreme...> reduction, VemiSize roiSize, Image<const T> src, Others... others) {
   using A = Accumulators<L, decltype(reduction)>;
-  ExtremeValues<L, decltype(reduction)> values;
+  BestValues<L, decltype(reduction)> values;
   for (int p = 0; p < A::parts; ++p) {
     for (auto& each : values.best[p]) each = reduction.start(p);
   }

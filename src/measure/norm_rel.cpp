@@ -1,6 +1,8 @@
 // vemiNormRel_Inf, vemiNormRel_L1, vemiNormRel_L2: norms of the difference of two images over those of the second one,
 // channel by channel. Checks: null, size, step.
 
+#include <limits>
+
 #include "measure/exports.h"
 #include "measure/norms.h"
 #include "vemi/measure.h"

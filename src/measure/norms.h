@@ -2,10 +2,14 @@
 // squares. The term is the magnitude of an element or of a difference of two.
 #pragma once
 
+#include <algorithm>
+#include <cmath>
+#include <type_traits>
+
 #include "core/checks.h"
 #include "measure/exact_sums.h"
-#include "measure/extremes.h"
 #include "measure/float_sums.h"
+#include "measure/keep_best.h"
 #include "measure/terms.h"
 
 namespace vemi {
@@ -19,7 +23,7 @@ struct Norms {
 struct Inf {
   template <class L, class Term, class T, class... Src>
   static Norms<L> of(VemiSize roiSize, vemiHint, Image<const T> src, Src... others) {
-    const auto values = extremes<L>(Extremes<T, MagnitudeOf<T>, Term, Largest>(), roiSize, src, others...);
+    const auto values = bestOf<L>(KeepBest<T, MagnitudeOf<T>, Term, Largest>(), roiSize, src, others...);
     Norms<L> norms;
     std::copy_n(values.best[0], L::elements, norms.channel);
     return norms;

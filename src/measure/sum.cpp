@@ -1,6 +1,10 @@
 // vemiSum and vemiMean: the sum of each channel, and that sum divided by the number of pixels. Checks: null, size,
 // step.
 
+#include <algorithm>
+#include <cstdint>
+#include <type_traits>
+
 #include "core/checks.h"
 #include "core/map_row.h"
 #include "measure/exact_sums.h"
@@ -12,7 +16,7 @@ namespace vemi {
 namespace {
 
 /// The float forms' term in both of their ways: the element.
-struct Element : Same {
+struct Unchanged : Same {
   using Same::operator();
   double operator()(double value) const { return value; }
 };
@@ -33,7 +37,7 @@ void sums(VemiSize roiSize, double (&sum)[L::elements], Image<const Vemi16s> src
 
 template <class L>
 void sums(VemiSize roiSize, double (&sum)[L::elements], Image<const Vemi32f> src, vemiHint hint) {
-  floatSums<L, Element>(roiSize, sum, hint, src);
+  floatSums<L, Unchanged>(roiSize, sum, hint, src);
 }
 
 /// Only the 32f forms have a hint.
