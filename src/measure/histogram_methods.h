@@ -140,8 +140,8 @@ void countByComparing(const T* values, ptrdiff_t count, const Bins<Level>& bins)
         passed.v[k] = hn::Sub(passed.v[k], hn::BitCast(dCount, minusOne));
       });
     };
-    for (ptrdiff_t i = 0; i < whole; i += N) compare(values + i);
-    compare(last);
+    // One call, which the compiler takes into the loop, so that the counts stay in registers.
+    for (ptrdiff_t i = 0; i <= whole; i += N) compare(i < whole ? values + i : last);
     unrolled<group>([&](auto k) HWY_ATTR {
       const int level = first + k;
       if (level > bins.count()) return;
