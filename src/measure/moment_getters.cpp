@@ -16,7 +16,7 @@ namespace {
 struct Sums {
   double s[momentEntries];
 
-  double operator()(int m, int n) const { return s[m + momentOrders * n]; }
+  double operator()(int m, int n) const { return s[momentEntry(m, n)]; }
 };
 
 template <class Sum>
@@ -28,28 +28,26 @@ Sums sumsOf(const VemiMomentState* pState, int channel) {
   return sums;
 }
 
-constexpr int orders(int m, int n) { return m + momentOrders * n; }
-
 /// Of the picture whose first pixel stands at (X, Y).
 double spatialMoment(const Sums& S, int m, int n, double X, double Y) {
-  switch (orders(m, n)) {
-    case orders(0, 0):
+  switch (momentEntry(m, n)) {
+    case momentEntry(0, 0):
       return S(0, 0);
-    case orders(1, 0):
+    case momentEntry(1, 0):
       return X * S(0, 0) + S(1, 0);
-    case orders(0, 1):
+    case momentEntry(0, 1):
       return Y * S(0, 0) + S(0, 1);
-    case orders(2, 0):
+    case momentEntry(2, 0):
       return 2 * X * S(1, 0) + S(2, 0) + X * X * S(0, 0);
-    case orders(1, 1):
+    case momentEntry(1, 1):
       return X * S(0, 1) + S(1, 1) + Y * S(1, 0) + X * Y * S(0, 0);
-    case orders(0, 2):
+    case momentEntry(0, 2):
       return 2 * Y * S(0, 1) + S(0, 2) + Y * Y * S(0, 0);
-    case orders(3, 0):
+    case momentEntry(3, 0):
       return S(3, 0) + 3 * X * S(2, 0) + 3 * X * X * S(1, 0) + X * X * X * S(0, 0);
-    case orders(2, 1):
+    case momentEntry(2, 1):
       return 2 * X * S(1, 1) + S(2, 1) + X * X * S(0, 1) + Y * S(2, 0) + 2 * X * Y * S(1, 0) + X * X * Y * S(0, 0);
-    case orders(1, 2):
+    case momentEntry(1, 2):
       return X * S(0, 2) + S(1, 2) + 2 * Y * S(1, 1) + Y * Y * S(1, 0) + 2 * X * Y * S(0, 1) + Y * Y * X * S(0, 0);
     default:
       return S(0, 3) + 3 * Y * S(0, 2) + 3 * Y * Y * S(0, 1) + Y * Y * Y * S(0, 0);
@@ -60,23 +58,23 @@ double spatialMoment(const Sums& S, int m, int n, double X, double Y) {
 double centralMoment(const Sums& S, int m, int n) {
   const double reciprocal = 1 / S(0, 0);
   const double x = S(1, 0) * reciprocal, y = S(0, 1) * reciprocal;
-  switch (orders(m, n)) {
-    case orders(0, 0):
+  switch (momentEntry(m, n)) {
+    case momentEntry(0, 0):
       return S(0, 0);
-    case orders(1, 0):
-    case orders(0, 1):
+    case momentEntry(1, 0):
+    case momentEntry(0, 1):
       return 0;
-    case orders(2, 0):
+    case momentEntry(2, 0):
       return S(2, 0) - x * S(1, 0);
-    case orders(1, 1):
+    case momentEntry(1, 1):
       return S(1, 1) - x * S(0, 1);
-    case orders(0, 2):
+    case momentEntry(0, 2):
       return S(0, 2) - y * S(0, 1);
-    case orders(3, 0):
+    case momentEntry(3, 0):
       return S(3, 0) - 3 * x * S(2, 0) + 2 * x * x * S(1, 0);
-    case orders(2, 1):
+    case momentEntry(2, 1):
       return S(2, 1) - 2 * x * S(1, 1) + 2 * x * x * S(0, 1) - y * S(2, 0);
-    case orders(1, 2):
+    case momentEntry(1, 2):
       return S(1, 2) - x * S(0, 2) - 2 * y * S(1, 1) + 2 * y * y * S(1, 0);
     default:
       return S(0, 3) - 3 * y * S(0, 2) + 2 * y * y * S(0, 1);
@@ -126,24 +124,23 @@ void put(double value, Vemi64s* pValue, int scaleFactor) {
 
 void put(double value, Vemi64f* pValue, int /*scaleFactor*/ = 0) { *pValue = value; }
 
-template <class Sum>
-VemiStatus checkState(const VemiMomentState* pState, const void* pResult) {
-  if (VemiStatus bad = checkNull(pState, pResult)) return bad;
-  return checkContext<Sum>(pState);
-}
-
 VemiStatus checkOrders(int m, int n) { return m < 0 || n < 0 || Vemi64s{m} + n > 3 ? vemiErrSize : vemiOk; }
 
 VemiStatus checkChannel(const VemiMomentState* pState, int channel) {
   return channel < 0 || channel >= pState->nChannels ? vemiErrChannelIndex : vemiOk;
 }
 
+template <class Sum>
+VemiStatus checkArguments(const VemiMomentState* pState, int m, int n, int channel, const Sum* pResult) {
+  if (VemiStatus bad = checkNull(pState, pResult)) return bad;
+  return firstOf(checkContext<Sum>(pState), checkOrders(m, n), checkChannel(pState, channel));
+}
+
 /// In each of the functions below, a 64f state has a 64f result and no scale factor.
 template <class Sum>
 VemiStatus spatial(const VemiMomentState* pState, int m, int n, int channel, VemiPoint offset, Sum* pValue,
                    int scaleFactor = 0) {
-  if (VemiStatus bad = checkState<Sum>(pState, pValue)) return bad;
-  if (VemiStatus bad = firstOf(checkOrders(m, n), checkChannel(pState, channel))) return bad;
+  if (VemiStatus bad = checkArguments(pState, m, n, channel, pValue)) return bad;
   put(spatialMoment(sumsOf<Sum>(pState, channel), m, n, offset.x, offset.y), pValue, scaleFactor);
   return vemiOk;
 }
@@ -163,8 +160,7 @@ enum class Size { asIs, normalised };
 
 template <Size size, class Sum>
 VemiStatus central(const VemiMomentState* pState, int m, int n, int channel, Sum* pValue, int scaleFactor = 0) {
-  if (VemiStatus bad = checkState<Sum>(pState, pValue)) return bad;
-  if (VemiStatus bad = firstOf(checkOrders(m, n), checkChannel(pState, channel))) return bad;
+  if (VemiStatus bad = checkArguments(pState, m, n, channel, pValue)) return bad;
   const Sums S = sumsOf<Sum>(pState, channel);
   if (vanishes(S)) return vemiErrMomentZero;
   const double moment = centralMoment(S, m, n);
@@ -174,8 +170,7 @@ VemiStatus central(const VemiMomentState* pState, int m, int n, int channel, Sum
 
 template <class Sum>
 VemiStatus hu(const VemiMomentState* pState, int channel, Sum* pHu, int scaleFactor = 0) {
-  if (VemiStatus bad = checkState<Sum>(pState, pHu)) return bad;
-  if (VemiStatus bad = checkChannel(pState, channel)) return bad;
+  if (VemiStatus bad = checkArguments(pState, 0, 0, channel, pHu)) return bad;
   const Sums S = sumsOf<Sum>(pState, channel);
   if (vanishes(S)) return vemiErrMomentZero;
   double h[7];

@@ -8,8 +8,11 @@
 
 namespace vemi {
 
-inline constexpr int momentOrders = 4;  // 0 to 3 in each direction; entry m + 4 n holds S(m, n)
+inline constexpr int momentOrders = 4;  // 0 to 3 in each direction
 inline constexpr int momentEntries = momentOrders * momentOrders;
+
+/// The entry that holds S(m, n).
+constexpr int momentEntry(int m, int n) { return m + momentOrders * n; }
 
 /// Which of the two kinds a state is: its sums are Vemi64f or Vemi64s.
 template <class Sum>

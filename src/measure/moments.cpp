@@ -62,9 +62,28 @@ HWY_INLINE RowSums<Sum> shifted(Sum origin, const RowSums<Sum>& sums) {
            origin * (origin * (origin * s0 + (s1 + s1 + s1)) + (s2 + s2 + s2)) + s3}};
 }
 
+/// Lanes that nothing has been added to.
+template <class D>
+HWY_INLINE RowSums<hn::Vec<D>> noSums(D d) {
+  RowSums<hn::Vec<D>> sums;
+  unrolled<momentOrders>([&](auto m) HWY_ATTR { sums.v[m] = hn::Zero(d); });
+  return sums;
+}
+
 template <class Sum>
 HWY_INLINE void addTo(RowSums<Sum>& total, const RowSums<Sum>& sums) {
   unrolled<momentOrders>([&](auto m) { total.v[m] = total.v[m] + sums.v[m]; });
+}
+
+/// Calls f(block) for all blocks of N values. The last one is filled up with zeros.
+template <ptrdiff_t N, class T, class F>
+HWY_INLINE void forBlocksOf(const T* values, ptrdiff_t count, const F& f) {
+  const ptrdiff_t whole = count / N * N;
+  for (ptrdiff_t i = 0; i < whole; i += N) f(values + i);
+  if (whole == count) return;
+  T last[N] = {};
+  std::memcpy(last, values + whole, static_cast<size_t>(count - whole) * sizeof(T));
+  f(last);
 }
 
 /// Pieces end at the same columns whatever the length of a vector, so that sums which doubles must round are the same.
@@ -89,30 +108,23 @@ HWY_INLINE RowSums<Sum> sumsOfPiece(ptrdiff_t x, const Vemi8u* values, ptrdiff_t
   constexpr ptrdiff_t perVector = laneCount<int32_t>, N = ladders * perVector;
   using V = hn::Vec<decltype(d)>;
   RowSums<V> sum[ladders];
-  unrolled<ladders>([&](auto k) { unrolled<momentOrders>([&](auto m) { sum[k].v[m] = hn::Zero(d); }); });
-  const auto step = [&](const Vemi8u* bytes) HWY_ATTR {
+  unrolled<ladders>([&](auto k) HWY_ATTR { sum[k] = noSums(d); });
+  forBlocksOf<N>(values, count, [&](const Vemi8u* bytes) HWY_ATTR {
     unrolled<ladders>([&](auto k) HWY_ATTR {
       V value = hn::PromoteTo(d, hn::LoadU(dBytes, bytes + k * perVector));
       unrolled<momentOrders>([&](auto m) HWY_ATTR { value = sum[k].v[m] = hn::Add(sum[k].v[m], value); });
     });
-  };
-  const ptrdiff_t whole = count / N, rest = count % N;
-  for (ptrdiff_t b = 0; b < whole; ++b) step(values + b * N);
-  if (rest > 0) {
-    Vemi8u last[N] = {};
-    std::memcpy(last, values + whole * N, static_cast<size_t>(rest));
-    step(last);
-  }
+  });
 
   const Lanes<double> dSums;
   constexpr double n = N;
+  const ptrdiff_t padded = (count + N - 1) / N * N;
   const auto of = [&](double number) HWY_ATTR { return hn::Set(dSums, number); };
-  RowSums<hn::Vec<decltype(dSums)>> total;
-  unrolled<momentOrders>([&](auto m) { total.v[m] = hn::Zero(dSums); });
+  auto total = noSums(dSums);
   const auto addLanes = [&](ptrdiff_t first, const auto& part) HWY_ATTR {
     const auto d0 = part(0), d1 = part(1), binomial2 = part(2), binomial3 = part(3);
     const auto d2 = binomial2 + binomial2 - d1, d3 = of(6) * (binomial3 - binomial2) + d1;
-    const auto end = hn::Iota(dSums, static_cast<double>(N * (whole + (rest > 0)) + first));
+    const auto end = hn::Iota(dSums, static_cast<double>(padded + first));
     addTo(total, shifted(end, decltype(total){{d0, of(-n) * d1, of(n * n) * d2, of(-n * n * n) * d3}}));
   };
   unrolled<ladders>([&](auto k) HWY_ATTR {
@@ -139,33 +151,27 @@ HWY_INLINE RowSums<Sum> sumsOfPiece(ptrdiff_t x, const Vemi32f* values, ptrdiff_
   constexpr ptrdiff_t N = hn::MaxLanes(decltype(d)());
   constexpr int vectors = strands / N;
   using V = hn::Vec<decltype(d)>;
-  Vectors<V, vectors> sum[momentOrders], column;
+  RowSums<V> sum[vectors];
+  Vectors<V, vectors> column;
   unrolled<vectors>([&](auto k) HWY_ATTR {
-    unrolled<momentOrders>([&](auto m) HWY_ATTR { sum[m].v[k] = hn::Zero(d); });
+    sum[k] = noSums(d);
     column.v[k] = hn::Iota(d, static_cast<double>(x + k * N));
   });
-  const auto step = [&](const Vemi32f* floats) HWY_ATTR {
+  forBlocksOf<strands>(values, count, [&](const Vemi32f* floats) HWY_ATTR {
     unrolled<vectors>([&](auto k) HWY_ATTR {
       V term = hn::PromoteTo(d, hn::LoadU(dFloats, floats + k * N));
-      sum[0].v[k] = hn::Add(sum[0].v[k], term);
+      sum[k].v[0] = hn::Add(sum[k].v[0], term);
       unrolled<momentOrders - 1>([&](auto m) HWY_ATTR {
         term = hn::Mul(term, column.v[k]);
-        sum[m + 1].v[k] = hn::Add(sum[m + 1].v[k], term);
+        sum[k].v[m + 1] = hn::Add(sum[k].v[m + 1], term);
       });
       column.v[k] = hn::Add(column.v[k], hn::Set(d, double{strands}));
     });
-  };
-  const ptrdiff_t whole = count / strands * strands;
-  for (ptrdiff_t i = 0; i < whole; i += strands) step(values + i);
-  if (whole < count) {
-    Vemi32f last[strands] = {};
-    std::memcpy(last, values + whole, static_cast<size_t>(count - whole) * sizeof(Vemi32f));
-    step(last);
-  }
+  });
   RowSums<Sum> sums;
   unrolled<momentOrders>([&](auto m) HWY_ATTR {
     alignas(laneAlignment) double strand[strands];
-    unrolled<vectors>([&](auto k) HWY_ATTR { hn::Store(sum[m].v[k], d, strand + k * N); });
+    unrolled<vectors>([&](auto k) HWY_ATTR { hn::Store(sum[k].v[m], d, strand + k * N); });
     for (int half = strands / 2; half > 0; half /= 2) {
       for (int j = 0; j < half; ++j) strand[j] += strand[j + half];
     }
@@ -183,12 +189,12 @@ using Arithmetic = std::conditional_t<std::is_same_v<Sum, Vemi64s>, uint64_t, do
 template <class A>
 using Table = A[momentEntries];
 
-/// table[m + 4 n] += y^n * sums of x^m f.
+/// table(m, n) += y^n * sums of x^m f.
 template <class A>
 void addRow(A y, const RowSums<A>& row, Table<A>& table) {
   A power = 1;
   for (int n = 0; n < momentOrders; ++n, power *= y) {
-    for (int m = 0; m < momentOrders - n; ++m) table[m + momentOrders * n] += power * row.v[m];
+    for (int m = 0; m < momentOrders - n; ++m) table[momentEntry(m, n)] += power * row.v[m];
   }
 }
 
@@ -231,8 +237,8 @@ void sumByPixels(Image<const T> src, VemiSize roiSize, Table<double>* table) {
   constexpr int vectors = momentOrders / N;
   PixelsSetOut pixels;
   for (int channel = 0; channel < L::channels; ++channel) {
-    Vectors<hn::Vec<decltype(d)>, momentOrders> sum[vectors];
-    unrolled<vectors>([&](auto k) { unrolled<momentOrders>([&](auto m) { sum[k].v[m] = hn::Zero(d); }); });
+    RowSums<hn::Vec<decltype(d)>> sum[vectors];
+    unrolled<vectors>([&](auto k) HWY_ATTR { sum[k] = noSums(d); });
     for (int y = 0; y < roiSize.height; ++y) {
       alignas(laneAlignment) const double powers[momentOrders] = {1, 1.0 * y, 1.0 * y * y, 1.0 * y * y * y};
       for (int x = 0, count; x < roiSize.width; x += count) {
@@ -253,7 +259,7 @@ void sumByPixels(Image<const T> src, VemiSize roiSize, Table<double>* table) {
     unrolled<momentOrders>([&](auto m) HWY_ATTR {
       alignas(laneAlignment) double entry[momentOrders];
       unrolled<vectors>([&](auto k) HWY_ATTR { hn::Store(sum[k].v[m], d, entry + k * N); });
-      for (int n = 0; n < momentOrders - m; ++n) table[channel][m + momentOrders * n] = entry[n];
+      for (int n = 0; n < momentOrders - m; ++n) table[channel][momentEntry(m, n)] = entry[n];
     });
   }
 }
