@@ -119,13 +119,14 @@ struct TeamBlock {
   int nThreads = 0;
   char* base = nullptr;
 
-  static ptrdiff_t aligned(Vemi64s bytes) { return static_cast<ptrdiff_t>((bytes + 31) / 32 * 32); }
+  /// At full width, also where pointers are narrower: what exceeds these must fail to be allocated, not wrap.
+  static Vemi64s aligned(Vemi64s bytes) { return (bytes + 31) / 32 * 32; }
 
-  ptrdiff_t headBytes() const { return aligned(Vemi64s{sizeof(VemiStatus)} * nThreads); }
+  Vemi64s headBytes() const { return aligned(Vemi64s{sizeof(VemiStatus)} * nThreads); }
 
   void allocate() {
-    base = static_cast<char*>(
-        alignedAllocBytes(headBytes() + aligned(grid.sharedBytes) + Vemi64s{aligned(grid.sliceBytes)} * nThreads));
+    const Vemi64s bytes = headBytes() + aligned(grid.sharedBytes) + aligned(grid.sliceBytes) * nThreads;
+    base = static_cast<char*>(alignedAllocBytes(bytes));
   }
 
   VemiStatus& status(int t) const { return reinterpret_cast<VemiStatus*>(base)[t]; }

@@ -7,11 +7,13 @@
 
 #include <algorithm>
 #include <atomic>
-#include <cstdlib>
 #include <numeric>
 #include <vector>
 
+#include "support/allocator.h"
+
 using namespace vemi;
+using namespace vemi::test;
 
 namespace {
 
@@ -62,23 +64,6 @@ struct Log {
     std::erase(starts, nullptr);  // of threads that had nothing to do
     std::sort(starts.begin(), starts.end());
     for (size_t i = 1; i < starts.size(); ++i) EXPECT_GE(starts[i] - starts[i - 1], bytes);
-  }
-};
-
-/// Counts the blocks of the C allocator while it lives, and gives none where `fails` is set.
-struct WatchedAllocator {
-  static inline std::atomic<int> requests, released;
-  static inline bool gives;
-
-  explicit WatchedAllocator(bool fails = false) {
-    requests = released = 0;
-    gives = !fails;
-    vemi::testing::allocate = [](size_t size) { return ++requests, gives ? std::malloc(size) : nullptr; };
-    vemi::testing::release = [](void* base) { ++released, std::free(base); };
-  }
-  ~WatchedAllocator() {
-    vemi::testing::allocate = std::malloc;
-    vemi::testing::release = std::free;
   }
 };
 
@@ -168,16 +153,16 @@ TEST(ScratchRowsInTeam, EachThreadHasRowsAndASliceOfItsOwn) {
       log.expectOwnSlices(sliceElements * ptrdiff_t{sizeof(Vemi32f)});
     }
   });
-  EXPECT_EQ(allocator.requests, calls) << "one block for the whole team";
-  EXPECT_EQ(allocator.released, calls);
+  EXPECT_EQ(allocator.requests(), calls) << "one block for the whole team";
+  EXPECT_EQ(allocator.released(), calls);
 }
 
 TEST(ScratchRowsInTeam, AFailedAllocationRunsNoRow) {
-  const WatchedAllocator allocator(true);
+  const NoMemory allocator;
   std::atomic<int> rows = 0;
   inTeams([&](int) { EXPECT_EQ(scratchRowsInTeam(9, 16, [&](int, Vemi32f*) { ++rows; }), vemiErrMemAlloc); });
   EXPECT_EQ(rows, 0);
-  EXPECT_EQ(allocator.released, 0);
+  EXPECT_EQ(allocator.released(), 0);
 }
 
 constexpr TileGrid grid = {5, 3, 100, 77};  // 15 tiles; memory that is no multiple of any alignment
@@ -212,8 +197,8 @@ TEST(TilesInTeam, TileIRunsOnThreadIModuloTeamSizeInItsOwnSlice) {
     }
     log.expectOwnSlices(grid.sliceBytes);
   });
-  EXPECT_EQ(allocator.requests, calls) << "one block for the whole team";
-  EXPECT_EQ(allocator.released, calls);
+  EXPECT_EQ(allocator.requests(), calls) << "one block for the whole team";
+  EXPECT_EQ(allocator.released(), calls);
 }
 
 TEST(TilesInTeam, TheSmallestStatusComesBack) {
@@ -250,12 +235,31 @@ TEST(TilesInTeam, TheSmallestStatusComesBack) {
 }
 
 TEST(TilesInTeam, AFailedAllocationPreparesNothingAndRunsNoTile) {
-  const WatchedAllocator allocator(true);
+  const NoMemory allocator;
   std::atomic<int> calls = 0;
   const auto count = [&](auto...) -> VemiStatus { return ++calls, vemiOk; };
   inTeams([&](int) { EXPECT_EQ(tilesInTeam(grid, count, count), vemiErrMemAlloc); });
   EXPECT_EQ(calls, 0);
-  EXPECT_EQ(allocator.released, 0);
+  EXPECT_EQ(allocator.released(), 0);
+}
+
+/// More than 32 bits count is more than 32-bit pointers reach; a wider address space is told what is wanted, whole.
+TEST(TilesInTeam, SizesBeyond32BitsDoNotWrap) {
+  static size_t requested;
+  requested = 0;
+  const NoMemory noMemory;
+  vemi::testing::allocate = [](size_t size) -> void* { return requested = size, nullptr; };
+  const auto none = [](auto...) -> VemiStatus { return ADD_FAILURE() << "ran without memory", vemiOk; };
+  constexpr Vemi64s beyond = (Vemi64s{1} << 32) + 64;
+  for (const TileGrid& large :
+       {TileGrid{1, 1, beyond, 64}, TileGrid{1, 1, 64, beyond}, TileGrid{1, 1, beyond, beyond}}) {
+    EXPECT_EQ(tilesInTeam(large, none, none), vemiErrMemAlloc);
+    if (sizeof(void*) > 4) {
+      EXPECT_GT(requested, static_cast<size_t>(beyond));
+    } else {
+      EXPECT_EQ(requested, 0u);
+    }
+  }
 }
 
 }  // namespace

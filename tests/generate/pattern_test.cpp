@@ -6,7 +6,7 @@
 #include <limits>
 #include <vector>
 
-#include "core/alloc.h"
+#include "support/allocator.h"
 #include "support/check.h"
 
 using namespace vemi::test;
@@ -123,16 +123,13 @@ TEST(ImageRamp, LargeIndicesRoundOnce) {
 }
 
 TEST(ImageRamp, ReportsMissingMemory) {
-  static int allocations;
-  allocations = 0;
-  vemi::testing::allocate = [](size_t) -> void* { return ++allocations, nullptr; };
+  const NoMemory noMemory;
   Vemi8u pixel[8] = {};
   EXPECT_EQ(vemiImageRamp_8u_C4R(pixel, 8, {2, 1}, 9, 1, vemiRampHorizontal), vemiErrMemAlloc);
   EXPECT_EQ(pixel[0], 0);
-  EXPECT_EQ(allocations, 1);
+  EXPECT_EQ(noMemory.requests(), 1);
   EXPECT_EQ(vemiImageRamp_8u_C4R(pixel, 8, {2, 1}, 9, 1, vemiRampBoth), vemiOk);
   EXPECT_EQ(pixel[0], 9);
-  vemi::testing::allocate = std::malloc;
 }
 
 // ---- The chirp ----

@@ -4,10 +4,9 @@
 
 #include <algorithm>
 #include <cmath>
-#include <cstdlib>
 #include <vector>
 
-#include "core/alloc.h"
+#include "support/allocator.h"
 #include "support/check.h"
 
 using namespace vemi::test;
@@ -123,23 +122,17 @@ TEST(Win, CornersAreZero) {
 
 // Any of the allocations of a call fails: nothing is written, nothing is lost.
 TEST(Win, ReportsMissingMemory) {
-  static int allowed, held;
-  vemi::testing::allocate = [](size_t size) -> void* { return allowed-- > 0 ? ++held, std::malloc(size) : nullptr; };
-  vemi::testing::release = [](void* base) { --held, std::free(base); };
   const auto expectFailures = [](InPlace<Vemi32f>* function, int allocations) {
     for (int n = 0; n <= allocations; ++n) {
       Vemi32f image[16] = {1};
-      allowed = n;
-      held = 0;
+      const WatchedAllocator allocator(n);
       EXPECT_EQ(function(image, 16, {4, 4}), n < allocations ? vemiErrMemAlloc : vemiOk);
       EXPECT_EQ(image[0] == 1, n < allocations);
-      EXPECT_EQ(held, 0);
+      EXPECT_EQ(allocator.released(), allocator.given());
     }
   };
   expectFailures(vemiWinBartlett_32f_C1IR, 1);
   expectFailures(vemiWinHamming_32f_C1IR, 1);
   expectFailures(vemiWinBartlettSep_32f_C1IR, 2);
   expectFailures(vemiWinHammingSep_32f_C1IR, 2);
-  vemi::testing::allocate = std::malloc;
-  vemi::testing::release = std::free;
 }

@@ -3,11 +3,10 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <cstdlib>
 #include <numeric>
 #include <vector>
 
-#include "core/alloc.h"
+#include "support/allocator.h"
 #include "support/check.h"
 
 using namespace vemi::test;
@@ -130,18 +129,12 @@ TEST(BitImage, DitherLeavesStepsToTheCaller) {
 }
 
 TEST(BitImage, DitherWithoutMemory) {
-  static int requests;
-  requests = 0;
-  vemi::testing::allocate = [](size_t) -> void* { return ++requests, nullptr; };
+  const NoMemory noMemory;
   const Vemi8u source[2] = {255, 255};
   Vemi1u byte = 0x42;
-  const VemiStatus alone = vemiConvert_8u1u_C1R(source, 2, &byte, 1, 0, {2, 1}, 128);
-  const VemiStatus beyond = vemiConvert_8u1u_C1R(source, 2, &byte, 1, 0, {INT32_MAX, 1}, 128);
-  const VemiStatus badSize = vemiConvert_8u1u_C1R(source, 2, &byte, 1, -1, {2, 1}, 128);
-  vemi::testing::allocate = std::malloc;
-  EXPECT_EQ(alone, vemiErrMemAlloc);
-  EXPECT_EQ(beyond, vemiErrMemAlloc);
-  EXPECT_EQ(badSize, vemiErrSize);
-  EXPECT_GE(requests, 1);
+  EXPECT_EQ(vemiConvert_8u1u_C1R(source, 2, &byte, 1, 0, {2, 1}, 128), vemiErrMemAlloc);
+  EXPECT_EQ(vemiConvert_8u1u_C1R(source, 2, &byte, 1, 0, {INT32_MAX, 1}, 128), vemiErrMemAlloc);
+  EXPECT_EQ(vemiConvert_8u1u_C1R(source, 2, &byte, 1, -1, {2, 1}, 128), vemiErrSize);
+  EXPECT_GE(noMemory.requests(), 1);
   EXPECT_EQ(byte, 0x42);
 }

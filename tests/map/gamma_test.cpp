@@ -6,7 +6,7 @@
 #include <numeric>
 #include <vector>
 
-#include "core/alloc.h"
+#include "support/allocator.h"
 #include "support/check.h"
 
 using namespace vemi::test;
@@ -100,13 +100,6 @@ std::vector<float> run32f(F function, std::vector<float> v, float vMin, float vM
   EXPECT_EQ(function(v.data(), 1, {static_cast<int>(v.size()) / 3, 1}, vMin, vMax), vemiOk);
   return v;
 }
-
-struct NoMemory {
-  NoMemory() {
-    vemi::testing::allocate = [](size_t) -> void* { return nullptr; };
-  }
-  ~NoMemory() { vemi::testing::allocate = std::malloc; }
-};
 
 }  // namespace
 

@@ -8,7 +8,7 @@
 #include <numeric>
 #include <vector>
 
-#include "core/alloc.h"
+#include "support/allocator.h"
 #include "support/check.h"
 
 using namespace vemi::test;
@@ -216,14 +216,6 @@ const Points<Vemi32s> listsOfPoints[] = {
     {{0, 31, 100, 211, 250}, {250, 0, 100, 20, 255}},
     {{-20000, -1000, 0, 700, 32768}, {-32000, 31000, -7, 100, 0}},
     {{INT_MIN, -7, 5, INT_MAX}, {-100, 100, -100, 100}},
-};
-
-/// Makes every allocation fail until the end of a test.
-struct NoMemory {
-  NoMemory() {
-    vemi::testing::allocate = [](size_t) -> void* { return nullptr; };
-  }
-  ~NoMemory() { vemi::testing::allocate = std::malloc; }
 };
 
 }  // namespace

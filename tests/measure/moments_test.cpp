@@ -8,7 +8,7 @@
 #include <limits>
 #include <memory>
 
-#include "core/alloc.h"
+#include "support/allocator.h"
 #include "support/check.h"
 
 using namespace vemi::test;
@@ -508,11 +508,9 @@ TEST(MomentState, ChannelsFollowTheLastPass) {
 
 TEST(MomentState, ShortMemory) {
   VemiMomentState* state = nullptr;
-  const auto former = vemi::testing::allocate;
-  vemi::testing::allocate = [](size_t) -> void* { return nullptr; };
+  const NoMemory noMemory;
   EXPECT_EQ(vemiMomentInitAlloc_64f(&state, 0), vemiErrMemAlloc);
   EXPECT_EQ(vemiMomentInitAlloc_64s(&state, 0), vemiErrMemAlloc);
-  vemi::testing::allocate = former;
   EXPECT_EQ(state, nullptr);
 }
 
