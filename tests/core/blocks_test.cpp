@@ -17,7 +17,8 @@
 #include "core/map_region.h"
 #include "core/map_row.h"
 #include "core/masked_row.h"
-#include "guarded_row.h"
+#include "support/for_types.h"
+#include "support/guarded_row.h"
 
 using namespace vemi;
 using namespace vemi::test;

@@ -11,7 +11,8 @@
 #include <limits>
 #include <vector>
 
-#include "guarded_row.h"
+#include "support/for_types.h"
+#include "support/guarded_row.h"
 
 using namespace vemi;
 using namespace vemi::test;

@@ -7,7 +7,7 @@
 
 #include <vector>
 
-#include "guarded_row.h"
+#include "support/guarded_row.h"
 
 using namespace vemi;
 using namespace vemi::test;

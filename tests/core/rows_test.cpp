@@ -10,7 +10,7 @@
 #include <vector>
 
 #include "core/streaming.h"
-#include "guarded_row.h"
+#include "support/guarded_row.h"
 
 using namespace vemi;
 using namespace vemi::test;

@@ -16,18 +16,14 @@ using namespace vemi::test;
 
 namespace {
 
-double number(Element element, const std::byte* place) {
-  return element == Element::f32 ? load<float>(place) : static_cast<double>(loadInteger(element, place));
-}
-
 /// The element that takes the place of x: one of the constants, or x itself.
 const std::byte* chosen(Call& call, const std::byte* x, Element element, int channel) {
-  const double value = number(element, x);
+  const double value = loadNumber(element, x);
   const auto isBelow = [&](const char* threshold) {
-    return value < number(element, call.constant(threshold, channel));
+    return value < loadNumber(element, call.constant(threshold, channel));
   };
   const auto isAbove = [&](const char* threshold) {
-    return value > number(element, call.constant(threshold, channel));
+    return value > loadNumber(element, call.constant(threshold, channel));
   };
   const std::string& operation = call.function.operation;
   if (operation == "vemiThreshold_LTValGTVal") {

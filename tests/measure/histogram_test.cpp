@@ -9,17 +9,12 @@
 #include <string>
 #include <vector>
 
-#include "core/alloc.h"
+#include "support/allocator.h"
 #include "support/check.h"
 
 using namespace vemi::test;
 
 namespace {
-
-double number(Element element, const std::byte* place) {
-  return element == Element::f32 ? static_cast<double>(load<float>(place))
-                                 : static_cast<double>(loadInteger(element, place));
-}
 
 /// By the numbered rules for even levels.
 std::vector<double> evenLevels(int lower, int upper, int count) {
@@ -48,14 +43,14 @@ void counted(Call& call) {
         store(levelArrays.at(k, 0, channel), static_cast<Vemi32s>(levels[static_cast<size_t>(k)]));
       }
     } else {
-      for (int k = 0; k < count; ++k) levels.push_back(number(levelArrays.element, levelArrays.at(k, 0, channel)));
+      for (int k = 0; k < count; ++k) levels.push_back(loadNumber(levelArrays.element, levelArrays.at(k, 0, channel)));
     }
     for (int bin = 0; bin < count - 1; ++bin) {
       const double low = levels[static_cast<size_t>(bin)], high = levels[static_cast<size_t>(bin) + 1];
       Vemi32s pixels = 0;
       for (int y = 0; y < image.size.height; ++y) {
         for (int x = 0; x < image.size.width; ++x) {
-          const double v = number(image.element, image.at(x, y, channel));
+          const double v = loadNumber(image.element, image.at(x, y, channel));
           pixels += low <= v && v < high;
         }
       }
@@ -187,17 +182,9 @@ TEST(Histogram, EvenLevels) {
 }
 
 /// Of all calls with levels of one kind, those that take a table are the ones that fail without memory.
-class ShortMemory : public ::testing::Test {
- protected:
-  ShortMemory() : former_(vemi::testing::allocate) {
-    vemi::testing::allocate = [](size_t) -> void* { return nullptr; };
-  }
-  ~ShortMemory() override { vemi::testing::allocate = former_; }
-
- private:
-  void* (*former_)(size_t);
+class HistogramWithoutMemory : public ::testing::Test {
+  const NoMemory noMemory_;
 };
-using HistogramWithoutMemory = ShortMemory;
 
 /// One call of vemiHistogramRange_16s for any layout, with the same number of levels in each channel.
 struct RangeCall {

@@ -9,11 +9,6 @@
 
 namespace vemi::test {
 
-inline double number(Element element, const std::byte* place) {
-  return element == Element::f32 ? static_cast<double>(load<float>(place))
-                                 : static_cast<double>(loadInteger(element, place));
-}
-
 inline bool isFloat(Call& call) { return call.source().element == Element::f32; }
 inline bool isAccurate(Call& call) { return call.get<int>("hint") == vemiHintAccurate; }
 
@@ -29,7 +24,8 @@ void forEachPixel(const Call& call, const F& f) {
 using Values = std::function<double(int x, int y)>;
 
 inline Values valuesOf(Call& call, int channel, int source = 0) {
-  return [view = call.source(source), channel](int x, int y) { return number(view.element, view.at(x, y, channel)); };
+  return
+      [view = call.source(source), channel](int x, int y) { return loadNumber(view.element, view.at(x, y, channel)); };
 }
 
 struct Sum {

@@ -34,8 +34,8 @@ void mean(Call& call) {
 void count(Call& call) {
   for (int channel = 0; channel < call.source().channels; ++channel) {
     const Element element = call.source().element;
-    const double lower = number(element, call.constant("lower", channel));
-    const double upper = number(element, call.constant("upper", channel));
+    const double lower = loadNumber(element, call.constant("lower", channel));
+    const double upper = loadNumber(element, call.constant("upper", channel));
     const Values values = valuesOf(call, channel);
     Vemi32s inside = 0;
     forEachPixel(call, [&](int x, int y) { inside += lower <= values(x, y) && values(x, y) <= upper; });

@@ -7,8 +7,8 @@
 #include <cstring>
 #include <vector>
 
-#include "../core/guarded_row.h"
 #include "core/streaming.h"
+#include "support/guarded_row.h"
 
 using namespace vemi;
 using namespace vemi::test;

@@ -104,6 +104,10 @@ void storeSaturated(Element element, std::byte* place, int64_t value) {
   });
 }
 
+double loadNumber(Element element, const std::byte* place) {
+  return withType(element, [&](auto zero) { return static_cast<double>(load<decltype(zero)>(place)); });
+}
+
 void storeNumber(Element element, std::byte* place, double value) {
   withType(element, [&](auto zero) {
     using T = decltype(zero);

@@ -52,6 +52,8 @@ int64_t loadInteger(Element element, const std::byte* place);
 /// Clamps the value to the element's range.
 void storeSaturated(Element element, std::byte* place, int64_t value);
 
+/// Any real element, as the nearest double.
+double loadNumber(Element element, const std::byte* place);
 /// Any real element; an integer is rounded and clamped to its range.
 void storeNumber(Element element, std::byte* place, double value);
 
@@ -71,8 +73,7 @@ class Random {
 };
 
 /// Random bits, mixed with what arithmetic stumbles over: ends of the range, zeros of both signs, ones, infinities,
-/// NaNs and denormals. Floats are moderate numbers half of the time,
-/// and 32u elements, which count bits, mostly.
+/// NaNs and denormals. Floats are moderate numbers half of the time, and 32u elements, which count bits, mostly.
 void fillElement(Element element, std::byte* place, Random& random);
 /// Gives any NaN in the element the bits of the one that the processor itself makes.
 void unifyNaNs(Element element, std::byte* place);

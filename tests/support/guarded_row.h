@@ -6,6 +6,7 @@
 #include <cstring>
 #include <vector>
 
+#include "support/elements.h"
 #include "support/guarded.h"
 
 namespace vemi::test {
@@ -19,12 +20,10 @@ struct Place {
 /// Both pages, and a row that is misaligned for any element.
 inline constexpr Place places[] = {{true, 0}, {false, 0}, {true, 1}};
 
+/// The same numbers in each run of a program.
 inline uint64_t nextRandom() {
-  static uint64_t state = 0;
-  uint64_t z = state += 0x9e3779b97f4a7c15u;
-  z = (z ^ z >> 30) * 0xbf58476d1ce4e5b9u;
-  z = (z ^ z >> 27) * 0x94d049bb133111ebu;
-  return z ^ z >> 31;
+  static Random random(0);
+  return random.next();
 }
 
 /// `count` elements, of random bytes where no values are given. They may be misaligned, so they are read as copies.
@@ -35,10 +34,7 @@ class GuardedRow {
       : bytes_(static_cast<size_t>(count) * sizeof(T)), memory_(bytes_ + 64) {
     const auto slack = static_cast<size_t>(place.slack);
     start_ = place.atEnd ? memory_.size() - bytes_ - slack : slack;
-    for (size_t i = 0; i < memory_.size(); i += sizeof(uint64_t)) {
-      const uint64_t random = nextRandom();
-      std::memcpy(memory_.begin() + i, &random, sizeof random);
-    }
+    for (size_t i = 0; i < memory_.size(); i += sizeof(uint64_t)) store(memory_.begin() + i, nextRandom());
     before_.assign(memory_.begin(), memory_.end());
   }
   GuardedRow(const std::vector<T>& values, Place place) : GuardedRow(static_cast<ptrdiff_t>(values.size()), place) {
@@ -69,11 +65,5 @@ class GuardedRow {
   GuardedMemory memory_;
   std::vector<std::byte> before_;
 };
-
-/// Calls f with a value of each type.
-template <class... T, class F>
-void forTypes(const F& f) {
-  (f(T()), ...);
-}
 
 }  // namespace vemi::test
