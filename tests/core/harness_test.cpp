@@ -1,6 +1,7 @@
 // The tests' own instruments: a fault that they cannot see would never be found.
 
 #include <gtest/gtest.h>
+#include <omp.h>
 
 #include <string>
 
@@ -22,6 +23,18 @@ TEST(Harness, GuardPagesStopAnyAccess) {
   EXPECT_DEATH(*(begin - 1) = std::byte{1}, "");
   EXPECT_DEATH(*end = std::byte{1}, "");
   EXPECT_DEATH(static_cast<void>(*end), "");
+}
+
+// The rows that a team's other thread works on lie behind the images.
+TEST(Harness, AFaultInATeamNamesTheCall) {
+  GTEST_FLAG_SET(death_test_style, "threadsafe");
+  const auto callBeyondTheImages = [] {
+    omp_set_num_threads(2);
+    Call call(function("vemiAdd", "8u_C1RSfs"), {{700, 4}, Rows::contiguous, Edge::back, 1, 0});
+    call.set("roiSize", VemiSize{700, 8});
+    call.invoke();
+  };
+  EXPECT_DEATH(callBeyondTheImages(), "touched by vemiAdd_8u_C1RSfs");
 }
 
 TEST(Harness, ImagesTouchTheGuardPages) {

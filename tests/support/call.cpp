@@ -4,6 +4,7 @@
 #include <unistd.h>
 
 #include <algorithm>
+#include <atomic>
 #include <cmath>
 #include <functional>
 #include <stdexcept>
@@ -17,10 +18,14 @@ namespace {
 // ---- Naming the call that touched a guard page ----
 
 thread_local char currentCall[512];
+/// A thread of the library's teams has noted no call: its fault is laid at the latest one that any thread has begun.
+std::atomic<const char*> latestCall = nullptr;
 struct sigaction formerAction;
 
 void reportCall(int signal) {
-  if (write(STDERR_FILENO, currentCall, std::strlen(currentCall)) < 0) _exit(1);
+  const char* const latest = latestCall;
+  const char* const call = currentCall[0] != '\0' || latest == nullptr ? currentCall : latest;
+  if (write(STDERR_FILENO, call, std::strlen(call)) < 0) _exit(1);
   sigaction(signal, &formerAction, nullptr);  // returning repeats the access, and the former action ends the program
 }
 
@@ -32,6 +37,13 @@ void noteCall(const std::string& text) {
   }();
   const std::string line = installed ? "\nmemory outside of the images was touched by " + text + "\n" : "";
   currentCall[line.copy(currentCall, sizeof currentCall - 1)] = '\0';
+  latestCall = currentCall;
+}
+
+void forgetCall() {
+  const char* own = currentCall;
+  latestCall.compare_exchange_strong(own, nullptr);
+  currentCall[0] = '\0';
 }
 
 uint64_t hashOf(const std::string& text) {
@@ -332,7 +344,7 @@ View Call::array(const std::string& parameter) {
 VemiStatus Call::invoke() {
   noteCall(text());
   const VemiStatus status = function.call(function.function, arguments.data());
-  currentCall[0] = '\0';
+  forgetCall();
   if (newRecord_ != nullptr) {
     const Export& destructor = partnerOf(function, "InitAlloc", "Free");
     record_ = {std::exchange(newRecord_, nullptr), [&](void* record) {
