@@ -38,12 +38,30 @@ TEST(Copy, PointersChooseTheChannelOfInterest) {
   EXPECT_EQ(destination, (std::vector<Vemi16s>{3, -2, -3, 6, -5, -6}));
 }
 
-// Large enough for stores that go around the caches.
-TEST(Copy, ImageLargerThanTheCaches) {
+/// One call each, on images of about 10 MB with and without gaps: enough for stores that go around the caches, and for
+/// fills that copy their own beginning.
+void expectLarge(const char* operation, const std::string& members, const Reference& reference) {
+  const Export& function = *membersOf(operation, members).front();
+  const int pixelBytes =
+      bytesOf(function.parameters[0].element) * std::max(function.source.elements, function.destination.elements);
   for (const Rows rows : {Rows::contiguous, Rows::odd}) {
-    const Scenario scenario = {{2049, 1031}, rows, Edge::back, 5, 0};
-    EXPECT_TRUE(expectCall(*membersOf("vemiCopy", "32f_C4R").front(), scenario, copied));
-    EXPECT_TRUE(expectCall(*membersOf("vemiSet", "32f_C4R").front(), scenario, filled));
+    const Scenario scenario = {{2051, 10'000'000 / 2051 / pixelBytes}, rows, Edge::back, 5, 0};
+    EXPECT_TRUE(expectCall(function, scenario, reference));
+  }
+}
+
+TEST(Copy, ImagesLargerThanTheCaches) {
+  for (const std::string element : {"8u", "16s", "32f"}) {
+    for (const char* const layout : {"C3P3R", "C4P4R", "P3C3R", "P4C4R"}) {
+      expectLarge("vemiCopy", element + "_" + layout, copied);
+    }
+    expectLarge("vemiCopy", element + "_C4R", copied);
+  }
+}
+
+TEST(Set, ImagesLargerThanTheCaches) {
+  for (const char* const members : {"8u_C1R", "16s_C1R", "8u_C3R", "16s_C3R", "32f_C3R", "32f_C4R"}) {
+    expectLarge("vemiSet", members, filled);
   }
 }
 
