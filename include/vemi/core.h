@@ -265,8 +265,7 @@ VEMI_API VemiStatus vemiCopy_32f_C3AC4R(const Vemi32f* pSrc, int srcStep, Vemi32
  *     C3P3 C4P4    plane n receives channel n
  *     P3C3 P4C4    channel n receives plane n
  *
- * One step holds for all planes; they need not lie in one block. Planes that are written do not
- * overlap each other.
+ * One step holds for all planes; they need not lie in one block. Planes that are written do not overlap each other.
  *
  *     Vemi8u* planes[3] = {r, g, b};
  *     vemiCopy_8u_C3P3R(rgb, rgbStep, planes, planeStep, size);

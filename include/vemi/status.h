@@ -20,9 +20,10 @@
  * from the top row down, unless its description says otherwise.
  *
  * All arguments are tested before anything is written, and the first test that fails decides the status. The order is
- * fixed and part of the contract: null pointers first, in the order of the arguments, with the pointers inside an array
- * of planes among them; then size before step, or in some families step before size; last whatever is special to the
- * function. Each family's description gives its order. Where it says "null, size, step", this is meant:
+ * fixed and part of the contract, and each family's description gives it. As a rule null pointers come first, the
+ * pointers inside an array of planes among them; then size before step, or in some families step before size; last
+ * whatever is special to the function. Some families, or single forms of them, look at a size or a constant before the
+ * pointers, and say so. Where a description says "null, size, step", this is meant:
  *
  * - null: a pointer is null (vemiErrNullPtr);
  * - size: a width or a height is below 1 (vemiErrSize);

@@ -63,8 +63,9 @@
  *     C4          four interleaved channels, all of them processed
  *     AC4         four interleaved channels; the first three are processed, the fourth, alpha, keeps in the destination
  *                 the value that it has there
- *     P2 P3 P4    two, three or four separate planes: an array of pointers and one step for all planes
- *     AC1 AP4     alpha compositing alone: one channel of alpha values; four planes, the fourth of them alpha
+ *     P2 P3 P4    two, three or four separate planes: an array of pointers and one step for all planes, unless the
+ *                 prototype has a step for each
+ *     AC1 AP4     one channel, which holds alpha values; four planes, the fourth of which is alpha
  *
  * and the letters behind the layout, in this order, give the shape of the call:
  *
@@ -105,10 +106,13 @@
  * region, its description says how far. Bytes between the rows are left alone. Unless told otherwise, the destination
  * must not overlap a source; sources may overlap each other, or be the same image.
  *
- * Where a form keeps part of what it passes over (the alpha of AC4 forms, the pixels that a mask does not select), it
- * may store the kept bytes again with the value that they hold. So, for the time of the call, no other thread may write
- * to those. Channel-of-interest forms write the elements of their channel and nothing else: threads may fill different
- * channels of one image at the same time.
+ * The pixels of the region must be memory that can be read, also where their values do not count: the fourth channel of
+ * an AC4 source, and the pixels of source and destination that a mask does not select, are loaded with the others.
+ *
+ * Where a form keeps part of what it passes over (the fourth channel of an AC4 destination, the pixels that a mask does
+ * not select), it may store the kept bytes again with the value that they had. So, for the time of the call, no other
+ * thread may write to those. Channel-of-interest forms write the elements of their channel and nothing else: threads
+ * may fill different channels of one image at the same time.
  *
  * ### Threads
  *
