@@ -48,8 +48,6 @@ Vemi16s* vemiAlignedAlloc16(int count) { return static_cast<Vemi16s*>(alignedAll
 
 Vemi32f* vemiAlignedAlloc32f(int count) { return static_cast<Vemi32f*>(alignedAllocBytes(Vemi64s{count} * 4)); }
 
-Vemi64f* vemiAlignedAlloc64f(int count) { return static_cast<Vemi64f*>(alignedAllocBytes(Vemi64s{count} * 8)); }
-
 void vemiAlignedFree(void* block) {
   if (block == nullptr) return;
   void* base;

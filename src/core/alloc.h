@@ -12,7 +12,6 @@ namespace vemi {
 void* vemiAlignedAlloc(int size);
 Vemi16s* vemiAlignedAlloc16(int count);
 Vemi32f* vemiAlignedAlloc32f(int count);
-Vemi64f* vemiAlignedAlloc64f(int count);
 
 /// The same for sizes that a team multiplies: a size beyond the address space is a failed allocation.
 void* alignedAllocBytes(Vemi64s size);

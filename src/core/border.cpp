@@ -3,10 +3,8 @@
 // Checks: null, step, size; a destination that is too small for the source and its borders is a size error.
 
 #include <algorithm>
-#include <cstring>
 
 #include "core/checks.h"
-#include "core/exports.h"
 #include "core/image.h"
 #include "core/map_row.h"
 #include "core/rows.h"
@@ -26,8 +24,10 @@ Placement placementOf(VemiSize srcRoiSize, VemiSize dstRoiSize, int topBorderHei
           topBorderHeight, srcRoiSize.height, ptrdiff_t{dstRoiSize.height} - topBorderHeight - srcRoiSize.height};
 }
 
-/// The sums are exact: they may exceed 32 bits.
-VemiStatus checkBorders(VemiSize srcRoiSize, VemiSize dstRoiSize, int topBorderHeight, int leftBorderWidth) {
+/// Both sizes, and that the source fits into the destination behind its borders. The sums are exact: they may exceed 32
+/// bits.
+VemiStatus checkPlacement(VemiSize srcRoiSize, VemiSize dstRoiSize, int topBorderHeight, int leftBorderWidth) {
+  if (const VemiStatus bad = checkSize(srcRoiSize, dstRoiSize)) return bad;
   const bool fits = topBorderHeight >= 0 && leftBorderWidth >= 0 &&
                     dstRoiSize.width >= Vemi64s{leftBorderWidth} + srcRoiSize.width &&
                     dstRoiSize.height >= Vemi64s{topBorderHeight} + srcRoiSize.height;
@@ -66,8 +66,8 @@ void copyFinishedRows(Image<T> dst, Placement p, ptrdiff_t period) {
 template <class T, class L>
 VemiStatus copyConstBorder(Image<const T> src, VemiSize srcRoiSize, Image<T> dst, VemiSize dstRoiSize,
                            int topBorderHeight, int leftBorderWidth, const T* value) {
-  if (const VemiStatus bad = firstOf(checkNull(src, dst, value), checkStep(src, dst), checkSize(srcRoiSize, dstRoiSize),
-                                     checkBorders(srcRoiSize, dstRoiSize, topBorderHeight, leftBorderWidth))) {
+  if (const VemiStatus bad = firstOf(checkNull(src, dst, value), checkStep(src, dst),
+                                     checkPlacement(srcRoiSize, dstRoiSize, topBorderHeight, leftBorderWidth))) {
     return bad;
   }
   const Placement p = placementOf(srcRoiSize, dstRoiSize, topBorderHeight, leftBorderWidth);
@@ -90,8 +90,8 @@ VemiStatus copyConstBorder(Image<const T> src, VemiSize srcRoiSize, Image<T> dst
 template <class T, class L>
 VemiStatus copyReplicateBorder(Image<const T> src, VemiSize srcRoiSize, Image<T> dst, VemiSize dstRoiSize,
                                int topBorderHeight, int leftBorderWidth) {
-  if (const VemiStatus bad = firstOf(checkNull(src, dst), checkStep(src, dst), checkSize(srcRoiSize, dstRoiSize),
-                                     checkBorders(srcRoiSize, dstRoiSize, topBorderHeight, leftBorderWidth))) {
+  if (const VemiStatus bad = firstOf(checkNull(src, dst), checkStep(src, dst),
+                                     checkPlacement(srcRoiSize, dstRoiSize, topBorderHeight, leftBorderWidth))) {
     return bad;
   }
   const Placement p = placementOf(srcRoiSize, dstRoiSize, topBorderHeight, leftBorderWidth);
@@ -125,8 +125,8 @@ void wrapRow(T* row, Placement p) {
 template <class T>
 VemiStatus copyWrapBorder(Image<const T> src, VemiSize srcRoiSize, Image<T> dst, VemiSize dstRoiSize,
                           int topBorderHeight, int leftBorderWidth) {
-  if (const VemiStatus bad = firstOf(checkNull(src, dst), checkStep(src, dst), checkSize(srcRoiSize, dstRoiSize),
-                                     checkBorders(srcRoiSize, dstRoiSize, topBorderHeight, leftBorderWidth))) {
+  if (const VemiStatus bad = firstOf(checkNull(src, dst), checkStep(src, dst),
+                                     checkPlacement(srcRoiSize, dstRoiSize, topBorderHeight, leftBorderWidth))) {
     return bad;
   }
   const Placement p = placementOf(srcRoiSize, dstRoiSize, topBorderHeight, leftBorderWidth);
@@ -144,8 +144,8 @@ VemiStatus copyWrapBorder(Image<const T> src, VemiSize srcRoiSize, Image<T> dst,
 template <class T>
 VemiStatus wrapBorderInPlace(Image<T> srcDst, VemiSize srcRoiSize, VemiSize dstRoiSize, int topBorderHeight,
                              int leftBorderWidth) {
-  if (const VemiStatus bad = firstOf(checkNull(srcDst), checkStep(srcDst), checkSize(srcRoiSize, dstRoiSize),
-                                     checkBorders(srcRoiSize, dstRoiSize, topBorderHeight, leftBorderWidth))) {
+  if (const VemiStatus bad = firstOf(checkNull(srcDst), checkStep(srcDst),
+                                     checkPlacement(srcRoiSize, dstRoiSize, topBorderHeight, leftBorderWidth))) {
     return bad;
   }
   const Placement p = placementOf(srcRoiSize, dstRoiSize, topBorderHeight, leftBorderWidth);

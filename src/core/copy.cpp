@@ -1,12 +1,16 @@
 // vemiCopy: regions copied whole, under a mask, channel by channel, and between pixels and planes.
 // Checks: null, size, step. Where the rows of all images are contiguous, the region is one long row.
 
+#include <type_traits>
+#include <utility>
+
 #include "core/checks.h"
 #include "core/exports.h"
 #include "core/image.h"
 #include "core/interleave.h"
 #include "core/map_row.h"
 #include "core/masked_row.h"
+#include "core/parallel.h"
 #include "core/rows.h"
 #include "core/streaming.h"
 #include "vemi/core.h"
@@ -19,15 +23,15 @@ VemiStatus copy(Image<const T> src, Image<T> dst, VemiSize roiSize) {
   if (const VemiStatus bad = firstOf(checkNull(src, dst), checkSize(roiSize), checkStep(src, dst))) return bad;
   const Extent extent = mergedExtent(roiSize, isContiguous<L>(src, roiSize) && isContiguous<L>(dst, roiSize));
   const ptrdiff_t rowBytes = extent.width * pixelBytes<T, L>;
-  const bool streamed = trafficOf(extent, 2 * pixelBytes<T, L>) >= streamedTraffic;
-  const auto copyBytes = streamed ? rowStreamBytes : rowCopyBytes;
-  for (ptrdiff_t y = 0; y < extent.height; ++y) copyBytes(src.row(y), dst.row(y), rowBytes);
-  if (streamed) finishStreaming();
+  runPlainOrStreamed(
+      CallerRows(), extent.height, trafficOf(extent, 2 * pixelBytes<T, L>),
+      [&](ptrdiff_t y) { rowCopyBytes(src.row(y), dst.row(y), rowBytes); },
+      [&](ptrdiff_t y) { rowStreamBytes(src.row(y), dst.row(y), rowBytes); });
   return vemiOk;
 }
 
 template <class T>
-VemiStatus copyBesideAlpha(Image<const T> src, Image<T> dst, VemiSize roiSize) {
+VemiStatus copyKeepingAlpha(Image<const T> src, Image<T> dst, VemiSize roiSize) {
   if (const VemiStatus bad = firstOf(checkNull(src, dst), checkSize(roiSize), checkStep(src, dst))) return bad;
   const Extent extent = mergedExtent(roiSize, isContiguous<AC4>(src, roiSize) && isContiguous<AC4>(dst, roiSize));
   for (ptrdiff_t y = 0; y < extent.height; ++y) mapRow<AC4>(extent.width, eachVector(Same()), dst.row(y), src.row(y));
@@ -48,12 +52,12 @@ VemiStatus copyMasked(Image<const T> src, Image<T> dst, VemiSize roiSize, Image<
   return vemiOk;
 }
 
-/// What moves one row from a layout SL to a layout DL.
+/// Moves a row of pixels of one layout into pixels of another.
 template <class T>
 using RowMove = void (*)(ptrdiff_t width, const T* src, T* dst);
 
-/// The forms that change the layout or pick a channel. Their rows merge where both images are contiguous; for a channel
-/// of interest the long row ends with the last pixel's element too.
+/// The forms that change the layout or pick a channel. For a channel of interest, the one long row that contiguous rows
+/// are ends with the last pixel's element too.
 template <class T, class SL, class DL, RowMove<T> moveRow>
 VemiStatus copyRelaid(Image<const T> src, Image<T> dst, VemiSize roiSize) {
   if (const VemiStatus bad = firstOf(checkNull(src, dst), checkSize(roiSize), checkStep(src, dst))) return bad;
@@ -78,13 +82,13 @@ VemiStatus insertChannel(Image<const T> src, Image<T> dst, VemiSize roiSize) {
 }
 
 template <class T>
-VemiStatus dropAlpha(Image<const T> src, Image<T> dst, VemiSize roiSize) {
-  return copyRelaid<T, C4, C3, dropAlphaRow<T>>(src, dst, roiSize);
+VemiStatus extractColour(Image<const T> src, Image<T> dst, VemiSize roiSize) {
+  return copyRelaid<T, C4, C3, extractColourRow<T>>(src, dst, roiSize);
 }
 
 template <class T>
-VemiStatus copyBeneathAlpha(Image<const T> src, Image<T> dst, VemiSize roiSize) {
-  return copyRelaid<T, C3, C4, beneathAlphaRow<T>>(src, dst, roiSize);
+VemiStatus insertColour(Image<const T> src, Image<T> dst, VemiSize roiSize) {
+  return copyRelaid<T, C3, C4, insertColourRow<T>>(src, dst, roiSize);
 }
 
 /// Calls f(plane index as a constant...).
@@ -94,42 +98,35 @@ auto forPlanes(const F& f) {
   (std::make_integer_sequence<int, planes>());
 }
 
-template <class T, int channels>
-VemiStatus split(Image<const T> src, Planes<T, channels> dst, VemiSize roiSize) {
-  if (const VemiStatus bad = firstOf(checkNull(src, dst), checkSize(roiSize), checkStep(src, dst))) return bad;
-  const bool contiguous = isContiguous<Interleaved<channels>>(src, roiSize) && isContiguous<C1>(dst[0], roiSize);
-  const Extent extent = mergedExtent(roiSize, contiguous);
-  const bool streamed = trafficOf(extent, 2 * pixelBytes<T, Interleaved<channels>>) >= streamedTraffic;
+/// Runs row(width, pixels, plane...) over all rows, one of the images being the source and the other the destination.
+template <class PixelT, class PlaneT, int channels, class Row, class StreamedRow>
+VemiStatus copyPlanes(Image<PixelT> pixels, Planes<PlaneT, channels> planes, VemiSize roiSize, const Row& row,
+                      const StreamedRow& streamedRow) {
+  using L = Interleaved<channels>;
+  if (const VemiStatus bad = firstOf(checkNull(pixels, planes), checkSize(roiSize), checkStep(pixels, planes))) {
+    return bad;
+  }
+  const Extent extent = mergedExtent(roiSize, isContiguous<L>(pixels, roiSize) && isContiguous<C1>(planes[0], roiSize));
   forPlanes<channels>([&](auto... n) {
-    for (ptrdiff_t y = 0; y < extent.height; ++y) {
-      if (streamed) {
-        splitRowStreamed(extent.width, src.row(y), dst[n].row(y)...);
-      } else {
-        splitRow(extent.width, src.row(y), dst[n].row(y)...);
-      }
-    }
+    runPlainOrStreamed(
+        CallerRows(), extent.height, trafficOf(extent, 2 * pixelBytes<PixelT, L>),
+        [&](ptrdiff_t y) { row(extent.width, pixels.row(y), planes[n].row(y)...); },
+        [&](ptrdiff_t y) { streamedRow(extent.width, pixels.row(y), planes[n].row(y)...); });
   });
-  if (streamed) finishStreaming();
   return vemiOk;
 }
 
 template <class T, int channels>
-VemiStatus merge(Planes<const T, channels> src, Image<T> dst, VemiSize roiSize) {
-  if (const VemiStatus bad = firstOf(checkNull(src, dst), checkSize(roiSize), checkStep(src, dst))) return bad;
-  const bool contiguous = isContiguous<C1>(src[0], roiSize) && isContiguous<Interleaved<channels>>(dst, roiSize);
-  const Extent extent = mergedExtent(roiSize, contiguous);
-  const bool streamed = trafficOf(extent, 2 * pixelBytes<T, Interleaved<channels>>) >= streamedTraffic;
-  forPlanes<channels>([&](auto... n) {
-    for (ptrdiff_t y = 0; y < extent.height; ++y) {
-      if (streamed) {
-        mergeRowStreamed(extent.width, dst.row(y), src[n].row(y)...);
-      } else {
-        mergeRow(extent.width, dst.row(y), src[n].row(y)...);
-      }
-    }
-  });
-  if (streamed) finishStreaming();
-  return vemiOk;
+VemiStatus split(Image<const T> src, Planes<T, channels> dst, VemiSize roiSize) {
+  return copyPlanes(
+      src, dst, roiSize, [](auto... row) { splitRow(row...); }, [](auto... row) { splitRowStreamed(row...); });
+}
+
+template <class T, int channels>
+VemiStatus interleave(Planes<const T, channels> src, Image<T> dst, VemiSize roiSize) {
+  return copyPlanes(
+      dst, src, roiSize, [](auto... row) { interleaveRow(row...); },
+      [](auto... row) { interleaveRowStreamed(row...); });
 }
 
 }  // namespace
@@ -162,9 +159,9 @@ VEMI_SRC_DST(vemiCopy_32f_C3R, Vemi32f, copy<Vemi32f, C3>)
 VEMI_SRC_DST(vemiCopy_8u_C4R, Vemi8u, copy<Vemi8u, C4>)
 VEMI_SRC_DST(vemiCopy_16s_C4R, Vemi16s, copy<Vemi16s, C4>)
 VEMI_SRC_DST(vemiCopy_32f_C4R, Vemi32f, copy<Vemi32f, C4>)
-VEMI_SRC_DST(vemiCopy_8u_AC4R, Vemi8u, copyBesideAlpha<Vemi8u>)
-VEMI_SRC_DST(vemiCopy_16s_AC4R, Vemi16s, copyBesideAlpha<Vemi16s>)
-VEMI_SRC_DST(vemiCopy_32f_AC4R, Vemi32f, copyBesideAlpha<Vemi32f>)
+VEMI_SRC_DST(vemiCopy_8u_AC4R, Vemi8u, copyKeepingAlpha<Vemi8u>)
+VEMI_SRC_DST(vemiCopy_16s_AC4R, Vemi16s, copyKeepingAlpha<Vemi16s>)
+VEMI_SRC_DST(vemiCopy_32f_AC4R, Vemi32f, copyKeepingAlpha<Vemi32f>)
 
 VEMI_SRC_DST_MASK(vemiCopy_8u_C1MR, Vemi8u, copyMasked<Vemi8u, C1>)
 VEMI_SRC_DST_MASK(vemiCopy_16s_C1MR, Vemi16s, copyMasked<Vemi16s, C1>)
@@ -198,12 +195,12 @@ VEMI_SRC_DST(vemiCopy_8u_C1C4R, Vemi8u, insertChannel<Vemi8u, C4>)
 VEMI_SRC_DST(vemiCopy_16s_C1C4R, Vemi16s, insertChannel<Vemi16s, C4>)
 VEMI_SRC_DST(vemiCopy_32f_C1C4R, Vemi32f, insertChannel<Vemi32f, C4>)
 
-VEMI_SRC_DST(vemiCopy_8u_AC4C3R, Vemi8u, dropAlpha<Vemi8u>)
-VEMI_SRC_DST(vemiCopy_16s_AC4C3R, Vemi16s, dropAlpha<Vemi16s>)
-VEMI_SRC_DST(vemiCopy_32f_AC4C3R, Vemi32f, dropAlpha<Vemi32f>)
-VEMI_SRC_DST(vemiCopy_8u_C3AC4R, Vemi8u, copyBeneathAlpha<Vemi8u>)
-VEMI_SRC_DST(vemiCopy_16s_C3AC4R, Vemi16s, copyBeneathAlpha<Vemi16s>)
-VEMI_SRC_DST(vemiCopy_32f_C3AC4R, Vemi32f, copyBeneathAlpha<Vemi32f>)
+VEMI_SRC_DST(vemiCopy_8u_AC4C3R, Vemi8u, extractColour<Vemi8u>)
+VEMI_SRC_DST(vemiCopy_16s_AC4C3R, Vemi16s, extractColour<Vemi16s>)
+VEMI_SRC_DST(vemiCopy_32f_AC4C3R, Vemi32f, extractColour<Vemi32f>)
+VEMI_SRC_DST(vemiCopy_8u_C3AC4R, Vemi8u, insertColour<Vemi8u>)
+VEMI_SRC_DST(vemiCopy_16s_C3AC4R, Vemi16s, insertColour<Vemi16s>)
+VEMI_SRC_DST(vemiCopy_32f_C3AC4R, Vemi32f, insertColour<Vemi32f>)
 
 VEMI_SRC_PLANES(vemiCopy_8u_C3P3R, Vemi8u, 3, split<Vemi8u, 3>)
 VEMI_SRC_PLANES(vemiCopy_16s_C3P3R, Vemi16s, 3, split<Vemi16s, 3>)
@@ -211,9 +208,9 @@ VEMI_SRC_PLANES(vemiCopy_32f_C3P3R, Vemi32f, 3, split<Vemi32f, 3>)
 VEMI_SRC_PLANES(vemiCopy_8u_C4P4R, Vemi8u, 4, split<Vemi8u, 4>)
 VEMI_SRC_PLANES(vemiCopy_16s_C4P4R, Vemi16s, 4, split<Vemi16s, 4>)
 VEMI_SRC_PLANES(vemiCopy_32f_C4P4R, Vemi32f, 4, split<Vemi32f, 4>)
-VEMI_PLANES_DST(vemiCopy_8u_P3C3R, Vemi8u, 3, merge<Vemi8u, 3>)
-VEMI_PLANES_DST(vemiCopy_16s_P3C3R, Vemi16s, 3, merge<Vemi16s, 3>)
-VEMI_PLANES_DST(vemiCopy_32f_P3C3R, Vemi32f, 3, merge<Vemi32f, 3>)
-VEMI_PLANES_DST(vemiCopy_8u_P4C4R, Vemi8u, 4, merge<Vemi8u, 4>)
-VEMI_PLANES_DST(vemiCopy_16s_P4C4R, Vemi16s, 4, merge<Vemi16s, 4>)
-VEMI_PLANES_DST(vemiCopy_32f_P4C4R, Vemi32f, 4, merge<Vemi32f, 4>)
+VEMI_PLANES_DST(vemiCopy_8u_P3C3R, Vemi8u, 3, interleave<Vemi8u, 3>)
+VEMI_PLANES_DST(vemiCopy_16s_P3C3R, Vemi16s, 3, interleave<Vemi16s, 3>)
+VEMI_PLANES_DST(vemiCopy_32f_P3C3R, Vemi32f, 3, interleave<Vemi32f, 3>)
+VEMI_PLANES_DST(vemiCopy_8u_P4C4R, Vemi8u, 4, interleave<Vemi8u, 4>)
+VEMI_PLANES_DST(vemiCopy_16s_P4C4R, Vemi16s, 4, interleave<Vemi16s, 4>)
+VEMI_PLANES_DST(vemiCopy_32f_P4C4R, Vemi32f, 4, interleave<Vemi32f, 4>)

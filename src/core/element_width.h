@@ -4,6 +4,7 @@
 
 #include <cstdint>
 #include <type_traits>
+#include <utility>
 
 #include "core/lanes.h"
 
@@ -21,13 +22,43 @@ HWY_INLINE hn::Vec<D> loadExtended(D d, const S* in) {
 
 namespace detail {
 
+/// The lane library has no names for these instructions. The vectors are the halves of each 128-bit block.
+template <class V>
+HWY_INLINE auto packSignedBytes(V lower, V upper) {
+  if constexpr (sizeof(V) == 16) return _mm_packs_epi16(lower.raw, upper.raw);
+#if HWY_TARGET <= HWY_AVX2
+  if constexpr (sizeof(V) == 32) return _mm256_packs_epi16(lower.raw, upper.raw);
+#endif
+#if HWY_TARGET <= HWY_AVX3
+  if constexpr (sizeof(V) == 64) return _mm512_packs_epi16(lower.raw, upper.raw);
+#endif
+}
+
+template <class V>
+HWY_INLINE auto packUnsigned16(V lower, V upper) {
+#if HWY_TARGET == HWY_SSSE3  // packs to 16s alone: lanes from 0 on are moved down to its range, and back when packed
+  const hn::DFromV<V> d;
+  const V middle = hn::Set(d, 32768);
+  const auto moved = [&](V v) HWY_ATTR { return hn::Sub(hn::AndNot(hn::BroadcastSignBit(v), v), middle); };
+  return _mm_xor_si128(_mm_packs_epi32(moved(lower).raw, moved(upper).raw), _mm_set1_epi16(INT16_MIN));
+#else
+  if constexpr (sizeof(V) == 16) return _mm_packus_epi32(lower.raw, upper.raw);
+#endif
+#if HWY_TARGET <= HWY_AVX2
+  if constexpr (sizeof(V) == 32) return _mm256_packus_epi32(lower.raw, upper.raw);
+#endif
+#if HWY_TARGET <= HWY_AVX3
+  if constexpr (sizeof(V) == 64) return _mm512_packus_epi32(lower.raw, upper.raw);
+#endif
+}
+
 /// Saturates signed lanes to half their width. The vectors are the halves of each 128-bit block.
 template <class D, class V, class T = hn::TFromD<D>>
 HWY_INLINE hn::Vec<D> pack(D d, V lower, V upper) {
   if constexpr (std::is_same_v<T, int16_t>) return hn::ReorderDemote2To(d, lower, upper);
   if constexpr (std::is_same_v<T, uint16_t>) return hn::Vec<D>{packUnsigned16(lower, upper)};
   if constexpr (std::is_same_v<T, int8_t>) return hn::Vec<D>{packSignedBytes(lower, upper)};
-  if constexpr (std::is_same_v<T, uint8_t>) return hn::Vec<D>{packBytes(lower, upper)};
+  if constexpr (std::is_same_v<T, uint8_t>) return vemi::packBytes(d, lower, upper);
 }
 
 /// Where the 32 bits of each place are after `vectors` vectors were packed to one.

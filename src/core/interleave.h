@@ -4,6 +4,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
+#include <type_traits>
 
 #include "core/blocks.h"
 #include "core/lanes.h"
@@ -49,7 +50,7 @@ void splitRow(ptrdiff_t width, const T* src, Plane*... plane) {
 
 /// As many planes as there are channels into one interleaved row.
 template <class T, class... Plane>
-void mergeRow(ptrdiff_t width, T* dst, const Plane*... plane) {
+void interleaveRow(ptrdiff_t width, T* dst, const Plane*... plane) {
   constexpr int channels = sizeof...(Plane);
   const Lanes<T> d;
   const auto kernel = [&](T* out, const Plane*... in) HWY_ATTR { storePixels(d, out, hn::LoadU(d, in)...); };
@@ -74,11 +75,11 @@ void splitRowStreamed(ptrdiff_t width, const T* src, Plane*... plane) {
 }
 
 template <class T, class... Plane>
-void mergeRowStreamed(ptrdiff_t width, T* dst, const Plane*... plane) {
+void interleaveRowStreamed(ptrdiff_t width, T* dst, const Plane*... plane) {
   constexpr int channels = sizeof...(Plane);
   constexpr ptrdiff_t N = laneCount<T>;
   const Lanes<T> d;
-  const auto plain = [&](ptrdiff_t x, ptrdiff_t n) { mergeRow(n, dst + x * channels, plane + x...); };
+  const auto plain = [&](ptrdiff_t x, ptrdiff_t n) { interleaveRow(n, dst + x * channels, plane + x...); };
   const auto kernel = [&](T* out, const Plane*... in) HWY_ATTR {
     alignas(laneAlignment) T pixels[channels * N];
     storePixels(d, pixels, hn::LoadU(d, in)...);
@@ -87,20 +88,32 @@ void mergeRowStreamed(ptrdiff_t width, T* dst, const Plane*... plane) {
   forStreamedBlocks<N, 1>(width, plain, kernel, Strand<T, channels>{dst}, Strand<const T>{plane}...);
 }
 
-/// dropAlphaRow for bytes. The pixels of a vector are packed to its front; whole vectors are stored, each over the
+namespace detail {
+
+/// Where the 32 bits of each place are, so that the first three of every block of four come to the vector's front.
+struct FrontOfVector {
+  alignas(laneAlignment) uint32_t index[laneCount<uint32_t>];
+
+  constexpr FrontOfVector() : index() {
+    constexpr uint32_t words = laneCount<uint32_t>;
+    for (uint32_t i = 0; i < words; ++i) index[i] = i < words / 4 * 3 ? i / 3 * 4 + i % 3 : 3;
+  }
+};
+
+inline constexpr FrontOfVector frontOfVector;
+
+}  // namespace detail
+
+/// extractColourRow for bytes. The pixels of a vector are packed to its front; whole vectors are stored, each over the
 /// empty end of the one before, but the last of a block is cut.
-inline void dropAlphaBytes(ptrdiff_t width, const uint8_t* src, uint8_t* dst) {
+inline void extractColourBytes(ptrdiff_t width, const uint8_t* src, uint8_t* dst) {
   const Lanes<uint8_t> d;
   const Lanes<uint32_t> dPixels;
   constexpr ptrdiff_t N = laneCount<uint8_t>, packed = N / 4 * 3;
   constexpr int vectors = 4;
   alignas(16) static constexpr uint8_t frontOfBlock[16] = {0, 1, 2, 4, 5, 6, 8, 9, 10, 12, 13, 14, 3, 7, 11, 15};
-  alignas(laneAlignment) uint32_t frontOfVector[laneCount<uint32_t>];
-  for (uint32_t i = 0; i < laneCount<uint32_t>; ++i) {
-    frontOfVector[i] = i < packed / 4 ? i / 3 * 4 + i % 3 : 3;
-  }
   const auto blocks = hn::LoadDup128(d, frontOfBlock);
-  const auto lanes = hn::SetTableIndices(dPixels, frontOfVector);
+  const auto lanes = hn::SetTableIndices(dPixels, detail::frontOfVector.index);
   const auto kernel = [&](const uint8_t* in, uint8_t* out) HWY_ATTR {
     const auto pack = [&](auto k) HWY_ATTR {
       const auto inBlocks = hn::TableLookupBytes(hn::LoadU(d, in + k * N), blocks);
@@ -116,8 +129,8 @@ inline void dropAlphaBytes(ptrdiff_t width, const uint8_t* src, uint8_t* dst) {
 
 /// The first three channels of four-channel pixels.
 template <class T>
-void dropAlphaRow(ptrdiff_t width, const T* src, T* dst) {
-  if constexpr (sizeof(T) == 1) return dropAlphaBytes(width, src, dst);
+void extractColourRow(ptrdiff_t width, const T* src, T* dst) {
+  if constexpr (sizeof(T) == 1) return extractColourBytes(width, src, dst);
   const Lanes<T> d;
   const auto kernel = [&](const T* in, T* out) HWY_ATTR {
     withChannels<4>(d, in, [&](auto c0, auto c1, auto c2, auto) HWY_ATTR { storePixels(d, out, c0, c1, c2); });
@@ -127,7 +140,7 @@ void dropAlphaRow(ptrdiff_t width, const T* src, T* dst) {
 
 /// Three-channel pixels into the first three channels of four-channel ones, whose fourth stays.
 template <class T>
-void beneathAlphaRow(ptrdiff_t width, const T* src, T* dst) {
+void insertColourRow(ptrdiff_t width, const T* src, T* dst) {
   const Lanes<T> d;
   const auto kernel = [&](const T* in, const T* old, T* out) HWY_ATTR {
     withChannels<4>(d, old, [&](auto, auto, auto, auto alpha) HWY_ATTR {

@@ -6,7 +6,6 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <limits>
 #include <type_traits>
 #include <utility>
 
@@ -84,11 +83,11 @@ HWY_INLINE hn::Vec<D> narrow(D d, Widened<V> wide) {
 
 namespace detail {
 
-/// The lane library has no names for these instructions. The vectors are the halves of each 128-bit block.
+/// The lane library has no name for this instruction. The vectors are the halves of each 128-bit block.
 template <class V>
 HWY_INLINE auto packBytes(V lower, V upper) {
 #if !HWY_ARCH_X86
-#error "the packs are to be written for this processor"
+#error "the pack is to be written for this processor"
 #endif
   if constexpr (sizeof(V) == 16) return _mm_packus_epi16(lower.raw, upper.raw);
 #if HWY_TARGET <= HWY_AVX2
@@ -96,36 +95,6 @@ HWY_INLINE auto packBytes(V lower, V upper) {
 #endif
 #if HWY_TARGET <= HWY_AVX3
   if constexpr (sizeof(V) == 64) return _mm512_packus_epi16(lower.raw, upper.raw);
-#endif
-}
-
-/// Nor for this one.
-template <class V>
-HWY_INLINE auto packSignedBytes(V lower, V upper) {
-  if constexpr (sizeof(V) == 16) return _mm_packs_epi16(lower.raw, upper.raw);
-#if HWY_TARGET <= HWY_AVX2
-  if constexpr (sizeof(V) == 32) return _mm256_packs_epi16(lower.raw, upper.raw);
-#endif
-#if HWY_TARGET <= HWY_AVX3
-  if constexpr (sizeof(V) == 64) return _mm512_packs_epi16(lower.raw, upper.raw);
-#endif
-}
-
-template <class V>
-HWY_INLINE auto packUnsigned16(V lower, V upper) {
-#if HWY_TARGET == HWY_SSSE3  // as 16s, 32768 lower
-  const hn::DFromV<V> d;
-  const V middle = hn::Set(d, 32768);
-  const auto moved = [&](V v) HWY_ATTR { return hn::Sub(hn::AndNot(hn::BroadcastSignBit(v), v), middle); };
-  return _mm_xor_si128(_mm_packs_epi32(moved(lower).raw, moved(upper).raw), _mm_set1_epi16(INT16_MIN));
-#else
-  if constexpr (sizeof(V) == 16) return _mm_packus_epi32(lower.raw, upper.raw);
-#endif
-#if HWY_TARGET <= HWY_AVX2
-  if constexpr (sizeof(V) == 32) return _mm256_packus_epi32(lower.raw, upper.raw);
-#endif
-#if HWY_TARGET <= HWY_AVX3
-  if constexpr (sizeof(V) == 64) return _mm512_packus_epi32(lower.raw, upper.raw);
 #endif
 }
 

@@ -2,7 +2,6 @@
 // A failure is a null result; the step tells bad sizes (0) from exhausted memory.
 
 #include "core/alloc.h"
-#include "core/exports.h"
 #include "core/image.h"
 #include "vemi/core.h"
 

@@ -49,8 +49,7 @@ void mapChannels(VemiSize roiSize, const PerChannel<Op, L::channels>& op, Image<
     mapRegion<L>(CallerRows(), roiSize, eachVector(op.of[0]), dst, src);
   } else {
     const Extent extent = mergedExtent(roiSize, isContiguous<L>(dst, roiSize) && isContiguous<L>(src, roiSize));
-    rowsSerially(extent.height,
-                 [&](ptrdiff_t y) { detail::mapChannelsRow<L>(extent.width, op, dst.row(y), src.row(y)); });
+    for (ptrdiff_t y = 0; y < extent.height; ++y) detail::mapChannelsRow<L>(extent.width, op, dst.row(y), src.row(y));
   }
 }
 

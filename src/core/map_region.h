@@ -30,15 +30,12 @@ HWY_NOINLINE void streamElements(ptrdiff_t count, const IndexedOp& indexedOp, T*
 template <Alpha alpha, class Rows, class T, class IndexedOp, class... Src>
 HWY_NOINLINE void mapRows(const Rows& rows, Extent elements, const IndexedOp& op, Image<T> dst,
                           Image<const Src>... src) {
+  const auto row = [&](ptrdiff_t y) { mapElements<alpha>(elements.width, op, dst.row(y), src.row(y)...); };
+  const auto streamedRow = [&](ptrdiff_t y) { streamElements(elements.width, op, dst.row(y), src.row(y)...); };
   const bool inPlace = (isSameImage(src, dst) || ...);
+  if (alpha == Alpha::kept || inPlace) return rows.run(elements.height, row);
   const Vemi64s traffic = trafficOf(elements, (sizeof(T) + ... + sizeof(Src)));
-  if (alpha == Alpha::none && !inPlace && traffic >= streamedTraffic) {
-    rows.run(
-        elements.height, [&](ptrdiff_t y) { streamElements(elements.width, op, dst.row(y), src.row(y)...); },
-        finishStreaming);
-  } else {
-    rows.run(elements.height, [&](ptrdiff_t y) { mapElements<alpha>(elements.width, op, dst.row(y), src.row(y)...); });
-  }
+  runPlainOrStreamed(rows, elements.height, traffic, row, streamedRow);
 }
 
 }  // namespace detail

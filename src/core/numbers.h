@@ -1,4 +1,4 @@
-// Rounding and saturation, each as a scalar and as lanes beside each other, and the approximate reciprocal.
+// Rounding and saturation, as scalars and as lanes, and the approximate reciprocal.
 #pragma once
 
 #include <bit>
@@ -13,7 +13,7 @@ namespace vemi {
 
 // ---- Saturation ---------------------------------------------------------------------------------------------------
 
-/// The nearest value that T holds. In lanes this is narrow, or saturate where it stands beside other numbers.
+/// The nearest value that T holds. In lanes this is narrow.
 template <class T, class Wide>
 constexpr T saturate(Wide value) {
   static_assert(std::is_integral_v<Wide> && sizeof(Wide) > sizeof(T));
@@ -23,18 +23,13 @@ constexpr T saturate(Wide value) {
   return static_cast<T>(value < low ? low : value > high ? high : value);
 }
 
-template <class D, class V>
-HWY_INLINE hn::Vec<D> saturate(D d, Widened<V> wide) {
-  return narrow(d, wide);
-}
-
 // ---- Scaling by a power of two ------------------------------------------------------------------------------------
 
 /// value / 2^shift to nearest, ties to even; 0 < shift < bits of the type.
 template <class T>
 constexpr T roundShift(T value, int shift) {
-  const std::int64_t wide = value;  // elements of 64 bits keep the room for the sum themselves
-  return static_cast<T>((wide + (std::int64_t{1} << (shift - 1)) - 1 + ((wide >> shift) & 1)) >> shift);
+  const int64_t wide = value;  // elements of 64 bits keep the room for the sum themselves
+  return static_cast<T>((wide + (int64_t{1} << (shift - 1)) - 1 + ((wide >> shift) & 1)) >> shift);
 }
 
 /// In lanes the sum must not leave the lane: |value| + 2^(shift - 1) has to fit.
@@ -67,14 +62,7 @@ struct RoundingShift {
   }
 };
 
-/// value * 2^shift, saturated; shift >= 0.
-template <class T>
-constexpr T saturateShiftLeft(T value, int shift) {
-  static_assert(sizeof(T) < 4 || std::is_signed_v<T>, "the product must fit 64 bits");
-  return saturate<T>(static_cast<std::int64_t>(value) * (std::int64_t{1} << (shift < 32 ? shift : 32)));
-}
-
-/// The same in lanes, for one shift: its limits are prepared once in a call.
+/// value * 2^shift, saturated; shift >= 0. The shift's limits are prepared once in a call.
 template <class T>
 struct SaturatingShiftLeft {
   static constexpr int bits = 8 * sizeof(T);
@@ -156,18 +144,18 @@ HWY_INLINE hn::Vec<D> nearestIntegerPairs(D d, V even, V odd) {
 // below the normal range is a zero of x's sign, a NaN stays a quiet NaN.
 
 inline float approximateReciprocal(float x) {
-  const std::uint32_t bits = std::bit_cast<std::uint32_t>(x);
-  const std::uint32_t sign = bits & 0x80000000u;
+  const uint32_t bits = std::bit_cast<uint32_t>(x);
+  const uint32_t sign = bits & 0x80000000u;
   const int exponent = static_cast<int>(bits >> 23 & 0xff);
-  const std::uint32_t fraction = bits & 0x7fffffu;
+  const uint32_t fraction = bits & 0x7fffffu;
   if (exponent == 0) return std::bit_cast<float>(sign | 0x7f800000u);
   if (exponent == 0xff) return std::bit_cast<float>(fraction != 0 ? bits | 0x400000u : sign);
-  const std::uint32_t m = 4097 + 2 * (fraction >> 12);
-  const std::uint32_t q = ((std::uint32_t{1} << 25) + (m >> 1)) / m;
+  const uint32_t m = 4097 + 2 * (fraction >> 12);
+  const uint32_t q = ((uint32_t{1} << 25) + (m >> 1)) / m;
   // 4096 < q < 8192: q 2^-13 lies in (0.5, 1), so its exponent is one below that of 2^-e.
   const int resultExponent = 127 - 1 - (exponent - 127);
   if (resultExponent < 1) return std::bit_cast<float>(sign);
-  return std::bit_cast<float>(sign | static_cast<std::uint32_t>(resultExponent) << 23 | (q - 4096) << 11);
+  return std::bit_cast<float>(sign | static_cast<uint32_t>(resultExponent) << 23 | (q - 4096) << 11);
 }
 
 /// floor(n / m) in 32-bit lanes, 0 < n < 2^26 and 4096 < m: a single-precision quotient is off by one at most, whatever

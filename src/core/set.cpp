@@ -5,12 +5,12 @@
 #include <cstring>
 
 #include "core/checks.h"
-#include "core/exports.h"
 #include "core/image.h"
 #include "core/map_row.h"
 #include "core/masked_row.h"
 #include "core/rows.h"
 #include "core/streaming.h"
+#include "core/thresholds.h"
 #include "vemi/core.h"
 
 namespace vemi {
@@ -23,25 +23,19 @@ VemiStatus setBytes(const Vemi8u* value, Image<Vemi8u> dst, VemiSize roiSize) {
   return vemiOk;
 }
 
-/// A large region is filled faster by copies of its beginning: a long copy takes the C library's path that claims whole
-/// lines without reading them. Measured.
-constexpr Vemi64s copiedRegionBytes = Vemi64s{4} << 20;
-constexpr ptrdiff_t shortestCopiedRow = 4096;
-constexpr ptrdiff_t copiedPiece = ptrdiff_t{48} << 10;  // about the first cache; whole pixels of any layout
-
+/// A large region is filled by copies of its beginning.
 template <class T, class L>
 VemiStatus set(const T* value, Image<T> dst, VemiSize roiSize) {
   if (const VemiStatus bad = firstOf(checkNull(value, dst), checkSize(roiSize), checkStep(dst))) return bad;
   const auto pixel = constantPixel<L>(value);
   const Extent extent = mergedExtent(roiSize, isContiguous<L>(dst, roiSize));
   const ptrdiff_t rowBytes = extent.width * pixelBytes<T, L>;
-  const bool copied =
-      !L::keepsAlpha && rowBytes >= shortestCopiedRow && trafficOf(extent, pixelBytes<T, L>) >= copiedRegionBytes;
+  const bool copied = !L::keepsAlpha && rowBytes >= copiedFillRow && trafficOf(extent, pixelBytes<T, L>) >= copiedFill;
   if (!copied) {
     for (ptrdiff_t y = 0; y < extent.height; ++y) mapRow<L>(extent.width, pixel, dst.row(y));
     return vemiOk;
   }
-  const ptrdiff_t pieceBytes = std::min(rowBytes, copiedPiece);
+  const ptrdiff_t pieceBytes = std::min(rowBytes, fillPiece);
   T* const piece = dst.row(0);
   mapRow<L>(pieceBytes / pixelBytes<T, L>, pixel, piece);
   for (ptrdiff_t y = 0; y < extent.height; ++y) {

@@ -6,18 +6,33 @@
 #include <cstdint>
 #include <type_traits>
 
+#include <hwy/cache_control.h>
+
 #include "core/blocks.h"
 #include "core/image.h"
 #include "core/lanes.h"
-#include "core/rows.h"
+#include "core/thresholds.h"
 
 namespace vemi {
 
-/// Bytes read and written in one call from which on its destination is streamed. Measured: about half the last cache.
-inline constexpr Vemi64s streamedTraffic = Vemi64s{17} << 20;
-
 /// Bytes of all pixels of a region, where a pixel has `pixelBytes` in all images together.
 inline Vemi64s trafficOf(Extent extent, Vemi64s pixelBytes) { return pixelBytes * extent.width * extent.height; }
+
+/// Orders a thread's streamed stores before what it does next. It costs as much as thousands of them, so it is called
+/// once, behind the thread's last row.
+inline void finishStreaming() { hwy::FlushStream(); }
+
+/// Runs a call's rows by `rows`, which says who runs them: row(y), or streamedRow(y) where the call reads and writes
+/// more than the caches hold.
+template <class Rows, class Row, class StreamedRow>
+void runPlainOrStreamed(const Rows& rows, ptrdiff_t height, Vemi64s traffic, const Row& row,
+                        const StreamedRow& streamedRow) {
+  if (traffic >= streamedTraffic) {
+    rows.run(height, streamedRow, finishStreaming);
+  } else {
+    rows.run(height, row);
+  }
+}
 
 namespace detail {
 

@@ -29,7 +29,7 @@ T lookedUp(const T* table, const T* place) {
 template <class L, class T, int tables>
 void mapByWordTables(VemiSize roiSize, const T* const (&table)[tables], Image<T> dst, Image<const T> src) {
   const Extent extent = mergedExtent(roiSize, isContiguous<L>(dst, roiSize) && isContiguous<L>(src, roiSize));
-  rowsSerially(extent.height, [&](ptrdiff_t y) {
+  for (ptrdiff_t y = 0; y < extent.height; ++y) {
     const T* in = src.row(y);
     T* out = dst.row(y);
     for (ptrdiff_t x = 0; x < extent.width; ++x, in += L::elements, out += L::elements) {
@@ -38,7 +38,7 @@ void mapByWordTables(VemiSize roiSize, const T* const (&table)[tables], Image<T>
         std::memcpy(out + channel, &value, sizeof value);
       }
     }
-  });
+  }
 }
 
 }  // namespace vemi

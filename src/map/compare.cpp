@@ -9,6 +9,7 @@
 #include "core/image.h"
 #include "core/map_row.h"
 #include "core/mask_bytes.h"
+#include "core/parallel.h"
 #include "core/streaming.h"
 #include "vemi/map.h"
 
@@ -111,16 +112,10 @@ VemiStatus compareRegion(VemiSize roiSize, const IndexedOp& op, Image<Vemi8u> ds
   constexpr uint32_t ignored = L::keepsAlpha ? 0xff000000u : 0;
   const bool contiguous = isContiguous<C1>(dst, roiSize) && (isContiguous<L>(src, roiSize) && ...);
   const Extent pixels = mergedExtent(roiSize, contiguous);
-  if (trafficOf(pixels, (1 + ... + pixelBytes<Src, L>)) >= streamedTraffic) {
-    for (ptrdiff_t y = 0; y < pixels.height; ++y) {
-      streamCompareRow<L::elements>(pixels.width, op, ignored, dst.row(y), src.row(y)...);
-    }
-    finishStreaming();
-  } else {
-    for (ptrdiff_t y = 0; y < pixels.height; ++y) {
-      compareRow<L::elements>(pixels.width, op, ignored, dst.row(y), src.row(y)...);
-    }
-  }
+  runPlainOrStreamed(
+      CallerRows(), pixels.height, trafficOf(pixels, (1 + ... + pixelBytes<Src, L>)),
+      [&](ptrdiff_t y) { compareRow<L::elements>(pixels.width, op, ignored, dst.row(y), src.row(y)...); },
+      [&](ptrdiff_t y) { streamCompareRow<L::elements>(pixels.width, op, ignored, dst.row(y), src.row(y)...); });
   return vemiOk;
 }
 

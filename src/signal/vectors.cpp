@@ -3,6 +3,7 @@
 #include <cstring>
 
 #include "core/checks.h"
+#include "core/parallel.h"
 #include "core/rows.h"
 #include "core/streaming.h"
 
@@ -15,12 +16,9 @@ template <class T>
 VemiStatus copyVector(const T* pSrc, T* pDst, int len) {
   if (const VemiStatus bad = firstOf(checkNull(pSrc, pDst), checkLength(len))) return bad;
   const ptrdiff_t lenBytes = len * ptrdiff_t{sizeof(T)};
-  if (2 * Vemi64s{lenBytes} >= streamedTraffic) {
-    rowStreamBytes(pSrc, pDst, lenBytes);
-    finishStreaming();
-  } else {
-    rowCopyBytes(pSrc, pDst, lenBytes);
-  }
+  runPlainOrStreamed(
+      CallerRows(), 1, 2 * Vemi64s{lenBytes}, [&](ptrdiff_t) { rowCopyBytes(pSrc, pDst, lenBytes); },
+      [&](ptrdiff_t) { rowStreamBytes(pSrc, pDst, lenBytes); });
   return vemiOk;
 }
 

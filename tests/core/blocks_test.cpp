@@ -284,23 +284,23 @@ std::vector<T> strided(const std::vector<T>& row, size_t first, size_t stride) {
 }
 
 template <class T, size_t... c>
-void splitAndMerge(std::index_sequence<c...>) {
+void splitAndInterleave(std::index_sequence<c...>) {
   constexpr ptrdiff_t channels = sizeof...(c);
   forRows(laneCount<T>, [](ptrdiff_t width, Place place) {
-    const GuardedRow<T> pixels(channels * width, place), merged(channels * width, place);
+    const GuardedRow<T> pixels(channels * width, place), interleaved(channels * width, place);
     const GuardedRow<T> plane[] = {(void(c), GuardedRow<T>(width, place))...};
     splitRow(width, pixels.data(), plane[c].data()...);
     ASSERT_TRUE((plane[c].holds(strided(pixels.original(), c, channels)) && ...));
-    mergeRow(width, merged.data(), plane[c].data()...);
-    ASSERT_TRUE(merged.holds(pixels.original()) && pixels.untouched());
+    interleaveRow(width, interleaved.data(), plane[c].data()...);
+    ASSERT_TRUE(interleaved.holds(pixels.original()) && pixels.untouched());
   });
 }
 
-TEST(Interleave, SplitAndMergeAreInverse) {
+TEST(Interleave, SplittingUndoesInterleaving) {
   forTypes<Vemi8u, Vemi16s, Vemi32f>([](auto element) {
-    splitAndMerge<decltype(element)>(std::make_index_sequence<2>());
-    splitAndMerge<decltype(element)>(std::make_index_sequence<3>());
-    splitAndMerge<decltype(element)>(std::make_index_sequence<4>());
+    splitAndInterleave<decltype(element)>(std::make_index_sequence<2>());
+    splitAndInterleave<decltype(element)>(std::make_index_sequence<3>());
+    splitAndInterleave<decltype(element)>(std::make_index_sequence<4>());
   });
 }
 
@@ -317,9 +317,9 @@ TEST(Interleave, BetweenThreeAndFourChannelsTheAlphaStays) {
           expected4[4 * x + c] = three.original()[3 * x + c];
         }
       }
-      dropAlphaRow(width, four.data(), dst3.data());
+      extractColourRow(width, four.data(), dst3.data());
       ASSERT_TRUE(dst3.holds(expected3) && four.untouched());
-      beneathAlphaRow(width, three.data(), dst4.data());
+      insertColourRow(width, three.data(), dst4.data());
       ASSERT_TRUE(dst4.holds(expected4) && three.untouched());
     });
   });

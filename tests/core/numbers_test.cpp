@@ -85,7 +85,7 @@ void checkNarrow(T, Wide) {
   for (size_t first = 0; first + n <= values.size(); first += n) {
     for (size_t i = 0; i < n; ++i) wide[i] = values[first + static_cast<size_t>(index[i])];
     const hn::Vec<Lanes<Wide>> lower = hn::LoadU(dWide, &wide[0]), upper = hn::LoadU(dWide, &wide[n / 2]);
-    hn::StoreU(saturate(d, Widened<hn::Vec<Lanes<Wide>>>{lower, upper}), d, &result[0]);
+    hn::StoreU(narrow(d, Widened<hn::Vec<Lanes<Wide>>>{lower, upper}), d, &result[0]);
     for (size_t i = 0; i < n; ++i) {
       const auto nearest =
           std::clamp<int64_t>(values[first + i], std::numeric_limits<T>::min(), std::numeric_limits<T>::max());
@@ -169,7 +169,6 @@ TEST(SaturateShiftLeft, EqualsRepeatedSaturatedDoubling) {
     for (int shift = 0; shift <= 40; ++shift) {
       const SaturatingShiftLeft<T> shiftLeft(shift);
       ASSERT_EQ(inLanes([&](auto d, auto v) { return shiftLeft(d, v); }, values), expected) << shift;
-      for (size_t i = 0; i < values.size(); ++i) ASSERT_EQ(saturateShiftLeft(values[i], shift), expected[i]);
       for (T& v : expected) {
         const int64_t doubled = 2 * static_cast<int64_t>(v);
         constexpr int64_t low = std::numeric_limits<T>::min(), high = std::numeric_limits<T>::max();
