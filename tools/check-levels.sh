@@ -26,7 +26,7 @@ check() {
   echo "levels '$1': $got"
 }
 
-soname=libvemi.so.4
+soname=$(readlink "$library")
 check none $soname
 mask=none
 for level in x86-64-v3 x86-64-v4; do
