@@ -224,8 +224,9 @@ VemiStatus quotientScaledC(Image<const C> src, const C* value, Image<C> dst, Vem
     return mapComplexC<L>(roiSize, Quotient16sc{quotientScale<double>(scaleFactor)}, value, dst, src);
   } else {
     const auto divisor = [&](ptrdiff_t, int channel) { return value[channel]; };
-    rowsSerially(roiSize.height,
-                 [&](ptrdiff_t y) { quotientRow<L>(roiSize.width, scaleFactor, divisor, src.row(y), dst.row(y)); });
+    for (ptrdiff_t y = 0; y < roiSize.height; ++y) {
+      quotientRow<L>(roiSize.width, scaleFactor, divisor, src.row(y), dst.row(y));
+    }
     return vemiOk;
   }
 }

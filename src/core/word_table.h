@@ -6,7 +6,6 @@
 #include <limits>
 
 #include "core/image.h"
-#include "core/parallel.h"
 
 namespace vemi {
 

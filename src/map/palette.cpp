@@ -6,7 +6,6 @@
 #include "core/blocks.h"
 #include "core/checks.h"
 #include "core/image.h"
-#include "core/parallel.h"
 #include "vemi/map.h"
 
 namespace vemi {
@@ -34,9 +33,9 @@ VemiStatus palette(Image<const S> src, Image<T> dst, VemiSize roiSize, const T* 
   if (bits < 1 || bits > 8 * static_cast<int>(sizeof(S))) return vemiErrLutPaletteBits;
   const bool contiguous = isContiguous<C1>(src, roiSize) && isContiguous<Entry>(dst, roiSize);
   const Extent extent = mergedExtent(roiSize, contiguous);
-  rowsSerially(extent.height, [&](ptrdiff_t y) {
+  for (ptrdiff_t y = 0; y < extent.height; ++y) {
     paletteRow<Entry::elements>(extent.width, table, (1u << bits) - 1, dst.row(y), src.row(y));
-  });
+  }
   return vemiOk;
 }
 
