@@ -1255,8 +1255,8 @@ VEMI_API VemiStatus vemiLUTPalette_16u32u_C1R(const Vemi16u* pSrc, int srcStep, 
  * is rounded to single precision and cut off; a sum that is an odd integer goes down by 1. So ties go to even, and so
  * do results that single precision cannot tell from a tie: those within 2^-9 of one, at most.
  *
- * **32f.** vMin and vMax are the pixel values of black and white. With R = vMax - vMin, in single precision, the rest
- * in double, d = v - vMin and t = (1 / R) d:
+ * **32f.** vMin and vMax are the pixel values of black and white. With R = vMax - vMin, d = v - vMin and t = (1 / R) d,
+ * in double precision throughout:
  *
  *     4.5 d + vMin                         for t below 0.018
  *     (1.099 t^0.45 - 0.099) R + vMin      from there on

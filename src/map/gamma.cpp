@@ -205,7 +205,7 @@ VemiStatus gamma16u(Src src, Dst dst, VemiSize roiSize) {
 
 template <class Direction, class L, class Src, class Dst>
 VemiStatus gamma32f(Src src, Dst dst, VemiSize roiSize, Vemi32f vMin, Vemi32f vMax) {
-  const float range = vMax - vMin;
+  const double range = double{vMax} - double{vMin};
   if (!(range > 0)) return vemiErrGammaRange;
   if (const VemiStatus bad = firstOf(checkNull(src, dst), checkSize(roiSize), checkStep(src, dst))) return bad;
   mapImages<L>(src, dst, roiSize, Curve<Direction>(vMin, range, 1.0 / range, vMin));

@@ -42,7 +42,7 @@ int of16u(Direction direction, int v) {
 }
 
 float of32f(Direction direction, float v, float vMin, float vMax) {
-  const float range = vMax - vMin;
+  const double range = static_cast<double>(vMax) - vMin;
   const double d = static_cast<double>(v) - vMin, t = 1.0 / range * d;
   return static_cast<float>(isBelowBreakpoint(direction, t) ? d * slope(direction) + vMin
                                                             : curve(direction, t) * range + vMin);
@@ -124,10 +124,12 @@ TEST(Gamma, EveryValueOf16u) {
 
 // Pixels from below black to beyond three times white, in steps that are no round numbers.
 TEST(Gamma, FloatsOfManyRanges) {
-  const float ranges[][2] = {{0, 1}, {0, 255}, {-0.5f, 1.5f}, {1e-38f, 1e-37f}, {-3e38f, 1e37f}, {1e10f, 1.001e10f}};
+  const float ranges[][2] = {{0, 1},           {0, 255},        {-0.5f, 1.5f},   {0.1f, 1},
+                             {1e-38f, 1e-37f}, {-3e38f, 1e37f}, {-3e38f, 3e38f}, {1e10f, 1.001e10f}};
   for (const auto& [vMin, vMax] : ranges) {
     std::vector<float> v;
-    for (int n = -3000; n < 100000; ++n) v.push_back(vMin + (vMax - vMin) * (static_cast<float>(n) / 27001.0f));
+    const double range = static_cast<double>(vMax) - vMin;
+    for (int n = -3000; n < 100000; ++n) v.push_back(static_cast<float>(vMin + range * n / 27001));
     const std::vector<float> forward = run32f(vemiGammaFwd_32f_C3IR, v, vMin, vMax);
     const std::vector<float> inverse = run32f(vemiGammaInv_32f_C3IR, v, vMin, vMax);
     for (size_t n = 0; n < v.size(); ++n) {
