@@ -968,9 +968,12 @@ VEMI_API VemiStatus vemiCompareEqualEpsC_32f_AC4R(const Vemi32f* pSrc, int srcSt
  * **32f.** Levels and values are floats. V[k] is stored as it is. A NaN lies in no interval, and so stays, bit for bit;
  * an interval with a NaN for a bound is empty.
  *
- * **Levels that do not ascend.** Where L[k+1] is not above L[k], interval k is empty. Then intervals may overlap: in 8u
- * and 16s the last of the intervals that hold a pixel counts, in 32f the first. At or above the last level L[n-1] a
- * pixel stays in any case.
+ * **Levels that do not ascend.** Where L[k+1] is not above L[k], interval k is empty, and others may overlap. In 32f the
+ * first interval that holds a pixel counts. In 8u and 16s the last one counts, and a pixel at or above the last level
+ * L[n-1] stays even if an interval holds it.
+ *
+ *     levels 50, 100, 20, 80, 60    values 1, 2, 3, 4, 5    32f   30 -> 3    60 -> 1     90 -> 1
+ *                                                           8u    30 -> 3    60 -> 60    90 -> 90
  *
  * **Channels.** C1 forms take one array of values, one of levels, and their length. The others take an array of
  * pointers to values, one of pointers to levels, and one of lengths, for each channel: three in C3 and AC4, four in C4.

@@ -56,7 +56,8 @@ struct LevelSearch {
   }
 
   /// ofInterval(k) where interval k holds v, and `outside` elsewhere. Where levels do not ascend, intervals may
-  /// overlap: the last one counts for integers, as in a table that is filled in order, the first one for floats.
+  /// overlap. Of floats the first one counts; of integers the last one, but none from the last level on, as in a table
+  /// that is filled in order.
   template <class D, class Lane, class R, class F>
   HWY_INLINE R whereHeld(D d, Lane v, R outside, const F& ofInterval) const {
     const hn::DFromV<R> dResult;
@@ -67,6 +68,7 @@ struct LevelSearch {
       const auto held = hn::And(isFrom(d, v, hn::Set(d, levels.level[k])), hn::Lt(v, hn::Set(d, levels.level[k + 1])));
       result = hn::IfThenElse(hn::RebindMask(dResult, held), ofInterval(k), result);
     }
+    if constexpr (!std::is_integral_v<V>) return result;
     const auto beyond = isFrom(d, v, hn::Set(d, levels.level[count]));
     return hn::IfThenElse(hn::RebindMask(dResult, beyond), outside, result);
   }

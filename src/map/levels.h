@@ -1,5 +1,5 @@
 // Levels and their values, as the vemiLUT families take them. Levels k and k + 1 bound interval k, which holds the
-// numbers v with level[k] <= v < level[k + 1]; a number in no interval, and one from the last level on, stays as it is.
+// numbers v with level[k] <= v < level[k + 1]; a number in no interval stays as it is.
 #pragma once
 
 #include <algorithm>

@@ -65,7 +65,7 @@ int lastHolding(const Points<V>& points, double v) {
 
 template <class V>
 int firstHolding(const Points<V>& points, double v) {
-  for (size_t k = 0; k + 1 < points.count() && !(v >= points.levels.back()); ++k) {
+  for (size_t k = 0; k + 1 < points.count(); ++k) {
     if (points.levels[k] <= v && v < points.levels[k + 1]) return static_cast<int>(k);
   }
   return -1;
@@ -247,10 +247,18 @@ TEST(Lut, FloatsAtTheEdges) {
     const std::vector<float> result = run(lut32f[curve], {-1, 0.0f, -0.0f, 1, 2, infinity, -infinity}, points);
     EXPECT_EQ(result, (std::vector<float>{-1, 5, 5, 6, 7, infinity, -infinity})) << curve;
   }
-  // NaNs among the levels hold nothing; the first of two intervals counts; from the last level on nothing changes.
+  // NaNs among the levels hold nothing.
   EXPECT_EQ(run(lut32f[0], {0, 5, 15, 25}, {{0, nan, 10, 20}, {1, 2, 3, 4}}), (std::vector<float>{0, 5, 3, 25}));
+}
+
+// Of floats the first interval counts that holds the number, whatever the last level; of bytes the last one, below it.
+TEST(Lut, LevelsThatDoNotAscend) {
   EXPECT_EQ(run(lut32f[0], {0, 5, 7, 12}, {{0, 6, 2, 10}, {1, 2, 3, 4}}), (std::vector<float>{1, 1, 3, 12}));
-  EXPECT_EQ(run(lut32f[0], {0, 5, 7, 12}, {{0, 10, 6}, {1, 2, 3}}), (std::vector<float>{1, 1, 7, 12}));
+  EXPECT_EQ(run(lut32f[0], {0, 5, 7, 12}, {{0, 10, 6}, {1, 2, 3}}), (std::vector<float>{1, 1, 1, 12}));
+  EXPECT_EQ(run(lut32f[0], {10, 30, 60, 90, 100}, {{50, 100, 20, 80, 60}, {1, 2, 3, 4, 5}}),
+            (std::vector<float>{10, 3, 1, 1, 100}));
+  EXPECT_EQ(run(lut8u[0], {10, 30, 60, 90, 100}, {{50, 100, 20, 80, 60}, {1, 2, 3, 4, 5}}),
+            (std::vector<Vemi8u>{10, 3, 60, 90, 100}));
 }
 
 TEST(Lut, FloatLinesRoundTheirDifferencesToSingle) {
