@@ -23,12 +23,14 @@ extern "C" {
  * once; the product and the sum are in single precision too. The value goes to all channels of the pixel; AC4 forms
  * leave the fourth one as it is.
  *
- * **32f** takes the value itself. **The integer types** take the nearest integer, halves away from zero, limited to
- * their range: half of one is added to the value (taken off it, if it is not above zero) in single precision, and the
- * fraction is dropped. A NaN, which takes an infinite or NaN argument, becomes 0.
+ * **32f** takes the value itself. **The integer types** add 0.5 to it (take 0.5 off it, if it is not above zero) in
+ * single precision, drop the fraction and limit the rest to their range. This gives the nearest integer, halves away
+ * from zero, except where the sum itself is rounded: 0.49999997 becomes 1, and in 32s an odd value from 2^23 to 2^24, of
+ * either sign, goes to the next one away from zero. A NaN, which takes an infinite or NaN argument, becomes 0.
  *
  *     8u     254.4 -> 254     254.5 -> 255     -0.1 -> 0      0.5 -> 1
  *     16s   -2.5 -> -3        1e9 -> 32767
+ *     32s   8388608 -> 8388608    8388609 -> 8388610
  *
  * @param pDst,dstStep  first pixel of the destination, and the bytes between its rows
  * @param roiSize       size of the region in pixels
