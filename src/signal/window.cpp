@@ -1,46 +1,60 @@
 #include "signal/window.h"
 
-#include <algorithm>
-
 #include "core/checks.h"
 #include "signal/sine.h"
 
 namespace vemi {
 namespace {
 
-/// Weights are computed in double precision, each from its distance to the nearer end, and rounded to single precision.
-/// A recurrence would be cheaper, but its error grows with the square of the length.
-template <class Weight>
-VemiStatus applyWindow(Vemi32f* pSrcDst, int len, const Weight& weight) {
+/// Weights of a window, from either end inward, and rounded from double to single precision. Next() gives that of
+/// element 0, then 1, ...; `last` is the number of the last element.
+class BartlettWeights {
+ public:
+  explicit BartlettWeights(double last) : last_(last) {}
+
+  double next() { return 2 * k_++ / last_; }
+
+ private:
+  double last_, k_ = 0;
+};
+
+/// 0.54 - y[k]. With c the cosine of one step, y[k + 1] = 2 c y[k] - y[k - 1].
+class HammingWeights {
+ public:
+  explicit HammingWeights(double last) {
+    const Lanes<double> d;
+    const double c = hn::GetLane(Cosine()(d, hn::Set(d, 6.283185307179586 / last)));
+    following_ = 0.46 * c;
+    twoC_ = 2 * c;
+  }
+
+  double next() {
+    const double y = y_;
+    y_ = following_;
+    following_ = twoC_ * y_ - y;
+    return 0.54 - y;
+  }
+
+ private:
+  double y_ = 0.46, following_, twoC_;
+};
+
+template <class Weights>
+VemiStatus applyWindow(Vemi32f* pSrcDst, int len) {
   if (const VemiStatus bad = firstOf(checkNull(pSrcDst), len < 3 ? vemiErrSize : vemiOk)) return bad;
-  const Lanes<double> d;
-  const hn::Rebind<float, decltype(d)> dFloat;
-  constexpr ptrdiff_t N = laneCount<double>;
-  const ptrdiff_t last = len - 1, middle = last / 2;
-  alignas(laneAlignment) float weights[N];
-  for (ptrdiff_t i = 0; i <= middle; i += N) {
-    const auto k = hn::Iota(d, static_cast<double>(i));
-    hn::Store(hn::DemoteTo(dFloat, weight(d, k, hn::Set(d, static_cast<double>(last)))), dFloat, weights);
-    for (ptrdiff_t left = i; left <= std::min(middle, i + N - 1); ++left) {
-      const ptrdiff_t right = last - left;
-      pSrcDst[left] *= weights[left - i];
-      if (right != left) pSrcDst[right] *= weights[left - i];
-    }
+  Weights weights(len - 1);
+  for (ptrdiff_t left = 0, right = len - 1; left <= right; ++left, --right) {
+    const auto weight = static_cast<float>(weights.next());
+    pSrcDst[left] *= weight;
+    if (right != left) pSrcDst[right] *= weight;
   }
   return vemiOk;
 }
 
 }  // namespace
 
-VemiStatus sigWinBartlett_32f_I(Vemi32f* pSrcDst, int len) {
-  return applyWindow(pSrcDst, len, [](auto, auto k, auto last) HWY_ATTR { return hn::Div(hn::Add(k, k), last); });
-}
+VemiStatus sigWinBartlett_32f_I(Vemi32f* pSrcDst, int len) { return applyWindow<BartlettWeights>(pSrcDst, len); }
 
-VemiStatus sigWinHamming_32f_I(Vemi32f* pSrcDst, int len) {
-  return applyWindow(pSrcDst, len, [](auto d, auto k, auto last) HWY_ATTR {
-    const auto angle = hn::Div(hn::Mul(k, hn::Set(d, 6.283185307179586)), last);
-    return hn::Sub(hn::Set(d, 0.54), hn::Mul(hn::Set(d, 0.46), Cosine()(d, angle)));
-  });
-}
+VemiStatus sigWinHamming_32f_I(Vemi32f* pSrcDst, int len) { return applyWindow<HammingWeights>(pSrcDst, len); }
 
 }  // namespace vemi
