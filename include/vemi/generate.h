@@ -25,8 +25,8 @@ extern "C" {
  *
  * **32f** takes the value itself. **The integer types** add 0.5 to it (take 0.5 off it, if it is not above zero) in
  * single precision, drop the fraction and limit the rest to their range. This gives the nearest integer, halves away
- * from zero, except where the sum itself is rounded: 0.49999997 becomes 1, and in 32s an odd value from 2^23 to 2^24, of
- * either sign, goes to the next one away from zero. A NaN, which takes an infinite or NaN argument, becomes 0.
+ * from zero, except where the sum itself is rounded: 0.49999997 becomes 1, and in 32s an odd value from 2^23 to 2^24,
+ * of either sign, goes to the next one away from zero. A NaN, which takes an infinite or NaN argument, becomes 0.
  *
  *     8u     254.4 -> 254     254.5 -> 255     -0.1 -> 0      0.5 -> 1
  *     16s   -2.5 -> -3        1e9 -> 32767
@@ -346,8 +346,8 @@ VEMI_API VemiStatus vemiWinHamming_32f_C1IR(Vemi32f* pSrcDst, int srcDstStep, Ve
  *
  *     y(0) = 0.46,   y(1) = 0.46 * c,   y(k + 1) = 2 * c * y(k) - y(k - 1),   w(k) = 0.54 - y(k)
  *
- * What it loses grows with the square of the length, to at most n * n * 2^-57: up to n = 65536, no more than rounding to
- * single precision does.
+ * What it loses grows with the square of the length, to at most n * n * 2^-57: up to n = 65536, no more than rounding
+ * to single precision does.
  *
  *     n = 5, Bartlett: 0, 0.5, 1, 0.5, 0        n = 3, Hamming: 0.08, 1, 0.08
  *

@@ -968,9 +968,9 @@ VEMI_API VemiStatus vemiCompareEqualEpsC_32f_AC4R(const Vemi32f* pSrc, int srcSt
  * **32f.** Levels and values are floats. V[k] is stored as it is. A NaN lies in no interval, and so stays, bit for bit;
  * an interval with a NaN for a bound is empty.
  *
- * **Levels that do not ascend.** Where L[k+1] is not above L[k], interval k is empty, and others may overlap. In 32f the
- * first interval that holds a pixel counts. In 8u and 16s the last one counts, and a pixel at or above the last level
- * L[n-1] stays even if an interval holds it.
+ * **Levels that do not ascend.** Where L[k+1] is not above L[k], interval k is empty, and others may overlap. In 32f
+ * the first interval that holds a pixel counts. In 8u and 16s the last one counts, and a pixel at or above the last
+ * level L[n-1] stays even if an interval holds it.
  *
  *     levels 50, 100, 20, 80, 60    values 1, 2, 3, 4, 5    32f   30 -> 3    60 -> 1     90 -> 1
  *                                                           8u    30 -> 3    60 -> 60    90 -> 90

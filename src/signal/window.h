@@ -10,8 +10,7 @@ namespace vemi {
 /// A triangle: 0 at both ends, 2 k / (len - 1) at element k of the first half.
 VemiStatus sigWinBartlett_32f_I(Vemi32f* pSrcDst, int len);
 
-/// 0.54 - 0.46 cos(2 pi k / (len - 1)) at element k. The cosines come of a recurrence, whose error grows with the square
-/// of the length.
+/// 0.54 - 0.46 cos(2 pi k / (len - 1)) at element k, by a recurrence, whose error grows with the square of the length.
 VemiStatus sigWinHamming_32f_I(Vemi32f* pSrcDst, int len);
 
 }  // namespace vemi

@@ -104,7 +104,9 @@ TEST(ImageRamp, LimitsAndTies) {
   EXPECT_EQ(pixelOf<Vemi8u>(vemiImageRamp_8u_C1R, 0.49999997f), 1);  // its sum with one half rounds to 1
   EXPECT_EQ(pixelOf<Vemi16s>(vemiImageRamp_16s_C1R, -2.5f), -3);
   for (const int sign : {1, -1}) {
-    const auto of32s = [=](int v) { return sign * pixelOf<Vemi32s>(vemiImageRamp_32s_C1R, static_cast<float>(sign * v)); };
+    const auto of32s = [=](int v) {
+      return sign * pixelOf<Vemi32s>(vemiImageRamp_32s_C1R, static_cast<float>(sign * v));
+    };
     EXPECT_EQ(of32s(8388608), 8388608);
     EXPECT_EQ(of32s(8388609), 8388610);  // no half is left to single precision
     EXPECT_EQ(of32s(16777215), 16777216);

@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "arith/scaled_reference.h"
+#include "core/streaming.h"
 #include "support/check.h"
 
 using namespace vemi::test;
@@ -175,4 +176,13 @@ TEST(Compare, LargeImages) {
     EXPECT_EQ(destination[a.size()], 7);
     map.assign(map.size(), 7);
   }
+}
+
+// The same of pixels with several channels, whose maps are put together.
+TEST(Compare, LargeImagesOfSeveralChannels) {
+  constexpr VemiSize size = {1283, 1100};
+  static_assert(ptrdiff_t{13} * size.width * size.height >= vemi::streamedTraffic);
+  expectCall(*membersOf("vemiCompare", "32f_C3R").front(), {size, Rows::contiguous}, compared);
+  expectCall(*membersOf("vemiCompareC", "32f_C3R").front(), {size, Rows::odd}, compared);
+  expectCall(*membersOf("vemiCompareC", "32f_AC4R").front(), {size, Rows::odd}, compared);
 }

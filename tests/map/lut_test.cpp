@@ -280,12 +280,20 @@ TEST(Lut, FloatCubicsNeedMoreThanSinglePrecision) {
   for (size_t n = 0; n < v.size(); ++n) EXPECT_NEAR(result[n], mapped(Curve::cubics, points, v[n]), 1e-7) << v[n];
 }
 
-TEST(Lut, EqualLevelsAmongTheFourOfACubicAreHarmless) {
+// Every interval has the two equal levels among its four, so that no result is a number; infinities are limited.
+TEST(Lut, NoCubicGoesThroughEqualLevels) {
+  std::vector<Vemi8u> bytes(256);
+  std::vector<Vemi16s> words(256);
+  std::vector<Vemi32f> floats(256);
+  std::iota(bytes.begin(), bytes.end(), Vemi8u{0});
+  std::iota(words.begin(), words.end(), Vemi16s{0});
+  std::iota(floats.begin(), floats.end(), 0.0f);
   const Points<Vemi32s> points = {{0, 64, 64, 128, 256}, {0, 10, 20, 30, 40}};
-  std::vector<Vemi8u> all(256);
-  std::iota(all.begin(), all.end(), Vemi8u{0});
-  run(lut8u[2], all, points);
-  run(lut32f[2], {0, 1, 63, 64, 65, 200}, {{0, 64, 64, 128, 256}, {0, 10, 20, 30, 40}});
+  for (const Vemi8u v : run(lut8u[2], bytes, points)) EXPECT_TRUE(v == 0 || v == 255) << int{v};
+  for (const Vemi16s v : run(lut16s[2], words, points)) EXPECT_TRUE(v == -32768 || v == 32767) << v;
+  for (const Vemi32f v : run(lut32f[2], floats, {{0, 64, 64, 128, 256}, {0, 10, 20, 30, 40}})) {
+    EXPECT_FALSE(std::isfinite(v)) << v;
+  }
 }
 
 // Regions of 16s steps need memory from their thresholds on, other curves always; 8u never.

@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "arith/scaled_reference.h"
+#include "core/streaming.h"
 #include "support/check.h"
 
 using namespace vemi::test;
@@ -156,4 +157,12 @@ TEST(Threshold, SpecialFloatsStayAsTheyAre) {
     if (bits == denormal) bits = minusZero;
   }
   EXPECT_EQ(after([](auto... image) { return vemiThreshold_GT_32f_C1IR(image..., -0.0f); }), raised);
+}
+
+// Large enough to be written past the caches. The constants of three channels take turns.
+TEST(Threshold, LargeImages) {
+  constexpr VemiSize size = {1283, 600};
+  static_assert(ptrdiff_t{24} * size.width * size.height >= vemi::streamedTraffic);
+  expectCall(*membersOf("vemiThreshold_LTVal", "32f_C3R").front(), {size, Rows::contiguous}, thresholded);
+  expectCall(*membersOf("vemiThreshold_LTValGTVal", "32f_C3R").front(), {size, Rows::odd}, thresholded);
 }

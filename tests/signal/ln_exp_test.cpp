@@ -83,9 +83,7 @@ TEST(ExpLanes, WithinOneUnitInTheLastPlace) {
   expectWithinOneUnit(vemiExp_32f_C1R, std::exp, samples(centres));
 }
 
-TEST(Ln64fLanes, WithinOneUnitInTheLastPlace) {
-  test::expectWithinOneUnit(Ln64f(), std::log, positiveDoubles());
-}
+TEST(Ln64fLanes, WithinOneUnitInTheLastPlace) { test::expectWithinOneUnit(Ln64f(), std::log, positiveDoubles()); }
 
 TEST(LnLanes, SpecialValues) {
   const std::vector<float> y = resultsOf(vemiLn_32f_C1R, {1.0f, 0.0f, -0.0f, infinity, -infinity, -1.0f, -smallest});

@@ -14,6 +14,16 @@ void drawRamp(Call& call) {
   call.set("offset", unit * static_cast<float>(call.random.below(2001) - 1000) / 8);
 }
 
+bool tooNarrow(Call& call) {
+  call.set("roiSize", VemiSize{2, call.get<VemiSize>("roiSize").height});
+  return true;
+}
+
+bool tooLow(Call& call) {
+  call.set("roiSize", VemiSize{call.get<VemiSize>("roiSize").width, 2});
+  return true;
+}
+
 }  // namespace
 
 std::vector<Family> generateFamilies() {
@@ -21,7 +31,12 @@ std::vector<Family> generateFamilies() {
       {"vemiImageRamp", ".*", "null step size", drawRamp},
       {"vemiImageJaehne", ".*", "null step size"},
       {"vemiAddRandUniform_Direct vemiAddRandGauss_Direct", ".*", "null size step"},
-      {"vemiWinBartlett vemiWinBartlettSep vemiWinHamming vemiWinHammingSep", ".*", "null size step"},
+      {"vemiWinBartlett vemiWinBartlettSep vemiWinHamming vemiWinHammingSep",
+       ".*",
+       "null size step",
+       nullptr,
+       {{"roiSize.width = 2", 0, "size", vemiErrSize, tooNarrow},
+        {"roiSize.height = 2", 0, "size", vemiErrSize, tooLow}}},
   };
 }
 

@@ -109,6 +109,12 @@ void withRange(Call& call) {
   call.set("vMax", range[1]);
 }
 
+/// vMax so that vMax - vMin is zero.
+bool emptyRange(Call& call) {
+  call.set("vMax", call.get<float>("vMin"));
+  return true;
+}
+
 /// A bit image is as many bytes wide as its bits need, from its offset on.
 void withBits(Call& call) {
   const bool isRead = call.function.indexOf("srcBitOffset") >= 0;
@@ -207,12 +213,6 @@ void withGammaRange(Call& call) {
   call.set("vMax", range[1]);
 }
 
-/// vMax so that vMax - vMin is zero.
-bool emptyRange(Call& call) {
-  call.set("vMax", call.get<float>("vMin"));
-  return true;
-}
-
 }  // namespace
 
 std::vector<Family> mapFamilies() {
@@ -265,12 +265,13 @@ std::vector<Family> mapFamilies() {
       {"vemiConvert", ".*", "null size step"},
       {"vemiScale",
        "(8u32f|32f8u).*",
-       "range null size step",
+       "own null size step",
        withRange,
-       {{"vMax", -INFINITY, "range", vemiErrScaleRange},
-        {"vMax", NAN, "range", vemiErrScaleRange},
-        {"vMin", INFINITY, "range", vemiErrScaleRange},
-        {"vMin", NAN, "range", vemiErrScaleRange}}},
+       {{"vMax", 0, "own", vemiErrScaleRange, emptyRange},
+        {"vMax", -INFINITY, "own", vemiErrScaleRange},
+        {"vMax", NAN, "own", vemiErrScaleRange},
+        {"vMin", INFINITY, "own", vemiErrScaleRange},
+        {"vMin", NAN, "own", vemiErrScaleRange}}},
       {"vemiScale", "(16u8u|16s8u|32s8u).*", "null size step", withHint},
       {"vemiScale", ".*", "null size step"},
       {"vemiLUT vemiLUT_Linear vemiLUT_Cubic",
