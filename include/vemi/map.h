@@ -174,6 +174,7 @@ VEMI_API VemiStatus vemiConvert_32s8s_C4R(const Vemi32s* pSrc, int srcStep, Vemi
                                           VemiSize roiSize);
 VEMI_API VemiStatus vemiConvert_32s8s_AC4R(const Vemi32s* pSrc, int srcStep, Vemi8s* pDst, int dstStep,
                                            VemiSize roiSize);
+
 VEMI_API VemiStatus vemiConvert_32f8u_C1R(const Vemi32f* pSrc, int srcStep, Vemi8u* pDst, int dstStep, VemiSize roiSize,
                                           vemiRoundMode roundMode);
 VEMI_API VemiStatus vemiConvert_32f8u_C3R(const Vemi32f* pSrc, int srcStep, Vemi8u* pDst, int dstStep, VemiSize roiSize,
@@ -209,6 +210,7 @@ VEMI_API VemiStatus vemiConvert_32f16s_C4R(const Vemi32f* pSrc, int srcStep, Vem
                                            VemiSize roiSize, vemiRoundMode roundMode);
 VEMI_API VemiStatus vemiConvert_32f16s_AC4R(const Vemi32f* pSrc, int srcStep, Vemi16s* pDst, int dstStep,
                                             VemiSize roiSize, vemiRoundMode roundMode);
+
 /** @} */
 
 /**
@@ -339,6 +341,7 @@ VEMI_API VemiStatus vemiScale_8u32s_C1R(const Vemi8u* pSrc, int srcStep, Vemi32s
 VEMI_API VemiStatus vemiScale_8u32s_C3R(const Vemi8u* pSrc, int srcStep, Vemi32s* pDst, int dstStep, VemiSize roiSize);
 VEMI_API VemiStatus vemiScale_8u32s_C4R(const Vemi8u* pSrc, int srcStep, Vemi32s* pDst, int dstStep, VemiSize roiSize);
 VEMI_API VemiStatus vemiScale_8u32s_AC4R(const Vemi8u* pSrc, int srcStep, Vemi32s* pDst, int dstStep, VemiSize roiSize);
+
 VEMI_API VemiStatus vemiScale_16u8u_C1R(const Vemi16u* pSrc, int srcStep, Vemi8u* pDst, int dstStep, VemiSize roiSize,
                                         vemiHint hint);
 VEMI_API VemiStatus vemiScale_16u8u_C3R(const Vemi16u* pSrc, int srcStep, Vemi8u* pDst, int dstStep, VemiSize roiSize,
@@ -365,6 +368,7 @@ VEMI_API VemiStatus vemiScale_32s8u_C4R(const Vemi32s* pSrc, int srcStep, Vemi8u
                                         vemiHint hint);
 VEMI_API VemiStatus vemiScale_32s8u_AC4R(const Vemi32s* pSrc, int srcStep, Vemi8u* pDst, int dstStep, VemiSize roiSize,
                                          vemiHint hint);
+
 VEMI_API VemiStatus vemiScale_8u32f_C1R(const Vemi8u* pSrc, int srcStep, Vemi32f* pDst, int dstStep, VemiSize roiSize,
                                         Vemi32f vMin, Vemi32f vMax);
 VEMI_API VemiStatus vemiScale_8u32f_C3R(const Vemi8u* pSrc, int srcStep, Vemi32f* pDst, int dstStep, VemiSize roiSize,
@@ -382,6 +386,7 @@ VEMI_API VemiStatus vemiScale_32f8u_C4R(const Vemi32f* pSrc, int srcStep, Vemi8u
                                         Vemi32f vMin, Vemi32f vMax);
 VEMI_API VemiStatus vemiScale_32f8u_AC4R(const Vemi32f* pSrc, int srcStep, Vemi8u* pDst, int dstStep, VemiSize roiSize,
                                          Vemi32f vMin, Vemi32f vMax);
+
 /** @} */
 
 /**

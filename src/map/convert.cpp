@@ -8,6 +8,7 @@
 #include "core/exports.h"
 #include "core/float_control.h"
 #include "core/map_region.h"
+#include "map/rounded_floats.h"
 #include "vemi/map.h"
 
 namespace vemi {
@@ -40,9 +41,7 @@ struct Limited {
 struct Rounded {
   template <class D>
   HWY_INLINE hn::Vec<D> operator()(D d, const Vemi32f* in) const {
-    const Lanes<Vemi32f> df;
-    return packEach<Vemi32f>(
-        d, [&](auto k) HWY_ATTR { return toIntegers(df, hn::LoadU(df, in + k * laneCount<Vemi32f>)); });
+    return roundedFloats(d, in, [](auto, auto v) HWY_ATTR { return v; });
   }
 };
 
@@ -52,10 +51,9 @@ struct LimitedAndRounded {
   template <class D>
   HWY_INLINE hn::Vec<D> operator()(D d, const Vemi32f* in) const {
     using Limits = std::numeric_limits<hn::TFromD<D>>;
-    const Lanes<Vemi32f> df;
-    return packEach<Vemi32f>(d, [&](auto k) HWY_ATTR {
-      const auto limitedAbove = hn::Min(hn::LoadU(df, in + k * laneCount<Vemi32f>), hn::Set(df, Limits::max()));
-      return toIntegers(df, hn::Max(limitedAbove, hn::Set(df, Limits::min())));
+    return roundedFloats(d, in, [](auto df, auto v) HWY_ATTR {
+      const auto limitedAbove = hn::Min(v, hn::Set(df, Limits::max()));
+      return hn::Max(limitedAbove, hn::Set(df, Limits::min()));
     });
   }
 };

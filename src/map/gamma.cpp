@@ -64,14 +64,21 @@ struct Inverse {
        229, 231, 233, 235, 237, 239, 241, 243, 245, 247, 249, 251, 253, 255}};
 };
 
-/// The curve of floats, with d = pixel - black and t = d * inverse: d * slope + shift, or f(t) * range + shift;
+/// Which pixels the curve takes for light and signal from 0 to 1.
+struct PixelRange {
+  double black;    // the pixel of 0
+  double length;   // from there to the pixel of 1
+  double inverse;  // 1 / length
+  double shift;    // what is added to length times the curve
+};
+
+/// The curve of floats, with d = pixel - black and t = d * inverse: d * slope + shift, or f(t) * length + shift;
 /// computed in double precision and rounded to single. Nearly always a power near the exact one will do: where both
 /// ends of its error are rounded to one number, so is the exact result.
 template <class Direction>
-class Curve {
+class TransferCurve {
  public:
-  Curve(double black, double range, double inverse, double shift)
-      : black_(black), range_(range), inverse_(inverse), shift_(shift) {}
+  explicit TransferCurve(const PixelRange& range) : range_(range) {}
 
   template <class D, class V>
   HWY_INLINE V operator()(D d, V pixels) const {
@@ -86,12 +93,13 @@ class Curve {
   }
 
  private:
-  double black_, range_, inverse_, shift_;
+  PixelRange range_;
   // Below the limit t is less than 3, and the power, with its gain, less than 1.9 (Forward, 2^-41 of it wrong) or 11
   // (Inverse, 2^-44).
-  double nearGain_ = Direction::gain * range_, nearShift_ = shift_ - Direction::offset * range_;
-  double nearError_ = 0x1p-40 * (range_ + (shift_ < 0 ? -shift_ : shift_));
-  float nearLimit_ = static_cast<float>(std::min<double>(black_ + 3 * range_, std::numeric_limits<float>::max()));
+  double nearGain_ = Direction::gain * range_.length, nearShift_ = range_.shift - Direction::offset * range_.length;
+  double nearError_ = 0x1p-40 * (range_.length + (range_.shift < 0 ? -range_.shift : range_.shift));
+  float nearLimit_ =
+      static_cast<float>(std::min<double>(range_.black + 3 * range_.length, std::numeric_limits<float>::max()));
 
   template <class V>
   struct Line {
@@ -101,9 +109,9 @@ class Curve {
 
   template <class D, class V>
   HWY_INLINE Line<hn::Vec<D>> lineOf(D d, V half) const {
-    const auto difference = hn::Sub(hn::PromoteTo(d, half), hn::Set(d, black_));
-    const auto t = hn::Mul(hn::Set(d, inverse_), difference);
-    const auto value = hn::Add(hn::Mul(difference, hn::Set(d, Direction::slope)), hn::Set(d, shift_));
+    const auto difference = hn::Sub(hn::PromoteTo(d, half), hn::Set(d, range_.black));
+    const auto t = hn::Mul(hn::Set(d, range_.inverse), difference);
+    const auto value = hn::Add(hn::Mul(difference, hn::Set(d, Direction::slope)), hn::Set(d, range_.shift));
     return {t, value, hn::Lt(t, hn::Set(d, Direction::breakpoint))};
   }
 
@@ -116,7 +124,7 @@ class Curve {
     const auto base = hn::Mul(hn::Add(line.t, hn::Set(d, Direction::lift)), hn::Set(d, Direction::factor));
     const auto power = hn::IfThenElse(isFinite, Power{Direction::exponent}(d, base), line.t);  // infinity and NaNs stay
     const auto signal = hn::Sub(hn::Mul(power, hn::Set(d, Direction::gain)), hn::Set(d, Direction::offset));
-    const auto value = hn::Add(hn::Mul(signal, hn::Set(d, range_)), hn::Set(d, shift_));
+    const auto value = hn::Add(hn::Mul(signal, hn::Set(d, range_.length)), hn::Set(d, range_.shift));
     return hn::DemoteTo(dHalf, hn::IfThenElse(line.holds, line.value, value));
   }
 
@@ -143,7 +151,8 @@ class Curve {
 /// 16u: 65535 times the curve, to nearest. Ties go to even: a sum with one half that is an odd integer goes down.
 template <class Direction>
 struct OfWords {
-  Curve<Direction> curve{0, 65535, 1.5259021896696422e-05, 0.5};
+  TransferCurve<Direction> curve{
+      PixelRange{.black = 0, .length = 65535, .inverse = 1.5259021896696422e-05, .shift = 0.5}};
 
   template <class D, class V>
   HWY_INLINE V operator()(D d, V v) const {
@@ -205,10 +214,11 @@ VemiStatus gamma16u(Src src, Dst dst, VemiSize roiSize) {
 
 template <class Direction, class L, class Src, class Dst>
 VemiStatus gamma32f(Src src, Dst dst, VemiSize roiSize, Vemi32f vMin, Vemi32f vMax) {
-  const double range = double{vMax} - double{vMin};
-  if (!(range > 0)) return vemiErrGammaRange;
+  const double length = double{vMax} - double{vMin};
+  if (!(length > 0)) return vemiErrGammaRange;
   if (const VemiStatus bad = firstOf(checkNull(src, dst), checkSize(roiSize), checkStep(src, dst))) return bad;
-  mapImages<L>(src, dst, roiSize, Curve<Direction>(vMin, range, 1.0 / range, vMin));
+  const PixelRange range = {.black = vMin, .length = length, .inverse = 1.0 / length, .shift = vMin};
+  mapImages<L>(src, dst, roiSize, TransferCurve<Direction>(range));
   return vemiOk;
 }
 

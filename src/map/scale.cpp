@@ -2,7 +2,6 @@
 // Checks: null, size, step; the forms with floats look at their range ahead of all. Everything runs in the calling
 // thread.
 
-#include <limits>
 #include <type_traits>
 
 #include "core/checks.h"
@@ -10,13 +9,13 @@
 #include "core/exports.h"
 #include "core/float_control.h"
 #include "core/map_region.h"
+#include "map/rounded_floats.h"
 #include "vemi/map.h"
 
 namespace vemi {
 namespace {
 
-/// What is v counted from the lowest value of its type, if D is of the other sign: an unsigned number counted from the
-/// middle of its range, or a signed one from the end.
+/// v in lanes of D. Where their types differ in sign, the top bit is inverted: both then count from their lowest value.
 template <class S, class D, class V>
 HWY_INLINE hn::Vec<D> fullScaleAs(D d, V v) {
   const auto lanes = hn::BitCast(d, v);
@@ -109,9 +108,7 @@ struct FromRange {
 
   template <class D>
   HWY_INLINE hn::Vec<D> operator()(D d, const Vemi32f* in) const {
-    const Lanes<Vemi32f> df;
-    return packEach<Vemi32f>(
-        d, [&](auto k) HWY_ATTR { return toIntegers(df, range(df, hn::LoadU(df, in + k * laneCount<Vemi32f>))); });
+    return roundedFloats(d, in, range);
   }
 };
 
@@ -122,10 +119,9 @@ struct FromLimitedRange {
 
   template <class D>
   HWY_INLINE hn::Vec<D> operator()(D d, const Vemi32f* in) const {
-    const Lanes<Vemi32f> df;
-    return packEach<Vemi32f>(d, [&](auto k) HWY_ATTR {
-      const auto limitedBelow = hn::Max(hn::LoadU(df, in + k * laneCount<Vemi32f>), hn::Set(df, vMin));
-      return toIntegers(df, range(df, hn::Min(limitedBelow, hn::Set(df, vMax))));
+    return roundedFloats(d, in, [&](auto df, auto v) HWY_ATTR {
+      const auto limitedBelow = hn::Max(v, hn::Set(df, vMin));
+      return range(df, hn::Min(limitedBelow, hn::Set(df, vMax)));
     });
   }
 };
