@@ -77,8 +77,8 @@ class BorrowingSequence {
   static constexpr ptrdiff_t steps = 16;
 
   HWY_INLINE void draw(uint32_t* x) {
-    // The signs of the differences are guessed from the continuation. In one block of a hundred thousand or so the
-    // borrows within it make another sign.
+    // The signs of the differences are guessed from the continuation. In about one block of a million the borrows
+    // within it make another sign.
     const size_t early = signsOf(here_.v), late = signsOf(here_.v + half);
     Continued values;
     V wrong = hn::Zero(D());
