@@ -12,11 +12,28 @@
 #include "core/image.h"
 #include "core/map_region.h"
 #include "core/wide_lanes.h"
+#include "signal/float_parts.h"
 #include "signal/ln.h"
+#include "signal/polynomial.h"
 #include "vemi/arith.h"
 
 namespace vemi {
 namespace {
+
+/// The logarithm of integers from 1 on in double-precision lanes, with 40 bits of precision.
+///
+/// With x = 2^e m and m from the root of 1/2 to the root of 2, ln x = e ln 2 + 2 artanh((m - 1) / (m + 1)).
+struct LnOfInteger {
+  template <class D, class V>
+  HWY_INLINE V operator()(D d, V x) const {
+    constexpr double artanh[] = {1.0, 1.0 / 3, 1.0 / 5, 1.0 / 7, 1.0 / 9, 1.0 / 11, 1.0 / 13};
+    const auto [e, m] = detail::splitAtRoot(d, x);
+    const V one = hn::Set(d, 1.0);
+    const V t = hn::Div(hn::Sub(m, one), hn::Add(m, one));
+    const V series = hn::Mul(hn::Add(t, t), polynomial(d, hn::Mul(t, t), artanh));
+    return hn::Add(hn::Mul(e, hn::Set(d, 0x1.62e42fefa39efp-1)), series);
+  }
+};
 
 /// The logarithm of 16-bit lanes divided by 2^scaleFactor, to nearest. There are no ties: logarithms of integers above
 /// 1 are irrational. Zero and what is below it give the least value.
@@ -76,6 +93,22 @@ VemiStatus lnStatus16s(const Vemi16s* row, ptrdiff_t len) {
   return first == 0 ? vemiWarnLnZero : vemiWarnLnNegative;
 }
 
+struct IsNotAboveZero {
+  template <class D, class V>
+  HWY_INLINE auto operator()(D d, V v) const {
+    return hn::Le(v, hn::Zero(d));
+  }
+};
+
+/// The status of a row of logarithms is that of its last chunk; chunks are 256 elements long and counted from the row's
+/// start. In a chunk a number below zero goes before a zero.
+VemiStatus lnStatus32f(const Vemi32f* row, ptrdiff_t len) {
+  const ptrdiff_t first = (len - 1) / 256 * 256;
+  const auto lastChunkHas = [=](auto test) { return anyElement(len - first, test, row + first); };
+  if (!lastChunkHas(IsNotAboveZero())) return vemiOk;
+  return lastChunkHas(IsNegative()) ? vemiWarnLnNegative : vemiWarnLnZero;
+}
+
 template <class L>
 VemiStatus ln8u(Image<const Vemi8u> src, Image<Vemi8u> dst, VemiSize roiSize, int scaleFactor) {
   if (const VemiStatus bad = firstOf(checkNull(src, dst), checkSize(roiSize), checkStep(src, dst))) return bad;
@@ -91,7 +124,7 @@ VemiStatus ln16s(Image<const Vemi16s> src, Image<Vemi16s> dst, VemiSize roiSize,
 template <class L>
 VemiStatus ln32f(Image<const Vemi32f> src, Image<Vemi32f> dst, VemiSize roiSize) {
   if (const VemiStatus bad = firstOf(checkNull(src, dst), checkSize(roiSize), checkStep(src, dst))) return bad;
-  return mapRegionWatched<L>(roiSize, eachVector(Ln()), lnStatus, dst, src);
+  return mapRegionWatched<L>(roiSize, eachVector(Ln()), lnStatus32f, dst, src);
 }
 
 }  // namespace

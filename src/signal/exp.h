@@ -1,9 +1,8 @@
 // The exponential of single-precision lanes.
 #pragma once
 
-#include <cstdint>
-
 #include "core/lanes.h"
+#include "signal/float_parts.h"
 #include "signal/polynomial.h"
 
 namespace vemi {
@@ -35,8 +34,7 @@ struct Exp {
   static constexpr float regularLimit = 87.0f;  // results and 2^k are normal numbers below it
   static constexpr float highest = 89.0f, lowest = -104.0f;
   static constexpr float log2OfE = 0x1.715476p+0f;
-  // ln 2 in two parts; the first has so few bits that its product with k is exact.
-  static constexpr float ln2Upper = 0x1.63p-1f, ln2Lower = -0x1.bd0106p-13f;
+  using Ln2 = detail::Ln2<float>;
   // The minimax polynomial of (e^r - 1 - r) / r^2.
   static constexpr float q[] = {0x1.fffffcp-2f, 0x1.555492p-3f, 0x1.5558b0p-5f, 0x1.12398ep-7f, 0x1.6a4dd6p-10f};
 
@@ -50,11 +48,11 @@ struct Exp {
   template <class D, class V>
   HWY_INLINE static auto split(D d, V x) {
     const hn::RebindToSigned<D> di;
-    const V integers = hn::Set(d, 0x1.8p23f);  // at this size a float has no fraction, so that a sum is rounded
+    const V integers = hn::Set(d, detail::roundingSummand<float>);
     const V sum = hn::Add(hn::Mul(x, hn::Set(d, log2OfE)), integers);
     const V whole = hn::Sub(sum, integers);
     const auto k = hn::Sub(hn::BitCast(di, sum), hn::BitCast(di, integers));
-    const V r = hn::Sub(hn::Sub(x, hn::Mul(whole, hn::Set(d, ln2Upper))), hn::Mul(whole, hn::Set(d, ln2Lower)));
+    const V r = hn::Sub(hn::Sub(x, hn::Mul(whole, hn::Set(d, Ln2::upper))), hn::Mul(whole, hn::Set(d, Ln2::lower)));
     const V tail = hn::Mul(hn::Mul(r, r), polynomial(d, r, q));
     return Split<decltype(k), V>{k, hn::Add(hn::Set(d, 1.0f), hn::Add(r, tail))};
   }

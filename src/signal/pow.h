@@ -1,9 +1,8 @@
 // Powers with a constant exponent in double-precision lanes.
 #pragma once
 
-#include <cstdint>
-
 #include "core/lanes.h"
+#include "signal/float_parts.h"
 #include "signal/polynomial.h"
 
 namespace vemi {
@@ -68,7 +67,6 @@ struct Power {
   template <class V>
   using TwoParts = detail::TwoParts<V>;
 
-  static constexpr uint64_t rootOfHalf = 0x3fe6a09e667f3bcd;
   static constexpr double twoLog2OfE = 0x1.71547652b82fep+1, twoLog2OfERest = 0x1.777d0ffda0d24p-55;
   static constexpr double ln2 = 0x1.62e42fefa39efp-1, ln2Rest = 0x1.abc9e3b39803fp-56;
   /// The minimax polynomial of (2 artanh(s) - 2 s) / (s^3 ln 2) in s^2.
@@ -83,16 +81,8 @@ struct Power {
 
   template <class D, class V>
   HWY_INLINE static TwoParts<V> logarithm(D d, V x) {
-    const hn::RebindToUnsigned<D> du;
     const V one = hn::Set(d, 1.0);
-    // The exponent above the fraction, both counted from the root of 1/2; the shift is one without a sign.
-    const auto bits = hn::BitCast(du, x);
-    const auto aboveRoot = hn::Sub(bits, hn::Set(du, rootOfHalf));
-    const auto exponents = hn::And(aboveRoot, hn::Set(du, 0xfff0000000000000));
-    const V m = hn::BitCast(d, hn::Sub(bits, exponents));
-    const auto biased = hn::ShiftRight<52>(hn::Add(exponents, hn::Set(du, uint64_t{1024} << 52)));
-    const V e = hn::Sub(hn::BitCast(d, hn::Or(biased, hn::BitCast(du, hn::Set(d, 0x1p52)))), hn::Set(d, 0x1p52 + 1024));
-
+    const auto [e, m] = detail::splitAtRoot(d, x);
     const V f = hn::Sub(m, one);
     const V divisor = hn::Add(m, one);
     const V divisorRest = hn::Sub(m, hn::Sub(divisor, one));
@@ -115,7 +105,7 @@ struct Power {
   template <class D, class V>
   HWY_INLINE static V powerOfTwo(D d, V upper, V lower) {
     const hn::RebindToUnsigned<D> du;
-    const V integers = hn::Set(d, 0x1.8p52);  // at this size a double has no fraction, so that a sum is rounded
+    const V integers = hn::Set(d, detail::roundingSummand<double>);
     const V sum = hn::Add(upper, integers);
     const auto k = hn::ShiftLeft<52>(hn::BitCast(du, sum));
     const auto r = detail::exactSum(hn::Sub(upper, hn::Sub(sum, integers)), lower);

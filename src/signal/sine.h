@@ -5,6 +5,7 @@
 #include <cstdint>
 
 #include "core/lanes.h"
+#include "signal/float_parts.h"
 #include "signal/polynomial.h"
 
 namespace vemi {
@@ -39,7 +40,7 @@ struct SineOfTurned {
   template <class D, class V>
   HWY_INLINE V ofModerate(D d, V x) const {
     const hn::RebindToUnsigned<D> du;
-    const V integers = hn::Set(d, 0x1.8p52);  // at this size a double has no fraction, so that a sum is rounded
+    const V integers = hn::Set(d, detail::roundingSummand<double>);
     const V sum = hn::Add(hn::Mul(x, hn::Set(d, quartersPerRadian)), integers);
     const V k = hn::Sub(sum, integers);
     const auto quarter = hn::Add(hn::BitCast(du, sum), hn::Set(du, static_cast<uint64_t>(quarterTurns)));

@@ -1,0 +1,49 @@
+// What functions of floats are taken apart with: integers and rests, powers of two and mantissas.
+#pragma once
+
+#include <cstdint>
+
+#include "core/lanes.h"
+
+namespace vemi::detail {
+
+/// A sum with it is rounded to an integer, which then stands in the lowest bits: at this size there are no fractions.
+template <class T>
+inline constexpr T roundingSummand = T(0);
+template <>
+inline constexpr float roundingSummand<float> = 0x1.8p23f;
+template <>
+inline constexpr double roundingSummand<double> = 0x1.8p52;
+
+/// ln 2 in two parts; the first has so few bits that its product with an exponent is exact.
+template <class T>
+struct Ln2;
+template <>
+struct Ln2<float> {
+  static constexpr float upper = 0x1.63p-1f, lower = -0x1.bd0106p-13f;
+};
+template <>
+struct Ln2<double> {
+  static constexpr double upper = 0x1.62e42fefp-1, lower = 0x1.473de6af278edp-34;
+};
+
+template <class V>
+struct SplitAtRoot {
+  V exponent, mantissa;
+};
+
+/// Positive normal doubles as 2^exponent mantissa, with the mantissa from the root of 1/2 to the root of 2.
+template <class D, class V>
+HWY_INLINE SplitAtRoot<V> splitAtRoot(D d, V x) {
+  constexpr uint64_t rootOfHalf = 0x3fe6a09e667f3bcd, exponentBits = 0xfff0000000000000;
+  const hn::RebindToUnsigned<D> du;
+  // The exponent above the fraction, both counted from the root. Biased, it is shifted without a sign, and becomes a
+  // number as the lowest bits of 2^52.
+  const auto bits = hn::BitCast(du, x);
+  const auto exponent = hn::And(hn::Sub(bits, hn::Set(du, rootOfHalf)), hn::Set(du, exponentBits));
+  const auto biased = hn::ShiftRight<52>(hn::Add(exponent, hn::Set(du, uint64_t{1024} << 52)));
+  const V number = hn::BitCast(d, hn::Or(biased, hn::BitCast(du, hn::Set(d, 0x1p52))));
+  return {hn::Sub(number, hn::Set(d, 0x1p52 + 1024)), hn::BitCast(d, hn::Sub(bits, exponent))};
+}
+
+}  // namespace vemi::detail
