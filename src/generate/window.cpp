@@ -11,7 +11,6 @@
 #include "core/exports.h"
 #include "core/image.h"
 #include "core/numbers.h"
-#include "core/rows.h"
 #include "signal/sine.h"
 #include "signal/window.h"
 #include "vemi/generate.h"
