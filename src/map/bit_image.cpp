@@ -112,8 +112,8 @@ void decide(ptrdiff_t width, Vemi8u threshold, Vemi32s* error, Vemi8u* bits, int
 /// Steps are not looked at: a single row needs none, and an image may lie bottom-up.
 VemiStatus dither(Image<const Vemi8u> src, Image<Vemi8u> dst, int bitOffset, VemiSize roiSize, Vemi8u threshold) {
   if (const VemiStatus bad = firstOf(checkNull(src, dst), checkSize(roiSize), checkBitOffset(bitOffset))) return bad;
-  const ptrdiff_t width = roiSize.width, lineElements = width + 4;
-  const Vemi64s bytes = Vemi64s{3} * lineElements * Vemi64s{sizeof(Vemi32s)};
+  const ptrdiff_t width = roiSize.width;
+  const Vemi64s lineElements = Vemi64s{width} + 4, bytes = 3 * lineElements * Vemi64s{sizeof(Vemi32s)};
   auto* const lines = static_cast<Vemi32s*>(alignedAllocBytes(bytes));
   if (lines == nullptr) return vemiErrMemAlloc;
   std::memset(lines, 0, static_cast<size_t>(bytes));
