@@ -119,7 +119,8 @@ VEMI_API VemiStatus vemiImageRamp_32f_AC4R(Vemi32f* pDst, int dstStep, VemiSize 
  *     dx = x - (W - 1) / 2,   dy = y - (H - 1) / 2,   s = sin((dx * dx + dy * dy) * 2 pi / (4 * H))
  *
  * where 2 pi is 6.283185307179586. So the distance from one ring to the next is two pixels at the distance H from the
- * middle, and four at the upper and lower rim. s is correct to one unit in the last place. The value of a pixel, whose
+ * middle, and four at the upper and lower rim. s is correct to one unit in the last place, and the same on every
+ * machine unless W * W exceeds 10^9 * H: so large an angle is left to the C library. The value of a pixel, whose
  * fraction the integer types drop, is
  *
  *     8u   (s + 1) * 127.99999        16u  (s + 1) * 32767.99999      32s  s * 2147483647.99999

@@ -35,15 +35,15 @@ struct SplitAtRoot {
 /// Positive normal doubles as 2^exponent mantissa, with the mantissa from the root of 1/2 to the root of 2.
 template <class D, class V>
 HWY_INLINE SplitAtRoot<V> splitAtRoot(D d, V x) {
-  constexpr uint64_t rootOfHalf = 0x3fe6a09e667f3bcd, exponentBits = 0xfff0000000000000;
+  constexpr uint64_t rootOfHalf = 0x3fe6a09e667f3bcd, exponentStep = uint64_t{1} << 52;
   const hn::RebindToUnsigned<D> du;
   // The exponent above the fraction, both counted from the root. Biased, it is shifted without a sign, and becomes a
   // number as the lowest bits of 2^52.
-  const auto bits = hn::BitCast(du, x);
-  const auto exponent = hn::And(hn::Sub(bits, hn::Set(du, rootOfHalf)), hn::Set(du, exponentBits));
-  const auto biased = hn::ShiftRight<52>(hn::Add(exponent, hn::Set(du, uint64_t{1024} << 52)));
+  const auto aboveRoot = hn::Sub(hn::BitCast(du, x), hn::Set(du, rootOfHalf));
+  const auto biased = hn::ShiftRight<52>(hn::Add(aboveRoot, hn::Set(du, 1023 * exponentStep)));
   const V number = hn::BitCast(d, hn::Or(biased, hn::BitCast(du, hn::Set(d, 0x1p52))));
-  return {hn::Sub(number, hn::Set(d, 0x1p52 + 1024)), hn::BitCast(d, hn::Sub(bits, exponent))};
+  const auto fraction = hn::And(aboveRoot, hn::Set(du, exponentStep - 1));
+  return {hn::Sub(number, hn::Set(d, 0x1p52 + 1023)), hn::BitCast(d, hn::Add(fraction, hn::Set(du, rootOfHalf)))};
 }
 
 }  // namespace vemi::detail

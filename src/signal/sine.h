@@ -12,7 +12,8 @@ namespace vemi {
 
 namespace detail {
 
-/// The sine of x + quarterTurns pi / 2, within one unit in the last place; the same bits on all levels.
+/// The sine of x + quarterTurns pi / 2, within one unit in the last place; below the limit, the same bits on all
+/// levels.
 ///
 /// With x = k pi / 2 + r and |r| at most pi / 4 it is the sine or the cosine of r, or their negatives, by the last two
 /// bits of k.
@@ -66,7 +67,8 @@ struct SineOfTurned {
     return hn::Xor(hn::IfThenElse(isOdd, cosineOfR, sineOfR), hn::BitCast(d, sign));
   }
 
-  /// Angles of a hundred million turns and more.
+  /// Angles of a hundred million turns and more. The C library's last bits are those of its build. The chirp alone
+  /// comes so far, in regions whose width^2 is some 10^9 times their height.
   template <class D, class V>
   HWY_NOINLINE V byLibrary(D d, V x) const {
     alignas(laneAlignment) double lane[laneCount<double>];

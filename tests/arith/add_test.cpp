@@ -8,6 +8,7 @@
 
 #include "arith/scaled_reference.h"
 #include "support/check.h"
+#include "support/values.h"
 
 using namespace vemi::test;
 

@@ -11,6 +11,7 @@
 
 #include "arith/scaled_reference.h"
 #include "support/check.h"
+#include "support/values.h"
 
 using namespace vemi::test;
 

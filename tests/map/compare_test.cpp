@@ -8,9 +8,9 @@
 #include <numeric>
 #include <vector>
 
-#include "arith/scaled_reference.h"
 #include "core/streaming.h"
 #include "support/check.h"
+#include "support/values.h"
 
 using namespace vemi::test;
 
