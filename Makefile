@@ -80,7 +80,7 @@ bench-build: configure
 
 # The build of the presets has warnings as errors.
 check: build
-	@tools/need.sh clang-format clang-tidy
+	@tools/need.sh clang-format clang-tidy libomp-dev
 	tools/format.sh --check
 	tools/tidy.sh $(BUILD)
 

@@ -1,5 +1,5 @@
 #!/bin/bash
-# Runs clang-tidy over the library's sources, as a build compiles them. GCC's omp.h is searched last.
+# Runs clang-tidy over the library's sources, as a build compiles them. It needs clang's own omp.h (Debian: libomp-dev).
 # usage: tidy.sh BUILD_FOLDER [SOURCE...]
 set -euo pipefail
 cd "$(dirname "$0")/.."
@@ -9,5 +9,5 @@ shift
 
 printf '%s\0' "$@" |
   xargs -0 -n 1 -P "$(nproc)" clang-tidy --quiet -p "$build" \
-    --extra-arg=-idirafter"$(g++ -print-file-name=include)" --extra-arg=-Wno-sign-conversion \
+    --extra-arg=-Wno-sign-conversion \
     2> >(grep -vE 'warnings? (generated|treated)|Suppressed|Use -(header|system)' >&2)
