@@ -38,7 +38,7 @@ build: configure
 
 demo: configure
 	cmake --build $(BUILD) -j $(JOBS) --target vemi_demo
-	$(BUILD)/examples/vemi_demo $(IMAGE) --out build/demo
+	$(BUILD)/examples/vemi_demo $(if $(IMAGE),"$(IMAGE)") --out build/demo
 
 test: build
 	ctest --preset $(PRESET)

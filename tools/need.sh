@@ -14,8 +14,8 @@ done
 [ ${#missing[@]} -gt 0 ] || exit 0
 
 echo "installing: ${missing[*]}"
-root=()
-[ "$(id -u)" = 0 ] || root=(sudo)
-export DEBIAN_FRONTEND=noninteractive
+trap 'echo "to do it yourself, as root: apt-get install ${missing[*]}" >&2' ERR
+root=(env DEBIAN_FRONTEND=noninteractive)
+[ "$(id -u)" = 0 ] || root=(sudo "${root[@]}")
 "${root[@]}" apt-get -qq update
 "${root[@]}" apt-get -qq -y --no-install-recommends install "${missing[@]}" >/dev/null
