@@ -6,7 +6,7 @@
 #   make fuzz [SECONDS=60 SEED=0] calls all functions with arguments that a fuzzer makes up, under AddressSanitizer
 #   make race                     calls all functions from many threads at once, under ThreadSanitizer
 #   make docs                     the reference, as build/docs/html/index.html
-#   make install [PREFIX=...]     installs the library for every 64-bit processor level
+#   make install [PREFIX=...]     installs the library for all 64-bit processor levels; root by sudo where it must
 # PRESET picks another build of CMakePresets.json for demo, test and bench.
 PRESET ?= x86-64-v3
 PREFIX ?= /usr/local
@@ -92,7 +92,7 @@ docs:
 
 install:
 	@tools/need.sh $(BUILD_PACKAGES)
-	tools/install-levels.sh $(PREFIX)
+	tools/install-levels.sh "$(PREFIX)"
 
 # After a function was added: the committed list of exports.
 exports:

@@ -1,6 +1,6 @@
 #!/bin/bash
-# Installs a build and uses it as a stranger would: the headers as C99 to C++20, each by itself, the quick start's
-# program, the pkg-config file, the CMake package.
+# Installs a build and uses it as a stranger would: the headers as C99 to C++20, each by itself, the README's program by
+# the pkg-config file and by the README's CMake project, and a C++ program by both.
 # usage: check-install.sh BUILD_FOLDER WORK_FOLDER   (CC, CXX, CFLAGS, CXXFLAGS from the environment)
 set -euo pipefail
 root=$(cd "$(dirname "$0")/.." && pwd)
@@ -21,16 +21,16 @@ mv "$work/first" "$prefix"
 
 PKG_CONFIG_PATH=$(dirname "$(find "$prefix" -name vemi.pc)")
 export PKG_CONFIG_PATH
-flags=$(pkg-config --cflags vemi)
-libraries=$(pkg-config --libs vemi)
-LD_LIBRARY_PATH=$(pkg-config --variable=libdir vemi)
+# pkg-config quotes spaces for a shell.
+eval "flags=($(pkg-config --cflags vemi)) libraries=($(pkg-config --libs vemi))"
+eval "LD_LIBRARY_PATH=$(pkg-config --variable=libdir vemi)"
 export LD_LIBRARY_PATH
 
 # try STANDARD COMPILER SOURCE
 try() {
   local program
   program=$work/programs/$1-$(basename "$3")
-  $2 -std="$1" $flags "$3" -o "$program" $libraries
+  $2 -std="$1" "${flags[@]}" "$3" -o "$program" "${libraries[@]}"
   "$program" >>"$log"
 }
 for standard in c99 c11; do
@@ -42,11 +42,19 @@ done
 try c99 "$cc" "$root/examples/quickstart.c"
 
 for header in "$prefix"/include/vemi/*.h; do
-  $cc -std=c99 -fsyntax-only -include "$header" $flags -x c /dev/null
+  $cc -std=c99 -fsyntax-only -include "$header" "${flags[@]}" -x c /dev/null
 done
 
 unset LD_LIBRARY_PATH
-cmake -S "$consumer" -B "$work/cmake" -DCMAKE_PREFIX_PATH="$prefix" -DCMAKE_CXX_FLAGS="${CXXFLAGS:-}" >>"$log"
-cmake --build "$work/cmake" >>"$log"
-"$work/cmake/consumer"
+# find_package SOURCE_FOLDER PROGRAM
+find_package() {
+  cmake -S "$1" -B "$work/cmake-$2" -DCMAKE_PREFIX_PATH="$prefix" >>"$log"
+  cmake --build "$work/cmake-$2" >>"$log"
+  "$work/cmake-$2/$2"
+}
+mkdir "$work/readme"
+cp "$root/examples/quickstart.c" "$work/readme"
+sed -n '/^```cmake$/,/^```$/{/^```/!p}' "$root/README.md" >"$work/readme/CMakeLists.txt"
+find_package "$work/readme" quickstart
+find_package "$consumer" consumer
 echo "headers, library, pkg-config file and CMake package work from $prefix"

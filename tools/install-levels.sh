@@ -1,17 +1,28 @@
 #!/bin/bash
 # Installs the library for every 64-bit x86 processor: the baseline level with headers and packages, the higher levels
-# beneath it in glibc-hwcaps, where the loader finds the best one that the processor has.
+# beneath it in glibc-hwcaps, where the loader finds the best one that the processor has. Builds as you are, and becomes
+# root by sudo only to write where you may not.
 # usage: install-levels.sh PREFIX   (DESTDIR from the environment, for packagers)
 set -euo pipefail
 cd "$(dirname "$0")/.."
-prefix=${1:?usage: install-levels.sh PREFIX}
+prefix=$(realpath -ms "${1:?usage: install-levels.sh PREFIX}")
+
+root=()
+if ! { mkdir -p "${DESTDIR:-}$prefix" && [ -w "${DESTDIR:-}$prefix" ]; } 2>/dev/null; then
+  command -v sudo >/dev/null || { echo "only root may write to $prefix: be root, or take another PREFIX" >&2; exit 1; }
+  root=(sudo env DESTDIR="${DESTDIR:-}")
+fi
 
 for level in x86-64-v2 x86-64-v3 x86-64-v4; do
   build=build/install/$level
   cmake --preset $level -B "$build" -DCMAKE_INSTALL_PREFIX="$prefix" \
     -DVEMI_BUILD_TESTS=OFF -DVEMI_BUILD_EXAMPLES=OFF -DVEMI_WERROR=OFF >/dev/null
   cmake --build "$build" --target vemi
+  rm -f "$build"/install_manifest*.txt  # of an earlier installation, by root
 done
-cmake --install build/install/x86-64-v2 --strip
-cmake --install build/install/x86-64-v3 --strip --component hwcaps
-cmake --install build/install/x86-64-v4 --strip --component hwcaps
+"${root[@]}" cmake --install build/install/x86-64-v2 --strip
+"${root[@]}" cmake --install build/install/x86-64-v3 --strip --component hwcaps
+"${root[@]}" cmake --install build/install/x86-64-v4 --strip --component hwcaps
+
+# The loader knows its own folders by a cache that only root writes.
+if [ -z "${DESTDIR:-}" ] && [ "$("${root[@]}" id -u)" = 0 ]; then "${root[@]}" /sbin/ldconfig; fi
