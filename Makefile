@@ -7,8 +7,8 @@
 #   make race                     calls all functions from many threads at once, under ThreadSanitizer
 #   make docs                     the reference, as build/docs/html/index.html
 #   make install [PREFIX=...]     installs the library for all 64-bit processor levels; root by sudo where it must
-# PRESET picks another build of CMakePresets.json for demo, test and bench.
-PRESET ?= x86-64-v3
+# PRESET picks another build of CMakePresets.json for demo, test and bench; processors without AVX2 have theirs.
+PRESET ?= $(if $(shell grep -m 1 -w avx2 /proc/cpuinfo),x86-64-v3,x86-64-v2)
 PREFIX ?= /usr/local
 IMAGE ?=
 SECONDS ?= 60
