@@ -13,6 +13,13 @@ extern "C" {
 #endif
 
 /**
+ * @defgroup vemi_arith Arithmetic
+ *
+ * Each element of the result comes from the elements of the sources at the same place.
+ * @{
+ */
+
+/**
  * @defgroup vemi_add vemiAdd: sum of two images
  *
  *     R forms    pDst    = pSrc1   + pSrc2
@@ -2133,27 +2140,6 @@ VEMI_API VemiStatus vemiComplement_32s_C1IR(Vemi32s* pSrcDst, int srcDstStep, Ve
 /* ---- Alpha: compositing and premultiplication -------------------------------------------------------------------- */
 
 /**
- * How two images are laid over each other, in terms of Porter and Duff (Compositing Digital Images, SIGGRAPH 1984). The
- * first image is A, in front, the second is B. The first six take straight colours, which have not been multiplied by
- * their alpha, the others premultiplied ones.
- */
-typedef int vemiAlphaType;
-enum {
-  vemiAlphaOver = 0,       /**< A over B: A, and B where A lets it through */
-  vemiAlphaIn = 1,         /**< A in B: A where B covers */
-  vemiAlphaOut = 2,        /**< A out B: A where B does not cover */
-  vemiAlphaATop = 3,       /**< A atop B: A where B covers, and B where A lets it through */
-  vemiAlphaXor = 4,        /**< A xor B: each where the other does not cover */
-  vemiAlphaPlus = 5,       /**< A plus B: the sum */
-  vemiAlphaOverPremul = 6, /**< A over B, premultiplied */
-  vemiAlphaInPremul = 7,   /**< A in B, premultiplied */
-  vemiAlphaOutPremul = 8,  /**< A out B, premultiplied */
-  vemiAlphaATopPremul = 9, /**< A atop B, premultiplied */
-  vemiAlphaXorPremul = 10, /**< A xor B, premultiplied */
-  vemiAlphaPlusPremul = 11 /**< A plus B, premultiplied */
-};
-
-/**
  * @defgroup vemi_alphacomp vemiAlphaComp, vemiAlphaCompC: one image laid over another
  *
  * With A and B an element of the two images, a and b the alphas of its pixel, and max the largest value of the type
@@ -2207,6 +2193,27 @@ enum {
  *     vemiAlphaCompC_8u_C3R(a, aStep, 64, b, bStep, 255, mix, mixStep, size, vemiAlphaOver);   // a quarter of a
  * @{
  */
+
+/**
+ * How two images are laid over each other, in terms of Porter and Duff (Compositing Digital Images, SIGGRAPH 1984). The
+ * first image is A, in front, the second is B. The first six take straight colours, which have not been multiplied by
+ * their alpha, the others premultiplied ones.
+ */
+typedef int vemiAlphaType;
+enum {
+  vemiAlphaOver = 0,       /**< A over B: A, and B where A lets it through */
+  vemiAlphaIn = 1,         /**< A in B: A where B covers */
+  vemiAlphaOut = 2,        /**< A out B: A where B does not cover */
+  vemiAlphaATop = 3,       /**< A atop B: A where B covers, and B where A lets it through */
+  vemiAlphaXor = 4,        /**< A xor B: each where the other does not cover */
+  vemiAlphaPlus = 5,       /**< A plus B: the sum */
+  vemiAlphaOverPremul = 6, /**< A over B, premultiplied */
+  vemiAlphaInPremul = 7,   /**< A in B, premultiplied */
+  vemiAlphaOutPremul = 8,  /**< A out B, premultiplied */
+  vemiAlphaATopPremul = 9, /**< A atop B, premultiplied */
+  vemiAlphaXorPremul = 10, /**< A xor B, premultiplied */
+  vemiAlphaPlusPremul = 11 /**< A plus B, premultiplied */
+};
 
 VEMI_API VemiStatus vemiAlphaComp_8u_AC1R(const Vemi8u* pSrc1, int src1Step, const Vemi8u* pSrc2, int src2Step,
                                           Vemi8u* pDst, int dstStep, VemiSize roiSize, vemiAlphaType alphaType);
@@ -2343,6 +2350,8 @@ VEMI_API VemiStatus vemiAlphaPremulC_16u_C4IR(Vemi16u alpha, Vemi16u* pSrcDst, i
 VEMI_API VemiStatus vemiAlphaPremulC_16u_AC4IR(Vemi16u alpha, Vemi16u* pSrcDst, int srcDstStep, VemiSize roiSize);
 VEMI_API VemiStatus vemiAlphaPremulC_16u_AP4IR(Vemi16u alpha, Vemi16u* const pSrcDst[4], int srcDstStep,
                                                VemiSize roiSize);
+
+/** @} */
 
 /** @} */
 

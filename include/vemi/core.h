@@ -13,6 +13,13 @@ extern "C" {
 #endif
 
 /**
+ * @defgroup vemi_core Memory, copies, fills, borders
+ *
+ * Images come to be, and move as they are.
+ * @{
+ */
+
+/**
  * @defgroup vemi_memory vemiMalloc, vemiFree: image memory
  *
  * vemiMalloc allocates an image whose rows all begin on 32-byte boundaries, and stores the step that belongs to it.
@@ -570,6 +577,8 @@ VEMI_API VemiStatus vemiCopyWrapBorder_32s_C1R(const Vemi32s* pSrc, int srcStep,
  */
 VEMI_API VemiStatus vemiCopyWrapBorder_32s_C1IR(Vemi32s* pSrc, int srcDstStep, VemiSize srcRoiSize, VemiSize dstRoiSize,
                                                 int topBorderHeight, int leftBorderWidth);
+
+/** @} */
 
 /** @} */
 

@@ -13,6 +13,13 @@ extern "C" {
 #endif
 
 /**
+ * @defgroup vemi_generate Generation
+ *
+ * Images to test with, noise that can be repeated, and windows.
+ * @{
+ */
+
+/**
  * @defgroup vemi_image_ramp vemiImageRamp: a linear ramp
  *
  *     pDst(x, y) = k * slope + offset        k = x            axis vemiRampHorizontal
@@ -368,6 +375,8 @@ VEMI_API VemiStatus vemiWinBartlettSep_8u_C1IR(Vemi8u* pSrcDst, int srcDstStep, 
 VEMI_API VemiStatus vemiWinBartlettSep_32f_C1IR(Vemi32f* pSrcDst, int srcDstStep, VemiSize roiSize);
 VEMI_API VemiStatus vemiWinHammingSep_8u_C1IR(Vemi8u* pSrcDst, int srcDstStep, VemiSize roiSize);
 VEMI_API VemiStatus vemiWinHammingSep_32f_C1IR(Vemi32f* pSrcDst, int srcDstStep, VemiSize roiSize);
+
+/** @} */
 
 /** @} */
 

@@ -12,6 +12,13 @@
 extern "C" {
 #endif
 
+/**
+ * @defgroup vemi_map Value mapping
+ *
+ * Each element of the result comes from one element of the source, by a rule for its value.
+ * @{
+ */
+
 /* ---- Other element types ----------------------------------------------------------------------------------------- */
 
 /**
@@ -1383,6 +1390,8 @@ VEMI_API VemiStatus vemiGammaInv_32f_AC4IR(Vemi32f* pSrcDst, int srcDstStep, Vem
                                            Vemi32f vMax);
 VEMI_API VemiStatus vemiGammaInv_32f_IP3R(Vemi32f* const pSrcDst[3], int srcDstStep, VemiSize roiSize, Vemi32f vMin,
                                           Vemi32f vMax);
+
+/** @} */
 
 /** @} */
 

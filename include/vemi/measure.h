@@ -13,6 +13,13 @@ extern "C" {
 #endif
 
 /**
+ * @defgroup vemi_measure Measurement
+ *
+ * Each call reads a region and stores a few numbers about it.
+ * @{
+ */
+
+/**
  * @defgroup vemi_reductions Reductions: what all of them share
  *
  * A reduction reads a region and stores a number for each channel:
@@ -968,6 +975,8 @@ VEMI_API VemiStatus vemiHistogramEven_16s_C4R(const Vemi16s* pSrc, int srcStep, 
 VEMI_API VemiStatus vemiHistogramEven_16s_AC4R(const Vemi16s* pSrc, int srcStep, VemiSize roiSize,
                                                Vemi32s* const pHist[3], Vemi32s* const pLevels[3], const int nLevels[3],
                                                const Vemi32s lowerLevel[3], const Vemi32s upperLevel[3]);
+
+/** @} */
 
 /** @} */
 
