@@ -24,6 +24,8 @@ h2 { margin: 3rem 0 0.2rem; font-size: 1.5rem; border-top: 1px solid var(--line)
 h3 { margin: 0; font-size: 1.05rem; }
 p { margin: 0.3rem 0 0; max-width: 75ch; }
 h2 + p, .lead { color: var(--soft); }
+a { color: var(--accent); text-decoration: none; }
+nav { display: flex; flex-wrap: wrap; gap: 0.2rem 1.4rem; margin-top: 1.2rem; }
 .grid { display: grid; grid-template-columns: repeat(auto-fill, minmax(min(100%, 400px), 1fr)); gap: 1.4rem;
         margin-top: 1.2rem; grid-auto-flow: dense; }
 figure { margin: 0; background: var(--card); border: 1px solid var(--line); border-radius: 10px; overflow: hidden;
@@ -120,12 +122,15 @@ Page::Page(std::filesystem::path folder) : folder_(std::move(folder)) {
   if (error) throw Failure("cannot make the folder " + folder_.string() + ": " + error.message());
 }
 
-void Page::lead(const std::string& text) { body_ << "<p class=\"lead\">" << escaped(text) << "</p>\n"; }
+void Page::lead(const std::string& text) { lead_ = text; }
 
 void Page::section(const std::string& title, const std::string& text) {
   if (inSection_) body_ << "</div></section>\n";
   inSection_ = true;
-  body_ << "<section><h2>" << escaped(title) << "</h2><p>" << escaped(text) << "</p>\n<div class=\"grid\">\n";
+  sections_++;
+  contents_ << "<a href=\"#" << sections_ << "\">" << escaped(title) << "</a>\n";
+  body_ << "<section id=\"" << sections_ << "\"><h2>" << escaped(title) << "</h2><p>" << escaped(text)
+        << "</p>\n<div class=\"grid\">\n";
 }
 
 void Page::show(const Image8u& picture, const std::string& title, const std::string& text,
@@ -165,7 +170,8 @@ std::filesystem::path Page::write() {
   html << "<!DOCTYPE html>\n<html lang=\"en\"><head><meta charset=\"utf-8\">\n"
           "<meta name=\"viewport\" content=\"width=device-width, initial-scale=1\">\n<title>Vemi, the demo</title>\n"
           "<style>"
-       << style << "</style></head>\n<body>\n<h1>Vemi</h1>\n"
+       << style << "</style></head>\n<body>\n<h1>Vemi</h1>\n<p class=\"lead\">" << escaped(lead_) << "</p>\n<nav>"
+       << contents_.str() << "</nav>\n"
        << body_.str() << "</body></html>\n";
   html.close();
   if (!html) throw Failure("cannot write " + path.string());

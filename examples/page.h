@@ -24,7 +24,7 @@ class Page {
   /// The line under the page's title.
   void lead(const std::string& text);
 
-  /// Starts a section, which all that follows belongs to.
+  /// Starts a section, which all that follows belongs to. The contents under the title link to it.
   void section(const std::string& title, const std::string& text);
 
   /// Writes the picture to a file named after its title, and shows it with a sentence and the calls that made it.
@@ -41,7 +41,10 @@ class Page {
 
  private:
   std::filesystem::path folder_;
+  std::string lead_;
+  std::ostringstream contents_;
   std::ostringstream body_;
+  int sections_ = 0;
   int pictures_ = 0;
   bool inSection_ = false;
 };
