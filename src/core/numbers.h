@@ -109,6 +109,19 @@ HWY_INLINE V roundTiesEven(D d, V value) {
   return hn::Add(down, hn::IfThenElseZero(up, hn::Set(d, 1.0f)));
 }
 
+/// Towards zero. A NaN and a value beyond 32 bits give the lowest integer; the lane library's conversion would mend
+/// large values, at twice the cost.
+template <class D, class V>
+HWY_INLINE hn::Vec<D> truncated(D, V v) {
+  if constexpr (sizeof v.raw == 16) return hn::Vec<D>{_mm_cvttps_epi32(v.raw)};
+#if HWY_TARGET <= HWY_AVX2
+  if constexpr (sizeof v.raw == 32) return hn::Vec<D>{_mm256_cvttps_epi32(v.raw)};
+#endif
+#if HWY_TARGET <= HWY_AVX3
+  if constexpr (sizeof v.raw == 64) return hn::Vec<D>{_mm512_cvttps_epi32(v.raw)};
+#endif
+}
+
 namespace detail {
 
 /// Its lower half is the nearest integer: at the size of 2^52 the last bit of a double counts ones.

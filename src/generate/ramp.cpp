@@ -7,8 +7,10 @@
 
 #include "core/alloc.h"
 #include "core/checks.h"
+#include "core/element_width.h"
 #include "core/image.h"
 #include "core/map_row.h"
+#include "core/numbers.h"
 #include "generate/grey_row.h"
 #include "vemi/generate.h"
 
@@ -16,69 +18,87 @@ namespace vemi {
 namespace {
 
 /// Halves away from zero and limited to T; half of one is added in single precision. A NaN is zero.
-template <class T, class D, class V>
-HWY_INLINE auto elementsOf(D d, V v) {
-  if constexpr (std::is_same_v<T, float>) {
-    return v;
+template <class T, class V>
+HWY_INLINE auto integersOf(V v) {
+  const hn::DFromV<V> d;
+  const hn::RebindToSigned<decltype(d)> di;
+  const auto isNumber = hn::Eq(v, v);
+  v = hn::Add(v, std::is_signed_v<T> ? hn::CopySign(hn::Set(d, 0.5f), v) : hn::Set(d, 0.5f));
+  if constexpr (sizeof(T) == 4) {
+    return hn::ConvertTo(di, hn::IfThenElseZero(isNumber, v));
   } else {
-    const hn::RebindToSigned<D> di;
-    const V magnified = hn::Add(v, hn::CopySign(hn::Set(d, 0.5f), v));
-    const auto integer = hn::ConvertTo(di, hn::IfThenElseZero(hn::Eq(v, v), magnified));
-    if constexpr (sizeof(T) == 4) {
-      return integer;
-    } else {  // narrowing to bytes, the lane library takes what 16 bits do not hold for negative
-      const auto limited = hn::Min(integer, hn::Set(di, std::numeric_limits<T>::max()));
-      return hn::DemoteTo(hn::Rebind<T, D>(), limited);
-    }
+    // What is too low becomes the lowest integer, which is packed to the lowest of T. So does a NaN: of an unordered
+    // pair the processor's minimum is the second.
+    const V limited = hn::Min(hn::Set(d, static_cast<float>(std::numeric_limits<T>::max())), v);
+    return truncated(di, std::is_signed_v<T> ? hn::IfThenElseZero(isNumber, limited) : limited);
   }
 }
 
 struct Ramp {
   float offset, slope;
 
-  /// The elements that belong to the k of the lanes.
-  template <class T, class D, class V>
-  HWY_INLINE auto at(D d, V k) const {
-    return elementsOf<T>(d, hn::Add(hn::Mul(k, hn::Set(d, slope)), hn::Set(d, offset)));
-  }
-
-  template <class T>
-  T at(ptrdiff_t k) const {
+  /// A vector of elements; kOf(d, n) is the n-th vector of their k.
+  template <class T, class KOf>
+  HWY_INLINE hn::Vec<Lanes<T>> elements(const KOf& kOf) const {
     const Lanes<float> d;
-    return hn::GetLane(at<T>(d, hn::Set(d, static_cast<float>(k))));
+    const auto value = [&](auto n)
+                           HWY_ATTR { return hn::Add(hn::Mul(kOf(d, n), hn::Set(d, slope)), hn::Set(d, offset)); };
+    if constexpr (std::is_same_v<T, float>) {
+      return value(0);
+    } else if constexpr (sizeof(T) == 4) {
+      return integersOf<T>(value(0));
+    } else {
+      return packEach<float>(Lanes<T>(), [&](auto n) HWY_ATTR { return integersOf<T>(value(n)); });
+    }
   }
 };
 
-/// Single-precision lanes of the columns from x on.
-template <class D>
-HWY_INLINE hn::Vec<D> columns(D d, ptrdiff_t x) {
-  const hn::RebindToSigned<D> di;
-  return hn::ConvertTo(d, hn::Iota(di, static_cast<int>(x)));
-}
+/// A row of products of columns and y, rounded once: as long as 32 bits hold them, integers.
+struct ShortProducts {
+  ptrdiff_t y;
 
-/// The products of columns and a row, rounded once.
-template <class D>
-HWY_INLINE hn::Vec<D> products(D d, ptrdiff_t x, ptrdiff_t y) {
-  const Lanes<double> dWide;
-  const hn::Half<D> dHalf;
-  const auto row = hn::Set(dWide, static_cast<double>(y));
-  const auto from = [&](ptrdiff_t first) HWY_ATTR {
-    return hn::DemoteTo(dHalf, hn::Mul(hn::Iota(dWide, static_cast<double>(first)), row));
-  };
-  return hn::Combine(d, from(x + laneCount<double>), from(x));
-}
+  template <class D>
+  HWY_INLINE hn::Vec<D> operator()(D d, ptrdiff_t x, ptrdiff_t n) const {
+    const hn::RebindToSigned<D> di;
+    const auto ofVector =
+        hn::Mul(hn::Iota(di, static_cast<int>(n * laneCount<float>)), hn::Set(di, static_cast<int>(y)));
+    return hn::ConvertTo(d, hn::Add(hn::Set(di, static_cast<int>(x * y)), ofVector));
+  }
+};
 
-/// A row of grey pixels; kOf(d, x) gives k of the columns from x on.
-template <class L, class T, class KOf>
-void drawRow(const Ramp& ramp, ptrdiff_t width, T* row, const KOf& kOf) {
-  const Lanes<float> d;
-  const hn::Rebind<T, decltype(d)> dElements;
-  GreyPiece<T> piece;
-  for (ptrdiff_t x = 0; x < width; x += greyPiece) {
-    const ptrdiff_t n = std::min(greyPiece, width - x);
-    for (ptrdiff_t i = 0; i < n; i += laneCount<float>) {
-      hn::StoreU(ramp.at<T>(d, kOf(d, x + i)), dElements, piece.value + i);
+struct LongProducts {
+  ptrdiff_t y;
+
+  template <class D>
+  HWY_INLINE hn::Vec<D> operator()(D d, ptrdiff_t x, ptrdiff_t n) const {
+    const Lanes<double> dWide;
+    const hn::Half<D> dHalf;
+    const auto from = [&](ptrdiff_t first) HWY_ATTR {
+      const auto columns = hn::Iota(dWide, static_cast<double>(first));
+      return hn::DemoteTo(dHalf, hn::Mul(columns, hn::Set(dWide, static_cast<double>(y))));
+    };
+    const ptrdiff_t first = x + n * laneCount<float>;
+    return hn::Combine(d, from(first + laneCount<double>), from(first));
+  }
+};
+
+/// A row of grey pixels. Single channels are drawn in their place, but for the last vector.
+template <class L, class T, class Products>
+void drawRow(const Ramp& ramp, ptrdiff_t width, T* row, Products products) {
+  const Lanes<T> d;
+  constexpr ptrdiff_t N = laneCount<T>;
+  const auto draw = [&](ptrdiff_t x, ptrdiff_t count, T* values) HWY_ATTR {
+    for (ptrdiff_t i = 0; i < count; i += N) {
+      const auto kOf = [&](auto dFloat, ptrdiff_t n) HWY_ATTR { return products(dFloat, x + i, n); };
+      hn::StoreU(ramp.elements<T>(kOf), d, values + i);
     }
+  };
+  const ptrdiff_t inPlace = L::elements == 1 ? width / N * N : 0;
+  draw(0, inPlace, row);
+  GreyPiece<T> piece;
+  for (ptrdiff_t x = inPlace; x < width; x += greyPiece) {
+    const ptrdiff_t n = std::min(greyPiece, width - x);
+    draw(x, n, piece.value);
     writeGrey<L>(n, piece.value, row + x * L::elements);
   }
 }
@@ -89,8 +109,7 @@ VemiStatus drawHorizontal(const Ramp& ramp, Image<T> dst, VemiSize roiSize) {
   const ptrdiff_t rowBytes = roiSize.width * pixelBytes<T, L>;
   T* const scratch = static_cast<T*>(alignedAllocBytes(rowBytes));
   if (scratch == nullptr) return vemiErrMemAlloc;
-  using Whole = Interleaved<L::elements>;
-  drawRow<Whole>(ramp, roiSize.width, scratch, [](auto d, ptrdiff_t x) HWY_ATTR { return columns(d, x); });
+  drawRow<Interleaved<L::elements>>(ramp, roiSize.width, scratch, ShortProducts{1});
   for (int y = 0; y < roiSize.height; ++y) {
     if constexpr (L::keepsAlpha) {
       mapRow<L>(roiSize.width, eachVector(Same()), dst.row(y), scratch);
@@ -105,7 +124,8 @@ VemiStatus drawHorizontal(const Ramp& ramp, Image<T> dst, VemiSize roiSize) {
 template <class L, class T>
 VemiStatus drawVertical(const Ramp& ramp, Image<T> dst, VemiSize roiSize) {
   for (int y = 0; y < roiSize.height; ++y) {
-    const T value = ramp.at<T>(y);
+    const auto kOf = [&](auto d, ptrdiff_t) HWY_ATTR { return hn::Set(d, static_cast<float>(y)); };
+    const T value = hn::GetLane(ramp.elements<T>(kOf));
     const T values[4] = {value, value, value, value};
     mapRow<L>(roiSize.width, constantPixel<L>(values), dst.row(y));
   }
@@ -114,8 +134,13 @@ VemiStatus drawVertical(const Ramp& ramp, Image<T> dst, VemiSize roiSize) {
 
 template <class L, class T>
 VemiStatus drawBoth(const Ramp& ramp, Image<T> dst, VemiSize roiSize) {
+  const bool areShort = (Vemi64s{roiSize.width} - 1) * (roiSize.height - 1) <= std::numeric_limits<int32_t>::max();
   for (int y = 0; y < roiSize.height; ++y) {
-    drawRow<L>(ramp, roiSize.width, dst.row(y), [=](auto d, ptrdiff_t x) HWY_ATTR { return products(d, x, y); });
+    if (areShort) {
+      drawRow<L>(ramp, roiSize.width, dst.row(y), ShortProducts{y});
+    } else {
+      drawRow<L>(ramp, roiSize.width, dst.row(y), LongProducts{y});
+    }
   }
   return vemiOk;
 }
