@@ -2,8 +2,8 @@
 // bits by a dither.
 
 #include <algorithm>
+#include <bit>
 #include <cstring>
-#include <utility>
 
 #include "core/alloc.h"
 #include "core/blocks.h"
@@ -66,63 +66,157 @@ VemiStatus expand(Image<const Vemi8u> src, int bitOffset, Image<Vemi8u> dst, Vem
 //
 // The filter of Stucki: what a pixel's bit leaves of its value goes, in 42 parts, to two pixels on the right and to
 // five in each of the next two rows. Values have 13 fraction bits, errors 3, and 23 / 1024 stands for 1 / 42.
+//
+// Each pixel waits for its left neighbour, so rows run side by side, one in each lane, every row some columns behind
+// the row above it, whose errors it needs. A step is one pixel of each row. Errors have at most 2047 of either sign.
 
-/// The errors of the row in work and of the two above, with two zeros at either end of each.
-struct Errors {
-  Vemi32s *twoAbove, *above, *current;
+class DitheredRows {
+  using D = hn::CappedTag<int32_t, 8>;
+  using V = hn::Vec<D>;
 
-  void nextRow() {
-    std::swap(twoAbove, above);
-    std::swap(above, current);
+ public:
+  static constexpr ptrdiff_t count = hn::MaxLanes(D());
+
+  DitheredRows(ptrdiff_t width, Vemi8u threshold) : width_(width), limit_(threshold * 8192) {}
+
+  Vemi64s scratchBytes() const {
+    const Vemi64s allSteps = Vemi64s{width_} + lastRowStep(0), slots = 2 * lag + allSteps + 1 + lastRowStep(0);
+    return slots * count * Vemi64s{sizeof(Vemi32s)} + (2 * count + 1) * (allSteps + 16) + 2 * 8;
   }
-};
 
-/// The weighted errors of one row above, around the pixel in the middle.
-inline Vemi32s weighted(const Vemi32s* e) { return e[-2] + 2 * e[-1] + 4 * e[0] + 2 * e[1] + e[2]; }
-
-/// What each pixel of the row has from its own value and from above.
-void gather(ptrdiff_t width, const Vemi8u* src, const Vemi32s* twoAbove, const Vemi32s* above,
-            Vemi32s* __restrict sum) {
-  for (ptrdiff_t i = 0; i < width; ++i) {
-    sum[i] = src[i] * 8192 + 23 * (weighted(twoAbove + i) + 2 * weighted(above + i));
+  void useScratch(void* scratch) {
+    std::memset(scratch, 0, static_cast<size_t>(scratchBytes()));
+    sums_ = static_cast<Vemi32s*>(scratch) + 2 * lag * count;
+    lines_ = reinterpret_cast<Vemi8u*>(sums_ + (steps() + 1 + lastRowStep(0)) * count);
+    pixels_ = lines_ + count * lineBytes();
+    bits_ = pixels_ + count * lineBytes() + 8;
   }
-}
 
-/// Decides the bits of a row from left to right. `error` holds the sums, and takes the errors.
-void decide(ptrdiff_t width, Vemi8u threshold, Vemi32s* error, Vemi8u* bits, int first) {
-  const Vemi32s limit = threshold * 8192;
-  unsigned byte = *bits >> (8 - first);  // the bits ahead of the row
-  int filled = first;
-  Vemi32s last = 0, lastButOne = 0;
-  for (ptrdiff_t i = 0; i < width; ++i) {
-    const Vemi32s value = error[i] + 23 * (4 * lastButOne + 8 * last);
-    const bool isSet = value > limit;
-    lastButOne = last;
-    error[i] = last = (value >> 10) - (isSet ? 2047 : 0);
-    byte = byte << 1 | isSet;
-    if (++filled == 8) {
-      *bits++ = static_cast<Vemi8u>(byte);
-      filled = 0;
+  /// The next rows, `count` of them unless the image ends.
+  void run(ptrdiff_t rows, Image<const Vemi8u> src, Image<Vemi8u> dst, int firstBit) {
+    for (ptrdiff_t row = 0; row < rows; ++row) {
+      std::memcpy(lines_ + row * lineBytes() + row * lag, src.row(row), static_cast<size_t>(width_));
+    }
+    interleaveLines();
+    decide();
+    for (ptrdiff_t row = 0; row < rows; ++row) writeBits(row, dst.row(row), firstBit);
+  }
+
+ private:
+  static constexpr ptrdiff_t lag = 7;  // columns from row to row; three are needed, but more let the rows overlap
+
+  ptrdiff_t width_;
+  Vemi32s limit_;
+  Vemi32s* sums_;   // for each step and row the weighted errors around the column that was decided two steps before
+  Vemi8u* lines_;   // the rows' pixels, each row `lag` steps behind the one above it
+  Vemi8u* pixels_;  // the same, those of a step side by side
+  Vemi8u* bits_;    // of each step, the first row in the lowest bit
+
+  /// The step that completes the sum around column x of the last row.
+  static constexpr ptrdiff_t lastRowStep(ptrdiff_t x) { return (count - 1) * lag + x + 2; }
+  ptrdiff_t steps() const { return lastRowStep(width_); }
+  ptrdiff_t lineBytes() const { return (steps() + 16) & -16; }
+
+  void interleaveLines() {
+    const hn::CappedTag<Vemi8u, 16> d;
+    for (ptrdiff_t i = 0; i < lineBytes(); i += 16) {
+      Vectors<hn::Vec<decltype(d)>, count> v;
+      unrolled<count>([&](auto row) HWY_ATTR { v.v[row] = hn::LoadU(d, lines_ + row * lineBytes() + i); });
+      unrolled<std::bit_width(size_t{count}) - 1>([&](auto) HWY_ATTR {
+        const auto halves = v;
+        unrolled<count / 2>([&](auto k) HWY_ATTR {
+          v.v[2 * k] = hn::InterleaveLower(d, halves.v[k], halves.v[k + count / 2]);
+          v.v[2 * k + 1] = hn::InterleaveUpper(d, halves.v[k], halves.v[k + count / 2]);
+        });
+      });
+      unrolled<count>([&](auto k) HWY_ATTR { hn::StoreU(v.v[k], d, pixels_ + i * count + 16 * k); });
     }
   }
-  const int behind = 8 - filled;
-  if (filled > 0) *bits = static_cast<Vemi8u>(byte << behind | (*bits & ((1u << behind) - 1)));
-}
+
+  /// sum + weight v, for v of 16 bits.
+  static HWY_INLINE V addWeighted(V sum, int weight, V v) {
+    const hn::Repartition<int16_t, D> dHalves;
+    V none = hn::Zero(D());
+    const V weights = hn::Set(D(), weight);
+    return hn::ReorderWidenMulAccumulate(D(), hn::BitCast(dHalves, v), hn::BitCast(dHalves, weights), sum, none);
+  }
+
+  /// The sums of step i around the columns that its lanes have arrived at, from `rows` rows above. Those of the first
+  /// lanes are of the rows that ran before, whose sums are still there.
+  template <int rows>
+  HWY_INLINE V sumsFromAbove(ptrdiff_t i) const {
+    const D d;
+    const V earlier = hn::Load(d, sums_ + (i + lastRowStep(0) - (rows - 1) * lag) * count);
+    const V own = hn::Load(d, sums_ + (i + 2 - rows * lag) * count);
+    const auto isEarlier = hn::Gt(hn::Iota(d, 0), hn::Set(d, int{count - rows - 1}));
+    const V place = hn::And(hn::Iota(d, int{count - rows}), hn::Set(d, int{count - 1}));
+    return hn::TableLookupLanes(hn::IfThenElse(isEarlier, earlier, own), hn::IndicesFromVec(d, place));
+  }
+
+  /// What step i has from its pixels and from the rows above.
+  HWY_INLINE V gathered(ptrdiff_t i) const {
+    const hn::Rebind<Vemi8u, D> dBytes;
+    V value = hn::ShiftLeft<13>(hn::PromoteTo(D(), hn::LoadU(dBytes, pixels_ + i * count)));
+    value = addWeighted(value, 2 * 23, sumsFromAbove<1>(i));
+    return addWeighted(value, 23, sumsFromAbove<2>(i));
+  }
+
+  /// The bits of all rows. From step to step there is one product and a sum: the product of the last value need not
+  /// wait for its bit, whose share in the error goes to the rest of the sum.
+  void decide() {
+    const D d;
+    const V limit = hn::Set(d, limit_);
+    const V columnOfLane = hn::Mul(hn::Iota(d, 0), hn::Set(d, -int{lag}));
+    V e1 = hn::Zero(d), e2 = e1, e3 = e1, e4 = e1;  // the latest errors, the last one first
+    V rest = gathered(0), fromLast = hn::Zero(d);
+    for (ptrdiff_t i = 0; i < steps(); ++i) {
+      const V value = hn::Add(rest, fromLast);
+      const auto isWhite = hn::Gt(value, limit);
+      hn::StoreMaskBits(d, isWhite, bits_ + i);
+      V white = hn::VecFromMask(d, isWhite), error = hn::ShiftRight<10>(value);
+      if (HWY_UNLIKELY(i < (count - 1) * lag || i >= width_)) {  // lanes beside their rows have no errors
+        const V column = hn::Add(hn::Set(d, static_cast<int>(i)), columnOfLane);
+        const auto isInside =
+            hn::AndNot(hn::Lt(column, hn::Zero(d)), hn::Lt(column, hn::Set(d, static_cast<int>(width_))));
+        white = hn::IfThenElseZero(isInside, white);
+        error = hn::IfThenElseZero(isInside, error);
+      }
+      fromLast = addWeighted(hn::Zero(d), 8 * 23, error);
+      rest = hn::Sub(addWeighted(gathered(i + 1), 4 * 23, e1), hn::And(white, hn::Set(d, 8 * 23 * 2047)));
+      error = hn::Sub(error, hn::And(white, hn::Set(d, 2047)));
+      const V others = hn::Add(hn::ShiftLeft<1>(hn::Add(hn::ShiftLeft<1>(e2), hn::Add(e1, e3))), e4);
+      hn::Store(hn::Add(others, error), d, sums_ + i * count);
+      e4 = e3, e3 = e2, e2 = e1, e1 = error;
+    }
+  }
+
+  /// A row's bits, the first pixel in the highest one. What the first and the last byte hold beside the row stays.
+  void writeBits(ptrdiff_t row, Vemi8u* dst, int firstBit) const {
+    const Vemi8u* const bits = bits_ + row * lag - firstBit;
+    const ptrdiff_t end = firstBit + width_;
+    for (ptrdiff_t x = 0; x < end; x += 8, ++dst) {
+      uint64_t ofSteps;
+      std::memcpy(&ofSteps, bits + x, 8);
+      const auto byte = static_cast<unsigned>((ofSteps >> row & 0x0101010101010101) * 0x8040201008040201 >> 56);
+      const unsigned ahead = x == 0 ? 0xff00u >> firstBit & 0xff : 0, behind = end - x < 8 ? 0xffu >> (end - x) : 0;
+      const unsigned kept = ahead | behind;
+      *dst = static_cast<Vemi8u>((byte & ~kept) | (*dst & kept));
+    }
+  }
+};
 
 /// Steps are not looked at: a single row needs none, and an image may lie bottom-up.
 VemiStatus dither(Image<const Vemi8u> src, Image<Vemi8u> dst, int bitOffset, VemiSize roiSize, Vemi8u threshold) {
   if (const VemiStatus bad = firstOf(checkNull(src, dst), checkSize(roiSize), checkBitOffset(bitOffset))) return bad;
-  const ptrdiff_t width = roiSize.width;
-  const Vemi64s lineElements = Vemi64s{width} + 4, bytes = 3 * lineElements * Vemi64s{sizeof(Vemi32s)};
-  auto* const lines = static_cast<Vemi32s*>(alignedAllocBytes(bytes));
-  if (lines == nullptr) return vemiErrMemAlloc;
-  std::memset(lines, 0, static_cast<size_t>(bytes));
-  Errors errors = {lines + 2, lines + 2 + lineElements, lines + 2 + 2 * lineElements};
-  for (ptrdiff_t y = 0; y < roiSize.height; ++y, errors.nextRow()) {
-    gather(width, src.row(y), errors.twoAbove, errors.above, errors.current);
-    decide(width, threshold, errors.current, dst.row(y), bitOffset % 8);
+  DitheredRows rows(roiSize.width, threshold);
+  void* const scratch = alignedAllocBytes(rows.scratchBytes());
+  if (scratch == nullptr) return vemiErrMemAlloc;
+  rows.useScratch(scratch);
+  for (ptrdiff_t y = 0; y < roiSize.height; y += DitheredRows::count) {
+    const ptrdiff_t count = std::min(DitheredRows::count, roiSize.height - y);
+    rows.run(count, {src.row(y), src.step}, {dst.row(y), dst.step}, bitOffset % 8);
   }
-  vemiAlignedFree(lines);
+  vemiAlignedFree(scratch);
   return vemiOk;
 }
 

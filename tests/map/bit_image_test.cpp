@@ -68,12 +68,17 @@ void dithered(Call& call) {
   }
 }
 
-/// The dither of an image of one value, as a vector of bits.
-std::vector<bool> ditherOfConstant(VemiSize size, Vemi8u value, Vemi8u threshold) {
-  const std::vector<Vemi8u> source(static_cast<size_t>(size.width * size.height), value);
+/// What the library makes of an image of bytes.
+template <class Pixel>
+std::vector<bool> libraryDither(VemiSize size, int threshold, const Pixel& pixel) {
+  std::vector<Vemi8u> source;
+  for (int y = 0; y < size.height; ++y) {
+    for (int x = 0; x < size.width; ++x) source.push_back(static_cast<Vemi8u>(pixel(x, y)));
+  }
   const int step = (size.width + 7) / 8;
   std::vector<Vemi1u> bits(static_cast<size_t>(step * size.height));
-  EXPECT_EQ(vemiConvert_8u1u_C1R(source.data(), size.width, bits.data(), step, 0, size, threshold), vemiOk);
+  EXPECT_EQ(vemiConvert_8u1u_C1R(source.data(), size.width, bits.data(), step, 0, size, static_cast<Vemi8u>(threshold)),
+            vemiOk);
   std::vector<bool> result;
   for (int y = 0; y < size.height; ++y) {
     for (int x = 0; x < size.width; ++x) {
@@ -102,16 +107,30 @@ TEST(BitImage, OffsetsCountModulo8) {
 }
 
 TEST(BitImage, DitherOfConstants) {
+  const auto expectDither = [](VemiSize size, int threshold, int value) {
+    const auto pixel = [=](int, int) { return value; };
+    EXPECT_EQ(libraryDither(size, threshold, pixel), ditherOf(size, threshold, pixel)) << value << ", " << threshold;
+  };
   for (const int threshold : {0, 1, 127, 128, 254, 255}) {
-    for (int value = 0; value < 256; value += 5) {
-      EXPECT_EQ(ditherOfConstant({60, 7}, static_cast<Vemi8u>(value), static_cast<Vemi8u>(threshold)),
-                ditherOf({60, 7}, threshold, [&](int, int) { return value; }))
-          << "value " << value << ", threshold " << threshold;
-    }
+    for (int value = 0; value < 256; value += 5) expectDither({60, 7}, threshold, value);
   }
-  const std::vector<bool> zeros = ditherOfConstant({60, 7}, 0, 0), first = ditherOfConstant({60, 1}, 255, 254);
+  const auto zeros = libraryDither({60, 7}, 0, [](int, int) { return 0; });
+  const auto first = libraryDither({60, 1}, 254, [](int, int) { return 255; });
   EXPECT_EQ(std::count(zeros.begin(), zeros.end(), true), 0);
   EXPECT_EQ(std::count(first.begin(), first.end(), true), 60);
+}
+
+// Rows run side by side: images of fewer rows than that and of a few more, narrower than the distance between rows.
+TEST(BitImage, DitherOfAnySize) {
+  const auto pixel = [](int x, int y) { return static_cast<int>((x * 2654435761u + y * 2246822519u) >> 13 & 255); };
+  for (const int width : {1, 2, 3, 6, 7, 8, 15, 16, 17, 48, 49, 50, 51, 300}) {
+    for (int height = 1; height < 20; ++height) {
+      for (const int threshold : {0, 100, 255}) {
+        const VemiSize size = {width, height};
+        EXPECT_EQ(libraryDither(size, threshold, pixel), ditherOf(size, threshold, pixel)) << width << 'x' << height;
+      }
+    }
+  }
 }
 
 TEST(BitImage, DitherLeavesStepsToTheCaller) {
