@@ -134,7 +134,8 @@ class RadialRow {
       : width_(roiSize.width), cx_(0.5 * roiSize.width), cy_(0.5 * roiSize.height), begin_((width_ + 1) / 2) {}
 
   Vemi64s scratchBytes() const {
-    return Vemi64s{sizeof(Weight)} * (width_ + slack + half() + slack) + Vemi64s{sizeof(int32_t)} * (width_ + slack);
+    const Vemi64s columns = Vemi64s{width_} + slack;
+    return Vemi64s{sizeof(Weight)} * (columns + half() + slack) + Vemi64s{sizeof(int32_t)} * columns;
   }
 
   void useScratch(void* scratch) {
