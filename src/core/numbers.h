@@ -25,6 +25,14 @@ constexpr T saturate(Wide value) {
 
 // ---- Scaling by a power of two ------------------------------------------------------------------------------------
 
+/// 2^exponent, where that is a normal number.
+template <class Float>
+constexpr Float powerOfTwo(int exponent) {
+  using Bits = std::conditional_t<sizeof(Float) == 4, std::uint32_t, std::uint64_t>;
+  using Limits = std::numeric_limits<Float>;
+  return std::bit_cast<Float>(static_cast<Bits>(exponent + Limits::max_exponent - 1) << (Limits::digits - 1));
+}
+
 /// value / 2^shift to nearest, ties to even; 0 < shift < bits of the type.
 template <class T>
 constexpr T roundShift(T value, int shift) {

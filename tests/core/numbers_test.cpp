@@ -126,6 +126,15 @@ int64_t exactRoundShift(int64_t value, int shift) {
   return quotient;
 }
 
+TEST(PowerOfTwo, IsExactOverTheNormalNumbers) {
+  for (int exponent = -126; exponent <= 127; ++exponent) {
+    EXPECT_EQ(powerOfTwo<float>(exponent), std::ldexp(1.0f, exponent));
+  }
+  for (const int exponent : {-1022, -64, 0, 1, 64, 1023}) {
+    EXPECT_EQ(powerOfTwo<double>(exponent), std::ldexp(1.0, exponent));
+  }
+}
+
 TEST(RoundShift, RoundsToNearestTiesToEven) {
   forTypes<int8_t, uint8_t, int16_t, uint16_t, int32_t, uint32_t>([](auto type) {
     using T = decltype(type);
