@@ -40,6 +40,14 @@ VemiStatus withRounding(Rounding rounding, const F& f) {
   return status;
 }
 
+/// f(), a status, while lanes and SSE scalars round to nearest. Where the caller has set that, as nearly all have, the
+/// control word is only read: exceptions and flags are as the caller wants them.
+template <class F>
+VemiStatus roundingToNearest(const F& f) {
+  if ((_mm_getcsr() & _MM_ROUND_MASK) == _MM_ROUND_NEAREST) return f();
+  return withRounding(Rounding::nearest, f);
+}
+
 /// Within withRounding: whether an operation so far had no valid result. So a fast kernel runs without looking at its
 /// values, and where one was beyond it, all are computed again with care.
 inline bool metInvalid() { return (_mm_getcsr() & _MM_EXCEPT_INVALID) != 0; }
