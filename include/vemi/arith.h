@@ -144,8 +144,8 @@ VEMI_API VemiStatus vemiAdd_32f_AC4IR(const Vemi32f* pSrc, int srcStep, Vemi32f*
  *
  * **Statuses**, in the order of the tests: null (the array of constants among the pointers), size, step.
  *
- * **Threads.** The C1 and C3 forms, and vemiAddC_32f_AC4IR, may share out the rows among an OpenMP team; C1 forms keep
- * small regions in the calling thread by the rule of vemiAdd. The other forms always run in the calling thread.
+ * **Threads.** The C1 and C3 forms, and vemiAddC_32f_AC4IR, may share out the rows among an OpenMP team; these forms
+ * keep small regions in the calling thread by the rule of vemiAdd. The other forms always run in the calling thread.
  *
  *     vemiAddC_8u_C1IRSfs(40, image, step, size, 0);                    // brighter by 40, white stays white
  *     const Vemi32f offset[3] = {0.1f, 0.0f, -0.1f};

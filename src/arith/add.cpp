@@ -2,6 +2,7 @@
 // Checks: null, size, step; the C3 and C4 forms of integer vemiAdd look at the width first.
 
 #include "arith/add_sub.h"
+#include "arith/plain.h"
 #include "arith/scaled_arithmetic.h"
 #include "core/exports.h"
 #include "vemi/arith.h"
@@ -18,18 +19,13 @@ struct Addition {
     withScaledTerms<SumTerms, T>(scaleFactor, f);
   }
 
-  struct Float {
-    template <class D, class V>
-    HWY_INLINE V operator()(D, V a, V b) const {
-      return hn::Add(a, b);
-    }
-  };
+  using Float = PlainSum;
 
   /// An unsigned sum with a constant is not zero; scaled up by the bits of an element it saturates.
   template <class T>
-  static Answer settle(T value, int scaleFactor) {
-    if (value == 0) return scaleFactor == 0 ? Answer::source : Answer::computed;
-    return std::is_unsigned_v<T> && scaleFactor <= -8 ? Answer::highest : Answer::computed;
+  static Result resultOf(T value, int scaleFactor) {
+    if (value == 0) return scaleFactor == 0 ? Result::source : Result::computed;
+    return std::is_unsigned_v<T> && scaleFactor <= -8 ? Result::highest : Result::computed;
   }
 };
 

@@ -1,5 +1,4 @@
-// What compositing and premultiplication share: products with an alpha, and the alpha channel of pixels in lanes. An
-// alpha is a fraction of its type's largest value, which stands for one.
+// What compositing and premultiplication share: the alpha channel of pixels in lanes, as fractions of the full scale.
 #pragma once
 
 #include <cstddef>
@@ -11,25 +10,6 @@
 
 namespace vemi {
 
-/// An alpha in each lane, made ready to be a factor. Of bytes, each twice: those of the even lanes, and those of the
-/// odd ones. Wider lanes stand in `odd` alone.
-template <class V>
-struct Fraction {
-  V even, odd;
-};
-
-template <class D, class V>
-HWY_INLINE Fraction<V> fraction(D d, V alpha) {
-  if constexpr (sizeof(hn::TFromD<D>) > 1) {
-    return {alpha, alpha};
-  } else {
-    const hn::RepartitionToWide<D> dWide;
-    const auto pairs = hn::BitCast(dWide, alpha);
-    return {hn::OddEven(hn::BitCast(d, hn::ShiftLeft<8>(pairs)), alpha),
-            hn::OddEven(alpha, hn::BitCast(d, hn::ShiftRight<8>(pairs)))};
-  }
-}
-
 template <class V>
 HWY_INLINE Fraction<V> operator^(Fraction<V> fraction, V mask) {
   return {hn::Xor(fraction.even, mask), hn::Xor(fraction.odd, mask)};
@@ -38,30 +18,6 @@ HWY_INLINE Fraction<V> operator^(Fraction<V> fraction, V mask) {
 template <class D, class V>
 HWY_INLINE Fraction<V> complement(D d, Fraction<V> fraction) {
   return fraction ^ hn::Set(d, std::numeric_limits<hn::TFromD<D>>::max());
-}
-
-/// floor(x alpha / 255) in the odd bytes, from x in the odd bytes and alpha in both of a pair. It is the upper byte of
-/// (256 x + 1) (257 alpha) / 2^16; what the even bytes hold does not matter.
-template <class D, class V>
-HWY_INLINE V timesOdd8(D d, V x, V alpha) {
-  const hn::RepartitionToWide<D> dWide;
-  const V xAndOne = hn::OddEven(x, hn::Set(d, 1));
-  return hn::BitCast(d, hn::MulHigh(hn::BitCast(dWide, xAndOne), hn::BitCast(dWide, alpha)));
-}
-
-/// x times one fraction after the other, each product rounded down by itself.
-template <class D, class V, class... Factor>
-HWY_INLINE V product(D d, V x, Factor... fraction) {
-  if constexpr (sizeof(hn::TFromD<D>) > 1) {
-    ((x = fullScaleProduct16(x, fraction.odd)), ...);
-    return x;
-  } else {
-    const hn::RepartitionToWide<D> dWide;
-    V even = hn::BitCast(d, hn::ShiftLeft<8>(hn::BitCast(dWide, x)));
-    ((even = timesOdd8(d, even, fraction.even)), ...);
-    ((x = timesOdd8(d, x, fraction.odd)), ...);
-    return hn::OddEven(x, hn::BitCast(d, hn::ShiftRight<8>(hn::BitCast(dWide, even))));
-  }
 }
 
 /// For withConstants: the alpha lanes of four-channel pixels.

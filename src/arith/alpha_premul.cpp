@@ -3,7 +3,7 @@
 // Checks: null, size, step.
 
 #include "arith/alpha.h"
-#include "arith/settled.h"
+#include "arith/whole_region.h"
 #include "core/checks.h"
 #include "core/exports.h"
 #include "core/map_region.h"
@@ -28,14 +28,24 @@ struct TimesAlpha {
   }
 };
 
-/// Lanes of `ones` count as one, so that they get the constant itself.
 template <class T>
 struct TimesConstant {
   T alpha;
 
   template <class D, class V>
-  HWY_INLINE V operator()(D d, V elements, V ones) const {
-    return product(d, hn::Or(elements, ones), fraction(d, hn::Set(d, alpha)));
+  HWY_INLINE V operator()(D d, V elements) const {
+    return product(d, elements, fraction(d, hn::Set(d, alpha)));
+  }
+};
+
+/// Of four-channel pixels. An alpha counts as one, so that it becomes the constant itself.
+template <class T>
+struct PixelsTimesConstant {
+  T alpha;
+
+  template <class D, class V>
+  HWY_INLINE V operator()(D d, V pixels, V alphaLanes) const {
+    return TimesConstant<T>{alpha}(d, hn::Or(pixels, alphaLanes));
   }
 };
 
@@ -59,34 +69,28 @@ VemiStatus premultiplyPlanes(Planes<const T, 4> src, Planes<T, 4> dst, VemiSize 
   return vemiOk;
 }
 
-/// The element-wise product is the same for all layouts.
-template <class T, class L>
-void timesConstant(Image<const T> src, T alpha, const T* ones, Image<T> dst, VemiSize roiSize) {
-  mapRegion<L>(CallerRows(), roiSize, withConstants<C4>(TimesConstant<T>{alpha}, ones), dst, src);
-}
-
-template <class T>
-inline constexpr T noLanes[4] = {};
-
 template <class T, class L>
 VemiStatus premultiplyC(Image<const T> src, const T* alpha, Image<T> dst, VemiSize roiSize) {
   if (const VemiStatus bad = firstOf(checkNull(src, dst), checkSize(roiSize), checkStep(src, dst))) return bad;
-  timesConstant<T, L>(src, *alpha, noLanes<T>, dst, roiSize);
+  mapRegion<L>(CallerRows(), roiSize, eachVector(TimesConstant<T>{*alpha}), dst, src);
   return vemiOk;
 }
 
 template <class T>
 VemiStatus premultiplyPixelsC(Image<const T> src, const T* alpha, Image<T> dst, VemiSize roiSize) {
   if (const VemiStatus bad = firstOf(checkNull(src, dst), checkSize(roiSize), checkStep(src, dst))) return bad;
-  timesConstant<T, C4>(src, *alpha, alphaLanes<T>, dst, roiSize);
+  const PixelsTimesConstant<T> op = {*alpha};
+  mapRegion<C4>(CallerRows(), roiSize, withConstants<C4>(op, alphaLanes<T>), dst, src);
   return vemiOk;
 }
 
 template <class T>
-VemiStatus premultiplyPlanesC(Planes<const T, 4> src, const T* alpha, Planes<T, 4> dst, VemiSize roiSize) {
+VemiStatus premultiplyPlanesC(Planes<const T, 4> src, T alpha, Planes<T, 4> dst, VemiSize roiSize) {
   if (const VemiStatus bad = firstOf(checkNull(src, dst), checkSize(roiSize), checkStep(src, dst))) return bad;
-  for (int c = 0; c < 3; ++c) timesConstant<T, C1>(src[c], *alpha, noLanes<T>, dst[c], roiSize);
-  return fillRegion<T, C1>(*alpha, dst[3], roiSize);
+  for (int c = 0; c < 3; ++c) {
+    mapRegion<C1>(CallerRows(), roiSize, eachVector(TimesConstant<T>{alpha}), dst[c], src[c]);
+  }
+  return fillRegion<T, C1>(alpha, dst[3], roiSize);
 }
 
 }  // namespace
@@ -95,15 +99,15 @@ VemiStatus premultiplyPlanesC(Planes<const T, 4> src, const T* alpha, Planes<T, 
 using namespace vemi;
 
 // Planes and a constant; in place, the source is the destination.
-#define VEMI_PLANES_VALUE_PLANES(name, T, planes, ...)                                                             \
-  VemiStatus name(const T* const pSrc[planes], int srcStep, T value, T* const pDst[planes], int dstStep,           \
-                  VemiSize roiSize) {                                                                              \
-    return __VA_ARGS__(Planes<const T, planes>{pSrc, srcStep}, &value, Planes<T, planes>{pDst, dstStep}, roiSize); \
+#define VEMI_PLANES_VALUE_PLANES(name, T, planes, ...)                                                            \
+  VemiStatus name(const T* const pSrc[planes], int srcStep, T value, T* const pDst[planes], int dstStep,          \
+                  VemiSize roiSize) {                                                                             \
+    return __VA_ARGS__(Planes<const T, planes>{pSrc, srcStep}, value, Planes<T, planes>{pDst, dstStep}, roiSize); \
   }
-#define VEMI_VALUE_PLANES_SRCDST(name, T, planes, ...)                                                               \
-  VemiStatus name(T value, T* const pSrcDst[planes], int srcDstStep, VemiSize roiSize) {                             \
-    return __VA_ARGS__(Planes<const T, planes>{pSrcDst, srcDstStep}, &value, Planes<T, planes>{pSrcDst, srcDstStep}, \
-                       roiSize);                                                                                     \
+#define VEMI_VALUE_PLANES_SRCDST(name, T, planes, ...)                                                              \
+  VemiStatus name(T value, T* const pSrcDst[planes], int srcDstStep, VemiSize roiSize) {                            \
+    return __VA_ARGS__(Planes<const T, planes>{pSrcDst, srcDstStep}, value, Planes<T, planes>{pSrcDst, srcDstStep}, \
+                       roiSize);                                                                                    \
   }
 
 VEMI_SRC_DST(vemiAlphaPremul_8u_AC4R, Vemi8u, premultiply)

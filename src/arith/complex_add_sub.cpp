@@ -2,13 +2,14 @@
 
 #include "arith/add_sub.h"
 #include "arith/complex_arithmetic.h"
+#include "arith/plain.h"
 #include "core/exports.h"
 #include "vemi/arith.h"
 
 namespace vemi {
 namespace {
 
-template <class Terms, class FloatTerms>
+template <class Terms, class PlainTerms>
 struct OfParts {
   template <class C>
   static constexpr int largestScale = Terms::template largestScale<PartOf<C>>;
@@ -19,111 +20,97 @@ struct OfParts {
     return withScaledTerms<Terms, PartOf<C>>(scaleFactor, withParts);
   }
 
-  using Float = OnParts<Vemi32f, FloatTerms>;
+  using Float = OnParts<Vemi32f, PlainTerms>;
 };
 
-struct FloatSum {
-  template <class D, class V>
-  HWY_INLINE V operator()(D, V a, V b) const {
-    return hn::Add(a, b);
-  }
-};
-
-struct FloatDifference {
-  template <class D, class V>
-  HWY_INLINE V operator()(D, V a, V b) const {
-    return hn::Sub(a, b);
-  }
-};
-
-using Sum = OfParts<SumTerms, FloatSum>;
-using Difference = OfParts<DifferenceTerms, FloatDifference>;
+using Addition = OfParts<SumTerms, PlainSum>;
+using Subtraction = OfParts<DifferenceTerms, PlainDifference>;
 
 }  // namespace
 }  // namespace vemi
 
 using namespace vemi;
 
-VEMI_2SRC_DST_SFS(vemiAdd_16sc_C1RSfs, Vemi16sc, scaledComplex<Sum, Vemi16sc, C1>)
-VEMI_2SRC_DST_SFS(vemiAdd_16sc_C3RSfs, Vemi16sc, scaledComplex<Sum, Vemi16sc, C3>)
-VEMI_2SRC_DST_SFS(vemiAdd_16sc_AC4RSfs, Vemi16sc, scaledComplex<Sum, Vemi16sc, AC4>)
-VEMI_SRC_SRCDST_SFS(vemiAdd_16sc_C1IRSfs, Vemi16sc, scaledComplex<Sum, Vemi16sc, C1>)
-VEMI_SRC_SRCDST_SFS(vemiAdd_16sc_C3IRSfs, Vemi16sc, scaledComplex<Sum, Vemi16sc, C3>)
-VEMI_SRC_SRCDST_SFS(vemiAdd_16sc_AC4IRSfs, Vemi16sc, scaledComplex<Sum, Vemi16sc, AC4>)
+VEMI_2SRC_DST_SFS(vemiAdd_16sc_C1RSfs, Vemi16sc, scaledComplex<Addition, Vemi16sc, C1>)
+VEMI_2SRC_DST_SFS(vemiAdd_16sc_C3RSfs, Vemi16sc, scaledComplex<Addition, Vemi16sc, C3>)
+VEMI_2SRC_DST_SFS(vemiAdd_16sc_AC4RSfs, Vemi16sc, scaledComplex<Addition, Vemi16sc, AC4>)
+VEMI_SRC_SRCDST_SFS(vemiAdd_16sc_C1IRSfs, Vemi16sc, scaledComplex<Addition, Vemi16sc, C1>)
+VEMI_SRC_SRCDST_SFS(vemiAdd_16sc_C3IRSfs, Vemi16sc, scaledComplex<Addition, Vemi16sc, C3>)
+VEMI_SRC_SRCDST_SFS(vemiAdd_16sc_AC4IRSfs, Vemi16sc, scaledComplex<Addition, Vemi16sc, AC4>)
 
-VEMI_2SRC_DST_SFS(vemiAdd_32sc_C1RSfs, Vemi32sc, scaledComplex<Sum, Vemi32sc, C1>)
-VEMI_2SRC_DST_SFS(vemiAdd_32sc_C3RSfs, Vemi32sc, scaledComplex<Sum, Vemi32sc, C3>)
-VEMI_2SRC_DST_SFS(vemiAdd_32sc_AC4RSfs, Vemi32sc, scaledComplex<Sum, Vemi32sc, AC4>)
-VEMI_SRC_SRCDST_SFS(vemiAdd_32sc_C1IRSfs, Vemi32sc, scaledComplex<Sum, Vemi32sc, C1>)
-VEMI_SRC_SRCDST_SFS(vemiAdd_32sc_C3IRSfs, Vemi32sc, scaledComplex<Sum, Vemi32sc, C3>)
-VEMI_SRC_SRCDST_SFS(vemiAdd_32sc_AC4IRSfs, Vemi32sc, scaledComplex<Sum, Vemi32sc, AC4>)
+VEMI_2SRC_DST_SFS(vemiAdd_32sc_C1RSfs, Vemi32sc, scaledComplex<Addition, Vemi32sc, C1>)
+VEMI_2SRC_DST_SFS(vemiAdd_32sc_C3RSfs, Vemi32sc, scaledComplex<Addition, Vemi32sc, C3>)
+VEMI_2SRC_DST_SFS(vemiAdd_32sc_AC4RSfs, Vemi32sc, scaledComplex<Addition, Vemi32sc, AC4>)
+VEMI_SRC_SRCDST_SFS(vemiAdd_32sc_C1IRSfs, Vemi32sc, scaledComplex<Addition, Vemi32sc, C1>)
+VEMI_SRC_SRCDST_SFS(vemiAdd_32sc_C3IRSfs, Vemi32sc, scaledComplex<Addition, Vemi32sc, C3>)
+VEMI_SRC_SRCDST_SFS(vemiAdd_32sc_AC4IRSfs, Vemi32sc, scaledComplex<Addition, Vemi32sc, AC4>)
 
-VEMI_2SRC_DST(vemiAdd_32fc_C1R, Vemi32fc, plainComplex<Sum, C1>)
-VEMI_2SRC_DST(vemiAdd_32fc_C3R, Vemi32fc, plainComplex<Sum, C3>)
-VEMI_2SRC_DST(vemiAdd_32fc_AC4R, Vemi32fc, plainComplex<Sum, AC4>)
-VEMI_SRC_SRCDST(vemiAdd_32fc_C1IR, Vemi32fc, plainComplex<Sum, C1>)
-VEMI_SRC_SRCDST(vemiAdd_32fc_C3IR, Vemi32fc, plainComplex<Sum, C3>)
-VEMI_SRC_SRCDST(vemiAdd_32fc_AC4IR, Vemi32fc, plainComplex<Sum, AC4>)
+VEMI_2SRC_DST(vemiAdd_32fc_C1R, Vemi32fc, plainComplex<Addition, C1>)
+VEMI_2SRC_DST(vemiAdd_32fc_C3R, Vemi32fc, plainComplex<Addition, C3>)
+VEMI_2SRC_DST(vemiAdd_32fc_AC4R, Vemi32fc, plainComplex<Addition, AC4>)
+VEMI_SRC_SRCDST(vemiAdd_32fc_C1IR, Vemi32fc, plainComplex<Addition, C1>)
+VEMI_SRC_SRCDST(vemiAdd_32fc_C3IR, Vemi32fc, plainComplex<Addition, C3>)
+VEMI_SRC_SRCDST(vemiAdd_32fc_AC4IR, Vemi32fc, plainComplex<Addition, AC4>)
 
-VEMI_SRC_VALUE_DST_SFS(vemiAddC_16sc_C1RSfs, Vemi16sc, scaledComplexC<Sum, Vemi16sc, C1>)
-VEMI_SRC_VALUES_DST_SFS(vemiAddC_16sc_C3RSfs, Vemi16sc, scaledComplexC<Sum, Vemi16sc, C3>)
-VEMI_SRC_VALUES_DST_SFS(vemiAddC_16sc_AC4RSfs, Vemi16sc, scaledComplexC<Sum, Vemi16sc, AC4>)
-VEMI_VALUE_SRCDST_SFS(vemiAddC_16sc_C1IRSfs, Vemi16sc, scaledComplexC<Sum, Vemi16sc, C1>)
-VEMI_VALUES_SRCDST_SFS(vemiAddC_16sc_C3IRSfs, Vemi16sc, scaledComplexC<Sum, Vemi16sc, C3>)
-VEMI_VALUES_SRCDST_SFS(vemiAddC_16sc_AC4IRSfs, Vemi16sc, scaledComplexC<Sum, Vemi16sc, AC4>)
+VEMI_SRC_VALUE_DST_SFS(vemiAddC_16sc_C1RSfs, Vemi16sc, scaledComplexC<Addition, Vemi16sc, C1>)
+VEMI_SRC_VALUES_DST_SFS(vemiAddC_16sc_C3RSfs, Vemi16sc, scaledComplexC<Addition, Vemi16sc, C3>)
+VEMI_SRC_VALUES_DST_SFS(vemiAddC_16sc_AC4RSfs, Vemi16sc, scaledComplexC<Addition, Vemi16sc, AC4>)
+VEMI_VALUE_SRCDST_SFS(vemiAddC_16sc_C1IRSfs, Vemi16sc, scaledComplexC<Addition, Vemi16sc, C1>)
+VEMI_VALUES_SRCDST_SFS(vemiAddC_16sc_C3IRSfs, Vemi16sc, scaledComplexC<Addition, Vemi16sc, C3>)
+VEMI_VALUES_SRCDST_SFS(vemiAddC_16sc_AC4IRSfs, Vemi16sc, scaledComplexC<Addition, Vemi16sc, AC4>)
 
-VEMI_SRC_VALUE_DST_SFS(vemiAddC_32sc_C1RSfs, Vemi32sc, scaledComplexC<Sum, Vemi32sc, C1>)
-VEMI_SRC_VALUES_DST_SFS(vemiAddC_32sc_C3RSfs, Vemi32sc, scaledComplexC<Sum, Vemi32sc, C3>)
-VEMI_SRC_VALUES_DST_SFS(vemiAddC_32sc_AC4RSfs, Vemi32sc, scaledComplexC<Sum, Vemi32sc, AC4>)
-VEMI_VALUE_SRCDST_SFS(vemiAddC_32sc_C1IRSfs, Vemi32sc, scaledComplexC<Sum, Vemi32sc, C1>)
-VEMI_VALUES_SRCDST_SFS(vemiAddC_32sc_C3IRSfs, Vemi32sc, scaledComplexC<Sum, Vemi32sc, C3>)
-VEMI_VALUES_SRCDST_SFS(vemiAddC_32sc_AC4IRSfs, Vemi32sc, scaledComplexC<Sum, Vemi32sc, AC4>)
+VEMI_SRC_VALUE_DST_SFS(vemiAddC_32sc_C1RSfs, Vemi32sc, scaledComplexC<Addition, Vemi32sc, C1>)
+VEMI_SRC_VALUES_DST_SFS(vemiAddC_32sc_C3RSfs, Vemi32sc, scaledComplexC<Addition, Vemi32sc, C3>)
+VEMI_SRC_VALUES_DST_SFS(vemiAddC_32sc_AC4RSfs, Vemi32sc, scaledComplexC<Addition, Vemi32sc, AC4>)
+VEMI_VALUE_SRCDST_SFS(vemiAddC_32sc_C1IRSfs, Vemi32sc, scaledComplexC<Addition, Vemi32sc, C1>)
+VEMI_VALUES_SRCDST_SFS(vemiAddC_32sc_C3IRSfs, Vemi32sc, scaledComplexC<Addition, Vemi32sc, C3>)
+VEMI_VALUES_SRCDST_SFS(vemiAddC_32sc_AC4IRSfs, Vemi32sc, scaledComplexC<Addition, Vemi32sc, AC4>)
 
-VEMI_SRC_VALUE_DST(vemiAddC_32fc_C1R, Vemi32fc, plainComplexC<Sum, C1>)
-VEMI_SRC_VALUES_DST(vemiAddC_32fc_C3R, Vemi32fc, plainComplexC<Sum, C3>)
-VEMI_SRC_VALUES_DST(vemiAddC_32fc_AC4R, Vemi32fc, plainComplexC<Sum, AC4>)
-VEMI_VALUE_SRCDST(vemiAddC_32fc_C1IR, Vemi32fc, plainComplexC<Sum, C1>)
-VEMI_VALUES_SRCDST(vemiAddC_32fc_C3IR, Vemi32fc, plainComplexC<Sum, C3>)
-VEMI_VALUES_SRCDST(vemiAddC_32fc_AC4IR, Vemi32fc, plainComplexC<Sum, AC4>)
+VEMI_SRC_VALUE_DST(vemiAddC_32fc_C1R, Vemi32fc, plainComplexC<Addition, C1>)
+VEMI_SRC_VALUES_DST(vemiAddC_32fc_C3R, Vemi32fc, plainComplexC<Addition, C3>)
+VEMI_SRC_VALUES_DST(vemiAddC_32fc_AC4R, Vemi32fc, plainComplexC<Addition, AC4>)
+VEMI_VALUE_SRCDST(vemiAddC_32fc_C1IR, Vemi32fc, plainComplexC<Addition, C1>)
+VEMI_VALUES_SRCDST(vemiAddC_32fc_C3IR, Vemi32fc, plainComplexC<Addition, C3>)
+VEMI_VALUES_SRCDST(vemiAddC_32fc_AC4IR, Vemi32fc, plainComplexC<Addition, AC4>)
 
-VEMI_2SRC_DST_SFS(vemiSub_16sc_C1RSfs, Vemi16sc, scaledComplex<Difference, Vemi16sc, C1>)
-VEMI_2SRC_DST_SFS(vemiSub_16sc_C3RSfs, Vemi16sc, scaledComplex<Difference, Vemi16sc, C3>)
-VEMI_2SRC_DST_SFS(vemiSub_16sc_AC4RSfs, Vemi16sc, scaledComplex<Difference, Vemi16sc, AC4>)
-VEMI_SRC_SRCDST_SFS(vemiSub_16sc_C1IRSfs, Vemi16sc, scaledComplex<Difference, Vemi16sc, C1>)
-VEMI_SRC_SRCDST_SFS(vemiSub_16sc_C3IRSfs, Vemi16sc, scaledComplex<Difference, Vemi16sc, C3>)
-VEMI_SRC_SRCDST_SFS(vemiSub_16sc_AC4IRSfs, Vemi16sc, scaledComplex<Difference, Vemi16sc, AC4>)
+VEMI_2SRC_DST_SFS(vemiSub_16sc_C1RSfs, Vemi16sc, scaledComplex<Subtraction, Vemi16sc, C1>)
+VEMI_2SRC_DST_SFS(vemiSub_16sc_C3RSfs, Vemi16sc, scaledComplex<Subtraction, Vemi16sc, C3>)
+VEMI_2SRC_DST_SFS(vemiSub_16sc_AC4RSfs, Vemi16sc, scaledComplex<Subtraction, Vemi16sc, AC4>)
+VEMI_SRC_SRCDST_SFS(vemiSub_16sc_C1IRSfs, Vemi16sc, scaledComplex<Subtraction, Vemi16sc, C1>)
+VEMI_SRC_SRCDST_SFS(vemiSub_16sc_C3IRSfs, Vemi16sc, scaledComplex<Subtraction, Vemi16sc, C3>)
+VEMI_SRC_SRCDST_SFS(vemiSub_16sc_AC4IRSfs, Vemi16sc, scaledComplex<Subtraction, Vemi16sc, AC4>)
 
-VEMI_2SRC_DST_SFS(vemiSub_32sc_C1RSfs, Vemi32sc, scaledComplex<Difference, Vemi32sc, C1>)
-VEMI_2SRC_DST_SFS(vemiSub_32sc_C3RSfs, Vemi32sc, scaledComplex<Difference, Vemi32sc, C3>)
-VEMI_2SRC_DST_SFS(vemiSub_32sc_AC4RSfs, Vemi32sc, scaledComplex<Difference, Vemi32sc, AC4>)
-VEMI_SRC_SRCDST_SFS(vemiSub_32sc_C1IRSfs, Vemi32sc, scaledComplex<Difference, Vemi32sc, C1>)
-VEMI_SRC_SRCDST_SFS(vemiSub_32sc_C3IRSfs, Vemi32sc, scaledComplex<Difference, Vemi32sc, C3>)
-VEMI_SRC_SRCDST_SFS(vemiSub_32sc_AC4IRSfs, Vemi32sc, scaledComplex<Difference, Vemi32sc, AC4>)
+VEMI_2SRC_DST_SFS(vemiSub_32sc_C1RSfs, Vemi32sc, scaledComplex<Subtraction, Vemi32sc, C1>)
+VEMI_2SRC_DST_SFS(vemiSub_32sc_C3RSfs, Vemi32sc, scaledComplex<Subtraction, Vemi32sc, C3>)
+VEMI_2SRC_DST_SFS(vemiSub_32sc_AC4RSfs, Vemi32sc, scaledComplex<Subtraction, Vemi32sc, AC4>)
+VEMI_SRC_SRCDST_SFS(vemiSub_32sc_C1IRSfs, Vemi32sc, scaledComplex<Subtraction, Vemi32sc, C1>)
+VEMI_SRC_SRCDST_SFS(vemiSub_32sc_C3IRSfs, Vemi32sc, scaledComplex<Subtraction, Vemi32sc, C3>)
+VEMI_SRC_SRCDST_SFS(vemiSub_32sc_AC4IRSfs, Vemi32sc, scaledComplex<Subtraction, Vemi32sc, AC4>)
 
-VEMI_2SRC_DST(vemiSub_32fc_C1R, Vemi32fc, plainComplex<Difference, C1>)
-VEMI_2SRC_DST(vemiSub_32fc_C3R, Vemi32fc, plainComplex<Difference, C3>)
-VEMI_2SRC_DST(vemiSub_32fc_AC4R, Vemi32fc, plainComplex<Difference, AC4>)
-VEMI_SRC_SRCDST(vemiSub_32fc_C1IR, Vemi32fc, plainComplex<Difference, C1>)
-VEMI_SRC_SRCDST(vemiSub_32fc_C3IR, Vemi32fc, plainComplex<Difference, C3>)
-VEMI_SRC_SRCDST(vemiSub_32fc_AC4IR, Vemi32fc, plainComplex<Difference, AC4>)
+VEMI_2SRC_DST(vemiSub_32fc_C1R, Vemi32fc, plainComplex<Subtraction, C1>)
+VEMI_2SRC_DST(vemiSub_32fc_C3R, Vemi32fc, plainComplex<Subtraction, C3>)
+VEMI_2SRC_DST(vemiSub_32fc_AC4R, Vemi32fc, plainComplex<Subtraction, AC4>)
+VEMI_SRC_SRCDST(vemiSub_32fc_C1IR, Vemi32fc, plainComplex<Subtraction, C1>)
+VEMI_SRC_SRCDST(vemiSub_32fc_C3IR, Vemi32fc, plainComplex<Subtraction, C3>)
+VEMI_SRC_SRCDST(vemiSub_32fc_AC4IR, Vemi32fc, plainComplex<Subtraction, AC4>)
 
-VEMI_SRC_VALUE_DST_SFS(vemiSubC_16sc_C1RSfs, Vemi16sc, scaledComplexC<Difference, Vemi16sc, C1>)
-VEMI_SRC_VALUES_DST_SFS(vemiSubC_16sc_C3RSfs, Vemi16sc, scaledComplexC<Difference, Vemi16sc, C3>)
-VEMI_SRC_VALUES_DST_SFS(vemiSubC_16sc_AC4RSfs, Vemi16sc, scaledComplexC<Difference, Vemi16sc, AC4>)
-VEMI_VALUE_SRCDST_SFS(vemiSubC_16sc_C1IRSfs, Vemi16sc, scaledComplexC<Difference, Vemi16sc, C1>)
-VEMI_VALUES_SRCDST_SFS(vemiSubC_16sc_C3IRSfs, Vemi16sc, scaledComplexC<Difference, Vemi16sc, C3>)
-VEMI_VALUES_SRCDST_SFS(vemiSubC_16sc_AC4IRSfs, Vemi16sc, scaledComplexC<Difference, Vemi16sc, AC4>)
+VEMI_SRC_VALUE_DST_SFS(vemiSubC_16sc_C1RSfs, Vemi16sc, scaledComplexC<Subtraction, Vemi16sc, C1>)
+VEMI_SRC_VALUES_DST_SFS(vemiSubC_16sc_C3RSfs, Vemi16sc, scaledComplexC<Subtraction, Vemi16sc, C3>)
+VEMI_SRC_VALUES_DST_SFS(vemiSubC_16sc_AC4RSfs, Vemi16sc, scaledComplexC<Subtraction, Vemi16sc, AC4>)
+VEMI_VALUE_SRCDST_SFS(vemiSubC_16sc_C1IRSfs, Vemi16sc, scaledComplexC<Subtraction, Vemi16sc, C1>)
+VEMI_VALUES_SRCDST_SFS(vemiSubC_16sc_C3IRSfs, Vemi16sc, scaledComplexC<Subtraction, Vemi16sc, C3>)
+VEMI_VALUES_SRCDST_SFS(vemiSubC_16sc_AC4IRSfs, Vemi16sc, scaledComplexC<Subtraction, Vemi16sc, AC4>)
 
-VEMI_SRC_VALUE_DST_SFS(vemiSubC_32sc_C1RSfs, Vemi32sc, scaledComplexC<Difference, Vemi32sc, C1>)
-VEMI_SRC_VALUES_DST_SFS(vemiSubC_32sc_C3RSfs, Vemi32sc, scaledComplexC<Difference, Vemi32sc, C3>)
-VEMI_SRC_VALUES_DST_SFS(vemiSubC_32sc_AC4RSfs, Vemi32sc, scaledComplexC<Difference, Vemi32sc, AC4>)
-VEMI_VALUE_SRCDST_SFS(vemiSubC_32sc_C1IRSfs, Vemi32sc, scaledComplexC<Difference, Vemi32sc, C1>)
-VEMI_VALUES_SRCDST_SFS(vemiSubC_32sc_C3IRSfs, Vemi32sc, scaledComplexC<Difference, Vemi32sc, C3>)
-VEMI_VALUES_SRCDST_SFS(vemiSubC_32sc_AC4IRSfs, Vemi32sc, scaledComplexC<Difference, Vemi32sc, AC4>)
+VEMI_SRC_VALUE_DST_SFS(vemiSubC_32sc_C1RSfs, Vemi32sc, scaledComplexC<Subtraction, Vemi32sc, C1>)
+VEMI_SRC_VALUES_DST_SFS(vemiSubC_32sc_C3RSfs, Vemi32sc, scaledComplexC<Subtraction, Vemi32sc, C3>)
+VEMI_SRC_VALUES_DST_SFS(vemiSubC_32sc_AC4RSfs, Vemi32sc, scaledComplexC<Subtraction, Vemi32sc, AC4>)
+VEMI_VALUE_SRCDST_SFS(vemiSubC_32sc_C1IRSfs, Vemi32sc, scaledComplexC<Subtraction, Vemi32sc, C1>)
+VEMI_VALUES_SRCDST_SFS(vemiSubC_32sc_C3IRSfs, Vemi32sc, scaledComplexC<Subtraction, Vemi32sc, C3>)
+VEMI_VALUES_SRCDST_SFS(vemiSubC_32sc_AC4IRSfs, Vemi32sc, scaledComplexC<Subtraction, Vemi32sc, AC4>)
 
-VEMI_SRC_VALUE_DST(vemiSubC_32fc_C1R, Vemi32fc, plainComplexC<Difference, C1>)
-VEMI_SRC_VALUES_DST(vemiSubC_32fc_C3R, Vemi32fc, plainComplexC<Difference, C3>)
-VEMI_SRC_VALUES_DST(vemiSubC_32fc_AC4R, Vemi32fc, plainComplexC<Difference, AC4>)
-VEMI_VALUE_SRCDST(vemiSubC_32fc_C1IR, Vemi32fc, plainComplexC<Difference, C1>)
-VEMI_VALUES_SRCDST(vemiSubC_32fc_C3IR, Vemi32fc, plainComplexC<Difference, C3>)
-VEMI_VALUES_SRCDST(vemiSubC_32fc_AC4IR, Vemi32fc, plainComplexC<Difference, AC4>)
+VEMI_SRC_VALUE_DST(vemiSubC_32fc_C1R, Vemi32fc, plainComplexC<Subtraction, C1>)
+VEMI_SRC_VALUES_DST(vemiSubC_32fc_C3R, Vemi32fc, plainComplexC<Subtraction, C3>)
+VEMI_SRC_VALUES_DST(vemiSubC_32fc_AC4R, Vemi32fc, plainComplexC<Subtraction, AC4>)
+VEMI_VALUE_SRCDST(vemiSubC_32fc_C1IR, Vemi32fc, plainComplexC<Subtraction, C1>)
+VEMI_VALUES_SRCDST(vemiSubC_32fc_C3IR, Vemi32fc, plainComplexC<Subtraction, C3>)
+VEMI_VALUES_SRCDST(vemiSubC_32fc_AC4IR, Vemi32fc, plainComplexC<Subtraction, AC4>)

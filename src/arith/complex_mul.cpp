@@ -88,7 +88,7 @@ struct ScaledProduct<Vemi32sc, Scale> {
   }
 };
 
-struct Product {
+struct Multiplication {
   template <class C>
   static constexpr int largestScale = 8 * sizeof(C) - 1;
 
@@ -108,44 +108,44 @@ struct Product {
 
 using namespace vemi;
 
-VEMI_2SRC_DST_SFS(vemiMul_16sc_C1RSfs, Vemi16sc, scaledComplex<Product, Vemi16sc, C1>)
-VEMI_2SRC_DST_SFS(vemiMul_16sc_C3RSfs, Vemi16sc, scaledComplex<Product, Vemi16sc, C3>)
-VEMI_2SRC_DST_SFS(vemiMul_16sc_AC4RSfs, Vemi16sc, scaledComplex<Product, Vemi16sc, AC4>)
-VEMI_SRC_SRCDST_SFS(vemiMul_16sc_C1IRSfs, Vemi16sc, scaledComplex<Product, Vemi16sc, C1>)
-VEMI_SRC_SRCDST_SFS(vemiMul_16sc_C3IRSfs, Vemi16sc, scaledComplex<Product, Vemi16sc, C3>)
-VEMI_SRC_SRCDST_SFS(vemiMul_16sc_AC4IRSfs, Vemi16sc, scaledComplex<Product, Vemi16sc, AC4>)
+VEMI_2SRC_DST_SFS(vemiMul_16sc_C1RSfs, Vemi16sc, scaledComplex<Multiplication, Vemi16sc, C1>)
+VEMI_2SRC_DST_SFS(vemiMul_16sc_C3RSfs, Vemi16sc, scaledComplex<Multiplication, Vemi16sc, C3>)
+VEMI_2SRC_DST_SFS(vemiMul_16sc_AC4RSfs, Vemi16sc, scaledComplex<Multiplication, Vemi16sc, AC4>)
+VEMI_SRC_SRCDST_SFS(vemiMul_16sc_C1IRSfs, Vemi16sc, scaledComplex<Multiplication, Vemi16sc, C1>)
+VEMI_SRC_SRCDST_SFS(vemiMul_16sc_C3IRSfs, Vemi16sc, scaledComplex<Multiplication, Vemi16sc, C3>)
+VEMI_SRC_SRCDST_SFS(vemiMul_16sc_AC4IRSfs, Vemi16sc, scaledComplex<Multiplication, Vemi16sc, AC4>)
 
-VEMI_2SRC_DST_SFS(vemiMul_32sc_C1RSfs, Vemi32sc, scaledComplex<Product, Vemi32sc, C1>)
-VEMI_2SRC_DST_SFS(vemiMul_32sc_C3RSfs, Vemi32sc, scaledComplex<Product, Vemi32sc, C3>)
-VEMI_2SRC_DST_SFS(vemiMul_32sc_AC4RSfs, Vemi32sc, scaledComplex<Product, Vemi32sc, AC4>)
-VEMI_SRC_SRCDST_SFS(vemiMul_32sc_C1IRSfs, Vemi32sc, scaledComplex<Product, Vemi32sc, C1>)
-VEMI_SRC_SRCDST_SFS(vemiMul_32sc_C3IRSfs, Vemi32sc, scaledComplex<Product, Vemi32sc, C3>)
-VEMI_SRC_SRCDST_SFS(vemiMul_32sc_AC4IRSfs, Vemi32sc, scaledComplex<Product, Vemi32sc, AC4>)
+VEMI_2SRC_DST_SFS(vemiMul_32sc_C1RSfs, Vemi32sc, scaledComplex<Multiplication, Vemi32sc, C1>)
+VEMI_2SRC_DST_SFS(vemiMul_32sc_C3RSfs, Vemi32sc, scaledComplex<Multiplication, Vemi32sc, C3>)
+VEMI_2SRC_DST_SFS(vemiMul_32sc_AC4RSfs, Vemi32sc, scaledComplex<Multiplication, Vemi32sc, AC4>)
+VEMI_SRC_SRCDST_SFS(vemiMul_32sc_C1IRSfs, Vemi32sc, scaledComplex<Multiplication, Vemi32sc, C1>)
+VEMI_SRC_SRCDST_SFS(vemiMul_32sc_C3IRSfs, Vemi32sc, scaledComplex<Multiplication, Vemi32sc, C3>)
+VEMI_SRC_SRCDST_SFS(vemiMul_32sc_AC4IRSfs, Vemi32sc, scaledComplex<Multiplication, Vemi32sc, AC4>)
 
-VEMI_2SRC_DST(vemiMul_32fc_C1R, Vemi32fc, plainComplex<Product, C1>)
-VEMI_2SRC_DST(vemiMul_32fc_C3R, Vemi32fc, plainComplex<Product, C3>)
-VEMI_2SRC_DST(vemiMul_32fc_AC4R, Vemi32fc, plainComplex<Product, AC4>)
-VEMI_SRC_SRCDST(vemiMul_32fc_C1IR, Vemi32fc, plainComplex<Product, C1>)
-VEMI_SRC_SRCDST(vemiMul_32fc_C3IR, Vemi32fc, plainComplex<Product, C3>)
-VEMI_SRC_SRCDST(vemiMul_32fc_AC4IR, Vemi32fc, plainComplex<Product, AC4>)
+VEMI_2SRC_DST(vemiMul_32fc_C1R, Vemi32fc, plainComplex<Multiplication, C1>)
+VEMI_2SRC_DST(vemiMul_32fc_C3R, Vemi32fc, plainComplex<Multiplication, C3>)
+VEMI_2SRC_DST(vemiMul_32fc_AC4R, Vemi32fc, plainComplex<Multiplication, AC4>)
+VEMI_SRC_SRCDST(vemiMul_32fc_C1IR, Vemi32fc, plainComplex<Multiplication, C1>)
+VEMI_SRC_SRCDST(vemiMul_32fc_C3IR, Vemi32fc, plainComplex<Multiplication, C3>)
+VEMI_SRC_SRCDST(vemiMul_32fc_AC4IR, Vemi32fc, plainComplex<Multiplication, AC4>)
 
-VEMI_SRC_VALUE_DST_SFS(vemiMulC_16sc_C1RSfs, Vemi16sc, scaledComplexC<Product, Vemi16sc, C1>)
-VEMI_SRC_VALUES_DST_SFS(vemiMulC_16sc_C3RSfs, Vemi16sc, scaledComplexC<Product, Vemi16sc, C3>)
-VEMI_SRC_VALUES_DST_SFS(vemiMulC_16sc_AC4RSfs, Vemi16sc, scaledComplexC<Product, Vemi16sc, AC4>)
-VEMI_VALUE_SRCDST_SFS(vemiMulC_16sc_C1IRSfs, Vemi16sc, scaledComplexC<Product, Vemi16sc, C1>)
-VEMI_VALUES_SRCDST_SFS(vemiMulC_16sc_C3IRSfs, Vemi16sc, scaledComplexC<Product, Vemi16sc, C3>)
-VEMI_VALUES_SRCDST_SFS(vemiMulC_16sc_AC4IRSfs, Vemi16sc, scaledComplexC<Product, Vemi16sc, AC4>)
+VEMI_SRC_VALUE_DST_SFS(vemiMulC_16sc_C1RSfs, Vemi16sc, scaledComplexC<Multiplication, Vemi16sc, C1>)
+VEMI_SRC_VALUES_DST_SFS(vemiMulC_16sc_C3RSfs, Vemi16sc, scaledComplexC<Multiplication, Vemi16sc, C3>)
+VEMI_SRC_VALUES_DST_SFS(vemiMulC_16sc_AC4RSfs, Vemi16sc, scaledComplexC<Multiplication, Vemi16sc, AC4>)
+VEMI_VALUE_SRCDST_SFS(vemiMulC_16sc_C1IRSfs, Vemi16sc, scaledComplexC<Multiplication, Vemi16sc, C1>)
+VEMI_VALUES_SRCDST_SFS(vemiMulC_16sc_C3IRSfs, Vemi16sc, scaledComplexC<Multiplication, Vemi16sc, C3>)
+VEMI_VALUES_SRCDST_SFS(vemiMulC_16sc_AC4IRSfs, Vemi16sc, scaledComplexC<Multiplication, Vemi16sc, AC4>)
 
-VEMI_SRC_VALUE_DST_SFS(vemiMulC_32sc_C1RSfs, Vemi32sc, scaledComplexC<Product, Vemi32sc, C1>)
-VEMI_SRC_VALUES_DST_SFS(vemiMulC_32sc_C3RSfs, Vemi32sc, scaledComplexC<Product, Vemi32sc, C3>)
-VEMI_SRC_VALUES_DST_SFS(vemiMulC_32sc_AC4RSfs, Vemi32sc, scaledComplexC<Product, Vemi32sc, AC4>)
-VEMI_VALUE_SRCDST_SFS(vemiMulC_32sc_C1IRSfs, Vemi32sc, scaledComplexC<Product, Vemi32sc, C1>)
-VEMI_VALUES_SRCDST_SFS(vemiMulC_32sc_C3IRSfs, Vemi32sc, scaledComplexC<Product, Vemi32sc, C3>)
-VEMI_VALUES_SRCDST_SFS(vemiMulC_32sc_AC4IRSfs, Vemi32sc, scaledComplexC<Product, Vemi32sc, AC4>)
+VEMI_SRC_VALUE_DST_SFS(vemiMulC_32sc_C1RSfs, Vemi32sc, scaledComplexC<Multiplication, Vemi32sc, C1>)
+VEMI_SRC_VALUES_DST_SFS(vemiMulC_32sc_C3RSfs, Vemi32sc, scaledComplexC<Multiplication, Vemi32sc, C3>)
+VEMI_SRC_VALUES_DST_SFS(vemiMulC_32sc_AC4RSfs, Vemi32sc, scaledComplexC<Multiplication, Vemi32sc, AC4>)
+VEMI_VALUE_SRCDST_SFS(vemiMulC_32sc_C1IRSfs, Vemi32sc, scaledComplexC<Multiplication, Vemi32sc, C1>)
+VEMI_VALUES_SRCDST_SFS(vemiMulC_32sc_C3IRSfs, Vemi32sc, scaledComplexC<Multiplication, Vemi32sc, C3>)
+VEMI_VALUES_SRCDST_SFS(vemiMulC_32sc_AC4IRSfs, Vemi32sc, scaledComplexC<Multiplication, Vemi32sc, AC4>)
 
-VEMI_SRC_VALUE_DST(vemiMulC_32fc_C1R, Vemi32fc, plainComplexC<Product, C1>)
-VEMI_SRC_VALUES_DST(vemiMulC_32fc_C3R, Vemi32fc, plainComplexC<Product, C3>)
-VEMI_SRC_VALUES_DST(vemiMulC_32fc_AC4R, Vemi32fc, plainComplexC<Product, AC4>)
-VEMI_VALUE_SRCDST(vemiMulC_32fc_C1IR, Vemi32fc, plainComplexC<Product, C1>)
-VEMI_VALUES_SRCDST(vemiMulC_32fc_C3IR, Vemi32fc, plainComplexC<Product, C3>)
-VEMI_VALUES_SRCDST(vemiMulC_32fc_AC4IR, Vemi32fc, plainComplexC<Product, AC4>)
+VEMI_SRC_VALUE_DST(vemiMulC_32fc_C1R, Vemi32fc, plainComplexC<Multiplication, C1>)
+VEMI_SRC_VALUES_DST(vemiMulC_32fc_C3R, Vemi32fc, plainComplexC<Multiplication, C3>)
+VEMI_SRC_VALUES_DST(vemiMulC_32fc_AC4R, Vemi32fc, plainComplexC<Multiplication, AC4>)
+VEMI_VALUE_SRCDST(vemiMulC_32fc_C1IR, Vemi32fc, plainComplexC<Multiplication, C1>)
+VEMI_VALUES_SRCDST(vemiMulC_32fc_C3IR, Vemi32fc, plainComplexC<Multiplication, C3>)
+VEMI_VALUES_SRCDST(vemiMulC_32fc_AC4IR, Vemi32fc, plainComplexC<Multiplication, AC4>)

@@ -1,9 +1,30 @@
-// The product of two 16-bit values that stand for fractions of the full scale.
+// Products of values that stand for fractions of the full scale of their type, 255 or 65535, rounded down.
 #pragma once
+
+#include <cstdint>
 
 #include "core/lanes.h"
 
 namespace vemi {
+
+/// A value in each lane, made ready to be a factor. Of bytes, each twice: those of the even lanes, and those of the odd
+/// ones. Wider lanes stand in `odd` alone.
+template <class V>
+struct Fraction {
+  V even, odd;
+};
+
+template <class D, class V>
+HWY_INLINE Fraction<V> fraction(D d, V v) {
+  if constexpr (sizeof(hn::TFromD<D>) > 1) {
+    return {v, v};
+  } else {
+    const hn::RepartitionToWide<D> dWide;
+    const auto pairs = hn::BitCast(dWide, v);
+    return {hn::OddEven(hn::BitCast(d, hn::ShiftLeft<8>(pairs)), v),
+            hn::OddEven(v, hn::BitCast(d, hn::ShiftRight<8>(pairs)))};
+  }
+}
 
 /// floor(t / 65535) with t = a b, which is (t + 1 + (t >> 16)) >> 16: the upper half of t, and one more where the sum
 /// of its halves reaches 65535, which is the top bit of their average, rounded up.
@@ -11,6 +32,30 @@ template <class V>
 HWY_INLINE V fullScaleProduct16(V a, V b) {
   const V upper = hn::MulHigh(a, b);
   return hn::Add(upper, hn::ShiftRight<15>(hn::AverageRound(hn::Mul(a, b), upper)));
+}
+
+/// floor(x y / 255) in the odd bytes, from x in the odd bytes and y in both of a pair. It is the upper byte of
+/// (256 x + 1) (257 y) / 2^16; what the even bytes hold does not matter.
+template <class D, class V>
+HWY_INLINE V timesOdd8(D d, V x, V y) {
+  const hn::RepartitionToWide<D> dWide;
+  const V xAndOne = hn::OddEven(x, hn::Set(d, 1));
+  return hn::BitCast(d, hn::MulHigh(hn::BitCast(dWide, xAndOne), hn::BitCast(dWide, y)));
+}
+
+/// x times one fraction after the other, each product rounded down by itself.
+template <class D, class V, class... Factor>
+HWY_INLINE V product(D d, V x, Factor... fraction) {
+  if constexpr (sizeof(hn::TFromD<D>) > 1) {
+    ((x = fullScaleProduct16(x, fraction.odd)), ...);
+    return x;
+  } else {
+    const hn::RepartitionToWide<D> dWide;
+    V even = hn::BitCast(d, hn::ShiftLeft<8>(hn::BitCast(dWide, x)));
+    ((even = timesOdd8(d, even, fraction.even)), ...);
+    ((x = timesOdd8(d, x, fraction.odd)), ...);
+    return hn::OddEven(x, hn::BitCast(d, hn::ShiftRight<8>(hn::BitCast(dWide, even))));
+  }
 }
 
 }  // namespace vemi

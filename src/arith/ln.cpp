@@ -2,7 +2,6 @@
 // numbers below zero gives a warning; each element type has its own rule for it.
 
 #include <algorithm>
-#include <bit>
 #include <cstring>
 
 #include "core/any_element.h"
@@ -11,6 +10,7 @@
 #include "core/exports.h"
 #include "core/image.h"
 #include "core/map_region.h"
+#include "core/numbers.h"
 #include "core/wide_lanes.h"
 #include "signal/float_parts.h"
 #include "signal/ln.h"
@@ -42,7 +42,7 @@ struct ScaledLn {
 
   explicit ScaledLn(int scaleFactor) {
     const int s = std::clamp(scaleFactor, -16, 5);  // beyond, all logarithms but that of 1 are above the range, or zero
-    scale = std::bit_cast<double>((uint64_t{1023} - static_cast<uint64_t>(int64_t{s})) << 52);
+    scale = powerOfTwo<double>(-s);
   }
 
   template <class D, class V>

@@ -1,6 +1,7 @@
 // vemiMul, vemiMulC: destination = source 1 * source 2 / 2^scaleFactor for integers, the plain product for floats.
 // Checks: null, size, step; the C3 and C4 forms of integer vemiMul look at the width first.
 
+#include "arith/plain.h"
 #include "arith/product.h"
 #include "arith/scaled_arithmetic.h"
 #include "core/exports.h"
@@ -18,17 +19,12 @@ struct Multiplication {
     withScaledProduct<T>(scaleFactor, f);
   }
 
-  struct Float {
-    template <class D, class V>
-    HWY_INLINE V operator()(D, V a, V b) const {
-      return hn::Mul(a, b);
-    }
-  };
+  using Float = PlainProduct;
 
   template <class T>
-  static Answer settle(T value, int scaleFactor) {
-    if (value == 0) return Answer::zero;
-    return value == 1 && scaleFactor == 0 ? Answer::source : Answer::computed;
+  static Result resultOf(T value, int scaleFactor) {
+    if (value == 0) return Result::zero;
+    return value == 1 && scaleFactor == 0 ? Result::source : Result::computed;
   }
 };
 

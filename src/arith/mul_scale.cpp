@@ -1,4 +1,5 @@
-// vemiMulScale, vemiMulCScale: the product of two values that stand for fractions of the full scale of their type.
+// vemiMulScale, vemiMulCScale: the product of two values that stand for fractions of the full scale of their type. With
+// t = a b and w the bits of the type, (t + 1 + (t >> w)) >> w, which is t / (2^w - 1) rounded down.
 // Checks: null, step, size.
 
 #include "arith/full_scale.h"
@@ -6,25 +7,15 @@
 #include "core/exports.h"
 #include "core/image.h"
 #include "core/map_region.h"
-#include "core/wide_lanes.h"
 #include "vemi/arith.h"
 
 namespace vemi {
 namespace {
 
-/// With t = a b and w the bits of the type, (t + 1 + (t >> w)) >> w.
-struct ScaledProduct {
+struct FullScaleProduct {
   template <class D, class V>
   HWY_INLINE V operator()(D d, V a, V b) const {
-    if constexpr (sizeof(hn::TFromD<D>) == 1) {
-      // The same as (257 t + 256) >> 16, and as (257 (t + 1)) >> 16: they differ at t = 65535 alone.
-      const auto ofWide = [](auto dw, auto x, auto y) HWY_ATTR {
-        return hn::MulHigh(hn::Add(hn::Mul(x, y), hn::Set(dw, 1)), hn::Set(dw, 257));
-      };
-      return inWideLanes(d, ofWide, a, b);
-    } else {
-      return fullScaleProduct16(a, b);
-    }
+    return product(d, a, fraction(d, b));
   }
 };
 
@@ -33,14 +24,14 @@ VemiStatus mulScale(Image<const T> src1, Image<const T> src2, Image<T> dst, Vemi
   if (const VemiStatus bad = firstOf(checkNull(src1, src2, dst), checkStep(src1, src2, dst), checkSize(roiSize))) {
     return bad;
   }
-  mapRegion<L>(CallerRows(), roiSize, eachVector(ScaledProduct()), dst, src1, src2);
+  mapRegion<L>(CallerRows(), roiSize, eachVector(FullScaleProduct()), dst, src1, src2);
   return vemiOk;
 }
 
 template <class T, class L>
 VemiStatus mulScaleC(Image<const T> src, const T* value, Image<T> dst, VemiSize roiSize) {
   if (const VemiStatus bad = firstOf(checkNull(src, value, dst), checkStep(src, dst), checkSize(roiSize))) return bad;
-  mapRegion<L>(CallerRows(), roiSize, withConstants<L>(ScaledProduct(), value), dst, src);
+  mapRegion<L>(CallerRows(), roiSize, withConstants<L>(FullScaleProduct(), value), dst, src);
   return vemiOk;
 }
 

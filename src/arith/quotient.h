@@ -2,9 +2,9 @@
 #pragma once
 
 #include <algorithm>
-#include <cmath>
 
 #include "core/lanes.h"
+#include "core/numbers.h"
 
 namespace vemi {
 
@@ -20,7 +20,7 @@ struct DividesByZero {
 /// is left. Where it has an effect, a scale is exact.
 template <class Float>
 Float quotientScale(int scaleFactor) {
-  return std::ldexp(Float{1}, -std::clamp(scaleFactor, -64, 64));
+  return powerOfTwo<Float>(-std::clamp(scaleFactor, -64, 64));
 }
 
 }  // namespace vemi

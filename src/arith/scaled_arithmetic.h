@@ -3,7 +3,7 @@
 //   largestScale<T>               the largest scale factor that leaves any result a value other than zero;
 //   withKernel<T>(scaleFactor, f) calls f with the lanes' operation, for scale factors up to that one;
 //   Float                         the operation on float lanes;
-//   settle(value, scaleFactor)    whether a constant decides the whole region.
+//   resultOf(value, scaleFactor)  what a constant makes of all elements, where that needs no arithmetic.
 //
 // The second source is the left operand, and so is the image beside a constant: a subtraction takes the first source
 // off the second. Checks: null, size, step.
@@ -12,7 +12,7 @@
 #include <limits>
 #include <type_traits>
 
-#include "arith/settled.h"
+#include "arith/whole_region.h"
 #include "core/checks.h"
 #include "core/image.h"
 #include "core/map_region.h"
@@ -20,7 +20,7 @@
 namespace vemi {
 
 /// What a constant and a scale factor make of every element.
-enum class Answer { computed, zero, source, highest };
+enum class Result { computed, zero, source, highest };
 
 /// The serial threshold stands on the branches for scale factors of 0 and more; the rare others fork without it.
 template <class Rows, class T, class L>
@@ -61,24 +61,24 @@ VemiStatus plain(Image<const Vemi32f> src1, Image<const Vemi32f> src2, Image<Vem
   return vemiOk;
 }
 
-/// Several constants settle nothing: each channel goes by the general rule.
+/// Of several constants, each channel goes by the general rule.
 template <class Operation, class L, class T>
-Answer settled(const T* value, int scaleFactor) {
-  if (scaleFactor > Operation::template largestScale<T>) return Answer::zero;
-  return L::elements == 1 ? Operation::settle(*value, scaleFactor) : Answer::computed;
+Result resultOfConstants(const T* value, int scaleFactor) {
+  if (scaleFactor > Operation::template largestScale<T>) return Result::zero;
+  return L::elements == 1 ? Operation::resultOf(*value, scaleFactor) : Result::computed;
 }
 
 template <class Operation, class L, class Rows, class T>
 VemiStatus scaledC(Image<const T> src, const T* value, Image<T> dst, VemiSize roiSize, int scaleFactor) {
   if (const VemiStatus bad = firstOf(checkNull(src, value, dst), checkSize(roiSize), checkStep(src, dst))) return bad;
-  switch (settled<Operation, L>(value, scaleFactor)) {
-    case Answer::zero:
+  switch (resultOfConstants<Operation, L>(value, scaleFactor)) {
+    case Result::zero:
       return fillRegion<T, L>(0, dst, roiSize);
-    case Answer::source:
+    case Result::source:
       return copyRegion<L>(src, dst, roiSize);
-    case Answer::highest:
+    case Result::highest:
       return fillRegion<T, L>(std::numeric_limits<T>::max(), dst, roiSize);
-    case Answer::computed:
+    case Result::computed:
       break;
   }
   Operation::template withKernel<T>(scaleFactor, [&](const auto& kernel) {

@@ -3,8 +3,8 @@
 
 #include <algorithm>
 
-#include "arith/settled.h"
 #include "arith/shifted.h"
+#include "arith/whole_region.h"
 #include "core/checks.h"
 #include "core/exports.h"
 #include "core/image.h"

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
-#include "arith/settled.h"
+#include "arith/whole_region.h"
 #include "core/checks.h"
 #include "core/exports.h"
 #include "core/image.h"

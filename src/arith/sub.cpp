@@ -3,6 +3,7 @@
 // Checks: null, size, step; the C3 and C4 forms of integer vemiSub look at the width first.
 
 #include "arith/add_sub.h"
+#include "arith/plain.h"
 #include "arith/scaled_arithmetic.h"
 #include "core/exports.h"
 #include "vemi/arith.h"
@@ -19,16 +20,11 @@ struct Subtraction {
     withScaledTerms<DifferenceTerms, T>(scaleFactor, f);
   }
 
-  struct Float {
-    template <class D, class V>
-    HWY_INLINE V operator()(D, V a, V b) const {
-      return hn::Sub(a, b);
-    }
-  };
+  using Float = PlainDifference;
 
   template <class T>
-  static Answer settle(T value, int scaleFactor) {
-    return value == 0 && scaleFactor == 0 ? Answer::source : Answer::computed;
+  static Result resultOf(T value, int scaleFactor) {
+    return value == 0 && scaleFactor == 0 ? Result::source : Result::computed;
   }
 };
 

@@ -1,4 +1,4 @@
-// Answers that need no arithmetic: a destination that is filled or copied whole, through the public functions.
+// Regions that are filled or copied whole, through the public functions.
 #pragma once
 
 #include <bit>

@@ -118,14 +118,10 @@ TEST(Shift, EachChannelByItself) {
           for (const Vemi32u third : {0u, 3u, 40u}) {
             const Vemi32u each[4] = {first, second, third, first};
             Call call(*member, {{37, 3}});
-            Image& value = call.image("value");
-            for (Image::Plane& plane : value.planes) {
-              const size_t bytes = static_cast<size_t>(value.size.width) * sizeof(Vemi32u);
-              const auto offset = plane.first - plane.memory.begin();
-              for (std::byte* place : {plane.first, plane.before.data() + offset, plane.expected.data() + offset}) {
-                std::memcpy(place, each, bytes);
-              }
+            for (int channel = 0; channel < member->source.channels; ++channel) {
+              store(call.constant("value", channel), each[channel]);
             }
+            call.restore();
             shifted(call, shift);
             EXPECT_EQ(call.invoke(), vemiOk);
             EXPECT_EQ(call.difference(), "") << first << ", " << second << ", " << third;
