@@ -1562,8 +1562,8 @@ VEMI_API VemiStatus vemiDiv_32fc_AC4IR(const Vemi32fc* pSrc, int srcStep, Vemi32
  * **16sc, 32sc.** As vemiDiv with the constant as divisor.
  *
  * **32fc.** x * (re * t, (0 - im) * t) by the formula of vemiMulC, with t = 1 / (re * re + im * im), all in single
- * precision. Where re * re + im * im of a constant is so small that it vanishes, nothing is written and the status is
- * vemiOk.
+ * precision. Where re * re + im * im of a constant is so small that it vanishes, nothing is written; the status is
+ * vemiOk in C1 forms, vemiErrDivByZero in C3 and AC4 forms.
  *
  * A constant of zero is refused with vemiErrDivByZero, and so is a set of constants of which one is zero, with nothing
  * written. A complex constant is zero if both parts are; -0 is zero, and NaN counts as zero, too. The C3 forms of 8u
@@ -1580,8 +1580,9 @@ VEMI_API VemiStatus vemiDiv_32fc_AC4IR(const Vemi32fc* pSrc, int srcStep, Vemi32
  * the destination.
  *
  * **Statuses**, in the order of the tests: null (an array of constants among the pointers), size, step, then
- * vemiErrDivByZero. In the 32fc forms vemiErrDivByZero comes first, ahead of null, size and step; only the array of
- * constants itself must be there to be looked at (vemiErrNullPtr).
+ * vemiErrDivByZero. In the 32fc forms vemiErrDivByZero for a constant of zero comes first, ahead of null, size and
+ * step; only the array of constants itself must be there to be looked at (vemiErrNullPtr). For squares that vanish it
+ * comes last.
  *
  * **Threads.** All forms run in the calling thread.
  *

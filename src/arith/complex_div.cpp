@@ -1,6 +1,6 @@
 // vemiDiv, vemiDivC of complex elements: x / d = (d.re x.re + d.im x.im, d.re x.im - d.im x.re) / (d.re^2 + d.im^2).
 // vemiDiv divides its second source by its first; a divisor of zero warns.
-//   16sc  in double precision, and that arithmetic is the contract
+//   16sc  in double precision, rounded to nearest in each step, and that arithmetic is the contract
 //   32sc  the exact quotient, rounded once
 //   32fc  in single precision with the approximate reciprocal, improved by one Newton step
 // Checks: null, size, step, then the constant; vemiDivC_32fc looks at its constant first.
@@ -12,6 +12,7 @@
 #include "arith/complex_arithmetic.h"
 #include "arith/quotient.h"
 #include "core/exports.h"
+#include "core/float_control.h"
 #include "core/numbers.h"
 #include "vemi/arith.h"
 
@@ -118,14 +119,17 @@ Vemi32sc element(const Vemi32sc* row, ptrdiff_t index) {
   return value;
 }
 
-/// divisor(index in the row, channel).
-template <class L, class Divisor>
-void quotientRow(ptrdiff_t width, int scaleFactor, const Divisor& divisor, const Vemi32sc* src, Vemi32sc* dst) {
-  for (ptrdiff_t x = 0; x < width; ++x) {
-    for (int channel = 0; channel < L::channels; ++channel) {
-      const ptrdiff_t i = x * L::elements + channel;
-      const Vemi32sc result = quotient32sc(element(src, i), divisor(i, channel), scaleFactor);
-      std::memcpy(dst + i, &result, sizeof result);
+/// A region, with divisorOf(row, index of the element, channel).
+template <class L, class DivisorOf>
+void quotients32sc(VemiSize roiSize, int scaleFactor, const DivisorOf& divisorOf, Image<const Vemi32sc> src,
+                   Image<Vemi32sc> dst) {
+  for (ptrdiff_t y = 0; y < roiSize.height; ++y) {
+    for (ptrdiff_t x = 0; x < roiSize.width; ++x) {
+      for (int channel = 0; channel < L::channels; ++channel) {
+        const ptrdiff_t i = x * L::elements + channel;
+        const Vemi32sc result = quotient32sc(element(src.row(y), i), divisorOf(y, i, channel), scaleFactor);
+        std::memcpy(dst.row(y) + i, &result, sizeof result);
+      }
     }
   }
 }
@@ -168,42 +172,45 @@ struct Quotient32fc {
 // ---- Regions ------------------------------------------------------------------------------------------------------
 
 template <class L, class C, class Op, class Test>
-VemiStatus divideRegion(VemiSize roiSize, const Op& op, const Test& test, Image<C> dst, Image<const C> x,
-                        Image<const C> divisor) {
-  const auto lanes = eachVector(op);
-  const bool byZero = mapRegionTested<L>(roiSize, lanes, test, inLanes(dst), inLanes(x), inLanes(divisor));
+VemiStatus divideComplex(VemiSize roiSize, const Op& op, const Test& test, Image<C> dst, Image<const C> x,
+                         Image<const C> divisor) {
+  const bool byZero =
+      mapRegionTested<L>(roiSize, eachVector(op), ofWorked<L>(test), inLanes(dst), inLanes(x), inLanes(divisor));
   return byZero ? vemiWarnDivByZero : vemiOk;
 }
 
-template <class C, class L>
-VemiStatus quotientScaled(Image<const C> src1, Image<const C> src2, Image<C> dst, VemiSize roiSize, int scaleFactor) {
+template <class L>
+VemiStatus divide16sc(Image<const Vemi16sc> src1, Image<const Vemi16sc> src2, Image<Vemi16sc> dst, VemiSize roiSize,
+                      int scaleFactor) {
   if (const VemiStatus bad = firstOf(checkNull(src1, src2, dst), checkSize(roiSize), checkStep(src1, src2, dst))) {
     return bad;
   }
-  if constexpr (std::is_same_v<C, Vemi16sc>) {
-    return divideRegion<L>(roiSize, Quotient16sc{quotientScale<double>(scaleFactor)}, DividesByZero(), dst, src2, src1);
-  } else {
-    VemiStatus status = vemiOk;
-    for (ptrdiff_t y = 0; y < roiSize.height; ++y) {
-      const Vemi32sc* const divisors = src1.row(y);
-      const auto divisor = [&](ptrdiff_t i, int) {
-        const Vemi32sc d = element(divisors, i);
-        if (d.re == 0 && d.im == 0) status = vemiWarnDivByZero;
-        return d;
-      };
-      quotientRow<L>(roiSize.width, scaleFactor, divisor, src2.row(y), dst.row(y));
-    }
-    return status;
-  }
+  const Quotient16sc quotient = {quotientScale<double>(scaleFactor)};
+  return roundingToNearest([&] { return divideComplex<L>(roiSize, quotient, DividesByZero(), dst, src2, src1); });
 }
 
 template <class L>
-VemiStatus quotientFloat(Image<const Vemi32fc> src1, Image<const Vemi32fc> src2, Image<Vemi32fc> dst,
-                         VemiSize roiSize) {
+VemiStatus divide32sc(Image<const Vemi32sc> src1, Image<const Vemi32sc> src2, Image<Vemi32sc> dst, VemiSize roiSize,
+                      int scaleFactor) {
   if (const VemiStatus bad = firstOf(checkNull(src1, src2, dst), checkSize(roiSize), checkStep(src1, src2, dst))) {
     return bad;
   }
-  return divideRegion<L>(roiSize, Quotient32fc(), HasNoDenominator(), dst, src2, src1);
+  VemiStatus status = vemiOk;
+  const auto divisorOf = [&](ptrdiff_t y, ptrdiff_t i, int) {
+    const Vemi32sc divisor = element(src1.row(y), i);
+    if (divisor.re == 0 && divisor.im == 0) status = vemiWarnDivByZero;
+    return divisor;
+  };
+  quotients32sc<L>(roiSize, scaleFactor, divisorOf, src2, dst);
+  return status;
+}
+
+template <class L>
+VemiStatus divide32fc(Image<const Vemi32fc> src1, Image<const Vemi32fc> src2, Image<Vemi32fc> dst, VemiSize roiSize) {
+  if (const VemiStatus bad = firstOf(checkNull(src1, src2, dst), checkSize(roiSize), checkStep(src1, src2, dst))) {
+    return bad;
+  }
+  return divideComplex<L>(roiSize, Quotient32fc(), HasNoDenominator(), dst, src2, src1);
 }
 
 /// A constant of zero is refused, and one zero among several refuses the call. NaNs in both parts count as zero.
@@ -216,25 +223,29 @@ VemiStatus checkConstants(const C* value) {
   return vemiOk;
 }
 
-template <class C, class L>
-VemiStatus quotientScaledC(Image<const C> src, const C* value, Image<C> dst, VemiSize roiSize, int scaleFactor) {
+template <class L>
+VemiStatus divide16scC(Image<const Vemi16sc> src, const Vemi16sc* value, Image<Vemi16sc> dst, VemiSize roiSize,
+                       int scaleFactor) {
   if (const VemiStatus bad = firstOf(checkNull(src, value, dst), checkSize(roiSize), checkStep(src, dst))) return bad;
   if (const VemiStatus bad = checkConstants<L>(value)) return bad;
-  if constexpr (std::is_same_v<C, Vemi16sc>) {
-    return mapComplexC<L>(roiSize, Quotient16sc{quotientScale<double>(scaleFactor)}, value, dst, src);
-  } else {
-    const auto divisor = [&](ptrdiff_t, int channel) { return value[channel]; };
-    for (ptrdiff_t y = 0; y < roiSize.height; ++y) {
-      quotientRow<L>(roiSize.width, scaleFactor, divisor, src.row(y), dst.row(y));
-    }
-    return vemiOk;
-  }
+  const Quotient16sc quotient = {quotientScale<double>(scaleFactor)};
+  return roundingToNearest([&] { return mapComplexC<L>(roiSize, quotient, value, dst, src); });
 }
 
-/// The constant is tested ahead of the rest, which an array of constants must be there for. It becomes its reciprocal;
-/// where the squares of one have vanished, nothing is written.
 template <class L>
-VemiStatus quotientFloatC(Image<const Vemi32fc> src, const Vemi32fc* value, Image<Vemi32fc> dst, VemiSize roiSize) {
+VemiStatus divide32scC(Image<const Vemi32sc> src, const Vemi32sc* value, Image<Vemi32sc> dst, VemiSize roiSize,
+                       int scaleFactor) {
+  if (const VemiStatus bad = firstOf(checkNull(src, value, dst), checkSize(roiSize), checkStep(src, dst))) return bad;
+  if (const VemiStatus bad = checkConstants<L>(value)) return bad;
+  const auto divisorOf = [&](ptrdiff_t, ptrdiff_t, int channel) { return value[channel]; };
+  quotients32sc<L>(roiSize, scaleFactor, divisorOf, src, dst);
+  return vemiOk;
+}
+
+/// The constant is tested ahead of the rest, which an array of constants must be there for. It becomes its reciprocal.
+/// Where the squares of one have vanished nothing is written, which forms with several constants report.
+template <class L>
+VemiStatus divide32fcC(Image<const Vemi32fc> src, const Vemi32fc* value, Image<Vemi32fc> dst, VemiSize roiSize) {
   if (const VemiStatus bad = checkNull(value)) return bad;
   if (const VemiStatus bad = checkConstants<L>(value)) return bad;
   if (const VemiStatus bad = firstOf(checkNull(src, dst), checkSize(roiSize), checkStep(src, dst))) return bad;
@@ -242,7 +253,7 @@ VemiStatus quotientFloatC(Image<const Vemi32fc> src, const Vemi32fc* value, Imag
   for (int channel = 0; channel < L::channels; ++channel) {
     const auto [re, im] = value[channel];
     const float den = re * re + im * im;
-    if (den == 0.0f) return vemiOk;
+    if (den == 0.0f) return L::channels == 1 ? vemiOk : vemiErrDivByZero;
     const float t = 1.0f / den;
     reciprocal[channel] = {re * t, (0.0f - im) * t};
   }
@@ -254,44 +265,44 @@ VemiStatus quotientFloatC(Image<const Vemi32fc> src, const Vemi32fc* value, Imag
 
 using namespace vemi;
 
-VEMI_2SRC_DST_SFS(vemiDiv_16sc_C1RSfs, Vemi16sc, quotientScaled<Vemi16sc, C1>)
-VEMI_2SRC_DST_SFS(vemiDiv_16sc_C3RSfs, Vemi16sc, quotientScaled<Vemi16sc, C3>)
-VEMI_2SRC_DST_SFS(vemiDiv_16sc_AC4RSfs, Vemi16sc, quotientScaled<Vemi16sc, AC4>)
-VEMI_SRC_SRCDST_SFS(vemiDiv_16sc_C1IRSfs, Vemi16sc, quotientScaled<Vemi16sc, C1>)
-VEMI_SRC_SRCDST_SFS(vemiDiv_16sc_C3IRSfs, Vemi16sc, quotientScaled<Vemi16sc, C3>)
-VEMI_SRC_SRCDST_SFS(vemiDiv_16sc_AC4IRSfs, Vemi16sc, quotientScaled<Vemi16sc, AC4>)
+VEMI_2SRC_DST_SFS(vemiDiv_16sc_C1RSfs, Vemi16sc, divide16sc<C1>)
+VEMI_2SRC_DST_SFS(vemiDiv_16sc_C3RSfs, Vemi16sc, divide16sc<C3>)
+VEMI_2SRC_DST_SFS(vemiDiv_16sc_AC4RSfs, Vemi16sc, divide16sc<AC4>)
+VEMI_SRC_SRCDST_SFS(vemiDiv_16sc_C1IRSfs, Vemi16sc, divide16sc<C1>)
+VEMI_SRC_SRCDST_SFS(vemiDiv_16sc_C3IRSfs, Vemi16sc, divide16sc<C3>)
+VEMI_SRC_SRCDST_SFS(vemiDiv_16sc_AC4IRSfs, Vemi16sc, divide16sc<AC4>)
 
-VEMI_2SRC_DST_SFS(vemiDiv_32sc_C1RSfs, Vemi32sc, quotientScaled<Vemi32sc, C1>)
-VEMI_2SRC_DST_SFS(vemiDiv_32sc_C3RSfs, Vemi32sc, quotientScaled<Vemi32sc, C3>)
-VEMI_2SRC_DST_SFS(vemiDiv_32sc_AC4RSfs, Vemi32sc, quotientScaled<Vemi32sc, AC4>)
-VEMI_SRC_SRCDST_SFS(vemiDiv_32sc_C1IRSfs, Vemi32sc, quotientScaled<Vemi32sc, C1>)
-VEMI_SRC_SRCDST_SFS(vemiDiv_32sc_C3IRSfs, Vemi32sc, quotientScaled<Vemi32sc, C3>)
-VEMI_SRC_SRCDST_SFS(vemiDiv_32sc_AC4IRSfs, Vemi32sc, quotientScaled<Vemi32sc, AC4>)
+VEMI_2SRC_DST_SFS(vemiDiv_32sc_C1RSfs, Vemi32sc, divide32sc<C1>)
+VEMI_2SRC_DST_SFS(vemiDiv_32sc_C3RSfs, Vemi32sc, divide32sc<C3>)
+VEMI_2SRC_DST_SFS(vemiDiv_32sc_AC4RSfs, Vemi32sc, divide32sc<AC4>)
+VEMI_SRC_SRCDST_SFS(vemiDiv_32sc_C1IRSfs, Vemi32sc, divide32sc<C1>)
+VEMI_SRC_SRCDST_SFS(vemiDiv_32sc_C3IRSfs, Vemi32sc, divide32sc<C3>)
+VEMI_SRC_SRCDST_SFS(vemiDiv_32sc_AC4IRSfs, Vemi32sc, divide32sc<AC4>)
 
-VEMI_2SRC_DST(vemiDiv_32fc_C1R, Vemi32fc, quotientFloat<C1>)
-VEMI_2SRC_DST(vemiDiv_32fc_C3R, Vemi32fc, quotientFloat<C3>)
-VEMI_2SRC_DST(vemiDiv_32fc_AC4R, Vemi32fc, quotientFloat<AC4>)
-VEMI_SRC_SRCDST(vemiDiv_32fc_C1IR, Vemi32fc, quotientFloat<C1>)
-VEMI_SRC_SRCDST(vemiDiv_32fc_C3IR, Vemi32fc, quotientFloat<C3>)
-VEMI_SRC_SRCDST(vemiDiv_32fc_AC4IR, Vemi32fc, quotientFloat<AC4>)
+VEMI_2SRC_DST(vemiDiv_32fc_C1R, Vemi32fc, divide32fc<C1>)
+VEMI_2SRC_DST(vemiDiv_32fc_C3R, Vemi32fc, divide32fc<C3>)
+VEMI_2SRC_DST(vemiDiv_32fc_AC4R, Vemi32fc, divide32fc<AC4>)
+VEMI_SRC_SRCDST(vemiDiv_32fc_C1IR, Vemi32fc, divide32fc<C1>)
+VEMI_SRC_SRCDST(vemiDiv_32fc_C3IR, Vemi32fc, divide32fc<C3>)
+VEMI_SRC_SRCDST(vemiDiv_32fc_AC4IR, Vemi32fc, divide32fc<AC4>)
 
-VEMI_SRC_VALUE_DST_SFS(vemiDivC_16sc_C1RSfs, Vemi16sc, quotientScaledC<Vemi16sc, C1>)
-VEMI_SRC_VALUES_DST_SFS(vemiDivC_16sc_C3RSfs, Vemi16sc, quotientScaledC<Vemi16sc, C3>)
-VEMI_SRC_VALUES_DST_SFS(vemiDivC_16sc_AC4RSfs, Vemi16sc, quotientScaledC<Vemi16sc, AC4>)
-VEMI_VALUE_SRCDST_SFS(vemiDivC_16sc_C1IRSfs, Vemi16sc, quotientScaledC<Vemi16sc, C1>)
-VEMI_VALUES_SRCDST_SFS(vemiDivC_16sc_C3IRSfs, Vemi16sc, quotientScaledC<Vemi16sc, C3>)
-VEMI_VALUES_SRCDST_SFS(vemiDivC_16sc_AC4IRSfs, Vemi16sc, quotientScaledC<Vemi16sc, AC4>)
+VEMI_SRC_VALUE_DST_SFS(vemiDivC_16sc_C1RSfs, Vemi16sc, divide16scC<C1>)
+VEMI_SRC_VALUES_DST_SFS(vemiDivC_16sc_C3RSfs, Vemi16sc, divide16scC<C3>)
+VEMI_SRC_VALUES_DST_SFS(vemiDivC_16sc_AC4RSfs, Vemi16sc, divide16scC<AC4>)
+VEMI_VALUE_SRCDST_SFS(vemiDivC_16sc_C1IRSfs, Vemi16sc, divide16scC<C1>)
+VEMI_VALUES_SRCDST_SFS(vemiDivC_16sc_C3IRSfs, Vemi16sc, divide16scC<C3>)
+VEMI_VALUES_SRCDST_SFS(vemiDivC_16sc_AC4IRSfs, Vemi16sc, divide16scC<AC4>)
 
-VEMI_SRC_VALUE_DST_SFS(vemiDivC_32sc_C1RSfs, Vemi32sc, quotientScaledC<Vemi32sc, C1>)
-VEMI_SRC_VALUES_DST_SFS(vemiDivC_32sc_C3RSfs, Vemi32sc, quotientScaledC<Vemi32sc, C3>)
-VEMI_SRC_VALUES_DST_SFS(vemiDivC_32sc_AC4RSfs, Vemi32sc, quotientScaledC<Vemi32sc, AC4>)
-VEMI_VALUE_SRCDST_SFS(vemiDivC_32sc_C1IRSfs, Vemi32sc, quotientScaledC<Vemi32sc, C1>)
-VEMI_VALUES_SRCDST_SFS(vemiDivC_32sc_C3IRSfs, Vemi32sc, quotientScaledC<Vemi32sc, C3>)
-VEMI_VALUES_SRCDST_SFS(vemiDivC_32sc_AC4IRSfs, Vemi32sc, quotientScaledC<Vemi32sc, AC4>)
+VEMI_SRC_VALUE_DST_SFS(vemiDivC_32sc_C1RSfs, Vemi32sc, divide32scC<C1>)
+VEMI_SRC_VALUES_DST_SFS(vemiDivC_32sc_C3RSfs, Vemi32sc, divide32scC<C3>)
+VEMI_SRC_VALUES_DST_SFS(vemiDivC_32sc_AC4RSfs, Vemi32sc, divide32scC<AC4>)
+VEMI_VALUE_SRCDST_SFS(vemiDivC_32sc_C1IRSfs, Vemi32sc, divide32scC<C1>)
+VEMI_VALUES_SRCDST_SFS(vemiDivC_32sc_C3IRSfs, Vemi32sc, divide32scC<C3>)
+VEMI_VALUES_SRCDST_SFS(vemiDivC_32sc_AC4IRSfs, Vemi32sc, divide32scC<AC4>)
 
-VEMI_SRC_VALUE_DST(vemiDivC_32fc_C1R, Vemi32fc, quotientFloatC<C1>)
-VEMI_SRC_VALUES_DST(vemiDivC_32fc_C3R, Vemi32fc, quotientFloatC<C3>)
-VEMI_SRC_VALUES_DST(vemiDivC_32fc_AC4R, Vemi32fc, quotientFloatC<AC4>)
-VEMI_VALUE_SRCDST(vemiDivC_32fc_C1IR, Vemi32fc, quotientFloatC<C1>)
-VEMI_VALUES_SRCDST(vemiDivC_32fc_C3IR, Vemi32fc, quotientFloatC<C3>)
-VEMI_VALUES_SRCDST(vemiDivC_32fc_AC4IR, Vemi32fc, quotientFloatC<AC4>)
+VEMI_SRC_VALUE_DST(vemiDivC_32fc_C1R, Vemi32fc, divide32fcC<C1>)
+VEMI_SRC_VALUES_DST(vemiDivC_32fc_C3R, Vemi32fc, divide32fcC<C3>)
+VEMI_SRC_VALUES_DST(vemiDivC_32fc_AC4R, Vemi32fc, divide32fcC<AC4>)
+VEMI_VALUE_SRCDST(vemiDivC_32fc_C1IR, Vemi32fc, divide32fcC<C1>)
+VEMI_VALUES_SRCDST(vemiDivC_32fc_C3IR, Vemi32fc, divide32fcC<C3>)
+VEMI_VALUES_SRCDST(vemiDivC_32fc_AC4IR, Vemi32fc, divide32fcC<AC4>)

@@ -3,15 +3,18 @@
 //
 //     v = x 2^-scaleFactor / d       8u: v + 0.5       16s: v + 32768.5, and 32768 less in the end
 //
-// the sum truncated, and an odd result lowered where the sum was exact. Of the constant forms, C1 multiplies by a
-// reciprocal and refuses a zero; integer C3 divides, and reports a zero when all is written.
+// rounded to nearest in each step, the sum truncated, and an odd result lowered where the sum was exact. Of the
+// constant forms, C1 multiplies by a reciprocal and refuses a zero; integer C3 divides, and reports a zero when all is
+// written.
 // Checks: null, size, step; the constant of C1 and 32f forms.
 
 #include <type_traits>
 
+#include "arith/plain.h"
 #include "arith/quotient.h"
 #include "core/checks.h"
 #include "core/exports.h"
+#include "core/float_control.h"
 #include "core/map_region.h"
 #include "vemi/arith.h"
 
@@ -63,8 +66,9 @@ HWY_INLINE auto wholeBits(DF df, V whole, float offset = 0) {
   return hn::Sub(hn::BitCast(di, whole), hn::BitCast(di, hn::Set(df, wholeFrom + offset)));
 }
 
-/// How far a value may lie from 0. The bits of floats below 0 do not count.
-enum class Reach { below2To23, any };
+/// How far values may lie from 0. Bits count floats from 0 on alone, and wholeFrom lifts values within 2^22 there;
+/// others are limited first.
+enum class Reach { within2To22, any };
 
 /// The rounding of the head of this file, but for the limits. To truncate the sum and to lower an odd result of an
 /// exact one is to round to even what lies half below the sum.
@@ -91,11 +95,12 @@ struct Quotient {
   }
 };
 
+/// Dividends lie within 2^15, so scaled by 2^7 and less, quotients lie within 2^22.
 template <class F>
 auto withQuotient(int scaleFactor, const F& f) {
   const float scale = quotientScale<float>(scaleFactor);
-  if (scaleFactor == 0) return f(Quotient<false, Reach::below2To23>{scale});
-  if (scaleFactor >= -7) return f(Quotient<true, Reach::below2To23>{scale});
+  if (scaleFactor == 0) return f(Quotient<false, Reach::within2To22>{scale});
+  if (scaleFactor >= -7) return f(Quotient<true, Reach::within2To22>{scale});
   return f(Quotient<true, Reach::any>{scale});
 }
 
@@ -119,16 +124,10 @@ struct PlainQuotient {
   }
 };
 
-struct PlainProduct {
-  template <class D, class V>
-  HWY_INLINE V operator()(D, V a, V b) const {
-    return hn::Mul(a, b);
-  }
-};
-
 template <class L, class T, class IndexedOp>
 VemiStatus divideRegion(VemiSize roiSize, const IndexedOp& op, Image<T> dst, Image<const T> x, Image<const T> divisor) {
-  return mapRegionTested<L>(roiSize, op, DividesByZero(), dst, x, divisor) ? vemiWarnDivByZero : vemiOk;
+  const bool byZero = mapRegionTested<L>(roiSize, op, ofWorked<L>(DividesByZero()), dst, x, divisor);
+  return byZero ? vemiWarnDivByZero : vemiOk;
 }
 
 template <class T, class L>
@@ -136,8 +135,10 @@ VemiStatus quotientScaled(Image<const T> src1, Image<const T> src2, Image<T> dst
   if (const VemiStatus bad = firstOf(checkNull(src1, src2, dst), checkSize(roiSize), checkStep(src1, src2, dst))) {
     return bad;
   }
-  return withQuotient(scaleFactor, [&](const auto& quotient) {
-    return divideRegion<L>(roiSize, eachVector(quotient), dst, src2, src1);
+  return roundingToNearest([&] {
+    return withQuotient(scaleFactor, [&](const auto& quotient) {
+      return divideRegion<L>(roiSize, eachVector(quotient), dst, src2, src1);
+    });
   });
 }
 
@@ -161,9 +162,11 @@ template <class T>
 VemiStatus quotientOfOne(Image<const T> src, const T* value, Image<T> dst, VemiSize roiSize, int scaleFactor) {
   if (const VemiStatus bad = firstOf(checkNull(src, dst), checkSize(roiSize), checkStep(src, dst))) return bad;
   if (*value == 0) return vemiErrDivByZero;
-  const ScaledByFactor<T> op = {factorOf(*value, scaleFactor)};
-  mapRegion<C1>(CallerRows(), roiSize, eachVector(op), dst, src);
-  return vemiOk;
+  return roundingToNearest([&] {
+    const ScaledByFactor<T> op = {factorOf(*value, scaleFactor)};
+    mapRegion<C1>(CallerRows(), roiSize, eachVector(op), dst, src);
+    return vemiOk;
+  });
 }
 
 template <class T>
@@ -171,8 +174,10 @@ VemiStatus quotientOfEach(Image<const T> src, const T* value, Image<T> dst, Vemi
   if (const VemiStatus bad = firstOf(checkNull(src, value, dst), checkSize(roiSize), checkStep(src, dst))) return bad;
   const bool anyZero = value[0] == 0 || value[1] == 0 || value[2] == 0;
   const Quotient<true, Reach::any> quotient = {quotientScale<float>(scaleFactor)};
-  mapRegion<C3>(CallerRows(), roiSize, withConstants<C3>(quotient, value), dst, src);
-  return anyZero ? vemiErrDivByZero : vemiOk;
+  return roundingToNearest([&] {
+    mapRegion<C3>(CallerRows(), roiSize, withConstants<C3>(quotient, value), dst, src);
+    return anyZero ? vemiErrDivByZero : vemiOk;
+  });
 }
 
 /// Multiplies by reciprocals, so that a result may differ from a quotient in the last place. A NaN counts as zero.

@@ -67,7 +67,7 @@ struct Root {
 template <class L, class T, class Op>
 VemiStatus testedRoots(const Op& root, Image<const T> src, Image<T> dst, VemiSize roiSize) {
   const bool negative =
-      mapRegionTested<L>(roiSize, eachVector(root), IsNegative(), wholeElements(dst), wholeElements(src));
+      mapRegionTested<L>(roiSize, eachVector(root), ofWorked<L>(IsNegative()), wholeElements(dst), wholeElements(src));
   return negative ? vemiWarnSqrtNegative : vemiOk;
 }
 

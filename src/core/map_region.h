@@ -1,6 +1,8 @@
 // Element-wise regions: the walk over the rows of a call whose checks are done.
 #pragma once
 
+#include <algorithm>
+
 #include "core/image.h"
 #include "core/map_row.h"
 #include "core/parallel.h"
@@ -52,33 +54,53 @@ void mapRegion(const Rows& rows, VemiSize roiSize, const IndexedOp& op, Image<T>
 
 namespace detail {
 
-/// An operation that notes whether test(d, v...), a mask, holds for an element that is worked on. That is rare: a
-/// branch that is not taken costs less than to collect the masks.
-template <class L, class IndexedOp, class Test>
+/// An operation that notes whether an indexed test of its sources, a mask, holds anywhere. That is rare: a branch that
+/// is not taken costs less than to collect the masks.
+template <class IndexedOp, class IndexedTest>
 struct Tested {
   static constexpr int vectors = IndexedOp::vectors;
-  static constexpr int period = L::keepsAlpha ? 4 : IndexedOp::period;
+  static constexpr int period = std::max(IndexedOp::period, IndexedTest::period);
   IndexedOp op;
-  Test test;
+  IndexedTest test;
   bool* any;
 
   template <class D, class K, class... V>
   HWY_INLINE auto operator()(D d, K k, V... v) const {
-    auto here = test(d, v...);
-    if constexpr (L::keepsAlpha) here = hn::And(here, colourLanes(d, k * laneCount<hn::TFromD<D>> % 4));
-    if (HWY_UNLIKELY(!hn::AllFalse(d, here))) *any = true;
+    if (HWY_UNLIKELY(!hn::AllFalse(d, test(d, k, v...)))) *any = true;
     return op(d, k, v...);
+  }
+};
+
+template <class Test>
+struct OfColours {
+  static constexpr int period = 4;
+  Test test;
+
+  template <class D, class K, class... V>
+  HWY_INLINE auto operator()(D d, K k, V... v) const {
+    return hn::And(test(d, v...), colourLanes(d, k * laneCount<hn::TFromD<D>> % 4));
   }
 };
 
 }  // namespace detail
 
-/// mapRegion in the calling thread, and whether test(d, lanes of the sources), a mask, holds for any element that is
-/// worked on.
-template <class L, class T, class IndexedOp, class Test, class... Src>
-bool mapRegionTested(VemiSize roiSize, const IndexedOp& op, const Test& test, Image<T> dst, Image<const Src>... src) {
+/// test(d, v...) of the elements that layout L works on.
+template <class L, class Test>
+auto ofWorked(Test test) {
+  if constexpr (L::keepsAlpha) {
+    return detail::OfColours<Test>{test};
+  } else {
+    return eachVector(test);
+  }
+}
+
+/// mapRegion in the calling thread, and whether an indexed test(d, k, lanes of the sources), a mask, holds anywhere:
+/// eachVector(test) looks at a kept alpha too, ofWorked<L>(test) does not.
+template <class L, class T, class IndexedOp, class IndexedTest, class... Src>
+bool mapRegionTested(VemiSize roiSize, const IndexedOp& op, const IndexedTest& test, Image<T> dst,
+                     Image<const Src>... src) {
   bool any = false;
-  const detail::Tested<L, IndexedOp, Test> tested = {op, test, &any};
+  const detail::Tested<IndexedOp, IndexedTest> tested = {op, test, &any};
   mapRegion<L>(CallerRows(), roiSize, tested, dst, src...);
   return any;
 }

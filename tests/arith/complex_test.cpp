@@ -179,7 +179,8 @@ bool isZero(const std::byte* place, Element element) {
   return value.re == 0 && value.im == 0;
 }
 
-/// With one zero among the constants the call is refused; where squares vanish it does nothing.
+/// With one zero among the constants the call is refused; where squares vanish it does nothing, and says so if there
+/// are several constants.
 void quotientOfConstants(Call& call) {
   bool vanishes = false;
   for (int channel = 0; channel < call.function.destination.channels; ++channel) {
@@ -194,6 +195,7 @@ void quotientOfConstants(Call& call) {
       call.expectedStatus = vemiErrDivByZero;
     }
   }
+  if (vanishes && call.function.destination.channels > 1) call.expectedStatus = vemiErrDivByZero;
   if (call.expectedStatus != vemiOk || vanishes) return;
   reference(integerQuotient, productWithReciprocal)(call);
 }
@@ -320,5 +322,9 @@ TEST(ComplexDivC, WhereTheConstantIsTested) {
   EXPECT_EQ(vemiDivC_32fc_C3IR(nullptr, pixels, 0, {0, 0}), vemiErrNullPtr);
   EXPECT_EQ(vemiDivC_32fc_C1IR({1e-30f, 0}, pixels, 0, {1, 1}), vemiErrStep);
   EXPECT_EQ(vemiDivC_32fc_C1IR({1e-30f, 0}, pixels, 8, {4, 1}), vemiOk);
+  const Vemi32fc vanishing[3] = {{1, 0}, {1, 0}, {-1e-30f, 1e-30f}};
+  EXPECT_EQ(vemiDivC_32fc_C3IR(vanishing, pixels, 0, {1, 1}), vemiErrStep);
+  EXPECT_EQ(vemiDivC_32fc_C3IR(vanishing, pixels, 24, {1, 1}), vemiErrDivByZero);
+  EXPECT_EQ(vemiDivC_32fc_AC4IR(vanishing, pixels, 32, {1, 1}), vemiErrDivByZero);
   for (const Vemi32fc& pixel : pixels) EXPECT_TRUE(pixel.re == 1 && pixel.im == 2);
 }
