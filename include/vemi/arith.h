@@ -1673,8 +1673,8 @@ VEMI_API VemiStatus vemiDivC_32fc_AC4IR(const Vemi32fc value[3], Vemi32fc* pSrcD
  * @param pSrcDst,srcDstStep  the same of the image that is source and destination
  * @param roiSize             size of the region in pixels
  *
- * **Steps** that are no multiple of the element size are rounded down to one, after their test. (Other families take
- * them as they are.)
+ * **Steps** that are no multiple of the element size are rounded down to one, after their test. (So are those of the
+ * 16s and 32f forms of vemiSqrt; all other functions of this header take steps as they are.)
  *
  * **Overlap.** pDst does not overlap pSrc; to work in place, take an I form.
  *
@@ -1824,14 +1824,14 @@ VEMI_API VemiStatus vemiSqr_32f_AC4IR(Vemi32f* pSrcDst, int srcDstStep, VemiSize
  * @param roiSize             size of the region in pixels
  * @param scaleFactor         s above; negative values multiply
  *
- * **Steps** that are no multiple of the element size are rounded down to one, after their test. (Other families take
- * them as they are.)
+ * **Steps** of the 16s and 32f forms that are no multiple of the element size are rounded down to one, after their
+ * test; the 8u and 16u forms take them as they are.
  *
  * **Overlap.** pDst does not overlap pSrc; to work in place, take an I form.
  *
  * **Statuses**, in the order of the tests: null, size, step (see status.h). Then, of the 16s and 32f forms,
- * vemiWarnSqrtNegative if a worked element was below zero, at any scaleFactor; neither -0.0 nor a NaN is, and an
- * alpha that stays is not looked at. All of the region is computed.
+ * vemiWarnSqrtNegative if an element of the source was below zero, at any scaleFactor: in AC4 forms one of the fourth
+ * channel too, although it is not worked on. Neither -0.0 nor a NaN is below zero. All of the region is computed.
  *
  * **Threads.** All forms run in the calling thread.
  * @{

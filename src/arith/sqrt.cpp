@@ -1,8 +1,7 @@
-// vemiSqrt: the square root, divided by 2^scaleFactor for integers. Checks: null, size, step; then the steps are
-// rounded down to whole elements. A number below zero gives a warning.
+// vemiSqrt: the square root, divided by 2^scaleFactor for integers. Checks: null, size, step. The forms of elements
+// that may be below zero, 16s and 32f, warn of those, and round the steps down to whole elements.
 
 #include <algorithm>
-#include <bit>
 
 #include "core/any_element.h"
 #include "core/byte_table.h"
@@ -10,6 +9,7 @@
 #include "core/exports.h"
 #include "core/image.h"
 #include "core/map_region.h"
+#include "core/numbers.h"
 #include "core/wide_lanes.h"
 #include "vemi/arith.h"
 
@@ -31,7 +31,7 @@ struct ScaledRoot {
   explicit ScaledRoot(int scaleFactor) {
     const int s = std::clamp(scaleFactor, -16, 9);  // beyond, all roots but zero's are above the range, or below 1/2
     const int up = std::max(-s, 0);
-    scale = std::bit_cast<float>((127 - s) << 23);
+    scale = powerOfTwo<float>(-s);
     power = up < 15 ? uint32_t{4} << (2 * up) : 0;
     shift = std::max(s, 0);
   }
@@ -64,19 +64,30 @@ struct Root {
   }
 };
 
+/// A number below zero in an alpha that stays warns too.
 template <class L, class T, class Op>
-VemiStatus testedRoots(const Op& root, Image<const T> src, Image<T> dst, VemiSize roiSize) {
+VemiStatus rootsOfSigned(const Op& root, Image<const T> src, Image<T> dst, VemiSize roiSize) {
   const bool negative =
-      mapRegionTested<L>(roiSize, eachVector(root), ofWorked<L>(IsNegative()), wholeElements(dst), wholeElements(src));
+      mapRegionTested<L>(roiSize, eachVector(root), eachVector(IsNegative()), wholeElements(dst), wholeElements(src));
   return negative ? vemiWarnSqrtNegative : vemiOk;
 }
 
-template <class T, class L>
-VemiStatus root16(Image<const T> src, Image<T> dst, VemiSize roiSize, int scaleFactor) {
+template <class L>
+VemiStatus root16s(Image<const Vemi16s> src, Image<Vemi16s> dst, VemiSize roiSize, int scaleFactor) {
   if (const VemiStatus bad = firstOf(checkNull(src, dst), checkSize(roiSize), checkStep(src, dst))) return bad;
-  const ScaledRoot<T> root(scaleFactor);
-  if constexpr (std::is_signed_v<T>) return testedRoots<L>(root, src, dst, roiSize);
-  mapRegion<L>(CallerRows(), roiSize, eachVector(root), wholeElements(dst), wholeElements(src));
+  return rootsOfSigned<L>(ScaledRoot<Vemi16s>(scaleFactor), src, dst, roiSize);
+}
+
+template <class L>
+VemiStatus root32f(Image<const Vemi32f> src, Image<Vemi32f> dst, VemiSize roiSize) {
+  if (const VemiStatus bad = firstOf(checkNull(src, dst), checkSize(roiSize), checkStep(src, dst))) return bad;
+  return rootsOfSigned<L>(Root(), src, dst, roiSize);
+}
+
+template <class L>
+VemiStatus root16u(Image<const Vemi16u> src, Image<Vemi16u> dst, VemiSize roiSize, int scaleFactor) {
+  if (const VemiStatus bad = firstOf(checkNull(src, dst), checkSize(roiSize), checkStep(src, dst))) return bad;
+  mapRegion<L>(CallerRows(), roiSize, eachVector(ScaledRoot<Vemi16u>(scaleFactor)), dst, src);
   return vemiOk;
 }
 
@@ -86,12 +97,6 @@ VemiStatus root8u(Image<const Vemi8u> src, Image<Vemi8u> dst, VemiSize roiSize, 
   const ByteTable table = byteTableOf<Vemi16u>(ScaledRoot<Vemi16u>(scaleFactor));
   mapRegion<L>(CallerRows(), roiSize, eachVector(table), dst, src);
   return vemiOk;
-}
-
-template <class L>
-VemiStatus root32f(Image<const Vemi32f> src, Image<Vemi32f> dst, VemiSize roiSize) {
-  if (const VemiStatus bad = firstOf(checkNull(src, dst), checkSize(roiSize), checkStep(src, dst))) return bad;
-  return testedRoots<L>(Root(), src, dst, roiSize);
 }
 
 }  // namespace
@@ -106,19 +111,19 @@ VEMI_SRCDST_SFS(vemiSqrt_8u_C1IRSfs, Vemi8u, root8u<C1>)
 VEMI_SRCDST_SFS(vemiSqrt_8u_C3IRSfs, Vemi8u, root8u<C3>)
 VEMI_SRCDST_SFS(vemiSqrt_8u_AC4IRSfs, Vemi8u, root8u<AC4>)
 
-VEMI_SRC_DST_SFS(vemiSqrt_16u_C1RSfs, Vemi16u, root16<Vemi16u, C1>)
-VEMI_SRC_DST_SFS(vemiSqrt_16u_C3RSfs, Vemi16u, root16<Vemi16u, C3>)
-VEMI_SRC_DST_SFS(vemiSqrt_16u_AC4RSfs, Vemi16u, root16<Vemi16u, AC4>)
-VEMI_SRCDST_SFS(vemiSqrt_16u_C1IRSfs, Vemi16u, root16<Vemi16u, C1>)
-VEMI_SRCDST_SFS(vemiSqrt_16u_C3IRSfs, Vemi16u, root16<Vemi16u, C3>)
-VEMI_SRCDST_SFS(vemiSqrt_16u_AC4IRSfs, Vemi16u, root16<Vemi16u, AC4>)
+VEMI_SRC_DST_SFS(vemiSqrt_16u_C1RSfs, Vemi16u, root16u<C1>)
+VEMI_SRC_DST_SFS(vemiSqrt_16u_C3RSfs, Vemi16u, root16u<C3>)
+VEMI_SRC_DST_SFS(vemiSqrt_16u_AC4RSfs, Vemi16u, root16u<AC4>)
+VEMI_SRCDST_SFS(vemiSqrt_16u_C1IRSfs, Vemi16u, root16u<C1>)
+VEMI_SRCDST_SFS(vemiSqrt_16u_C3IRSfs, Vemi16u, root16u<C3>)
+VEMI_SRCDST_SFS(vemiSqrt_16u_AC4IRSfs, Vemi16u, root16u<AC4>)
 
-VEMI_SRC_DST_SFS(vemiSqrt_16s_C1RSfs, Vemi16s, root16<Vemi16s, C1>)
-VEMI_SRC_DST_SFS(vemiSqrt_16s_C3RSfs, Vemi16s, root16<Vemi16s, C3>)
-VEMI_SRC_DST_SFS(vemiSqrt_16s_AC4RSfs, Vemi16s, root16<Vemi16s, AC4>)
-VEMI_SRCDST_SFS(vemiSqrt_16s_C1IRSfs, Vemi16s, root16<Vemi16s, C1>)
-VEMI_SRCDST_SFS(vemiSqrt_16s_C3IRSfs, Vemi16s, root16<Vemi16s, C3>)
-VEMI_SRCDST_SFS(vemiSqrt_16s_AC4IRSfs, Vemi16s, root16<Vemi16s, AC4>)
+VEMI_SRC_DST_SFS(vemiSqrt_16s_C1RSfs, Vemi16s, root16s<C1>)
+VEMI_SRC_DST_SFS(vemiSqrt_16s_C3RSfs, Vemi16s, root16s<C3>)
+VEMI_SRC_DST_SFS(vemiSqrt_16s_AC4RSfs, Vemi16s, root16s<AC4>)
+VEMI_SRCDST_SFS(vemiSqrt_16s_C1IRSfs, Vemi16s, root16s<C1>)
+VEMI_SRCDST_SFS(vemiSqrt_16s_C3IRSfs, Vemi16s, root16s<C3>)
+VEMI_SRCDST_SFS(vemiSqrt_16s_AC4IRSfs, Vemi16s, root16s<AC4>)
 
 VEMI_SRC_DST(vemiSqrt_32f_C1R, Vemi32f, root32f<C1>)
 VEMI_SRC_DST(vemiSqrt_32f_C3R, Vemi32f, root32f<C3>)

@@ -65,7 +65,6 @@ using IntegerFunction = int64_t (*)(int64_t x, int scaleFactor);
 using Warning = VemiStatus (*)(int64_t x);
 
 VemiStatus noWarning(int64_t) { return vemiOk; }
-VemiStatus rootWarning(int64_t x) { return x < 0 ? vemiWarnSqrtNegative : vemiOk; }
 VemiStatus lnWarning(int64_t x) { return x == 0 ? vemiWarnLnZero : x < 0 ? vemiWarnLnNegative : vemiOk; }
 
 /// The view of a family that rounds steps down to whole elements.
@@ -98,6 +97,17 @@ Reference ofFloats(float (*function)(float), View (*steps)(View) = asItIs) {
     forEachPair(call, steps,
                 [&](const std::byte* from, std::byte* to, Element) { store(to, function(load<float>(from))); });
   };
+}
+
+/// Of all elements in memory, those of an alpha that stays among them.
+template <class T>
+void expectWarningOfNegatives(Call& call) {
+  const View source = wholeElements(call.source());
+  for (int y = 0; y < source.size.height; ++y) {
+    for (int n = 0; n < source.size.width * call.function.source.elements; ++n) {
+      if (load<T>(source.at(0, y) + n * bytesOf(source.element)) < 0) call.expectedStatus = vemiWarnSqrtNegative;
+    }
+  }
 }
 
 float alone(VemiStatus (*function)(const Vemi32f*, int, Vemi32f*, int, VemiSize), float x) {
@@ -156,13 +166,19 @@ TEST(Sqr, EveryValue) {
 
 TEST(Sqrt, EveryMember) {
   expectDefinition(membersOf("vemiSqrt", "8u.*"), ofIntegers(root), allScaleFactors());
-  expectDefinition(membersOf("vemiSqrt", "16[us].*"), ofIntegers(root, rootWarning, wholeElements), allScaleFactors());
-  const Reference ofEach = ofFloats([](float x) { return std::sqrt(x); }, wholeElements);
+  expectDefinition(membersOf("vemiSqrt", "16u.*"), ofIntegers(root), allScaleFactors());
+  const Reference of16s = ofIntegers(root, noWarning, wholeElements);
+  expectDefinition(
+      membersOf("vemiSqrt", "16s.*"),
+      [&](Call& call) {
+        expectWarningOfNegatives<Vemi16s>(call);
+        of16s(call);
+      },
+      allScaleFactors());
+  const Reference of32f = ofFloats([](float x) { return std::sqrt(x); }, wholeElements);
   expectDefinition(membersOf("vemiSqrt", "32f.*"), [&](Call& call) {
-    forEachPair(call, wholeElements, [&](const std::byte* from, std::byte*, Element) {
-      if (load<float>(from) < 0) call.expectedStatus = vemiWarnSqrtNegative;
-    });
-    ofEach(call);
+    expectWarningOfNegatives<Vemi32f>(call);
+    of32f(call);
   });
 }
 
@@ -172,24 +188,38 @@ TEST(Sqrt, EveryValue) {
   expectEveryValue(vemiSqrt_16s_C1RSfs, root);
 }
 
-TEST(Sqrt, WarnsOfWorkedElementsAlone) {
+// One element below zero warns, in the alpha channel too, which stays as it is; -0.0 and a NaN do not.
+TEST(Sqrt, AnyNegativeWarns) {
   const VemiSize size = {37, 2};
-  for (const bool inColour : {false, true}) {
+  for (const int channel : {-1, 2, 3}) {
     std::vector<Vemi16s> integers(4 * 37 * 2, Vemi16s{4});
     std::vector<Vemi32f> floats(4 * 37 * 2, 4.0f);
-    const size_t spoiled = 4 * 50 + (inColour ? 2 : 3);
-    integers[spoiled] = -1;
-    floats[spoiled] = -1e-40f;
+    const size_t spoiled = static_cast<size_t>(4 * 50 + channel);
+    if (channel >= 0) integers[spoiled] = -1;
+    if (channel >= 0) floats[spoiled] = -1e-40f;
     floats[0] = -0.0f;
     floats[1] = -NAN;
-    const VemiStatus expected = inColour ? vemiWarnSqrtNegative : vemiOk;
+    const VemiStatus expected = channel < 0 ? vemiOk : vemiWarnSqrtNegative;
     for (const int scaleFactor : {-40, 0, 40}) {
       std::vector<Vemi16s> result = integers;
       EXPECT_EQ(vemiSqrt_16s_AC4IRSfs(result.data(), 4 * 37 * 2, size, scaleFactor), expected);
+      EXPECT_EQ(result[4 * 50 + 3], integers[4 * 50 + 3]);
     }
     EXPECT_EQ(vemiSqrt_32f_AC4IR(floats.data(), 4 * 37 * 4, size), expected);
     EXPECT_EQ(floats[4 * 36], 2.0f);
+    EXPECT_EQ(floats[4 * 50 + 3], channel == 3 ? -1e-40f : 4.0f);
   }
+  const Vemi32f pixel[4] = {1, 4, 9, -1};
+  Vemi32f roots[4] = {0, 0, 0, 5};
+  EXPECT_EQ(vemiSqrt_32f_AC4R(pixel, 16, roots, 16, {1, 1}), vemiWarnSqrtNegative);
+  EXPECT_EQ(std::vector<Vemi32f>(roots, roots + 4), (std::vector<Vemi32f>{1, 2, 3, 5}));
+}
+
+TEST(Sqrt, TakesAnOddStepOf16uAsItIs) {
+  alignas(2) const Vemi8u source[] = {1, 0, 4, 0, 0xff, 9, 0, 16, 0};
+  Vemi16u result[4];
+  EXPECT_EQ(vemiSqrt_16u_C1RSfs(reinterpret_cast<const Vemi16u*>(source), 5, result, 4, {2, 2}, 0), vemiOk);
+  EXPECT_EQ(std::vector<Vemi16u>(result, result + 4), (std::vector<Vemi16u>{1, 2, 3, 4}));
 }
 
 TEST(Ln, EveryMember) {

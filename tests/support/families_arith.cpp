@@ -18,14 +18,15 @@ std::vector<Family> arithFamilies() {
   return {
       {"vemiAdd vemiSub vemiMul", "(8u|16s)_C[34].*", "width null size step"},
       {"vemiAdd vemiAddC vemiSub vemiSubC vemiMul vemiMulC", ".*", "null size step"},
-      {"vemiDiv vemiDivC", ".*", "null size step", nullptr, {}, nullptr, {.lateError = vemiErrDivByZero}},
+      {"vemiDivC", "(8u|16s)_C3.*", "null size step", nullptr, {}, nullptr, {.lateError = vemiErrDivByZero}},
+      {"vemiDiv vemiDivC", ".*", "null size step"},
 
       {"vemiNot", "8u_C[34].*", "size null step"},
       {"vemiAnd vemiOr vemiXor vemiAndC vemiOrC vemiXorC vemiNot", ".*", "null step size"},
       {"vemiLShiftC vemiRShiftC", ".*", "null step size"},
 
-      {"vemiAbs vemiSqrt", ".*", "null size step", nullptr, {}, nullptr, {.wholeSteps = true}},
-      {"vemiSqr vemiLn vemiExp", ".*", "null size step"},
+      {"vemiAbs vemiSqrt", "(16s|32f)_.*", "null size step", nullptr, {}, nullptr, {.wholeSteps = true}},
+      {"vemiSqr vemiSqrt vemiLn vemiExp", ".*", "null size step"},
       {"vemiMulScale vemiMulCScale vemiComplement", ".*", "null step size"},
 
       {"vemiAlphaComp vemiAlphaCompC",
