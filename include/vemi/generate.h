@@ -127,8 +127,7 @@ VEMI_API VemiStatus vemiImageRamp_32f_AC4R(Vemi32f* pDst, int dstStep, VemiSize 
  *
  * where 2 pi is 6.283185307179586. So the distance from one ring to the next is two pixels at the distance H from the
  * middle, and four at the upper and lower rim. s is correct to one unit in the last place, and the same on every
- * machine unless W * W exceeds 10^9 * H: so large an angle is left to the C library. The value of a pixel, whose
- * fraction the integer types drop, is
+ * machine. The value of a pixel, whose fraction the integer types drop, is
  *
  *     8u   (s + 1) * 127.99999        16u  (s + 1) * 32767.99999      32s  s * 2147483647.99999
  *     8s   s * 127.99999              16s  s * 32767.99999            32f  (s + 1) * 0.49999

@@ -7,45 +7,6 @@
 
 namespace vemi {
 
-namespace detail {
-
-/// A number as the sum of two doubles, of which the second is what the first lost by rounding.
-template <class V>
-struct TwoParts {
-  V upper, lower;
-};
-
-/// The exact sum, where a is not smaller than b by magnitude.
-template <class V>
-HWY_INLINE TwoParts<V> exactSum(V a, V b) {
-  const V sum = hn::Add(a, b);
-  return {sum, hn::Sub(b, hn::Sub(sum, a))};
-}
-
-/// The exact product: the processors that cannot multiply and add with one rounding come to the same bits by products
-/// of halves of 26 bits.
-template <class D, class V>
-HWY_INLINE TwoParts<V> exactProduct([[maybe_unused]] D d, V a, V b) {
-  const V product = hn::Mul(a, b);
-#if HWY_NATIVE_FMA
-  return {product, hn::MulSub(a, b, product)};
-#else
-  const auto halved = [&](V v) HWY_ATTR {
-    const V shifted = hn::Mul(v, hn::Set(d, 0x1p27 + 1));
-    const V upper = hn::Sub(shifted, hn::Sub(shifted, v));
-    return TwoParts<V>{upper, hn::Sub(v, upper)};
-  };
-  const auto [aUpper, aLower] = halved(a);
-  const auto [bUpper, bLower] = halved(b);
-  V rest = hn::Sub(hn::Mul(aUpper, bUpper), product);
-  rest = hn::Add(rest, hn::Mul(aUpper, bLower));
-  rest = hn::Add(rest, hn::Mul(aLower, bUpper));
-  return {product, hn::Add(rest, hn::Mul(aLower, bLower))};
-#endif
-}
-
-}  // namespace detail
-
 /// x^exponent of a positive normal x, where the result is normal too; lanes of other numbers hold no particular value.
 /// Less than 0.8 units in the last place from the exact power; the same bits on all levels.
 ///

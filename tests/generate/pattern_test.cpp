@@ -178,7 +178,7 @@ void chirp(Call& call) {
 
 TEST(ImageJaehne, EveryMember) { expectDefinition(membersOf("vemiImageJaehne"), chirp); }
 
-// Pieces of a row, and angles that the lanes leave to the library.
+// Pieces of a row, and angles of many millions of turns.
 TEST(ImageJaehne, LargeRegions) {
   for (const char* members : {"8u_C1R", "32s_AC4R", "32f_C3R"}) {
     for (const VemiSize size : {VemiSize{2051, 3}, VemiSize{1500, 1501}, VemiSize{60000, 1}}) {
