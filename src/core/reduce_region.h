@@ -29,7 +29,7 @@
 
 namespace vemi {
 
-enum class Order {
+enum class ReductionOrder {
   any,     // of exact sums; contiguous rows are one long row
   repeat,  // any, and an element may count more than once
   fixed    // of float sums: each element of a block has its lane, and the lanes are emptied after each row
@@ -58,10 +58,10 @@ struct Accumulators {
   static constexpr ptrdiff_t items = blockItems<Element, L>;
   static constexpr int vectors = static_cast<int>(items / laneCount<Element>);
   /// Independent sums, so that an addition need not wait for the one before.
-  static constexpr int chains = Reduction::order == Order::fixed ? vectors
-                                : L::elements == 3               ? 3
-                                : 4 / parts < vectors            ? 4 / parts
-                                                                 : vectors;
+  static constexpr int chains = Reduction::order == ReductionOrder::fixed ? vectors
+                                : L::elements == 3                        ? 3
+                                : 4 / parts < vectors                     ? 4 / parts
+                                                                          : vectors;
   static constexpr ptrdiff_t capacity = Reduction::capacity / (vectors / chains);  // in blocks
   static_assert(items % L::elements == 0 && vectors % chains == 0 && capacity > 0);
 
@@ -136,7 +136,7 @@ struct RowEnd {
     const T* const last = row + count - A::items;
     unrolled<A::vectors>([&](auto k) HWY_ATTR {
       auto v = hn::LoadU(d, last + k * N);
-      if constexpr (Reduction::order != Order::repeat) {
+      if constexpr (Reduction::order != ReductionOrder::repeat) {
         const ptrdiff_t seen = std::clamp<ptrdiff_t>(A::items - rest - k * N, 0, N);
         v = hn::IfThenElse(hn::FirstN(d, static_cast<size_t>(seen)), padding.v[k % pixelVectors<L>], v);
       }
@@ -153,7 +153,7 @@ template <class L, class Reduction, class Sink, class T, class... Others>
 HWY_NOINLINE void reduceRegion(VemiSize roiSize, const Reduction& reduction, Sink& sink, Image<const T> src,
                                Others... others) {
   using A = Accumulators<L, Reduction>;
-  constexpr bool byRow = Reduction::order == Order::fixed;
+  constexpr bool byRow = Reduction::order == ReductionOrder::fixed;
   const bool contiguous = isContiguous<L>(src, roiSize) && (isContiguous<L>(others, roiSize) && ...);
   const Extent pixels = mergedExtent(roiSize, contiguous && !byRow);
   const ptrdiff_t elements = pixels.width * L::elements;

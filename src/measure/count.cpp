@@ -47,7 +47,7 @@ struct InRange {
   using Lane = hwy::UnsignedFromSize<sizeof(T)>;
   static constexpr int parts = 1;
   static constexpr ptrdiff_t capacity = capacityFor<Lane>(1);
-  static constexpr Order order = Order::any;
+  static constexpr ReductionOrder order = ReductionOrder::any;
   static Lane start(int) { return 0; }
 
   decltype(withConstants<L>(Inside(), static_cast<const T*>(nullptr), static_cast<const T*>(nullptr))) inside;

@@ -17,7 +17,7 @@ namespace vemi {
 template <class T, class Term, class Adding>
 struct ExactSums : Adding {
   using Element = T;
-  static constexpr Order order = Order::any;
+  static constexpr ReductionOrder order = ReductionOrder::any;
   static typename Adding::Lane start(int) { return 0; }
   static T padding(const T*, int) { return 0; }
 

@@ -17,7 +17,7 @@ struct Holds {
   using Lane = uint32_t;
   static constexpr int parts = 1;
   static constexpr ptrdiff_t capacity = unlimitedCapacity;
-  static constexpr Order order = Order::repeat;
+  static constexpr ReductionOrder order = ReductionOrder::repeat;
   static Lane start(int) { return 0; }
   static float padding(const float* row, int channel) { return KeepBest<float, float, Same>::padding(row, channel); }
 

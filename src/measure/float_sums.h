@@ -16,7 +16,7 @@ struct FloatSums {
   using Lane = float;
   static constexpr int parts = 1;
   static constexpr ptrdiff_t capacity = 256;
-  static constexpr Order order = Order::fixed;
+  static constexpr ReductionOrder order = ReductionOrder::fixed;
   static float start(int) { return 0; }
   static float padding(const float*, int) { return 0; }
 

@@ -68,7 +68,7 @@ struct KeepBest {
   using Lane = Value;
   static constexpr int parts = sizeof...(Extreme);
   static constexpr ptrdiff_t capacity = unlimitedCapacity;
-  static constexpr Order order = Order::repeat;
+  static constexpr ReductionOrder order = ReductionOrder::repeat;
   static Lane start(int part) {
     constexpr Lane worst[] = {Extreme::template worst<Lane>...};
     return worst[part];

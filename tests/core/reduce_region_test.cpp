@@ -15,13 +15,13 @@ using namespace vemi::test;
 namespace {
 
 /// Sums modulo 2^16, emptied after every 12 vectors of an accumulator.
-template <Order walkOrder>
+template <ReductionOrder walkOrder>
 struct Adding {
   using Element = uint16_t;
   using Lane = uint16_t;
   static constexpr int parts = 1;
   static constexpr ptrdiff_t capacity = 12;
-  static constexpr Order order = walkOrder;
+  static constexpr ReductionOrder order = walkOrder;
   static Lane start(int) { return 0; }
   static Element padding(const Element*, int) { return 0; }
 
@@ -31,7 +31,7 @@ struct Adding {
   }
 };
 
-template <class L, Order order>
+template <class L, ReductionOrder order>
 void expectChannelSums(VemiSize size, ptrdiff_t gap, Place place) {
   using A = Accumulators<L, Adding<order>>;
   const ptrdiff_t pitch = size.width * L::elements + gap;
@@ -60,11 +60,11 @@ void expectAllChannelSums() {
   for (const Place place : places) {
     for (int width = 1; width < 3 * 64 + 2; ++width) {
       const VemiSize size = {width, 1 + width % 4};
-      expectChannelSums<L, Order::any>(size, 0, place);
-      expectChannelSums<L, Order::any>(size, 3, place);
-      expectChannelSums<L, Order::fixed>(size, 0, place);
+      expectChannelSums<L, ReductionOrder::any>(size, 0, place);
+      expectChannelSums<L, ReductionOrder::any>(size, 3, place);
+      expectChannelSums<L, ReductionOrder::fixed>(size, 0, place);
     }
-    expectChannelSums<L, Order::any>({5001, 3}, 1, place);
+    expectChannelSums<L, ReductionOrder::any>({5001, 3}, 1, place);
   }
 }
 
@@ -76,12 +76,12 @@ TEST(ReduceRegion, EachElementCountsOnceForItsChannel) {
 
 // In the same lane on every processor: by its place in the block, the last of which ends with the row.
 TEST(ReduceRegion, AFixedOrderGivesEachElementItsLane) {
-  using A = Accumulators<C3, Adding<Order::fixed>>;
+  using A = Accumulators<C3, Adding<ReductionOrder::fixed>>;
   constexpr int items = static_cast<int>(A::items), width = items / 3 + 2;
   std::vector<uint16_t> row(3 * width), lanes;
   for (size_t i = 0; i < row.size(); ++i) row[i] = static_cast<uint16_t>(1000 + i);
   const auto sink = [&](const EmptiedLanes<A>& emptied) { lanes.assign(emptied.part[0], emptied.part[0] + items); };
-  reduceRegion<C3>({width, 1}, Adding<Order::fixed>(), sink, Image<const uint16_t>{row.data(), 6 * width});
+  reduceRegion<C3>({width, 1}, Adding<ReductionOrder::fixed>(), sink, Image<const uint16_t>{row.data(), 6 * width});
   for (int i = 0; i < items; ++i) {
     EXPECT_EQ(lanes[static_cast<size_t>(i)], 1000 + i + (i < items - 6 ? 0 : 1000 + 6 + i)) << i;
   }
