@@ -81,7 +81,7 @@ class DitheredRows {
 
   Vemi64s scratchBytes() const {
     const Vemi64s allSteps = Vemi64s{width_} + lastRowStep(0), slots = 2 * lag + allSteps + 1 + lastRowStep(0);
-    return slots * count * Vemi64s{sizeof(Vemi32s)} + (2 * count + 1) * (allSteps + 16) + 2 * 8;
+    return slots * count * Vemi64s{sizeof(Vemi32s)} + (2 * count + 1) * (allSteps + 16) + 16;
   }
 
   void useScratch(void* scratch) {
