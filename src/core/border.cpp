@@ -98,8 +98,8 @@ VemiStatus copyReplicateBorder(Image<const T> src, VemiSize srcRoiSize, Image<T>
   for (ptrdiff_t y = 0; y < p.height; ++y) {
     const T* const from = src.row(y);
     T* const row = dst.row(p.top + y);
-    repeatPixel<T, L>(p.left, from, row);
     copyPixels<T, L>(p.width, from, row + p.left * L::elements);
+    repeatPixel<T, L>(p.left, from, row);
     repeatPixel<T, L>(p.right, from + (p.width - 1) * L::elements, row + (p.left + p.width) * L::elements);
   }
   copyFinishedRows<T, L>(dst, p, 1);
