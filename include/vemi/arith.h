@@ -1415,9 +1415,6 @@ VEMI_API VemiStatus vemiMulC_32fc_AC4IR(const Vemi32fc value[3], Vemi32fc* pSrcD
  * A divisor of zero is no error. The rest of the image is computed, what stands in for the quotient is told below, and
  * the call returns vemiWarnDivByZero, whatever the scaleFactor s.
  *
- * The results of integer forms do not depend on the rounding mode of the calling thread: where they are formed in
- * floats, each step rounds to nearest.
- *
  * **8u, 16s.** With x the dividend and d the divisor, v = x * 2^-s / d is formed in single precision, multiplication
  * first, then rounded to an integer, ties to even, and limited to 0..255 or -32768..32767. To round, v + 0.5 (8u) or
  * v + 32768.5 (16s) is formed, in single precision as well, and truncated; where the sum was an integer and the result

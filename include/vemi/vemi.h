@@ -98,7 +98,8 @@
  * ### Floats
  *
  * A 32f expression rounds to single precision at each step, to nearest, in the rounding mode that a program starts
- * with. A NaN operand gives a NaN; which bits it has is not specified where two operands are NaNs.
+ * with. A NaN operand gives a NaN; which bits it has is not specified where two operands are NaNs. Functions that take
+ * and give integers are not touched by a rounding mode that the calling thread has set, unless told otherwise.
  *
  * ### What a call touches
  *

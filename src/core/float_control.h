@@ -44,7 +44,7 @@ VemiStatus withRounding(Rounding rounding, const F& f) {
 /// control word is only read: exceptions and flags are as the caller wants them.
 template <class F>
 VemiStatus roundingToNearest(const F& f) {
-  if ((_mm_getcsr() & _MM_ROUND_MASK) == _MM_ROUND_NEAREST) return f();
+  if ((_mm_getcsr() & _MM_ROUND_MASK) == _MM_ROUND_NEAREST) return detail::runApart(f);
   return withRounding(Rounding::nearest, f);
 }
 

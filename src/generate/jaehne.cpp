@@ -8,6 +8,7 @@
 #include <type_traits>
 
 #include "core/checks.h"
+#include "core/float_control.h"
 #include "core/image.h"
 #include "generate/grey_row.h"
 #include "signal/sine.h"
@@ -67,21 +68,23 @@ struct Chirp {
 template <class L, class T>
 VemiStatus drawChirp(Image<T> dst, VemiSize roiSize) {
   if (const VemiStatus bad = firstOf(checkNull(dst), checkStep(dst), checkSize(roiSize))) return bad;
-  const Chirp chirp(roiSize);
-  const ptrdiff_t width = roiSize.width, halfWidth = (width + 1) / 2;
-  GreyPiece<T> piece, mirrored;
-  for (ptrdiff_t y = 0; y <= (roiSize.height - 1) / 2; ++y) {
-    for (ptrdiff_t x = 0; x < halfWidth; x += greyPiece) {
-      const ptrdiff_t n = std::min(greyPiece, halfWidth - x);
-      chirp.draw(n, x, y, piece.value);
-      std::reverse_copy(piece.value, piece.value + n, mirrored.value);
-      for (const ptrdiff_t row : {y, roiSize.height - 1 - y}) {
-        writeGrey<L>(n, piece.value, dst.row(row) + x * L::elements);
-        writeGrey<L>(n, mirrored.value, dst.row(row) + (width - x - n) * L::elements);
+  return roundingToNearest([&] {
+    const Chirp chirp(roiSize);
+    const ptrdiff_t width = roiSize.width, halfWidth = (width + 1) / 2;
+    GreyPiece<T> piece, mirrored;
+    for (ptrdiff_t y = 0; y <= (roiSize.height - 1) / 2; ++y) {
+      for (ptrdiff_t x = 0; x < halfWidth; x += greyPiece) {
+        const ptrdiff_t n = std::min(greyPiece, halfWidth - x);
+        chirp.draw(n, x, y, piece.value);
+        std::reverse_copy(piece.value, piece.value + n, mirrored.value);
+        for (const ptrdiff_t row : {y, roiSize.height - 1 - y}) {
+          writeGrey<L>(n, piece.value, dst.row(row) + x * L::elements);
+          writeGrey<L>(n, mirrored.value, dst.row(row) + (width - x - n) * L::elements);
+        }
       }
     }
-  }
-  return vemiOk;
+    return vemiOk;
+  });
 }
 
 }  // namespace

@@ -10,6 +10,7 @@
 
 #include "core/blocks.h"
 #include "core/checks.h"
+#include "core/float_control.h"
 #include "core/image.h"
 #include "core/map_row.h"
 #include "core/numbers.h"
@@ -264,14 +265,16 @@ void addStream(ptrdiff_t width, Stream& stream, T* row) {
 template <class Source, class L, class T>
 VemiStatus addNoise(Image<T> dst, VemiSize roiSize, T first, T second, Vemi32u* pSeed) {
   if (const VemiStatus bad = firstOf(checkNull(dst, pSeed), checkSize(roiSize), checkStep(dst))) return bad;
-  constexpr Alpha alpha = alphaOf<L>;
-  Source source(first, second, *pSeed);
-  NoiseStream<alpha == Alpha::kept ? 3 : 1, NoiseFor<T>, Source> stream(source);
-  const Extent extent = mergedExtent(roiSize, isContiguous<L>(dst, roiSize));
-  const ptrdiff_t width = extent.width * (alpha == Alpha::kept ? 1 : L::elements);
-  for (ptrdiff_t y = 0; y < extent.height; ++y) addStream<alpha>(width, stream, dst.row(y));
-  *pSeed = stream.seed();
-  return vemiOk;
+  return roundingToNearest([&] {
+    constexpr Alpha alpha = alphaOf<L>;
+    Source source(first, second, *pSeed);
+    NoiseStream<alpha == Alpha::kept ? 3 : 1, NoiseFor<T>, Source> stream(source);
+    const Extent extent = mergedExtent(roiSize, isContiguous<L>(dst, roiSize));
+    const ptrdiff_t width = extent.width * (alpha == Alpha::kept ? 1 : L::elements);
+    for (ptrdiff_t y = 0; y < extent.height; ++y) addStream<alpha>(width, stream, dst.row(y));
+    *pSeed = stream.seed();
+    return vemiOk;
+  });
 }
 
 }  // namespace

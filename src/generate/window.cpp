@@ -61,15 +61,17 @@ Vemi32f* allocateWindow(Window* window, int len) {
 template <Window* window, class T>
 VemiStatus separable(Image<const T> src, Image<T> dst, VemiSize roiSize) {
   if (const VemiStatus bad = checkArguments(src, dst, roiSize)) return bad;
-  Vemi32f* const ofColumns = allocateWindow(window, roiSize.width);
-  Vemi32f* const ofRows = allocateWindow(window, roiSize.height);
-  const bool failed = ofColumns == nullptr || ofRows == nullptr;
-  for (int y = 0; !failed && y < roiSize.height; ++y) {
-    multiplyRow(roiSize.width, ofColumns, ofRows[y], src.row(y), dst.row(y));
-  }
-  vemiAlignedFree(ofRows);
-  vemiAlignedFree(ofColumns);
-  return failed ? vemiErrMemAlloc : vemiOk;
+  return roundingToNearest([&] {
+    Vemi32f* const ofColumns = allocateWindow(window, roiSize.width);
+    Vemi32f* const ofRows = allocateWindow(window, roiSize.height);
+    const bool failed = ofColumns == nullptr || ofRows == nullptr;
+    for (int y = 0; !failed && y < roiSize.height; ++y) {
+      multiplyRow(roiSize.width, ofColumns, ofRows[y], src.row(y), dst.row(y));
+    }
+    vemiAlignedFree(ofRows);
+    vemiAlignedFree(ofColumns);
+    return failed ? vemiErrMemAlloc : vemiOk;
+  });
 }
 
 // ---- Radial windows ----
@@ -285,18 +287,20 @@ class RadialRow {
 template <class Shape, class T>
 VemiStatus radial(Image<const T> src, Image<T> dst, VemiSize roiSize) {
   if (const VemiStatus bad = checkArguments(src, dst, roiSize)) return bad;
-  RadialRow<Shape, T> row(roiSize);
-  void* const scratch = alignedAllocBytes(row.scratchBytes());
-  if (scratch == nullptr) return vemiErrMemAlloc;
-  row.useScratch(scratch);
-  for (ptrdiff_t y = 0; y <= (roiSize.height - 1) / 2; ++y) {
-    const ptrdiff_t mirrored = roiSize.height - 1 - y;
-    row.compute(y);
-    row.multiply(src.row(y), dst.row(y));
-    if (mirrored != y) row.multiply(src.row(mirrored), dst.row(mirrored));
-  }
-  vemiAlignedFree(scratch);
-  return vemiOk;
+  return roundingToNearest([&] {
+    RadialRow<Shape, T> row(roiSize);
+    void* const scratch = alignedAllocBytes(row.scratchBytes());
+    if (scratch == nullptr) return vemiErrMemAlloc;
+    row.useScratch(scratch);
+    for (ptrdiff_t y = 0; y <= (roiSize.height - 1) / 2; ++y) {
+      const ptrdiff_t mirrored = roiSize.height - 1 - y;
+      row.compute(y);
+      row.multiply(src.row(y), dst.row(y));
+      if (mirrored != y) row.multiply(src.row(mirrored), dst.row(mirrored));
+    }
+    vemiAlignedFree(scratch);
+    return vemiOk;
+  });
 }
 
 }  // namespace

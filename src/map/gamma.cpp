@@ -10,6 +10,7 @@
 #include "core/byte_table.h"
 #include "core/checks.h"
 #include "core/exports.h"
+#include "core/float_control.h"
 #include "core/map_region.h"
 #include "core/wide_lanes.h"
 #include "core/word_table.h"
@@ -197,19 +198,21 @@ VemiStatus gamma8u(Src src, Dst dst, VemiSize roiSize) {
 template <class Direction, class L, class Src, class Dst>
 VemiStatus gamma16u(Src src, Dst dst, VemiSize roiSize) {
   if (const VemiStatus bad = firstOf(checkNull(src, dst), checkSize(roiSize), checkStep(src, dst))) return bad;
-  const OfWords<Direction> op;
-  if (Vemi64s{3} * roiSize.width * roiSize.height <= wordTableSize) {
-    mapImages<L>(src, dst, roiSize, op);
+  return roundingToNearest([&] {
+    const OfWords<Direction> op;
+    if (Vemi64s{3} * roiSize.width * roiSize.height <= wordTableSize) {
+      mapImages<L>(src, dst, roiSize, op);
+      return vemiOk;
+    }
+    Vemi16u* const table = static_cast<Vemi16u*>(alignedAllocBytes(sizeof(Vemi16u) * wordTableSize));
+    if (table == nullptr) return vemiErrMemAlloc;
+    std::iota(table, table + wordTableSize, Vemi16u{0});
+    mapElements<Alpha::none>(wordTableSize, eachVector(op), table, static_cast<const Vemi16u*>(table));
+    const Vemi16u* const tables[3] = {table, table, table};
+    forEachImage(src, dst, [&](auto from, auto to) { mapByWordTables<L>(roiSize, tables, to, from); });
+    vemiAlignedFree(table);
     return vemiOk;
-  }
-  Vemi16u* const table = static_cast<Vemi16u*>(alignedAllocBytes(sizeof(Vemi16u) * wordTableSize));
-  if (table == nullptr) return vemiErrMemAlloc;
-  std::iota(table, table + wordTableSize, Vemi16u{0});
-  mapElements<Alpha::none>(wordTableSize, eachVector(op), table, static_cast<const Vemi16u*>(table));
-  const Vemi16u* const tables[3] = {table, table, table};
-  forEachImage(src, dst, [&](auto from, auto to) { mapByWordTables<L>(roiSize, tables, to, from); });
-  vemiAlignedFree(table);
-  return vemiOk;
+  });
 }
 
 template <class Direction, class L, class Src, class Dst>

@@ -8,6 +8,7 @@
 
 #include "core/alloc.h"
 #include "core/byte_table.h"
+#include "core/float_control.h"
 #include "core/map_channels.h"
 #include "core/numbers.h"
 #include "core/word_table.h"
@@ -63,11 +64,13 @@ void fillTable(Curve curve, const Levels<Vemi32s>& levels, T* table) {
 template <class L, Curve wanted>
 VemiStatus lut8u(Image<const Vemi8u> src, Image<Vemi8u> dst, VemiSize roiSize, LevelLists<Vemi32s> lists) {
   if (const VemiStatus bad = checkLevels<L>(src, dst, roiSize, lists)) return bad;
-  const Curve curve = possibleCurve<L>(wanted, lists);
-  PerChannel<ByteTable, L::channels> tables;
-  for (int channel = 0; channel < L::channels; ++channel) fillTable(curve, lists[channel], tables.of[channel].entry);
-  mapChannels<L>(roiSize, tables, dst, src);
-  return vemiOk;
+  return roundingToNearest([&] {
+    const Curve curve = possibleCurve<L>(wanted, lists);
+    PerChannel<ByteTable, L::channels> tables;
+    for (int channel = 0; channel < L::channels; ++channel) fillTable(curve, lists[channel], tables.of[channel].entry);
+    mapChannels<L>(roiSize, tables, dst, src);
+    return vemiOk;
+  });
 }
 
 /// The step of each element, found among the levels.
@@ -93,24 +96,26 @@ bool isWorthTables(VemiSize roiSize) {
 template <class L, Curve wanted>
 VemiStatus lut16s(Image<const Vemi16s> src, Image<Vemi16s> dst, VemiSize roiSize, LevelLists<Vemi32s> lists) {
   if (const VemiStatus bad = checkLevels<L>(src, dst, roiSize, lists)) return bad;
-  if (wanted == Curve::steps && !isWorthTables<L>(roiSize)) {
-    PerChannel<StepSearch, L::channels> searches;
-    for (int channel = 0; channel < L::channels; ++channel) searches.of[channel] = {LevelSearch(lists[channel])};
-    mapChannels<L>(roiSize, searches, dst, src);
+  return roundingToNearest([&] {
+    if (wanted == Curve::steps && !isWorthTables<L>(roiSize)) {
+      PerChannel<StepSearch, L::channels> searches;
+      for (int channel = 0; channel < L::channels; ++channel) searches.of[channel] = {LevelSearch(lists[channel])};
+      mapChannels<L>(roiSize, searches, dst, src);
+      return vemiOk;
+    }
+    Vemi16s* const tables = vemiAlignedAlloc16(L::channels * wordTableSize);
+    if (tables == nullptr) return vemiErrMemAlloc;
+    const Curve curve = possibleCurve<L>(wanted, lists);
+    const Vemi16s* table[L::channels];
+    for (int channel = 0; channel < L::channels; ++channel) {
+      Vemi16s* const ofChannel = tables + ptrdiff_t{channel} * wordTableSize;
+      fillTable(curve, lists[channel], ofChannel);
+      table[channel] = ofChannel;
+    }
+    mapByWordTables<L>(roiSize, table, dst, src);
+    vemiAlignedFree(tables);
     return vemiOk;
-  }
-  Vemi16s* const tables = vemiAlignedAlloc16(L::channels * wordTableSize);
-  if (tables == nullptr) return vemiErrMemAlloc;
-  const Curve curve = possibleCurve<L>(wanted, lists);
-  const Vemi16s* table[L::channels];
-  for (int channel = 0; channel < L::channels; ++channel) {
-    Vemi16s* const ofChannel = tables + ptrdiff_t{channel} * wordTableSize;
-    fillTable(curve, lists[channel], ofChannel);
-    table[channel] = ofChannel;
-  }
-  mapByWordTables<L>(roiSize, table, dst, src);
-  vemiAlignedFree(tables);
-  return vemiOk;
+  });
 }
 
 }  // namespace

@@ -1,4 +1,4 @@
-// The caller's rounding mode: arithmetic on integers gives the same bytes under each.
+// The caller's rounding mode: functions of integers give the same bytes under each.
 
 #include <fenv.h>
 #include <gtest/gtest.h>
@@ -17,11 +17,6 @@ bool isOfIntegers(const Export& function) {
     return part == Element::f32 || part == Element::f64;
   });
 }
-
-/// The operations that include/vemi/arith.h declares.
-const char* const arithmetic =
-    "vemi(Add|Sub|Mul|Div|And|Or|Xor|LShift|RShift)C?|vemi(Not|Abs|Sqr|Sqrt|Ln|Exp|MulScale|MulCScale|Complement)|"
-    "vemiAlpha(Comp|Premul)C?";
 
 void expectSameUnder(int mode, const Export& function, const Scenario& scenario) {
   Call nearest(function, scenario), call(function, scenario);
@@ -43,7 +38,8 @@ void expectSameUnder(int mode, const Export& function, const Scenario& scenario)
 
 TEST(RoundingMode, DecidesNoInteger) {
   for (const Export& function : exports()) {
-    if (!matches(function.operation, arithmetic) || !isOfIntegers(function)) continue;
+    if (function.call == nullptr || !isOfIntegers(function)) continue;
+    if (matches(function.operation, "vemiGet.*Moments?")) continue;  // doubles, converted in the processor's mode
     const std::vector<int> scaleFactors = function.scaled ? std::vector{-9, -3, 0, 1, 4} : std::vector{0};
     for (const int scaleFactor : scaleFactors) {
       for (const int mode : {FE_UPWARD, FE_DOWNWARD, FE_TOWARDZERO}) {
