@@ -49,7 +49,7 @@ fuzz:
 	@cmake --preset fuzz >/dev/null
 	cmake --build build/fuzz -j $(JOBS) --target vemi_fuzz
 	@mkdir -p build/fuzz/corpus
-	build/fuzz/tests/vemi_fuzz -seed=$(SEED) -max_total_time=$(SECONDS) -max_len=512 -print_final_stats=1 \
+	build/fuzz/tests/vemi_fuzz -seed=$(SEED) -max_total_time=$(SECONDS) -max_len=512 -verbosity=0 -print_final_stats=1 \
 	  -artifact_prefix=build/fuzz/ build/fuzz/corpus
 
 # Twice, because libarcher, which tells the sanitizer where the threads of a team wait for each other, hides races

@@ -9,5 +9,4 @@ shift
 
 printf '%s\0' "$@" |
   xargs -0 -n 1 -P "$(nproc)" clang-tidy --quiet -p "$build" \
-    --extra-arg=-Wno-sign-conversion \
     2> >(grep -vE 'warnings? (generated|treated)|Suppressed|Use -(header|system)' >&2)

@@ -93,7 +93,7 @@ VemiStatus scratchRowsInTeam(int height, int sliceElements, const Row& row) {
   {
 #pragma omp single
     {
-      const Vemi64s bytes = Vemi64s{sliceElements} * sizeof(Vemi32f) * omp_get_num_threads();
+      const Vemi64s bytes = Vemi64s{sliceElements} * Vemi64s{sizeof(Vemi32f)} * omp_get_num_threads();
       pScratch = static_cast<Vemi32f*>(alignedAllocBytes(bytes));
       failed = pScratch == nullptr;
     }

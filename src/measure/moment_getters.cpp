@@ -22,7 +22,7 @@ struct Sums {
 template <class Sum>
 Sums sumsOf(const VemiMomentState* pState, int channel) {
   Sum entry[momentEntries];
-  std::memcpy(entry, reinterpret_cast<const char*>(&pState->sum) + channel * sizeof entry, sizeof entry);
+  std::memcpy(entry, reinterpret_cast<const char*>(&pState->sum) + channel * ptrdiff_t{sizeof entry}, sizeof entry);
   Sums sums;
   std::transform(entry, entry + momentEntries, sums.s, [](Sum value) { return static_cast<double>(value); });
   return sums;
