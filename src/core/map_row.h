@@ -170,6 +170,12 @@ HWY_INLINE auto blockOf(D, const ResultOf& resultOf) {
   return block;
 }
 
+template <int vectors, class D, class ResultOf>
+HWY_INLINE void storeBlock(D d, hn::TFromD<D>* out, const ResultOf& resultOf) {
+  const auto block = blockOf<vectors>(d, resultOf);
+  unrolled<vectors>([&](auto k) HWY_ATTR { hn::StoreU(block.v[k], d, out + k * laneCount<hn::TFromD<D>>); });
+}
+
 /// A row of `count` elements. Layouts differ in the operation's constants alone, or in an alpha channel that stays.
 template <Alpha alpha, class T, class IndexedOp, class... Src>
 HWY_NOINLINE void mapElements(ptrdiff_t count, const IndexedOp& indexedOp, T* dst, const Src*... src) {
@@ -179,17 +185,15 @@ HWY_NOINLINE void mapElements(ptrdiff_t count, const IndexedOp& indexedOp, T* ds
   constexpr int vectors = IndexedOp::vectors;
   if constexpr (alpha == Alpha::kept) {
     const auto kernel = [&](T* out, const T* old, const Src*... in) HWY_ATTR {
-      const auto block = blockOf<vectors>(d, [&](auto k) HWY_ATTR {
+      storeBlock<vectors>(d, out, [&](auto k) HWY_ATTR {
         const auto colour = colourLanes(d, k * N % 4);  // a vector may hold half a pixel of wide elements
         return hn::IfThenElse(colour, op(d, k, operandOf(d, in + k * N)...), hn::LoadU(d, old + k * N));
       });
-      unrolled<vectors>([&](auto k) HWY_ATTR { hn::StoreU(block.v[k], d, out + k * N); });
     };
     forBlocks<vectors * N>(count, kernel, Strand<T>{dst}, Strand<const T>{dst}, Strand<const Src>{src}...);
   } else {
     const auto kernel = [&](T* out, const Src*... in) HWY_ATTR {
-      const auto block = blockOf<vectors>(d, [&](auto k) HWY_ATTR { return op(d, k, operandOf(d, in + k * N)...); });
-      unrolled<vectors>([&](auto k) HWY_ATTR { hn::StoreU(block.v[k], d, out + k * N); });
+      storeBlock<vectors>(d, out, [&](auto k) HWY_ATTR { return op(d, k, operandOf(d, in + k * N)...); });
     };
     forBlocks<vectors * N>(count, kernel, Strand<T>{dst}, Strand<const Src>{src}...);
   }

@@ -132,11 +132,19 @@ HWY_INLINE hn::Vec<D> truncated(D, V v) {
 
 namespace detail {
 
-/// Its lower half is the nearest integer: at the size of 2^52 the last bit of a double counts ones.
+/// A sum with it is rounded to an integer, which then stands in the lowest bits: at this size there are no fractions.
+template <class T>
+inline constexpr T roundingSummand = T(0);
+template <>
+inline constexpr float roundingSummand<float> = 0x1.8p23f;
+template <>
+inline constexpr double roundingSummand<double> = 0x1.8p52;
+
+/// Its lower half is the nearest integer.
 template <class V>
 HWY_INLINE auto integerInLowerHalf(V v) {
   const hn::DFromV<V> d;
-  return hn::BitCast(hn::RebindToUnsigned<decltype(d)>(), hn::Add(v, hn::Set(d, 0x1.8p52)));
+  return hn::BitCast(hn::RebindToUnsigned<decltype(d)>(), hn::Add(v, hn::Set(d, roundingSummand<double>)));
 }
 
 }  // namespace detail

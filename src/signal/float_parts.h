@@ -4,16 +4,9 @@
 #include <cstdint>
 
 #include "core/lanes.h"
+#include "core/numbers.h"
 
 namespace vemi::detail {
-
-/// A sum with it is rounded to an integer, which then stands in the lowest bits: at this size there are no fractions.
-template <class T>
-inline constexpr T roundingSummand = T(0);
-template <>
-inline constexpr float roundingSummand<float> = 0x1.8p23f;
-template <>
-inline constexpr double roundingSummand<double> = 0x1.8p52;
 
 /// ln 2 in two parts; the first has so few bits that its product with an exponent is exact.
 template <class T>
