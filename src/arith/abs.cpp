@@ -6,7 +6,7 @@
 #include "core/map_region.h"
 #include "vemi/arith.h"
 
-namespace vemi {
+namespace vemi::arith {
 namespace {
 
 /// The least integer has no counterpart and gives the greatest one.
@@ -29,9 +29,10 @@ VemiStatus absolute(Image<const T> src, Image<T> dst, VemiSize roiSize) {
 }
 
 }  // namespace
-}  // namespace vemi
+}  // namespace vemi::arith
 
 using namespace vemi;
+using namespace vemi::arith;
 
 VEMI_SRC_DST(vemiAbs_16s_C1R, Vemi16s, absolute<Vemi16s, C1>)
 VEMI_SRC_DST(vemiAbs_16s_C3R, Vemi16s, absolute<Vemi16s, C3>)

@@ -7,7 +7,7 @@
 #include "core/exports.h"
 #include "vemi/arith.h"
 
-namespace vemi {
+namespace vemi::arith {
 namespace {
 
 struct Addition {
@@ -15,8 +15,8 @@ struct Addition {
   static constexpr int largestScale = SumTerms::largestScale<T>;
 
   template <class T, class F>
-  static void withKernel(int scaleFactor, const F& f) {
-    withScaledTerms<SumTerms, T>(scaleFactor, f);
+  static void dispatchKernel(int scaleFactor, const F& f) {
+    dispatchScaledTerms<SumTerms, T>(scaleFactor, f);
   }
 
   using Float = PlainSum;
@@ -30,9 +30,10 @@ struct Addition {
 };
 
 }  // namespace
-}  // namespace vemi
+}  // namespace vemi::arith
 
 using namespace vemi;
+using namespace vemi::arith;
 
 VEMI_2SRC_DST_SFS(vemiAdd_8u_C1RSfs, Vemi8u, scaled<Addition, C1, TeamRows>)
 VEMI_2SRC_DST_SFS(vemiAdd_8u_C3RSfs, Vemi8u, scaledChannels<Addition, C3>)

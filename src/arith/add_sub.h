@@ -12,7 +12,7 @@
 #include "core/lanes.h"
 #include "core/numbers.h"
 
-namespace vemi {
+namespace vemi::arith {
 
 // ---- What the processor has for lanes of 8 and 16 bits, for those of 32 as well -----------------------------------
 
@@ -136,9 +136,9 @@ struct ScaledDown {
     const V quotient = shiftRight(half, shift);
     const V rest = hn::And(half, hn::Set(d, static_cast<T>((1u << shift) - 1)));
     // Above the tie, or on it with a lost bit or an odd quotient.
-    const V pressed = saturatedAdd(d, rest, hn::Or(lost, hn::And(quotient, one)));
+    const V withTieBreak = saturatedAdd(d, rest, hn::Or(lost, hn::And(quotient, one)));
     const V tie = hn::Set(d, static_cast<T>(1u << (shift - 1)));
-    return hn::Sub(quotient, hn::VecFromMask(d, hn::Gt(pressed, tie)));
+    return hn::Sub(quotient, hn::VecFromMask(d, hn::Gt(withTieBreak, tie)));
   }
 
  private:
@@ -152,11 +152,11 @@ struct ScaledDown {
 
 /// Calls f with the kernel of the scale factor, which is at most Terms::largestScale.
 template <class Terms, class T, class F>
-auto withScaledTerms(int scaleFactor, const F& f) {
+auto dispatchScaledTerms(int scaleFactor, const F& f) {
   if (scaleFactor == 0) return f(Terms());
   if (scaleFactor == 1) return f(HalfOf<Terms>());
   if (scaleFactor > 1) return f(ScaledDown<Terms>{scaleFactor});
   return f(ScaledUp<T, Terms>(scaleFactor));
 }
 
-}  // namespace vemi
+}  // namespace vemi::arith

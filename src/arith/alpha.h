@@ -8,16 +8,16 @@
 #include "arith/full_scale.h"
 #include "core/lanes.h"
 
-namespace vemi {
+namespace vemi::arith {
 
 template <class V>
-HWY_INLINE Fraction<V> operator^(Fraction<V> fraction, V mask) {
-  return {hn::Xor(fraction.even, mask), hn::Xor(fraction.odd, mask)};
+HWY_INLINE PreparedFactor<V> operator^(PreparedFactor<V> factor, V mask) {
+  return {hn::Xor(factor.even, mask), hn::Xor(factor.odd, mask)};
 }
 
 template <class D, class V>
-HWY_INLINE Fraction<V> complement(D d, Fraction<V> fraction) {
-  return fraction ^ hn::Set(d, std::numeric_limits<hn::TFromD<D>>::max());
+HWY_INLINE PreparedFactor<V> complement(D d, PreparedFactor<V> factor) {
+  return factor ^ hn::Set(d, std::numeric_limits<hn::TFromD<D>>::max());
 }
 
 /// For withConstants: the alpha lanes of four-channel pixels.
@@ -45,7 +45,7 @@ inline constexpr AlphaBytes<T> alphaBytes;
 
 /// The alpha of each four-channel pixel, for all of its channels.
 template <class D, class V>
-HWY_INLINE Fraction<V> alphaOfPixels(D d, V pixels) {
+HWY_INLINE PreparedFactor<V> alphaOfPixels(D d, V pixels) {
   const hn::Repartition<uint8_t, D> dBytes;
   const auto index = hn::LoadDup128(dBytes, detail::alphaBytes<hn::TFromD<D>>.index);
   const V alpha = hn::BitCast(d, hn::TableLookupBytes(hn::BitCast(dBytes, pixels), index));
@@ -54,8 +54,8 @@ HWY_INLINE Fraction<V> alphaOfPixels(D d, V pixels) {
 
 /// The same with one in place of the alpha for the alpha channel, which is not to be multiplied.
 template <class D, class V>
-HWY_INLINE Fraction<V> forColours(D d, Fraction<V> alpha, V alphaLanes) {
-  return {alpha.even, hn::Or(alpha.odd, fraction(d, alphaLanes).odd)};
+HWY_INLINE PreparedFactor<V> forColours(D d, PreparedFactor<V> alpha, V alphaLanes) {
+  return {alpha.even, hn::Or(alpha.odd, preparedFactor(d, alphaLanes).odd)};
 }
 
-}  // namespace vemi
+}  // namespace vemi::arith

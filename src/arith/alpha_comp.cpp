@@ -9,7 +9,7 @@
 #include "core/map_region.h"
 #include "vemi/arith.h"
 
-namespace vemi {
+namespace vemi::arith {
 namespace {
 
 // ---- The operators ------------------------------------------------------------------------------------------------
@@ -21,7 +21,7 @@ enum class Part { none, share, whole };
 template <class V>
 struct Pixels {
   V elements;
-  Fraction<V> own, share;
+  PreparedFactor<V> own, share;
 };
 
 template <Colours colours, Part part, class D, class V>
@@ -57,7 +57,7 @@ struct Masks {
 
 /// Calls f with the Composite and the masks of an alpha type.
 template <class T, Colours colours, class F>
-void withOperatorOn(int alphaType, const F& f) {
+void dispatchOperatorOn(int alphaType, const F& f) {
   constexpr T ones = std::numeric_limits<T>::max();
   constexpr Masks<T> inside = {0, 0}, outside = {ones, 0}, atop = {0, ones};
   switch (alphaType % 6) {
@@ -77,9 +77,9 @@ void withOperatorOn(int alphaType, const F& f) {
 }
 
 template <class T, class F>
-void withOperator(int alphaType, const F& f) {
-  if (alphaType < vemiAlphaOverPremul) return withOperatorOn<T, Colours::straight>(alphaType, f);
-  withOperatorOn<T, Colours::premultiplied>(alphaType, f);
+void dispatchOperator(int alphaType, const F& f) {
+  if (alphaType < vemiAlphaOverPremul) return dispatchOperatorOn<T, Colours::straight>(alphaType, f);
+  dispatchOperatorOn<T, Colours::premultiplied>(alphaType, f);
 }
 
 // ---- Where the alphas are -----------------------------------------------------------------------------------------
@@ -91,11 +91,11 @@ struct AlphaWithin {
 
   template <class D, class V>
   HWY_INLINE V operator()(D d, V a, V b, V alphaLanes) const {
-    const Fraction<V> alphaA = alphaOfPixels(d, a), alphaB = alphaOfPixels(d, b);
+    const PreparedFactor<V> alphaA = alphaOfPixels(d, a), alphaB = alphaOfPixels(d, b);
     Pixels<V> pixelsA = {a, forColours(d, alphaA, alphaLanes), alphaB ^ hn::Set(d, masks.outside)};
     Pixels<V> pixelsB = {b, forColours(d, alphaB, alphaLanes), complement(d, alphaA)};
     if constexpr (Op::sharesBoth) {
-      const V secondAlpha = fraction(d, hn::And(alphaLanes, hn::Set(d, masks.secondAlpha))).odd;
+      const V secondAlpha = preparedFactor(d, hn::And(alphaLanes, hn::Set(d, masks.secondAlpha))).odd;
       pixelsA.share.odd = hn::AndNot(secondAlpha, pixelsA.share.odd);
       pixelsB.share.odd = hn::Or(pixelsB.share.odd, secondAlpha);
     }
@@ -110,7 +110,7 @@ struct AlphaBeside {
 
   template <class D, class V>
   HWY_INLINE V operator()(D d, V a, V b, V alphaA, V alphaB) const {
-    const Fraction<V> ownA = fraction(d, alphaA), ownB = fraction(d, alphaB);
+    const PreparedFactor<V> ownA = preparedFactor(d, alphaA), ownB = preparedFactor(d, alphaB);
     const Pixels<V> pixelsA = {a, ownA, ownB ^ hn::Set(d, masks.outside)};
     return Op()(d, pixelsA, Pixels<V>{b, ownB, complement(d, ownA)});
   }
@@ -159,7 +159,7 @@ VemiStatus check(VemiSize roiSize, int alphaType, Stepped... images) {
 template <class T>
 VemiStatus compositeAlphas(Image<const T> src1, Image<const T> src2, Image<T> dst, VemiSize roiSize, int alphaType) {
   if (const VemiStatus bad = check(roiSize, alphaType, src1, src2, dst)) return bad;
-  withOperatorOn<T, Colours::premultiplied>(alphaType, [&](auto op, Masks<T> masks) {
+  dispatchOperatorOn<T, Colours::premultiplied>(alphaType, [&](auto op, Masks<T> masks) {
     mapRegion<C1>(CallerRows(), roiSize, eachVector(AlphaOnly<decltype(op), T>{masks}), dst, src1, src2);
   });
   return vemiOk;
@@ -168,7 +168,7 @@ VemiStatus compositeAlphas(Image<const T> src1, Image<const T> src2, Image<T> ds
 template <class T>
 VemiStatus compositePixels(Image<const T> src1, Image<const T> src2, Image<T> dst, VemiSize roiSize, int alphaType) {
   if (const VemiStatus bad = check(roiSize, alphaType, src1, src2, dst)) return bad;
-  withOperator<T>(alphaType, [&](auto op, Masks<T> masks) {
+  dispatchOperator<T>(alphaType, [&](auto op, Masks<T> masks) {
     const auto onPixels = withConstants<C4>(AlphaWithin<decltype(op), T>{masks}, alphaLanes<T>);
     mapRegion<C4>(CallerRows(), roiSize, onPixels, dst, src1, src2);
   });
@@ -181,7 +181,7 @@ template <class T>
 VemiStatus compositePlanes(Planes<const T, 4> src1, Planes<const T, 4> src2, Planes<T, 4> dst, VemiSize roiSize,
                            int alphaType) {
   if (const VemiStatus bad = check(roiSize, alphaType, src1, src2, dst)) return bad;
-  withOperator<T>(alphaType, [&](auto op, Masks<T> masks) {
+  dispatchOperator<T>(alphaType, [&](auto op, Masks<T> masks) {
     const auto onColours = eachVector(AlphaBeside<decltype(op), T>{masks});
     const auto onAlphas = eachVector(AlphaOnly<typename decltype(op)::OnAlphas, T>{masks});
     for (ptrdiff_t y = 0; y < roiSize.height; ++y) {
@@ -200,7 +200,7 @@ template <class T, class L>
 VemiStatus compositeC(Image<const T> src1, T alpha1, Image<const T> src2, T alpha2, Image<T> dst, VemiSize roiSize,
                       int alphaType) {
   if (const VemiStatus bad = check(roiSize, alphaType, src1, src2, dst)) return bad;
-  withOperator<T>(alphaType, [&](auto op, Masks<T> masks) {
+  dispatchOperator<T>(alphaType, [&](auto op, Masks<T> masks) {
     const AlphaConstant<decltype(op), T> onColours = {masks, alpha1, alpha2};
     mapRegion<L>(CallerRows(), roiSize, eachVector(onColours), dst, src1, src2);
   });
@@ -217,9 +217,10 @@ VemiStatus compositePlanesC(Planes<const T, 4> src1, T alpha1, Planes<const T, 4
 }
 
 }  // namespace
-}  // namespace vemi
+}  // namespace vemi::arith
 
 using namespace vemi;
+using namespace vemi::arith;
 
 // Two sources and the type of a composite, without and with an alpha for each source, and of four planes each.
 #define VEMI_COMPOSITE(name, T, ...)                                                                                  \

@@ -10,7 +10,7 @@
 #include "core/rows.h"
 #include "vemi/arith.h"
 
-namespace vemi {
+namespace vemi::arith {
 namespace {
 
 /// Of four-channel pixels: an alpha is multiplied with one.
@@ -24,7 +24,7 @@ struct TimesOwnAlpha {
 struct TimesAlpha {
   template <class D, class V>
   HWY_INLINE V operator()(D d, V colour, V alpha) const {
-    return product(d, colour, fraction(d, alpha));
+    return product(d, colour, preparedFactor(d, alpha));
   }
 };
 
@@ -34,7 +34,7 @@ struct TimesConstant {
 
   template <class D, class V>
   HWY_INLINE V operator()(D d, V elements) const {
-    return product(d, elements, fraction(d, hn::Set(d, alpha)));
+    return product(d, elements, preparedFactor(d, hn::Set(d, alpha)));
   }
 };
 
@@ -94,9 +94,10 @@ VemiStatus premultiplyPlanesC(Planes<const T, 4> src, T alpha, Planes<T, 4> dst,
 }
 
 }  // namespace
-}  // namespace vemi
+}  // namespace vemi::arith
 
 using namespace vemi;
+using namespace vemi::arith;
 
 // Planes and a constant; in place, the source is the destination.
 #define VEMI_PLANES_VALUE_PLANES(name, T, planes, ...)                                                            \

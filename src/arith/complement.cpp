@@ -6,7 +6,7 @@
 #include "core/map_region.h"
 #include "vemi/arith.h"
 
-namespace vemi {
+namespace vemi::arith {
 namespace {
 
 /// The least integer has no magnitude in the other bits and stays.
@@ -25,8 +25,9 @@ VemiStatus complement(Image<const Vemi32s> src, Image<Vemi32s> dst, VemiSize roi
 }
 
 }  // namespace
-}  // namespace vemi
+}  // namespace vemi::arith
 
 using namespace vemi;
+using namespace vemi::arith;
 
 VEMI_SRCDST(vemiComplement_32s_C1IR, Vemi32s, complement)

@@ -6,7 +6,7 @@
 #include "core/exports.h"
 #include "vemi/arith.h"
 
-namespace vemi {
+namespace vemi::arith {
 namespace {
 
 template <class Terms, class PlainTerms>
@@ -15,9 +15,9 @@ struct OfParts {
   static constexpr int largestScale = Terms::template largestScale<PartOf<C>>;
 
   template <class C, class F>
-  static VemiStatus withKernel(int scaleFactor, const F& f) {
-    const auto withParts = [&](const auto& terms) { return f(onParts<PartOf<C>>(terms)); };
-    return withScaledTerms<Terms, PartOf<C>>(scaleFactor, withParts);
+  static VemiStatus dispatchKernel(int scaleFactor, const F& f) {
+    const auto onBothParts = [&](const auto& terms) { return f(onParts<PartOf<C>>(terms)); };
+    return dispatchScaledTerms<Terms, PartOf<C>>(scaleFactor, onBothParts);
   }
 
   using Float = OnParts<Vemi32f, PlainTerms>;
@@ -27,9 +27,10 @@ using Addition = OfParts<SumTerms, PlainSum>;
 using Subtraction = OfParts<DifferenceTerms, PlainDifference>;
 
 }  // namespace
-}  // namespace vemi
+}  // namespace vemi::arith
 
 using namespace vemi;
+using namespace vemi::arith;
 
 VEMI_2SRC_DST_SFS(vemiAdd_16sc_C1RSfs, Vemi16sc, scaledComplex<Addition, Vemi16sc, C1>)
 VEMI_2SRC_DST_SFS(vemiAdd_16sc_C3RSfs, Vemi16sc, scaledComplex<Addition, Vemi16sc, C3>)

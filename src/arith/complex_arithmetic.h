@@ -1,7 +1,7 @@
 // The region functions of vemiAdd, vemiSub, vemiMul and of their forms with constants on complex elements, over the
 // operation. An operation is a type that gives
 //   largestScale<C>               the largest scale factor that leaves any result a value other than zero;
-//   withKernel<C>(scaleFactor, f) calls f with the operation on complex lanes, for scale factors up to that one;
+//   dispatchKernel<C>(scaleFactor, f) calls f with the operation on complex lanes, for scale factors up to that one;
 //   Float                         the operation on complex lanes of floats.
 //
 // The second source is the left operand, and so is the image beside a constant. Checks: null, size, step.
@@ -11,7 +11,7 @@
 #include "core/checks.h"
 #include "core/map_region.h"
 
-namespace vemi {
+namespace vemi::arith {
 
 template <class L, class C, class Op>
 VemiStatus mapComplex(VemiSize roiSize, const Op& op, Image<C> dst, Image<const C> src1, Image<const C> src2) {
@@ -37,7 +37,7 @@ VemiStatus scaledComplex(Image<const C> src1, Image<const C> src2, Image<C> dst,
     return bad;
   }
   if (scaleFactor > Operation::template largestScale<C>) return clearComplex<L>(dst, roiSize);
-  return Operation::template withKernel<C>(
+  return Operation::template dispatchKernel<C>(
       scaleFactor, [&](const auto& kernel) { return mapComplex<L>(roiSize, kernel, dst, src1, src2); });
 }
 
@@ -45,7 +45,7 @@ template <class Operation, class C, class L>
 VemiStatus scaledComplexC(Image<const C> src, const C* value, Image<C> dst, VemiSize roiSize, int scaleFactor) {
   if (const VemiStatus bad = firstOf(checkNull(src, value, dst), checkSize(roiSize), checkStep(src, dst))) return bad;
   if (scaleFactor > Operation::template largestScale<C>) return clearComplex<L>(dst, roiSize);
-  return Operation::template withKernel<C>(
+  return Operation::template dispatchKernel<C>(
       scaleFactor, [&](const auto& kernel) { return mapComplexC<L>(roiSize, kernel, value, dst, src); });
 }
 
@@ -63,4 +63,4 @@ VemiStatus plainComplexC(Image<const Vemi32fc> src, const Vemi32fc* value, Image
   return mapComplexC<L>(roiSize, typename Operation::Float(), value, dst, src);
 }
 
-}  // namespace vemi
+}  // namespace vemi::arith

@@ -16,7 +16,7 @@
 #include "core/numbers.h"
 #include "vemi/arith.h"
 
-namespace vemi {
+namespace vemi::arith {
 namespace {
 
 // ---- 16sc ---------------------------------------------------------------------------------------------------------
@@ -174,8 +174,8 @@ struct Quotient32fc {
 template <class L, class C, class Op, class Test>
 VemiStatus divideComplex(VemiSize roiSize, const Op& op, const Test& test, Image<C> dst, Image<const C> x,
                          Image<const C> divisor) {
-  const bool byZero =
-      mapRegionTested<L>(roiSize, eachVector(op), ofWorked<L>(test), inLanes(dst), inLanes(x), inLanes(divisor));
+  const bool byZero = mapRegionTested<L>(roiSize, eachVector(op), inWorkedChannels<L>(test), inLanes(dst), inLanes(x),
+                                         inLanes(divisor));
   return byZero ? vemiWarnDivByZero : vemiOk;
 }
 
@@ -261,9 +261,10 @@ VemiStatus divide32fcC(Image<const Vemi32fc> src, const Vemi32fc* value, Image<V
 }
 
 }  // namespace
-}  // namespace vemi
+}  // namespace vemi::arith
 
 using namespace vemi;
+using namespace vemi::arith;
 
 VEMI_2SRC_DST_SFS(vemiDiv_16sc_C1RSfs, Vemi16sc, divide16sc<C1>)
 VEMI_2SRC_DST_SFS(vemiDiv_16sc_C3RSfs, Vemi16sc, divide16sc<C3>)

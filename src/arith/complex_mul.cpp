@@ -8,7 +8,7 @@
 #include "core/exports.h"
 #include "vemi/arith.h"
 
-namespace vemi {
+namespace vemi::arith {
 namespace {
 
 /// Wide lanes within the range of Part.
@@ -93,7 +93,7 @@ struct Multiplication {
   static constexpr int largestScale = 8 * sizeof(C) - 1;
 
   template <class C, class F>
-  static VemiStatus withKernel(int scaleFactor, const F& f) {
+  static VemiStatus dispatchKernel(int scaleFactor, const F& f) {
     using Part = PartOf<C>;
     constexpr int bits = 8 * sizeof(Part);
     if (scaleFactor > 0) return f(ScaledProduct<C, ProductDown<Part>>{{scaleFactor}});
@@ -104,9 +104,10 @@ struct Multiplication {
 };
 
 }  // namespace
-}  // namespace vemi
+}  // namespace vemi::arith
 
 using namespace vemi;
+using namespace vemi::arith;
 
 VEMI_2SRC_DST_SFS(vemiMul_16sc_C1RSfs, Vemi16sc, scaledComplex<Multiplication, Vemi16sc, C1>)
 VEMI_2SRC_DST_SFS(vemiMul_16sc_C3RSfs, Vemi16sc, scaledComplex<Multiplication, Vemi16sc, C3>)

@@ -18,7 +18,7 @@
 #include "core/map_region.h"
 #include "vemi/arith.h"
 
-namespace vemi {
+namespace vemi::arith {
 namespace {
 
 /// The n-th four bytes of each 128-bit block, each as the lowest of a 32-bit lane.
@@ -97,7 +97,7 @@ struct Quotient {
 
 /// Dividends lie within 2^15, so scaled by 2^7 and less, quotients lie within 2^22.
 template <class F>
-auto withQuotient(int scaleFactor, const F& f) {
+auto dispatchQuotient(int scaleFactor, const F& f) {
   const float scale = quotientScale<float>(scaleFactor);
   if (scaleFactor == 0) return f(Quotient<false, Reach::within2To22>{scale});
   if (scaleFactor >= -7) return f(Quotient<true, Reach::within2To22>{scale});
@@ -126,7 +126,7 @@ struct PlainQuotient {
 
 template <class L, class T, class IndexedOp>
 VemiStatus divideRegion(VemiSize roiSize, const IndexedOp& op, Image<T> dst, Image<const T> x, Image<const T> divisor) {
-  const bool byZero = mapRegionTested<L>(roiSize, op, ofWorked<L>(DividesByZero()), dst, x, divisor);
+  const bool byZero = mapRegionTested<L>(roiSize, op, inWorkedChannels<L>(DividesByZero()), dst, x, divisor);
   return byZero ? vemiWarnDivByZero : vemiOk;
 }
 
@@ -136,7 +136,7 @@ VemiStatus quotientScaled(Image<const T> src1, Image<const T> src2, Image<T> dst
     return bad;
   }
   return roundingToNearest([&] {
-    return withQuotient(scaleFactor, [&](const auto& quotient) {
+    return dispatchQuotient(scaleFactor, [&](const auto& quotient) {
       return divideRegion<L>(roiSize, eachVector(quotient), dst, src2, src1);
     });
   });
@@ -194,9 +194,10 @@ VemiStatus quotientFloatC(Image<const Vemi32f> src, const Vemi32f* value, Image<
 }
 
 }  // namespace
-}  // namespace vemi
+}  // namespace vemi::arith
 
 using namespace vemi;
+using namespace vemi::arith;
 
 VEMI_2SRC_DST_SFS(vemiDiv_8u_C1RSfs, Vemi8u, quotientScaled<Vemi8u, C1>)
 VEMI_2SRC_DST_SFS(vemiDiv_8u_C3RSfs, Vemi8u, quotientScaled<Vemi8u, C3>)

@@ -10,7 +10,7 @@
 #include "signal/exp.h"
 #include "vemi/arith.h"
 
-namespace vemi {
+namespace vemi::arith {
 namespace {
 
 /// e^x / 2^scaleFactor, to nearest with ties up, saturated; |scaleFactor| is below 2^20.
@@ -70,14 +70,15 @@ VemiStatus expScaled(Image<const T> src, Image<T> dst, VemiSize roiSize, int sca
 template <class L>
 VemiStatus exp32f(Image<const Vemi32f> src, Image<Vemi32f> dst, VemiSize roiSize) {
   if (const VemiStatus bad = firstOf(checkNull(src, dst), checkSize(roiSize), checkStep(src, dst))) return bad;
-  mapRegion<L>(CallerRows(), roiSize, eachVector(Exp()), dst, src);
+  mapRegion<L>(CallerRows(), roiSize, eachVector(signal::Exp()), dst, src);
   return vemiOk;
 }
 
 }  // namespace
-}  // namespace vemi
+}  // namespace vemi::arith
 
 using namespace vemi;
+using namespace vemi::arith;
 
 VEMI_SRC_DST_SFS(vemiExp_8u_C1RSfs, Vemi8u, expScaled<Vemi8u, C1>)
 VEMI_SRC_DST_SFS(vemiExp_8u_C3RSfs, Vemi8u, expScaled<Vemi8u, C3>)

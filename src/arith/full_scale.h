@@ -5,17 +5,17 @@
 
 #include "core/lanes.h"
 
-namespace vemi {
+namespace vemi::arith {
 
 /// A value in each lane, made ready to be a factor. Of bytes, each twice: those of the even lanes, and those of the odd
 /// ones. Wider lanes stand in `odd` alone.
 template <class V>
-struct Fraction {
+struct PreparedFactor {
   V even, odd;
 };
 
 template <class D, class V>
-HWY_INLINE Fraction<V> fraction(D d, V v) {
+HWY_INLINE PreparedFactor<V> preparedFactor(D d, V v) {
   if constexpr (sizeof(hn::TFromD<D>) > 1) {
     return {v, v};
   } else {
@@ -43,19 +43,19 @@ HWY_INLINE V timesOdd8(D d, V x, V y) {
   return hn::BitCast(d, hn::MulHigh(hn::BitCast(dWide, xAndOne), hn::BitCast(dWide, y)));
 }
 
-/// x times one fraction after the other, each product rounded down by itself.
+/// x times one factor after the other, each product rounded down by itself.
 template <class D, class V, class... Factor>
-HWY_INLINE V product(D d, V x, Factor... fraction) {
+HWY_INLINE V product(D d, V x, Factor... factor) {
   if constexpr (sizeof(hn::TFromD<D>) > 1) {
-    ((x = fullScaleProduct16(x, fraction.odd)), ...);
+    ((x = fullScaleProduct16(x, factor.odd)), ...);
     return x;
   } else {
     const hn::RepartitionToWide<D> dWide;
     V even = hn::BitCast(d, hn::ShiftLeft<8>(hn::BitCast(dWide, x)));
-    ((even = timesOdd8(d, even, fraction.even)), ...);
-    ((x = timesOdd8(d, x, fraction.odd)), ...);
+    ((even = timesOdd8(d, even, factor.even)), ...);
+    ((x = timesOdd8(d, x, factor.odd)), ...);
     return hn::OddEven(x, hn::BitCast(d, hn::ShiftRight<8>(hn::BitCast(dWide, even))));
   }
 }
 
-}  // namespace vemi
+}  // namespace vemi::arith

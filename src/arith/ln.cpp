@@ -17,7 +17,7 @@
 #include "signal/polynomial.h"
 #include "vemi/arith.h"
 
-namespace vemi {
+namespace vemi::arith {
 namespace {
 
 /// The logarithm of integers from 1 on in double-precision lanes, with 40 bits of precision.
@@ -27,10 +27,10 @@ struct LnOfInteger {
   template <class D, class V>
   HWY_INLINE V operator()(D d, V x) const {
     constexpr double artanh[] = {1.0, 1.0 / 3, 1.0 / 5, 1.0 / 7, 1.0 / 9, 1.0 / 11, 1.0 / 13};
-    const auto [e, m] = detail::splitAtRoot(d, x);
+    const auto [e, m] = signal::splitAtRoot(d, x);
     const V one = hn::Set(d, 1.0);
     const V t = hn::Div(hn::Sub(m, one), hn::Add(m, one));
-    const V series = hn::Mul(hn::Add(t, t), polynomial(d, hn::Mul(t, t), artanh));
+    const V series = hn::Mul(hn::Add(t, t), signal::polynomial(d, hn::Mul(t, t), artanh));
     return hn::Add(hn::Mul(e, hn::Set(d, 0x1.62e42fefa39efp-1)), series);
   }
 };
@@ -48,7 +48,7 @@ struct ScaledLn {
   template <class D, class V>
   HWY_INLINE V operator()(D d, V v) const {
     const hn::RebindToUnsigned<D> du;
-    const auto ofWide = [&](auto dw, auto x) HWY_ATTR {
+    const auto wideLogarithm = [&](auto dw, auto x) HWY_ATTR {
       const hn::RebindToSigned<decltype(dw)> di;
       const hn::Half<decltype(di)> dHalf;
       const hn::Rebind<double, decltype(dHalf)> d64;
@@ -61,7 +61,7 @@ struct ScaledLn {
           dw, hn::Combine(di, rounded(hn::UpperHalf(dHalf, integers)), rounded(hn::LowerHalf(dHalf, integers))));
     };
     const V positive = hn::Max(v, hn::Set(d, 1));
-    const V result = hn::BitCast(d, inWideLanes(du, ofWide, hn::BitCast(du, positive)));
+    const V result = hn::BitCast(d, inWideLanes(du, wideLogarithm, hn::BitCast(du, positive)));
     return hn::IfThenElse(hn::Eq(v, positive), result, hn::Set(d, std::numeric_limits<Vemi16s>::min()));
   }
 };
@@ -124,13 +124,14 @@ VemiStatus ln16s(Image<const Vemi16s> src, Image<Vemi16s> dst, VemiSize roiSize,
 template <class L>
 VemiStatus ln32f(Image<const Vemi32f> src, Image<Vemi32f> dst, VemiSize roiSize) {
   if (const VemiStatus bad = firstOf(checkNull(src, dst), checkSize(roiSize), checkStep(src, dst))) return bad;
-  return mapRegionWatched<L>(roiSize, eachVector(Ln()), lnStatus32f, dst, src);
+  return mapRegionWatched<L>(roiSize, eachVector(signal::Ln()), lnStatus32f, dst, src);
 }
 
 }  // namespace
-}  // namespace vemi
+}  // namespace vemi::arith
 
 using namespace vemi;
+using namespace vemi::arith;
 
 VEMI_SRC_DST_SFS(vemiLn_8u_C1RSfs, Vemi8u, ln8u<C1>)
 VEMI_SRC_DST_SFS(vemiLn_8u_C3RSfs, Vemi8u, ln8u<C3>)

@@ -7,7 +7,7 @@
 #include "core/map_region.h"
 #include "vemi/arith.h"
 
-namespace vemi {
+namespace vemi::arith {
 namespace {
 
 struct And {
@@ -61,9 +61,10 @@ VemiStatus invertChannels(Image<const Vemi8u> src, Image<Vemi8u> dst, VemiSize r
 }
 
 }  // namespace
-}  // namespace vemi
+}  // namespace vemi::arith
 
 using namespace vemi;
+using namespace vemi::arith;
 
 VEMI_2SRC_DST(vemiAnd_8u_C1R, Vemi8u, logical<C1, And>)
 VEMI_2SRC_DST(vemiAnd_8u_C3R, Vemi8u, logical<C3, And>)

@@ -7,7 +7,7 @@
 #include "core/exports.h"
 #include "vemi/arith.h"
 
-namespace vemi {
+namespace vemi::arith {
 namespace {
 
 struct Multiplication {
@@ -15,8 +15,8 @@ struct Multiplication {
   static constexpr int largestScale = largestProductScale<T>;
 
   template <class T, class F>
-  static void withKernel(int scaleFactor, const F& f) {
-    withScaledProduct<T>(scaleFactor, f);
+  static void dispatchKernel(int scaleFactor, const F& f) {
+    dispatchScaledProduct<T>(scaleFactor, f);
   }
 
   using Float = PlainProduct;
@@ -29,9 +29,10 @@ struct Multiplication {
 };
 
 }  // namespace
-}  // namespace vemi
+}  // namespace vemi::arith
 
 using namespace vemi;
+using namespace vemi::arith;
 
 VEMI_2SRC_DST_SFS(vemiMul_8u_C1RSfs, Vemi8u, scaled<Multiplication, C1, TeamRows>)
 VEMI_2SRC_DST_SFS(vemiMul_8u_C3RSfs, Vemi8u, scaledChannels<Multiplication, C3>)

@@ -9,13 +9,13 @@
 #include "core/map_region.h"
 #include "vemi/arith.h"
 
-namespace vemi {
+namespace vemi::arith {
 namespace {
 
 struct FullScaleProduct {
   template <class D, class V>
   HWY_INLINE V operator()(D d, V a, V b) const {
-    return product(d, a, fraction(d, b));
+    return product(d, a, preparedFactor(d, b));
   }
 };
 
@@ -36,9 +36,10 @@ VemiStatus mulScaleC(Image<const T> src, const T* value, Image<T> dst, VemiSize 
 }
 
 }  // namespace
-}  // namespace vemi
+}  // namespace vemi::arith
 
 using namespace vemi;
+using namespace vemi::arith;
 
 VEMI_2SRC_DST(vemiMulScale_8u_C1R, Vemi8u, mulScale<Vemi8u, C1>)
 VEMI_2SRC_DST(vemiMulScale_8u_C3R, Vemi8u, mulScale<Vemi8u, C3>)

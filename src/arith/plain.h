@@ -3,7 +3,7 @@
 
 #include "core/lanes.h"
 
-namespace vemi {
+namespace vemi::arith {
 
 struct PlainSum {
   template <class D, class V>
@@ -26,4 +26,4 @@ struct PlainProduct {
   }
 };
 
-}  // namespace vemi
+}  // namespace vemi::arith

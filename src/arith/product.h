@@ -9,7 +9,7 @@
 #include "core/lanes.h"
 #include "core/numbers.h"
 
-namespace vemi {
+namespace vemi::arith {
 
 /// Products of 8u as 16u lanes, of 16s as 32s lanes.
 template <class D, class V>
@@ -62,7 +62,7 @@ inline constexpr int largestProductScale = std::is_unsigned_v<T> ? 16 : 30;
 
 /// Calls f with the kernel of the scale factor, which is at most largestProductScale.
 template <class T, class F>
-auto withScaledProduct(int scaleFactor, const F& f) {
+auto dispatchScaledProduct(int scaleFactor, const F& f) {
   if (scaleFactor == 0) return f(Product());
   if (scaleFactor < 0) return f(ScaledUp<T, Product>(scaleFactor));
   if constexpr (std::is_unsigned_v<T>) {
@@ -72,4 +72,4 @@ auto withScaledProduct(int scaleFactor, const F& f) {
   return f(ScaledDownProduct<SmallRoundingShift>{SmallRoundingShift{scaleFactor}});
 }
 
-}  // namespace vemi
+}  // namespace vemi::arith

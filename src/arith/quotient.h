@@ -6,7 +6,7 @@
 #include "core/lanes.h"
 #include "core/numbers.h"
 
-namespace vemi {
+namespace vemi::arith {
 
 /// The test that warns. A complex element is zero as a whole.
 struct DividesByZero {
@@ -23,4 +23,4 @@ Float quotientScale(int scaleFactor) {
   return powerOfTwo<Float>(-std::clamp(scaleFactor, -64, 64));
 }
 
-}  // namespace vemi
+}  // namespace vemi::arith

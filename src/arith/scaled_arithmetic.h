@@ -1,7 +1,7 @@
 // The region functions of vemiAdd, vemiSub, vemiMul and of their forms with constants, over the operation. An operation
 // is a type that gives
 //   largestScale<T>               the largest scale factor that leaves any result a value other than zero;
-//   withKernel<T>(scaleFactor, f) calls f with the lanes' operation, for scale factors up to that one;
+//   dispatchKernel<T>(scaleFactor, f) calls f with the lanes' operation, for scale factors up to that one;
 //   Float                         the operation on float lanes;
 //   resultOf(value, scaleFactor)  what a constant makes of all elements, where that needs no arithmetic.
 //
@@ -17,7 +17,7 @@
 #include "core/image.h"
 #include "core/map_region.h"
 
-namespace vemi {
+namespace vemi::arith {
 
 /// What a constant and a scale factor make of every element.
 enum class Result { computed, zero, source, highest };
@@ -38,7 +38,7 @@ VemiStatus scaled(Image<const T> src1, Image<const T> src2, Image<T> dst, VemiSi
     return bad;
   }
   if (scaleFactor > Operation::template largestScale<T>) return fillRegion<T, L>(0, dst, roiSize);
-  Operation::template withKernel<T>(scaleFactor, [&](const auto& kernel) {
+  Operation::template dispatchKernel<T>(scaleFactor, [&](const auto& kernel) {
     mapRegion<L>(rowsOf<Rows, T, L>(roiSize, scaleFactor), roiSize, eachVector(kernel), dst, src2, src1);
   });
   return vemiOk;
@@ -81,7 +81,7 @@ VemiStatus scaledC(Image<const T> src, const T* value, Image<T> dst, VemiSize ro
     case Result::computed:
       break;
   }
-  Operation::template withKernel<T>(scaleFactor, [&](const auto& kernel) {
+  Operation::template dispatchKernel<T>(scaleFactor, [&](const auto& kernel) {
     mapRegion<L>(rowsOf<Rows, T, L>(roiSize, scaleFactor), roiSize, withConstants<L>(kernel, value), dst, src);
   });
   return vemiOk;
@@ -95,4 +95,4 @@ VemiStatus plainC(Image<const Vemi32f> src, const Vemi32f* value, Image<Vemi32f>
   return vemiOk;
 }
 
-}  // namespace vemi
+}  // namespace vemi::arith

@@ -3,7 +3,7 @@
 
 #include "core/numbers.h"
 
-namespace vemi {
+namespace vemi::arith {
 
 /// For an operation that saturates: what saturates before the shift saturates after it.
 template <class T, class Op>
@@ -18,4 +18,4 @@ struct ScaledUp {
   }
 };
 
-}  // namespace vemi
+}  // namespace vemi::arith

@@ -11,7 +11,7 @@
 #include "core/map_region.h"
 #include "vemi/arith.h"
 
-namespace vemi {
+namespace vemi::arith {
 namespace {
 
 /// One count for all channels.
@@ -37,9 +37,10 @@ VemiStatus shiftC(Image<const T> src, const Vemi32u* value, Image<T> dst, VemiSi
 }
 
 }  // namespace
-}  // namespace vemi
+}  // namespace vemi::arith
 
 using namespace vemi;
+using namespace vemi::arith;
 
 // A source and a count (or one for each channel).
 #define VEMI_SRC_COUNT_DST(name, T, ...)                                                               \

@@ -10,7 +10,7 @@
 
 #include "core/lanes.h"
 
-namespace vemi {
+namespace vemi::arith {
 
 template <class T>
 inline constexpr int bitsOf = 8 * sizeof(T);
@@ -108,4 +108,4 @@ struct RightShift {
   };
 };
 
-}  // namespace vemi
+}  // namespace vemi::arith

@@ -11,7 +11,7 @@
 #include "core/wide_lanes.h"
 #include "vemi/arith.h"
 
-namespace vemi {
+namespace vemi::arith {
 namespace {
 
 struct Square {
@@ -40,13 +40,13 @@ struct SquareScaledDown {
   template <class D, class V>
   HWY_INLINE V operator()(D d, V v) const {
     const hn::RebindToUnsigned<D> du;
-    const auto ofWide = [&](auto dw, auto x) HWY_ATTR {
+    const auto wideSquare = [&](auto dw, auto x) HWY_ATTR {
       const auto one = hn::Set(dw, 1);
       const auto bias = hn::Sub(hn::ShiftLeftSame(one, scaleFactor - 1), one);
       const auto quotient = hn::ShiftRightSame(hn::Add(hn::Mul(x, x), bias), scaleFactor);
       return hn::Min(quotient, hn::Set(dw, std::numeric_limits<T>::max()));
     };
-    return hn::BitCast(d, inWideLanes(du, ofWide, magnitude(d, v)));
+    return hn::BitCast(d, inWideLanes(du, wideSquare, magnitude(d, v)));
   }
 };
 
@@ -59,12 +59,12 @@ struct SquareScaledFarDown {
   HWY_INLINE V operator()(D d, V v) const {
     const hn::RebindToUnsigned<D> du;
     const auto notZero = hn::Max(magnitude(d, v), hn::Set(du, 1));  // zero and one have the same result
-    const auto ofWide = [&](auto dw, auto x) HWY_ATTR {
+    const auto wideSquare = [&](auto dw, auto x) HWY_ATTR {
       const auto one = hn::Set(dw, 1);
       const auto halves = hn::ShiftRightSame(hn::Sub(hn::Mul(x, x), one), scaleFactor - 1);
       return hn::ShiftRight<1>(hn::Add(halves, one));
     };
-    return hn::BitCast(d, inWideLanes(du, ofWide, notZero));
+    return hn::BitCast(d, inWideLanes(du, wideSquare, notZero));
   }
 };
 
@@ -128,9 +128,10 @@ VemiStatus squareFloat(Image<const Vemi32f> src, Image<Vemi32f> dst, VemiSize ro
 }
 
 }  // namespace
-}  // namespace vemi
+}  // namespace vemi::arith
 
 using namespace vemi;
+using namespace vemi::arith;
 
 VEMI_SRC_DST_SFS(vemiSqr_8u_C1RSfs, Vemi8u, squareScaled<Vemi8u, C1>)
 VEMI_SRC_DST_SFS(vemiSqr_8u_C3RSfs, Vemi8u, squareScaled<Vemi8u, C3>)

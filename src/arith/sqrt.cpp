@@ -13,7 +13,7 @@
 #include "core/wide_lanes.h"
 #include "vemi/arith.h"
 
-namespace vemi {
+namespace vemi::arith {
 namespace {
 
 /// The root of 16-bit lanes divided by 2^scaleFactor, to nearest with ties to even, exactly.
@@ -40,7 +40,7 @@ struct ScaledRoot {
   HWY_INLINE V operator()(D d, V v) const {
     const hn::RebindToUnsigned<D> du;
     if constexpr (std::is_signed_v<T>) v = hn::Max(v, hn::Zero(d));
-    const auto ofWide = [&](auto dw, auto x) HWY_ATTR {
+    const auto wideRoot = [&](auto dw, auto x) HWY_ATTR {
       const hn::RebindToFloat<decltype(dw)> df;
       const hn::RebindToSigned<decltype(dw)> di;
       const auto root = hn::Mul(hn::Sqrt(hn::ConvertTo(df, hn::BitCast(di, x))), hn::Set(df, scale));
@@ -52,7 +52,7 @@ struct ScaledRoot {
       const auto rounded = hn::Sub(n, hn::VecFromMask(di, goesUp));
       return hn::BitCast(dw, hn::Min(rounded, hn::Set(di, std::numeric_limits<T>::max())));
     };
-    return hn::BitCast(d, inWideLanes(du, ofWide, hn::BitCast(du, v)));
+    return hn::BitCast(d, inWideLanes(du, wideRoot, hn::BitCast(du, v)));
   }
 };
 
@@ -100,9 +100,10 @@ VemiStatus root8u(Image<const Vemi8u> src, Image<Vemi8u> dst, VemiSize roiSize, 
 }
 
 }  // namespace
-}  // namespace vemi
+}  // namespace vemi::arith
 
 using namespace vemi;
+using namespace vemi::arith;
 
 VEMI_SRC_DST_SFS(vemiSqrt_8u_C1RSfs, Vemi8u, root8u<C1>)
 VEMI_SRC_DST_SFS(vemiSqrt_8u_C3RSfs, Vemi8u, root8u<C3>)

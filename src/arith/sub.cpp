@@ -8,7 +8,7 @@
 #include "core/exports.h"
 #include "vemi/arith.h"
 
-namespace vemi {
+namespace vemi::arith {
 namespace {
 
 struct Subtraction {
@@ -16,8 +16,8 @@ struct Subtraction {
   static constexpr int largestScale = DifferenceTerms::largestScale<T>;
 
   template <class T, class F>
-  static void withKernel(int scaleFactor, const F& f) {
-    withScaledTerms<DifferenceTerms, T>(scaleFactor, f);
+  static void dispatchKernel(int scaleFactor, const F& f) {
+    dispatchScaledTerms<DifferenceTerms, T>(scaleFactor, f);
   }
 
   using Float = PlainDifference;
@@ -29,9 +29,10 @@ struct Subtraction {
 };
 
 }  // namespace
-}  // namespace vemi
+}  // namespace vemi::arith
 
 using namespace vemi;
+using namespace vemi::arith;
 
 VEMI_2SRC_DST_SFS(vemiSub_8u_C1RSfs, Vemi8u, scaled<Subtraction, C1, TeamRows>)
 VEMI_2SRC_DST_SFS(vemiSub_8u_C3RSfs, Vemi8u, scaledChannels<Subtraction, C3>)

@@ -37,7 +37,7 @@ VemiStatus checkPlacement(VemiSize srcRoiSize, VemiSize dstRoiSize, int topBorde
 template <class T, class L>
 void copyPixels(ptrdiff_t width, const T* src, T* dst) {
   if constexpr (L::keepsAlpha) {
-    mapRow<L>(width, eachVector(Same()), dst, src);
+    mapRow<L>(width, eachVector(Identity()), dst, src);
   } else {
     rowCopyBytes(src, dst, width * pixelBytes<T, L>);
   }

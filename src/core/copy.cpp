@@ -34,7 +34,8 @@ template <class T>
 VemiStatus copyKeepingAlpha(Image<const T> src, Image<T> dst, VemiSize roiSize) {
   if (const VemiStatus bad = firstOf(checkNull(src, dst), checkSize(roiSize), checkStep(src, dst))) return bad;
   const Extent extent = mergedExtent(roiSize, isContiguous<AC4>(src, roiSize) && isContiguous<AC4>(dst, roiSize));
-  for (ptrdiff_t y = 0; y < extent.height; ++y) mapRow<AC4>(extent.width, eachVector(Same()), dst.row(y), src.row(y));
+  for (ptrdiff_t y = 0; y < extent.height; ++y)
+    mapRow<AC4>(extent.width, eachVector(Identity()), dst.row(y), src.row(y));
   return vemiOk;
 }
 
@@ -47,7 +48,7 @@ VemiStatus copyMasked(Image<const T> src, Image<T> dst, VemiSize roiSize, Image<
       isContiguous<L>(src, roiSize) && isContiguous<L>(dst, roiSize) && isContiguous<C1>(mask, roiSize);
   const Extent extent = mergedExtent(roiSize, contiguous);
   for (ptrdiff_t y = 0; y < extent.height; ++y) {
-    mapRowMasked<L>(extent.width, mask.row(y), eachVector(Same()), dst.row(y), src.row(y));
+    mapRowMasked<L>(extent.width, mask.row(y), eachVector(Identity()), dst.row(y), src.row(y));
   }
   return vemiOk;
 }

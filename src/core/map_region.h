@@ -86,7 +86,7 @@ struct OfColours {
 
 /// test(d, v...) of the elements that layout L works on.
 template <class L, class Test>
-auto ofWorked(Test test) {
+auto inWorkedChannels(Test test) {
   if constexpr (L::keepsAlpha) {
     return detail::OfColours<Test>{test};
   } else {
@@ -95,7 +95,7 @@ auto ofWorked(Test test) {
 }
 
 /// mapRegion in the calling thread, and whether an indexed test(d, k, lanes of the sources), a mask, holds anywhere:
-/// eachVector(test) looks at a kept alpha too, ofWorked<L>(test) does not.
+/// eachVector(test) looks at a kept alpha too, inWorkedChannels<L>(test) does not.
 template <class L, class T, class IndexedOp, class IndexedTest, class... Src>
 bool mapRegionTested(VemiSize roiSize, const IndexedOp& op, const IndexedTest& test, Image<T> dst,
                      Image<const Src>... src) {

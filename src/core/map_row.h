@@ -129,7 +129,7 @@ auto constantPixel(const T* value) {
 }
 
 /// The operation of a copy.
-struct Same {
+struct Identity {
   template <class D, class V>
   HWY_INLINE V operator()(D, V v) const {
     return v;

@@ -8,7 +8,7 @@
 #include "core/lanes.h"
 #include "core/rows.h"
 
-namespace vemi {
+namespace vemi::generate {
 
 /// Patterns are computed in pieces of a row, which stay in the first cache until they are written.
 inline constexpr ptrdiff_t greyPiece = 512;
@@ -40,4 +40,4 @@ void writeGrey(ptrdiff_t width, const T* values, T* row) {
   }
 }
 
-}  // namespace vemi
+}  // namespace vemi::generate

@@ -14,7 +14,7 @@
 #include "signal/sine.h"
 #include "vemi/generate.h"
 
-namespace vemi {
+namespace vemi::generate {
 namespace {
 
 /// Half of what separates the darkest from the brightest value.
@@ -60,7 +60,7 @@ struct Chirp {
       hn::Store(hn::Div(hn::Mul(squared, hn::Set(d, 6.283185307179586)), hn::Set(d, divisor)), d, angles + i);
     }
     for (ptrdiff_t i = 0; i < count; i += N) {
-      hn::StoreU(elementsOf<T>(d, Sine()(d, hn::Load(d, angles + i))), dElements, values + i);
+      hn::StoreU(elementsOf<T>(d, signal::Sine()(d, hn::Load(d, angles + i))), dElements, values + i);
     }
   }
 };
@@ -88,9 +88,10 @@ VemiStatus drawChirp(Image<T> dst, VemiSize roiSize) {
 }
 
 }  // namespace
-}  // namespace vemi
+}  // namespace vemi::generate
 
 using namespace vemi;
+using namespace vemi::generate;
 
 #define VEMI_DST(name, T, ...) \
   VemiStatus name(T* pDst, int dstStep, VemiSize roiSize) { return __VA_ARGS__(Image<T>{pDst, dstStep}, roiSize); }

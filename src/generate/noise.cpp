@@ -18,7 +18,7 @@
 #include "signal/ln.h"
 #include "vemi/generate.h"
 
-namespace vemi {
+namespace vemi::generate {
 namespace {
 
 template <class T>
@@ -119,7 +119,7 @@ class GaussSource {
     // In two passes: a processor looks ahead as far as the next vectors of a short pass.
     for (ptrdiff_t i = 0; i < count; i += N) {
       const auto s = hn::Load(d, s_ + i);
-      hn::Store(hn::Div(hn::Mul(hn::Set(d, -2.0), Ln64f()(d, s)), s), d, s_ + i);
+      hn::Store(hn::Div(hn::Mul(hn::Set(d, -2.0), signal::Ln64f()(d, s)), s), d, s_ + i);
     }
     for (ptrdiff_t i = 0; i < count; i += N) {
       const auto scaled = hn::Mul(hn::Set(d, stDev_), hn::Sqrt(hn::Load(d, s_ + i)));
@@ -278,9 +278,10 @@ VemiStatus addNoise(Image<T> dst, VemiSize roiSize, T first, T second, Vemi32u* 
 }
 
 }  // namespace
-}  // namespace vemi
+}  // namespace vemi::generate
 
 using namespace vemi;
+using namespace vemi::generate;
 
 #define VEMI_NOISE(name, T, ...)                                                                     \
   VemiStatus name(T* pSrcDst, int srcDstStep, VemiSize roiSize, T first, T second, Vemi32u* pSeed) { \

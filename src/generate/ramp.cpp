@@ -14,7 +14,7 @@
 #include "generate/grey_row.h"
 #include "vemi/generate.h"
 
-namespace vemi {
+namespace vemi::generate {
 namespace {
 
 /// Halves away from zero and limited to T; half of one is added in single precision. A NaN is zero.
@@ -112,7 +112,7 @@ VemiStatus drawHorizontal(const Ramp& ramp, Image<T> dst, VemiSize roiSize) {
   drawRow<Interleaved<L::elements>>(ramp, roiSize.width, scratch, ShortProducts{1});
   for (int y = 0; y < roiSize.height; ++y) {
     if constexpr (L::keepsAlpha) {
-      mapRow<L>(roiSize.width, eachVector(Same()), dst.row(y), scratch);
+      mapRow<L>(roiSize.width, eachVector(Identity()), dst.row(y), scratch);
     } else {
       rowCopyBytes(scratch, dst.row(y), rowBytes);
     }
@@ -161,9 +161,10 @@ VemiStatus drawRamp(Image<T> dst, VemiSize roiSize, Ramp ramp, int axis) {
 }
 
 }  // namespace
-}  // namespace vemi
+}  // namespace vemi::generate
 
 using namespace vemi;
+using namespace vemi::generate;
 
 #define VEMI_RAMP(name, T, ...)                                                                      \
   VemiStatus name(T* pDst, int dstStep, VemiSize roiSize, Vemi32f offset, Vemi32f slope, int axis) { \

@@ -7,7 +7,7 @@
 
 #include "core/lanes.h"
 
-namespace vemi {
+namespace vemi::generate {
 
 constexpr uint32_t nextCongruential(uint32_t g) { return g * 69069 + 1013904243; }
 
@@ -92,7 +92,7 @@ class BorrowingSequence {
       unrolled<2 * half>([&](auto v) HWY_ATTR { hn::StoreU(values.v[v], D(), x + v * N); });
       latest_ = values.v[2 * half - 1];
       borrow_ = late < 128 ? 0 : ~0u;
-      goOn(early, late);
+      toNextBlock(early, late);
     } else {
       const BorrowingSequence redrawn = redraw(latest_, borrow_, x);
       unrolled<2 * half>([&](auto v) HWY_ATTR { here_.v[v] = redrawn.here_.v[v]; });
@@ -141,7 +141,7 @@ class BorrowingSequence {
 
   /// To the next block. The continuation is linear, so it need not wait for the values: it goes on from its own end,
   /// with the responses to this block's signs.
-  HWY_INLINE void goOn(size_t early, size_t late) {
+  HWY_INLINE void toNextBlock(size_t early, size_t late) {
     const V end = here_.v[2 * half - 1];
     const auto part = [&](int which, int v) HWY_ATTR {
       const auto place = hn::IndicesFromVec(D(), hn::Set(D(), static_cast<uint32_t>(N - 3 + which)));
@@ -204,4 +204,4 @@ class CongruentialSequence {
   V next_, factor_, offset_;
 };
 
-}  // namespace vemi
+}  // namespace vemi::generate

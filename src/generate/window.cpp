@@ -18,7 +18,7 @@
 #include "signal/window.h"
 #include "vemi/generate.h"
 
-namespace vemi {
+namespace vemi::generate {
 namespace {
 
 template <class T>
@@ -100,7 +100,7 @@ struct Hamming {
   template <class D, class V>
   HWY_INLINE static V weight(D d, V r, double radius) {
     const V turns = hn::Mul(hn::Sub(hn::Set(d, radius), r), hn::Set(d, 6.283185307179586));
-    const V cosine = Cosine()(d, hn::Div(turns, hn::Set(d, 2.0 * radius)));
+    const V cosine = signal::Cosine()(d, hn::Div(turns, hn::Set(d, 2.0 * radius)));
     return hn::Sub(hn::Set(d, 0.54), hn::Mul(hn::Set(d, 0.46), cosine));
   }
 
@@ -108,7 +108,7 @@ struct Hamming {
   /// precision.
   template <class D, class V>
   HWY_INLINE static V roughWeight(D d, V square) {
-    return polynomial(d, hn::Sub(square, hn::Set(d, 0.5f)), coefficients(hn::TFromD<D>()));
+    return signal::polynomial(d, hn::Sub(square, hn::Set(d, 0.5f)), coefficients(hn::TFromD<D>()));
   }
 
   template <class Weight>
@@ -304,9 +304,10 @@ VemiStatus radial(Image<const T> src, Image<T> dst, VemiSize roiSize) {
 }
 
 }  // namespace
-}  // namespace vemi
+}  // namespace vemi::generate
 
 using namespace vemi;
+using namespace vemi::generate;
 
 VEMI_SRC_DST(vemiWinBartlett_8u_C1R, Vemi8u, radial<Bartlett>)
 VEMI_SRC_DST(vemiWinBartlett_32f_C1R, Vemi32f, radial<Bartlett>)
@@ -317,11 +318,11 @@ VEMI_SRC_DST(vemiWinHamming_32f_C1R, Vemi32f, radial<Hamming>)
 VEMI_SRCDST(vemiWinHamming_8u_C1IR, Vemi8u, radial<Hamming>)
 VEMI_SRCDST(vemiWinHamming_32f_C1IR, Vemi32f, radial<Hamming>)
 
-VEMI_SRC_DST(vemiWinBartlettSep_8u_C1R, Vemi8u, separable<sigWinBartlett_32f_I>)
-VEMI_SRC_DST(vemiWinBartlettSep_32f_C1R, Vemi32f, separable<sigWinBartlett_32f_I>)
-VEMI_SRCDST(vemiWinBartlettSep_8u_C1IR, Vemi8u, separable<sigWinBartlett_32f_I>)
-VEMI_SRCDST(vemiWinBartlettSep_32f_C1IR, Vemi32f, separable<sigWinBartlett_32f_I>)
-VEMI_SRC_DST(vemiWinHammingSep_8u_C1R, Vemi8u, separable<sigWinHamming_32f_I>)
-VEMI_SRC_DST(vemiWinHammingSep_32f_C1R, Vemi32f, separable<sigWinHamming_32f_I>)
-VEMI_SRCDST(vemiWinHammingSep_8u_C1IR, Vemi8u, separable<sigWinHamming_32f_I>)
-VEMI_SRCDST(vemiWinHammingSep_32f_C1IR, Vemi32f, separable<sigWinHamming_32f_I>)
+VEMI_SRC_DST(vemiWinBartlettSep_8u_C1R, Vemi8u, separable<signal::sigWinBartlett_32f_I>)
+VEMI_SRC_DST(vemiWinBartlettSep_32f_C1R, Vemi32f, separable<signal::sigWinBartlett_32f_I>)
+VEMI_SRCDST(vemiWinBartlettSep_8u_C1IR, Vemi8u, separable<signal::sigWinBartlett_32f_I>)
+VEMI_SRCDST(vemiWinBartlettSep_32f_C1IR, Vemi32f, separable<signal::sigWinBartlett_32f_I>)
+VEMI_SRC_DST(vemiWinHammingSep_8u_C1R, Vemi8u, separable<signal::sigWinHamming_32f_I>)
+VEMI_SRC_DST(vemiWinHammingSep_32f_C1R, Vemi32f, separable<signal::sigWinHamming_32f_I>)
+VEMI_SRCDST(vemiWinHammingSep_8u_C1IR, Vemi8u, separable<signal::sigWinHamming_32f_I>)
+VEMI_SRCDST(vemiWinHammingSep_32f_C1IR, Vemi32f, separable<signal::sigWinHamming_32f_I>)

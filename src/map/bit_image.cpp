@@ -11,7 +11,7 @@
 #include "core/image.h"
 #include "vemi/map.h"
 
-namespace vemi {
+namespace vemi::map {
 namespace {
 
 VemiStatus checkBitOffset(int bitOffset) { return bitOffset < 0 ? vemiErrSize : vemiOk; }
@@ -221,9 +221,10 @@ VemiStatus dither(Image<const Vemi8u> src, Image<Vemi8u> dst, int bitOffset, Vem
 }
 
 }  // namespace
-}  // namespace vemi
+}  // namespace vemi::map
 
 using namespace vemi;
+using namespace vemi::map;
 
 VemiStatus vemiConvert_1u8u_C1R(const Vemi8u* pSrc, int srcStep, int srcBitOffset, Vemi8u* pDst, int dstStep,
                                 VemiSize roiSize) {

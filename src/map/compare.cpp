@@ -13,7 +13,7 @@
 #include "core/streaming.h"
 #include "vemi/map.h"
 
-namespace vemi {
+namespace vemi::map {
 namespace {
 
 // ---- The conditions, as masks of lanes ----
@@ -183,9 +183,10 @@ VemiStatus compareEqualEpsC(Image<const Vemi32f> src, const Vemi32f* value, Imag
 }
 
 }  // namespace
-}  // namespace vemi
+}  // namespace vemi::map
 
 using namespace vemi;
+using namespace vemi::map;
 
 // A map of bytes out of two sources, or of a source and a constant, by an operator or a tolerance.
 #define VEMI_2SRC_MAP(name, T, By, ...)                                                                                \

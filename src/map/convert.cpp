@@ -11,7 +11,7 @@
 #include "map/rounded_floats.h"
 #include "vemi/map.h"
 
-namespace vemi {
+namespace vemi::map {
 namespace {
 
 /// To a type that holds all values of the source.
@@ -77,9 +77,10 @@ VemiStatus convertRounded(Image<const Vemi32f> src, Image<T> dst, VemiSize roiSi
 }
 
 }  // namespace
-}  // namespace vemi
+}  // namespace vemi::map
 
 using namespace vemi;
+using namespace vemi::map;
 
 VEMI_CONVERSION(vemiConvert_8u16u_C1R, Vemi8u, Vemi16u, convert<C1, Extended>)
 VEMI_CONVERSION(vemiConvert_8u16u_C3R, Vemi8u, Vemi16u, convert<C3, Extended>)

@@ -18,7 +18,7 @@
 #include "signal/pow.h"
 #include "vemi/map.h"
 
-namespace vemi {
+namespace vemi::map {
 namespace {
 
 /// From light to signal. Below the breakpoint, t times the slope; from there on,
@@ -26,7 +26,7 @@ namespace {
 struct Forward {
   static constexpr double breakpoint = 0.018, slope = 4.5;
   static constexpr double lift = 0, factor = 1, exponent = 0.45, gain = 1.099, offset = 0.099;
-  static constexpr NearPower nearPower{exponent};
+  static constexpr signal::NearPower nearPower{exponent};
 
   static constexpr ByteTable ofBytes = {
       {0,   4,   9,   14,  18,  23,  27,  30,  34,  37,  40,  43,  46,  48,  51,  53,  55,  58,  60,  62,  64,  66,
@@ -48,7 +48,7 @@ struct Inverse {
   static constexpr double breakpoint = 0.0812, slope = 0.2222222222222222;
   static constexpr double lift = 0.099, factor = 0.9099181073703366, exponent = 2.2222222222222223, gain = 1,
                           offset = 0;
-  static constexpr NearPower nearPower{exponent};
+  static constexpr signal::NearPower nearPower{exponent};
 
   static constexpr ByteTable ofBytes = {
       {0,   0,   0,   1,   1,   1,   1,   2,   2,   2,   2,   2,   3,   3,   3,   3,   4,   4,   4,   4,   4,   5,
@@ -123,7 +123,8 @@ class TransferCurve {
     const auto line = lineOf(d, half);
     const auto isFinite = hn::Lt(line.t, hn::Set(d, std::numeric_limits<double>::infinity()));
     const auto base = hn::Mul(hn::Add(line.t, hn::Set(d, Direction::lift)), hn::Set(d, Direction::factor));
-    const auto power = hn::IfThenElse(isFinite, Power{Direction::exponent}(d, base), line.t);  // infinity and NaNs stay
+    const auto power =
+        hn::IfThenElse(isFinite, signal::Power{Direction::exponent}(d, base), line.t);  // infinity and NaNs stay
     const auto signal = hn::Sub(hn::Mul(power, hn::Set(d, Direction::gain)), hn::Set(d, Direction::offset));
     const auto value = hn::Add(hn::Mul(signal, hn::Set(d, range_.length)), hn::Set(d, range_.shift));
     return hn::DemoteTo(dHalf, hn::IfThenElse(line.holds, line.value, value));
@@ -226,9 +227,10 @@ VemiStatus gamma32f(Src src, Dst dst, VemiSize roiSize, Vemi32f vMin, Vemi32f vM
 }
 
 }  // namespace
-}  // namespace vemi
+}  // namespace vemi::map
 
 using namespace vemi;
+using namespace vemi::map;
 
 // With the values of black and white behind the region.
 #define VEMI_SRC_DST_RANGE(name, T, ...) VEMI_SRC_DST_AND(name, T, (T vMin, T vMax), (vMin, vMax), __VA_ARGS__)

@@ -8,7 +8,7 @@
 #include "core/lanes.h"
 #include "map/levels.h"
 
-namespace vemi {
+namespace vemi::map {
 
 template <class V>
 struct LevelSearch {
@@ -89,4 +89,4 @@ struct LevelSearch {
   }
 };
 
-}  // namespace vemi
+}  // namespace vemi::map

@@ -8,7 +8,7 @@
 #include "core/exports.h"
 #include "core/image.h"
 
-namespace vemi {
+namespace vemi::map {
 
 /// The curve through the points (level, value).
 enum class Curve { steps, lines, cubics };
@@ -86,7 +86,7 @@ Cubic cubicOf(const Levels<V>& levels, int interval) {
           (e0d23 - e2d03 + e3d02) / determinant};
 }
 
-}  // namespace vemi
+}  // namespace vemi::map
 
 // Levels with their values behind the region: one list of them, or one for each channel.
 #define VEMI_SRC_DST_LEVELS(name, T, V, ...)                                   \

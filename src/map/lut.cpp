@@ -15,7 +15,7 @@
 #include "map/level_search.h"
 #include "vemi/map.h"
 
-namespace vemi {
+namespace vemi::map {
 namespace {
 
 /// Cut off toward zero, then limited; a NaN gives the lowest value.
@@ -119,9 +119,10 @@ VemiStatus lut16s(Image<const Vemi16s> src, Image<Vemi16s> dst, VemiSize roiSize
 }
 
 }  // namespace
-}  // namespace vemi
+}  // namespace vemi::map
 
 using namespace vemi;
+using namespace vemi::map;
 
 VEMI_SRC_DST_LEVELS(vemiLUT_8u_C1R, Vemi8u, Vemi32s, lut8u<C1, Curve::steps>)
 VEMI_SRC_DST_CHANNEL_LEVELS(vemiLUT_8u_C3R, Vemi8u, Vemi32s, 3, lut8u<C3, Curve::steps>)

@@ -8,7 +8,7 @@
 #include "map/level_search.h"
 #include "vemi/map.h"
 
-namespace vemi {
+namespace vemi::map {
 namespace {
 
 using FloatLevels = Levels<Vemi32f>;
@@ -153,9 +153,10 @@ VemiStatus cubics(Image<const Vemi32f> src, Image<Vemi32f> dst, VemiSize roiSize
 }
 
 }  // namespace
-}  // namespace vemi
+}  // namespace vemi::map
 
 using namespace vemi;
+using namespace vemi::map;
 
 VEMI_SRC_DST_LEVELS(vemiLUT_32f_C1R, Vemi32f, Vemi32f, steps<C1>)
 VEMI_SRC_DST_CHANNEL_LEVELS(vemiLUT_32f_C3R, Vemi32f, Vemi32f, 3, steps<C3>)

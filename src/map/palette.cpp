@@ -8,7 +8,7 @@
 #include "core/image.h"
 #include "vemi/map.h"
 
-namespace vemi {
+namespace vemi::map {
 namespace {
 
 /// Pixels come eight bytes at a time: their indices then wait for one load.
@@ -40,9 +40,10 @@ VemiStatus palette(Image<const S> src, Image<T> dst, VemiSize roiSize, const T* 
 }
 
 }  // namespace
-}  // namespace vemi
+}  // namespace vemi::map
 
 using namespace vemi;
+using namespace vemi::map;
 
 #define VEMI_PALETTE(name, S, T, ...)                                                                                  \
   VemiStatus name(const S* pSrc, int srcStep, T* pDst, int dstStep, VemiSize roiSize, const T* pTable, int nBitSize) { \

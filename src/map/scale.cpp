@@ -12,7 +12,7 @@
 #include "map/rounded_floats.h"
 #include "vemi/map.h"
 
-namespace vemi {
+namespace vemi::map {
 namespace {
 
 /// v in lanes of D. Where their types differ in sign, the top bit is inverted: both then count from their lowest value.
@@ -176,9 +176,10 @@ VemiStatus scaleFromRange(Image<const Vemi32f> src, Image<Vemi8u> dst, VemiSize 
 }
 
 }  // namespace
-}  // namespace vemi
+}  // namespace vemi::map
 
 using namespace vemi;
+using namespace vemi::map;
 
 // With the range of the floats behind the region.
 #define VEMI_CONVERSION_RANGE(name, S, T, ...)                                                                      \

@@ -10,7 +10,7 @@
 #include "core/map_region.h"
 #include "vemi/map.h"
 
-namespace vemi {
+namespace vemi::map {
 namespace {
 
 // ---- The conditions, and what they make of an element ----
@@ -112,9 +112,10 @@ VemiStatus thresholdedOutside(Image<const T> src, Image<T> dst, VemiSize roiSize
 }
 
 }  // namespace
-}  // namespace vemi
+}  // namespace vemi::map
 
 using namespace vemi;
+using namespace vemi::map;
 
 // Behind the region of a SHAPE of core/exports.h: constants by value for one channel, arrays of them for several.
 #define VEMI_THRESHOLD(SHAPE, name, T, ...) SHAPE(name, T, (T threshold), (&threshold), __VA_ARGS__)

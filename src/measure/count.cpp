@@ -11,7 +11,7 @@
 #include "measure/exact_sums.h"
 #include "vemi/measure.h"
 
-namespace vemi {
+namespace vemi::measure {
 namespace {
 
 /// Floats are compared, so that a NaN is in no range; bytes have no comparison but that with their extremes.
@@ -90,9 +90,10 @@ VemiStatus countInRange(Image<const T> src, VemiSize roiSize, Vemi32s* pCounts, 
 }
 
 }  // namespace
-}  // namespace vemi
+}  // namespace vemi::measure
 
 using namespace vemi;
+using namespace vemi::measure;
 
 #define VEMI_SRC_RESULT_LIMITS(name, T, Result, ...)                                                 \
   VemiStatus name(const T* pSrc, int srcStep, VemiSize roiSize, Result* pResult, T lower, T upper) { \

@@ -11,7 +11,7 @@
 #include "core/reduce_region.h"
 #include "core/wide_lanes.h"
 
-namespace vemi {
+namespace vemi::measure {
 
 /// Sums of terms: term(d, v...) gives the lanes, Adding says how they are added up.
 template <class T, class Term, class Adding>
@@ -172,4 +172,4 @@ ChannelSums<L> exactSums(VemiSize roiSize, const Reduction& reduction, Image<Src
   return sums;
 }
 
-}  // namespace vemi
+}  // namespace vemi::measure

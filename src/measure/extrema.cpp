@@ -8,7 +8,7 @@
 #include "measure/keep_best.h"
 #include "vemi/measure.h"
 
-namespace vemi {
+namespace vemi::measure {
 namespace {
 
 /// Whether a channel holds a float of exactly these bits; a lane of ones says so.
@@ -19,7 +19,9 @@ struct Holds {
   static constexpr ptrdiff_t capacity = unlimitedCapacity;
   static constexpr ReductionOrder order = ReductionOrder::repeat;
   static Lane start(int) { return 0; }
-  static float padding(const float* row, int channel) { return KeepBest<float, float, Same>::padding(row, channel); }
+  static float padding(const float* row, int channel) {
+    return KeepBest<float, float, Identity>::padding(row, channel);
+  }
 
   Lane bits;
 
@@ -52,7 +54,7 @@ template <class L, class... Extreme, class T, class... Result>
 VemiStatus extrema(Image<const T> src, VemiSize roiSize, Result*... pResult) {
   if (const VemiStatus bad = firstOf(checkNull(src, pResult...), checkSize(roiSize), checkStep(src))) return bad;
   using Pixel = Interleaved<L::elements>;
-  auto values = bestOf<Pixel>(KeepBest<T, T, Same, Extreme...>(), roiSize, src);
+  auto values = bestOf<Pixel>(KeepBest<T, T, Identity, Extreme...>(), roiSize, src);
   int part = 0;
   if constexpr (std::is_floating_point_v<T>) (settleZeros<Pixel, Extreme>(roiSize, values.best[part++], src), ...);
   part = 0;
@@ -61,9 +63,10 @@ VemiStatus extrema(Image<const T> src, VemiSize roiSize, Result*... pResult) {
 }
 
 }  // namespace
-}  // namespace vemi
+}  // namespace vemi::measure
 
 using namespace vemi;
+using namespace vemi::measure;
 
 #define VEMI_SRC_2RESULTS(name, T, Result, ...)                                                    \
   VemiStatus name(const T* pSrc, int srcStep, VemiSize roiSize, Result* pFirst, Result* pSecond) { \

@@ -12,7 +12,7 @@
 #include "measure/keep_best.h"
 #include "vemi/measure.h"
 
-namespace vemi {
+namespace vemi::measure {
 namespace {
 
 /// Small enough that a second look costs little, and large enough that a band's own costs do not show.
@@ -77,7 +77,7 @@ void findBands(Image<const T> src, VemiSize roiSize, BestPixel<T> (&best)[L::ele
   const int rows = static_cast<int>(std::max<ptrdiff_t>(1, bandBytes / rowBytes));
   for (ptrdiff_t y = 0; y < roiSize.height; y += rows) {
     const VemiSize band = {roiSize.width, static_cast<int>(std::min<ptrdiff_t>(rows, roiSize.height - y))};
-    const auto ofBand = bestOf<L>(KeepBest<T, T, Same, Extreme>(), band, Image<const T>{src.row(y), src.step});
+    const auto ofBand = bestOf<L>(KeepBest<T, T, Identity, Extreme>(), band, Image<const T>{src.row(y), src.step});
     bool canGetBetter = false;
     for (int c = 0; c < L::elements; ++c) {
       const T value = ofBand.best[0][c];
@@ -112,9 +112,10 @@ VemiStatus extremeIndex(Image<const T> src, VemiSize roiSize, T* pValue, int* pI
 }
 
 }  // namespace
-}  // namespace vemi
+}  // namespace vemi::measure
 
 using namespace vemi;
+using namespace vemi::measure;
 
 #define VEMI_SRC_RESULT_INDEX(name, T, ...)                                                               \
   VemiStatus name(const T* pSrc, int srcStep, VemiSize roiSize, T* pResult, int* pIndexX, int* pIndexY) { \

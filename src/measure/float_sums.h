@@ -7,7 +7,7 @@
 
 #include "core/reduce_region.h"
 
-namespace vemi {
+namespace vemi::measure {
 
 /// Floats are added in lanes that are emptied after each row, and every so often within a long one.
 template <class Term>
@@ -101,4 +101,4 @@ void floatSums(VemiSize roiSize, double (&sum)[L::elements], vemiHint hint, Imag
   fastSums<L, Term>(roiSize, sum, src...);
 }
 
-}  // namespace vemi
+}  // namespace vemi::measure

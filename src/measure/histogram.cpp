@@ -17,7 +17,7 @@
 #include "measure/histogram_methods.h"
 #include "vemi/measure.h"
 
-namespace vemi {
+namespace vemi::measure {
 namespace {
 
 // ---- Counting -----------------------------------------------------------------------------------------------------
@@ -217,9 +217,10 @@ VemiStatus even(Image<const T> src, VemiSize roiSize, Vemi32s* const* pHist, Vem
 }
 
 }  // namespace
-}  // namespace vemi
+}  // namespace vemi::measure
 
 using namespace vemi;
+using namespace vemi::measure;
 
 // A source that is counted between levels: those of one channel, or an array of them for each channel. One channel is
 // handed on as an array of one. The levels are the caller's, or made even between two bounds.

@@ -11,7 +11,7 @@
 #include "core/lanes.h"
 #include "measure/row_pieces.h"
 
-namespace vemi {
+namespace vemi::measure {
 
 /// The bins of one channel. Counts are formed in unsigned arithmetic: they wrap where there are too many.
 template <class Level>
@@ -261,4 +261,4 @@ void countBySearching(const T* values, ptrdiff_t count, const Bins<Level>& bins,
   }
 }
 
-}  // namespace vemi
+}  // namespace vemi::measure

@@ -11,7 +11,7 @@
 #include "core/map_row.h"
 #include "core/reduce_region.h"
 
-namespace vemi {
+namespace vemi::measure {
 
 /// Which of two values is the better one. None is worse than `worst`, no finite one worse than `worstFinite` or better
 /// than `best`.
@@ -118,4 +118,4 @@ auto bestOf(KeepBest<T, Value, Term, Extreme...> reduction, VemiSize roiSize, Im
   return values;
 }
 
-}  // namespace vemi
+}  // namespace vemi::measure

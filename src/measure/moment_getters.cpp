@@ -9,7 +9,7 @@
 
 #include "measure/moment_state.h"
 
-namespace vemi {
+namespace vemi::measure {
 namespace {
 
 /// The sums of one channel in double precision.
@@ -180,9 +180,10 @@ VemiStatus hu(const VemiMomentState* pState, int channel, Sum* pHu, int scaleFac
 }
 
 }  // namespace
-}  // namespace vemi
+}  // namespace vemi::measure
 
 using namespace vemi;
+using namespace vemi::measure;
 
 VemiStatus vemiGetSpatialMoment_64f(const VemiMomentState* pState, int mOrd, int nOrd, int nChannel, int offsetX,
                                     int offsetY, Vemi64f* pValue) {

@@ -6,7 +6,7 @@
 #include "core/checks.h"
 #include "vemi/measure.h"
 
-namespace vemi {
+namespace vemi::measure {
 
 inline constexpr int momentOrders = 4;  // 0 to 3 in each direction
 inline constexpr int momentEntries = momentOrders * momentOrders;
@@ -23,4 +23,4 @@ VemiStatus checkContext(const VemiMomentState* pState) {
   return pState->tag == momentTag<Sum> ? vemiOk : vemiErrContext;
 }
 
-}  // namespace vemi
+}  // namespace vemi::measure

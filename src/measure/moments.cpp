@@ -18,7 +18,7 @@
 #include "measure/moment_state.h"
 #include "measure/row_pieces.h"
 
-namespace vemi {
+namespace vemi::measure {
 namespace {
 
 // ---- States -------------------------------------------------------------------------------------------------------
@@ -287,9 +287,10 @@ VemiStatus moments(Image<const T> src, VemiSize roiSize, VemiMomentState* pState
 }
 
 }  // namespace
-}  // namespace vemi
+}  // namespace vemi::measure
 
 using namespace vemi;
+using namespace vemi::measure;
 
 VemiStatus vemiMomentInitAlloc_64f(VemiMomentState** ppState, vemiHint hint) {
   return initAlloc<Vemi64f>(ppState, hint);

@@ -5,6 +5,7 @@
 #include "vemi/measure.h"
 
 using namespace vemi;
+using namespace vemi::measure;
 
 VEMI_SRC_RESULT(vemiNorm_Inf_8u_C1R, Vemi8u, Vemi64f, norm<Inf, C1>)
 VEMI_SRC_RESULT(vemiNorm_Inf_8u_C3R, Vemi8u, Vemi64f, norm<Inf, C3>)

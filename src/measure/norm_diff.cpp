@@ -6,6 +6,7 @@
 #include "vemi/measure.h"
 
 using namespace vemi;
+using namespace vemi::measure;
 
 VEMI_2SRC_RESULT(vemiNormDiff_Inf_8u_C1R, Vemi8u, Vemi64f, normDiff<Inf, C1>)
 VEMI_2SRC_RESULT(vemiNormDiff_Inf_8u_C3R, Vemi8u, Vemi64f, normDiff<Inf, C3>)

@@ -7,7 +7,7 @@
 #include "measure/norms.h"
 #include "vemi/measure.h"
 
-namespace vemi {
+namespace vemi::measure {
 namespace {
 
 template <class L, auto normDiffOf, auto normOf, class T, class... Hint>
@@ -25,9 +25,10 @@ VemiStatus normRel(Image<const T> src1, Image<const T> src2, VemiSize roiSize, V
 }
 
 }  // namespace
-}  // namespace vemi
+}  // namespace vemi::measure
 
 using namespace vemi;
+using namespace vemi::measure;
 
 VEMI_2SRC_RESULT(vemiNormRel_Inf_8u_C1R, Vemi8u, Vemi64f, normRel<C1, vemiNormDiff_Inf_8u_C1R, vemiNorm_Inf_8u_C1R>)
 VEMI_2SRC_RESULT(vemiNormRel_Inf_8u_C3R, Vemi8u, Vemi64f, normRel<C3, vemiNormDiff_Inf_8u_C3R, vemiNorm_Inf_8u_C3R>)

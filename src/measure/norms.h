@@ -12,7 +12,7 @@
 #include "measure/keep_best.h"
 #include "measure/terms.h"
 
-namespace vemi {
+namespace vemi::measure {
 
 /// Norms of all channels of a pixel.
 template <class L>
@@ -85,4 +85,4 @@ VemiStatus normDiff(Image<const T> src1, Image<const T> src2, VemiSize roiSize, 
   return vemiOk;
 }
 
-}  // namespace vemi
+}  // namespace vemi::measure

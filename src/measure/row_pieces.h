@@ -7,7 +7,7 @@
 #include "core/interleave.h"
 #include "core/layout.h"
 
-namespace vemi {
+namespace vemi::measure {
 
 /// Calls f(channel, x, values, count) for each channel that is worked on, for pieces of at most `pieceLength` pixels:
 /// `values` are those of the channel from column x on.
@@ -27,4 +27,4 @@ void forEachPiece(const T* row, ptrdiff_t width, const F& f) {
   }
 }
 
-}  // namespace vemi
+}  // namespace vemi::measure

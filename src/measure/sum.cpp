@@ -12,26 +12,26 @@
 #include "measure/float_sums.h"
 #include "vemi/measure.h"
 
-namespace vemi {
+namespace vemi::measure {
 namespace {
 
 /// The float forms' term in both of their ways: the element.
-struct Unchanged : Same {
-  using Same::operator();
+struct Unchanged : Identity {
+  using Identity::operator();
   double operator()(double value) const { return value; }
 };
 
 template <class L>
 void sums(VemiSize roiSize, double (&sum)[L::elements], Image<const Vemi8u> src) {
   using Adding = std::conditional_t<L::elements == 1, AddBytes, AddApart<Vemi8u>>;
-  const ChannelSums<L> exact = exactSums<L>(roiSize, ExactSums<Vemi8u, Same, Adding>(), src);
+  const ChannelSums<L> exact = exactSums<L>(roiSize, ExactSums<Vemi8u, Identity, Adding>(), src);
   for (int c = 0; c < L::elements; ++c) sum[c] = static_cast<double>(exact.channel[c]);
 }
 
 template <class L>
 void sums(VemiSize roiSize, double (&sum)[L::elements], Image<const Vemi16s> src) {
   using Adding = std::conditional_t<L::elements == 1, AddSignedPairs, AddSignedApart>;
-  const ChannelSums<L> exact = exactSums<L>(roiSize, ExactSums<Vemi16s, Same, Adding>(), src);
+  const ChannelSums<L> exact = exactSums<L>(roiSize, ExactSums<Vemi16s, Identity, Adding>(), src);
   for (int c = 0; c < L::elements; ++c) sum[c] = static_cast<double>(static_cast<int64_t>(exact.channel[c]));
 }
 
@@ -67,9 +67,10 @@ VemiStatus mean(Image<const T> src, VemiSize roiSize, Vemi64f* pMean, Hint... hi
 }
 
 }  // namespace
-}  // namespace vemi
+}  // namespace vemi::measure
 
 using namespace vemi;
+using namespace vemi::measure;
 
 VEMI_SRC_RESULT(vemiSum_8u_C1R, Vemi8u, Vemi64f, sum<C1>)
 VEMI_SRC_RESULT(vemiSum_8u_C3R, Vemi8u, Vemi64f, sum<C3>)

@@ -6,7 +6,7 @@
 
 #include "core/lanes.h"
 
-namespace vemi {
+namespace vemi::measure {
 
 /// Magnitudes of integers are unsigned.
 template <class T>
@@ -55,4 +55,4 @@ struct Squared {
   double operator()(double a, double b) const { return square(a, b); }
 };
 
-}  // namespace vemi
+}  // namespace vemi::measure

@@ -5,7 +5,7 @@
 #include "signal/float_parts.h"
 #include "signal/polynomial.h"
 
-namespace vemi {
+namespace vemi::signal {
 
 /// Within one unit in the last place of the correctly rounded value, where the result is denormal too; the same bits on
 /// all levels. Results beyond the range are infinity and zero, a NaN stays (and becomes quiet).
@@ -34,7 +34,7 @@ struct Exp {
   static constexpr float regularLimit = 87.0f;  // results and 2^k are normal numbers below it
   static constexpr float highest = 89.0f, lowest = -104.0f;
   static constexpr float log2OfE = 0x1.715476p+0f;
-  using Ln2 = detail::Ln2<float>;
+  using Ln2 = signal::Ln2<float>;
   // The minimax polynomial of (e^r - 1 - r) / r^2.
   static constexpr float q[] = {0x1.fffffcp-2f, 0x1.555492p-3f, 0x1.5558b0p-5f, 0x1.12398ep-7f, 0x1.6a4dd6p-10f};
 
@@ -48,7 +48,7 @@ struct Exp {
   template <class D, class V>
   HWY_INLINE static auto split(D d, V x) {
     const hn::RebindToSigned<D> di;
-    const V integers = hn::Set(d, detail::roundingSummand<float>);
+    const V integers = hn::Set(d, vemi::detail::roundingSummand<float>);
     const V sum = hn::Add(hn::Mul(x, hn::Set(d, log2OfE)), integers);
     const V whole = hn::Sub(sum, integers);
     const auto k = hn::Sub(hn::BitCast(di, sum), hn::BitCast(di, integers));
@@ -64,4 +64,4 @@ struct Exp {
   }
 };
 
-}  // namespace vemi
+}  // namespace vemi::signal

@@ -6,7 +6,7 @@
 #include "core/lanes.h"
 #include "core/numbers.h"
 
-namespace vemi::detail {
+namespace vemi::signal {
 
 /// ln 2 in two parts; the first has so few bits that its product with an exponent is exact.
 template <class T>
@@ -74,4 +74,4 @@ HWY_INLINE TwoParts<V> exactProduct([[maybe_unused]] D d, V a, V b) {
 #endif
 }
 
-}  // namespace vemi::detail
+}  // namespace vemi::signal

@@ -7,7 +7,7 @@
 #include "signal/float_parts.h"
 #include "signal/polynomial.h"
 
-namespace vemi {
+namespace vemi::signal {
 
 /// Within one unit in the last place of the correctly rounded value, for denormals too; the same bits on all levels. Of
 /// +0 and -0 it makes -infinity, of numbers below zero the NaN that the processor makes of an invalid operation;
@@ -42,7 +42,7 @@ struct Ln {
   static constexpr int32_t invalid = -0x400000;        // 0xffc00000
   static constexpr int32_t minusInfinity = -0x800000;  // 0xff800000
   static constexpr int32_t rootOfHalf = 0x3f3504f3;
-  using Ln2 = detail::Ln2<float>;
+  using Ln2 = signal::Ln2<float>;
   // The minimax polynomial of (ln(1 + f) - f) / f^2 with -1/2 in front, its coefficients rounded one after the other.
   static constexpr float p[] = {-0.5f,           0x1.5556d8p-2f, -0x1.000384p-2f, 0x1.98d840p-3f,
                                 -0x1.5381eap-3f, 0x1.3170a4p-3f, -0x1.24339ap-3f, 0x1.647544p-4f};
@@ -70,7 +70,7 @@ struct Ln {
 struct Ln64f {
   template <class D, class V>
   HWY_INLINE V operator()(D d, V x) const {
-    const auto [e, m] = detail::splitAtRoot(d, x);
+    const auto [e, m] = splitAtRoot(d, x);
     const V f = hn::Sub(m, hn::Set(d, 1.0));
     const V t = hn::Div(f, hn::Add(hn::Set(d, 2.0), f));
     const V t2 = hn::Mul(t, t);
@@ -81,10 +81,10 @@ struct Ln64f {
   }
 
  private:
-  using Ln2 = detail::Ln2<double>;
+  using Ln2 = signal::Ln2<double>;
   // The minimax polynomial of R(t^2) / t^2.
   static constexpr double p[] = {0x1.5555555555592p-1, 0x1.999999997fd7ap-2, 0x1.24924941f4e05p-2, 0x1.c71c520615de1p-3,
                                  0x1.74663fa07a006p-3, 0x1.39a1a70c46460p-3, 0x1.2f0634596e756p-3};
 };
 
-}  // namespace vemi
+}  // namespace vemi::signal

@@ -6,7 +6,7 @@
 
 #include "core/lanes.h"
 
-namespace vemi {
+namespace vemi::signal {
 
 /// x^exponent of x from 1/64 up to, but not including, 4; lanes of other numbers hold no particular value. It is less
 /// than 2^-41 of itself from the exact power for exponents from 0 to 1, and 2^-44 for 20/9. Levels differ within that.
@@ -71,4 +71,4 @@ class NearPower {
   }
 };
 
-}  // namespace vemi
+}  // namespace vemi::signal

@@ -5,7 +5,7 @@
 
 #include "core/lanes.h"
 
-namespace vemi {
+namespace vemi::signal {
 
 namespace detail {
 
@@ -41,4 +41,4 @@ HWY_INLINE V polynomial(D d, V x, const T (&coefficient)[terms]) {
   return detail::partOfPolynomial<0, int{terms}>(d, p, coefficient);
 }
 
-}  // namespace vemi
+}  // namespace vemi::signal

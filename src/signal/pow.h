@@ -5,7 +5,7 @@
 #include "signal/float_parts.h"
 #include "signal/polynomial.h"
 
-namespace vemi {
+namespace vemi::signal {
 
 /// x^exponent of a positive normal x, where the result is normal too; lanes of other numbers hold no particular value.
 /// Less than 0.8 units in the last place from the exact power; the same bits on all levels.
@@ -20,13 +20,13 @@ struct Power {
   HWY_INLINE V operator()(D d, V x) const {
     const auto log2 = logarithm(d, x);
     const V factor = hn::Set(d, exponent);
-    const auto product = detail::exactProduct(d, log2.upper, factor);
+    const auto product = exactProduct(d, log2.upper, factor);
     return powerOfTwo(d, product.upper, hn::Add(product.lower, hn::Mul(log2.lower, factor)));
   }
 
  private:
   template <class V>
-  using TwoParts = detail::TwoParts<V>;
+  using TwoParts = signal::TwoParts<V>;
 
   static constexpr double twoLog2OfE = 0x1.71547652b82fep+1, twoLog2OfERest = 0x1.777d0ffda0d24p-55;
   static constexpr double ln2 = 0x1.62e42fefa39efp-1, ln2Rest = 0x1.abc9e3b39803fp-56;
@@ -43,22 +43,22 @@ struct Power {
   template <class D, class V>
   HWY_INLINE static TwoParts<V> logarithm(D d, V x) {
     const V one = hn::Set(d, 1.0);
-    const auto [e, m] = detail::splitAtRoot(d, x);
+    const auto [e, m] = splitAtRoot(d, x);
     const V f = hn::Sub(m, one);
     const V divisor = hn::Add(m, one);
     const V divisorRest = hn::Sub(m, hn::Sub(divisor, one));
     const V inverse = hn::Div(one, divisor);
     const V s = hn::Mul(f, inverse);
-    const auto back = detail::exactProduct(d, s, divisor);
+    const auto back = exactProduct(d, s, divisor);
     const V rest = hn::Sub(hn::Sub(hn::Sub(f, back.upper), back.lower), hn::Mul(s, divisorRest));
     const V sRest = hn::Mul(rest, inverse);
 
     const V square = hn::Mul(s, s);
     const V series = hn::Mul(hn::Mul(square, s), polynomial(d, square, artanh));
-    const auto first = detail::exactProduct(d, s, hn::Set(d, twoLog2OfE));
+    const auto first = exactProduct(d, s, hn::Set(d, twoLog2OfE));
     const V small =
         hn::Add(first.lower, hn::Add(hn::Mul(sRest, hn::Set(d, twoLog2OfE)), hn::Mul(s, hn::Set(d, twoLog2OfERest))));
-    const auto sum = detail::exactSum(e, first.upper);
+    const auto sum = exactSum(e, first.upper);
     return {sum.upper, hn::Add(hn::Add(sum.lower, series), small)};
   }
 
@@ -66,18 +66,18 @@ struct Power {
   template <class D, class V>
   HWY_INLINE static V powerOfTwo(D d, V upper, V lower) {
     const hn::RebindToUnsigned<D> du;
-    const V integers = hn::Set(d, detail::roundingSummand<double>);
+    const V integers = hn::Set(d, vemi::detail::roundingSummand<double>);
     const V sum = hn::Add(upper, integers);
     const auto k = hn::ShiftLeft<52>(hn::BitCast(du, sum));
-    const auto r = detail::exactSum(hn::Sub(upper, hn::Sub(sum, integers)), lower);
+    const auto r = exactSum(hn::Sub(upper, hn::Sub(sum, integers)), lower);
 
-    const auto u = detail::exactProduct(d, r.upper, hn::Set(d, ln2));
+    const auto u = exactProduct(d, r.upper, hn::Set(d, ln2));
     const V uRest = hn::Add(u.lower, hn::Add(hn::Mul(r.upper, hn::Set(d, ln2Rest)), hn::Mul(r.lower, hn::Set(d, ln2))));
-    const auto linear = detail::exactSum(hn::Set(d, 1.0), u.upper);
+    const auto linear = exactSum(hn::Set(d, 1.0), u.upper);
     const V curved = hn::Mul(hn::Mul(u.upper, u.upper), polynomial(d, u.upper, exponential));
     const V power = hn::Add(linear.upper, hn::Add(linear.lower, hn::Add(curved, uRest)));
     return hn::BitCast(d, hn::Add(hn::BitCast(du, power), k));
   }
 };
 
-}  // namespace vemi
+}  // namespace vemi::signal

@@ -7,7 +7,7 @@
 #include "signal/float_parts.h"
 #include "signal/polynomial.h"
 
-namespace vemi {
+namespace vemi::signal {
 
 namespace detail {
 
@@ -28,7 +28,7 @@ struct SineOfTurned {
   HWY_INLINE V operator()(D d, V x) const {
     const auto isModerate = hn::Lt(hn::Abs(x), hn::Set(d, moderate));
     if (HWY_LIKELY(hn::AllTrue(d, isModerate))) return ofReduced(d, reduced(d, x));
-    return ofAny(d, x);
+    return ofAnyAngle(d, x);
   }
 
  private:
@@ -46,7 +46,7 @@ struct SineOfTurned {
   template <class D, class V>
   HWY_INLINE static auto reduced(D d, V x) {
     const hn::RebindToUnsigned<D> du;
-    const V integers = hn::Set(d, roundingSummand<double>);
+    const V integers = hn::Set(d, vemi::detail::roundingSummand<double>);
     const V sum = hn::Add(hn::Mul(x, hn::Set(d, quartersPerRadian)), integers);
     const V k = hn::Sub(sum, integers);
 
@@ -78,7 +78,7 @@ struct SineOfTurned {
 
   /// Where an angle has many millions of turns.
   template <class D, class V>
-  HWY_NOINLINE V ofAny(D d, V x) const {
+  HWY_NOINLINE V ofAnyAngle(D d, V x) const {
     const hn::RebindToUnsigned<D> du;
     const auto isModerate = hn::Lt(hn::Abs(x), hn::Set(d, moderate));
     const auto near = reduced(d, x), far = reducedFar(d, x);
@@ -152,4 +152,4 @@ struct Cosine : detail::SineOfTurned {
   constexpr Cosine() : SineOfTurned{1} {}
 };
 
-}  // namespace vemi
+}  // namespace vemi::signal

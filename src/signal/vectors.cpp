@@ -7,7 +7,7 @@
 #include "core/rows.h"
 #include "core/streaming.h"
 
-namespace vemi {
+namespace vemi::signal {
 namespace {
 
 VemiStatus checkLength(int len) { return len < 1 ? vemiErrSize : vemiOk; }
@@ -44,4 +44,4 @@ VemiStatus vecSet32(Vemi32u value, Vemi32u* pDst, int len) {
   return vemiOk;
 }
 
-}  // namespace vemi
+}  // namespace vemi::signal

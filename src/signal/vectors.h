@@ -6,7 +6,7 @@
 #include "vemi/status.h"
 #include "vemi/types.h"
 
-namespace vemi {
+namespace vemi::signal {
 
 VemiStatus vecCopy8(const Vemi8u* pSrc, Vemi8u* pDst, int len);
 VemiStatus vecCopy32(const Vemi32u* pSrc, Vemi32u* pDst, int len);
@@ -17,4 +17,4 @@ VemiStatus vecZero32(Vemi32u* pDst, int len);
 
 VemiStatus vecSet32(Vemi32u value, Vemi32u* pDst, int len);
 
-}  // namespace vemi
+}  // namespace vemi::signal

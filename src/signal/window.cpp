@@ -3,7 +3,7 @@
 #include "core/checks.h"
 #include "signal/sine.h"
 
-namespace vemi {
+namespace vemi::signal {
 namespace {
 
 /// Weights of a window, from either end inward, and rounded from double to single precision. Next() gives that of
@@ -57,4 +57,4 @@ VemiStatus sigWinBartlett_32f_I(Vemi32f* pSrcDst, int len) { return applyWindow<
 
 VemiStatus sigWinHamming_32f_I(Vemi32f* pSrcDst, int len) { return applyWindow<HammingWeights>(pSrcDst, len); }
 
-}  // namespace vemi
+}  // namespace vemi::signal

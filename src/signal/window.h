@@ -5,7 +5,7 @@
 #include "vemi/status.h"
 #include "vemi/types.h"
 
-namespace vemi {
+namespace vemi::signal {
 
 /// A triangle: 0 at both ends, 2 k / (len - 1) at element k of the first half.
 VemiStatus sigWinBartlett_32f_I(Vemi32f* pSrcDst, int len);
@@ -13,4 +13,4 @@ VemiStatus sigWinBartlett_32f_I(Vemi32f* pSrcDst, int len);
 /// 0.54 - 0.46 cos(2 pi k / (len - 1)) at element k, by a recurrence, whose error grows with the square of the length.
 VemiStatus sigWinHamming_32f_I(Vemi32f* pSrcDst, int len);
 
-}  // namespace vemi
+}  // namespace vemi::signal

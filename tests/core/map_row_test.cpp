@@ -28,7 +28,7 @@ TEST(MapRow, AppliesTheOperationToEachWorkedElement) {
       const auto both = [&](size_t i) { return andNot(first[i], second[i]); };
       mapRow<L>(width, eachVector(andNotLanes), dst.data(), a.data(), b.data());
       ASSERT_TRUE(dst.holds(worked<L>(old, both)) && a.untouched() && b.untouched());
-      mapRow<L>(width, eachVector(Same()), dst.data(), a.data());
+      mapRow<L>(width, eachVector(Identity()), dst.data(), a.data());
       ASSERT_TRUE(dst.holds(worked<L>(old, [&](size_t i) { return first[i]; })) && a.untouched()) << "one source";
       mapRow<L>(width, eachVector(andNotLanes), b.data(), a.data(), b.data());
       ASSERT_TRUE(b.holds(worked<L>(second, both)) && a.untouched()) << "in place of the second source";

@@ -43,7 +43,7 @@ TEST(MaskedRows, OnlyChosenPixelsChange) {
           return worked<L>(old, [&](size_t i) { return chosen[i / L::elements] != 0 ? f(i) : old[i]; });
         };
         const auto constantOf = [&](size_t i) { return constant[i % L::elements]; };
-        mapRowMasked<L>(width, mask.data(), eachVector(Same()), copied.data(), src.data());
+        mapRowMasked<L>(width, mask.data(), eachVector(Identity()), copied.data(), src.data());
         ASSERT_TRUE(copied.holds(select(copied.original(), [&](size_t i) { return from[i]; })) && src.untouched());
         mapRowMasked<L>(width, mask.data(), fill, filled.data());
         ASSERT_TRUE(filled.holds(select(filled.original(), constantOf)));

@@ -13,6 +13,7 @@
 #include "vemi/vemi.h"
 
 using namespace vemi;
+using namespace vemi::signal;
 
 namespace {
 

@@ -11,6 +11,7 @@
 #include "support/elements.h"
 
 using namespace vemi;
+using namespace vemi::signal;
 
 namespace {
 

@@ -12,6 +12,7 @@
 #include "signal/one_unit.h"
 
 using namespace vemi;
+using namespace vemi::signal;
 using namespace vemi::test;
 
 namespace {

@@ -11,6 +11,7 @@
 #include "support/guarded_row.h"
 
 using namespace vemi;
+using namespace vemi::signal;
 using namespace vemi::test;
 
 namespace {

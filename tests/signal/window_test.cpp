@@ -10,6 +10,7 @@
 #include "support/windows.h"
 
 using namespace vemi;
+using namespace vemi::signal;
 using namespace vemi::test;
 
 namespace {
