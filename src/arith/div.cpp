@@ -46,7 +46,7 @@ HWY_INLINE hn::Vec<D> inFloats(D d, const F& f, V... v) {
       const auto index = hn::LoadDup128(d, quarterOrder.index[n]);
       return f(df, hn::ConvertTo(df, hn::BitCast(d32, hn::TableLookupBytesOr0(v, index)))...);
     };
-    return packBytes(d, narrow(d16, Pair{quarter(0), quarter(1)}), narrow(d16, Pair{quarter(2), quarter(3)}));
+    return packHalves(d, narrow(d16, Pair{quarter(0), quarter(1)}), narrow(d16, Pair{quarter(2), quarter(3)}));
   } else {
     const auto zero = hn::Zero(d);
     return narrow(d16, Pair{f(df, hn::ConvertTo(df, hn::BitCast(d32, hn::InterleaveLower(d, zero, v)))...),

@@ -1,4 +1,4 @@
-// The lane library as the kernels see it, and the few lane moves that it has no name for.
+// The lane library as the kernels see it, and a few moves of lanes.
 //
 // Highway is used with static dispatch: the compiler flags of a build choose one processor level, and VEMI_LANES says
 // which Highway target that level must give. Without the guard a missing flag would only show as a slow library.
@@ -79,31 +79,6 @@ HWY_INLINE hn::Vec<D> narrow(D d, Widened<V> wide) {
   } else {
     return hn::ReorderDemote2To(d, wide.lower, wide.upper);
   }
-}
-
-namespace detail {
-
-/// The lane library has no name for this instruction. The vectors are the halves of each 128-bit block.
-template <class V>
-HWY_INLINE auto packBytes(V lower, V upper) {
-#if !HWY_ARCH_X86
-#error "the pack is to be written for this processor"
-#endif
-  if constexpr (sizeof(V) == 16) return _mm_packus_epi16(lower.raw, upper.raw);
-#if HWY_TARGET <= HWY_AVX2
-  if constexpr (sizeof(V) == 32) return _mm256_packus_epi16(lower.raw, upper.raw);
-#endif
-#if HWY_TARGET <= HWY_AVX3
-  if constexpr (sizeof(V) == 64) return _mm512_packus_epi16(lower.raw, upper.raw);
-#endif
-}
-
-}  // namespace detail
-
-/// Saturates signed lanes of 16 bits to bytes. The vectors are the halves of each 128-bit block.
-template <class D, class V>
-HWY_INLINE hn::Vec<D> packBytes(D, V lower, V upper) {
-  return hn::Vec<D>{detail::packBytes(lower, upper)};
 }
 
 }  // namespace vemi

@@ -7,7 +7,7 @@
 #include <limits>
 #include <type_traits>
 
-#include "core/lanes.h"
+#include "core/processor.h"
 
 namespace vemi {
 
@@ -115,19 +115,6 @@ HWY_INLINE V roundTiesEven(D d, V value) {
   const auto odd = hn::Ne(hn::Floor(half), half);
   const auto up = hn::Or(hn::Gt(rest, point5), hn::And(hn::Eq(rest, point5), odd));
   return hn::Add(down, hn::IfThenElseZero(up, hn::Set(d, 1.0f)));
-}
-
-/// Towards zero. A NaN and a value beyond 32 bits give the lowest integer; the lane library's conversion would mend
-/// large values, at twice the cost.
-template <class D, class V>
-HWY_INLINE hn::Vec<D> truncated(D, V v) {
-  if constexpr (sizeof v.raw == 16) return hn::Vec<D>{_mm_cvttps_epi32(v.raw)};
-#if HWY_TARGET <= HWY_AVX2
-  if constexpr (sizeof v.raw == 32) return hn::Vec<D>{_mm256_cvttps_epi32(v.raw)};
-#endif
-#if HWY_TARGET <= HWY_AVX3
-  if constexpr (sizeof v.raw == 64) return hn::Vec<D>{_mm512_cvttps_epi32(v.raw)};
-#endif
 }
 
 namespace detail {

@@ -28,8 +28,8 @@ HWY_INLINE auto integersOf(V v) {
     return hn::ConvertTo(di, hn::IfThenElseZero(isNumber, v));
   } else {
     // What is too low becomes the lowest integer, which is packed to the lowest of T. So does a NaN: of an unordered
-    // pair the processor's minimum is the second.
-    const V limited = hn::Min(hn::Set(d, static_cast<float>(std::numeric_limits<T>::max())), v);
+    // pair the lesser is the second.
+    const V limited = lesser(hn::Set(d, static_cast<float>(std::numeric_limits<T>::max())), v);
     return truncated(di, std::is_signed_v<T> ? hn::IfThenElseZero(isNumber, limited) : limited);
   }
 }

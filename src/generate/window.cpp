@@ -33,6 +33,7 @@ VemiStatus checkArguments(Image<const T> src, Image<T> dst, VemiSize roiSize) {
 template <class T>
 void multiplyRow(ptrdiff_t width, const float* ofColumns, float ofRow, const T* src, T* dst) {
   const Lanes<float> d;
+  [[maybe_unused]] const Lanes<int32_t> di;
   const Lanes<T> dElements;
   constexpr ptrdiff_t N = laneCount<float>, items = std::max(2 * N, laneCount<T>);
   const auto kernel = [&](const float* weights, const T* in, T* out) HWY_ATTR {
@@ -41,8 +42,8 @@ void multiplyRow(ptrdiff_t width, const float* ofColumns, float ofRow, const T* 
     if constexpr (std::is_same_v<T, float>) {
       unrolled<2>([&](auto k) HWY_ATTR { hn::StoreU(product(hn::LoadU(d, in + k * N), k * N), d, out + k * N); });
     } else {
-      const auto rounded = [&](auto k) HWY_ATTR { return toIntegers(d, product(loadExtended(d, in + k * N), k * N)); };
-      hn::StoreU(packEach<float>(dElements, rounded), dElements, out);
+      const auto integers = [&](auto k) HWY_ATTR { return rounded(di, product(loadExtended(d, in + k * N), k * N)); };
+      hn::StoreU(packEach<float>(dElements, integers), dElements, out);
     }
   };
   forBlocks<items>(width, kernel, Strand<const float>{ofColumns}, Strand<const T>{src}, Strand<T>{dst});
@@ -232,12 +233,13 @@ class RadialRow {
   /// A product has 255 times the error of the weight and two roundings.
   static HWY_INLINE bool roughProducts(const float* weights, const Vemi8u* in, Vemi8u* out) {
     const Lanes<float> d;
+    const Lanes<int32_t> di;
     const Lanes<Vemi8u> dElements;
     constexpr ptrdiff_t N = laneCount<float>;
     const auto end = [&](float doubt) HWY_ATTR {
       return packEach<float>(dElements, [&](auto k) HWY_ATTR {
         const auto product = hn::Mul(loadExtended(d, in + k * N), hn::LoadU(d, weights + k * N));
-        return toIntegers(d, hn::Add(product, hn::Set(d, doubt)));
+        return rounded(di, hn::Add(product, hn::Set(d, doubt)));
       });
     };
     const auto low = end(-0x1p-13f);

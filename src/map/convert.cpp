@@ -45,15 +45,14 @@ struct Rounded {
   }
 };
 
-/// From any floats: limited first. A NaN is above all numbers: of an unordered pair the processor's minimum is the
-/// second.
+/// From any floats: limited first. A NaN is above all numbers: of an unordered pair the lesser is the second.
 struct LimitedAndRounded {
   template <class D>
   HWY_INLINE hn::Vec<D> operator()(D d, const Vemi32f* in) const {
     using Limits = std::numeric_limits<hn::TFromD<D>>;
     return roundedFloats(d, in, [](auto df, auto v) HWY_ATTR {
-      const auto limitedAbove = hn::Min(v, hn::Set(df, Limits::max()));
-      return hn::Max(limitedAbove, hn::Set(df, Limits::min()));
+      const auto limitedAbove = lesser(v, hn::Set(df, Limits::max()));
+      return greater(limitedAbove, hn::Set(df, Limits::min()));
     });
   }
 };

@@ -112,7 +112,7 @@ struct FromRange {
   }
 };
 
-/// From any floats: limited first. A NaN counts as vMin: of an unordered pair the processor's maximum is the second.
+/// From any floats: limited first. A NaN counts as vMin: of an unordered pair the greater is the second.
 struct FromLimitedRange {
   RangeSum range;
   Vemi32f vMin, vMax;
@@ -120,8 +120,8 @@ struct FromLimitedRange {
   template <class D>
   HWY_INLINE hn::Vec<D> operator()(D d, const Vemi32f* in) const {
     return roundedFloats(d, in, [&](auto df, auto v) HWY_ATTR {
-      const auto limitedBelow = hn::Max(v, hn::Set(df, vMin));
-      return range(df, hn::Min(limitedBelow, hn::Set(df, vMax)));
+      const auto limitedBelow = greater(v, hn::Set(df, vMin));
+      return range(df, lesser(limitedBelow, hn::Set(df, vMax)));
     });
   }
 };

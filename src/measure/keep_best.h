@@ -1,7 +1,7 @@
 // The lowest and the highest element of each channel of a region, or of terms of several regions' elements.
 //
-// A NaN is passed over: of two lanes of which one is a NaN, the processor's minimum and maximum give their second
-// operand, and that is what was best so far.
+// A NaN is passed over: of two lanes of which one is a NaN, lesser and greater give their second operand, and that is
+// what was best so far.
 #pragma once
 
 #include <cstring>
@@ -9,6 +9,7 @@
 #include <type_traits>
 
 #include "core/map_row.h"
+#include "core/processor.h"
 #include "core/reduce_region.h"
 
 namespace vemi::measure {
@@ -27,7 +28,7 @@ struct Lowest {
 
   template <class V>
   HWY_INLINE static V better(V v, V best) {
-    return hn::Min(v, best);
+    return lesser(v, best);
   }
   template <class T>
   static bool isBetter(T value, T best) {
@@ -47,7 +48,7 @@ struct Highest {
 
   template <class V>
   HWY_INLINE static V better(V v, V best) {
-    return hn::Max(v, best);
+    return greater(v, best);
   }
   template <class T>
   static bool isBetter(T value, T best) {
