@@ -16,8 +16,8 @@ HWY_NOINLINE VemiStatus runApart(const F& f) {
 
 }  // namespace detail
 
-/// f(), a status, while lanes and scalars round as told. No exception ends the program, whatever the caller has
-/// unmasked, and afterwards all is the caller's again, with its flags.
+/// f(), a status, while lanes and scalars round as told, those of a team that f opens too. No exception ends the
+/// program, whatever the caller has unmasked, and afterwards all is the caller's again, with its flags.
 template <class F>
 VemiStatus withRounding(Rounding rounding, const F& f) {
   const FloatControl callers = FloatControl::current(), own = callers.with(rounding);
@@ -35,8 +35,8 @@ VemiStatus roundingToNearest(const F& f) {
   return withRounding(Rounding::nearest, f);
 }
 
-/// Within withRounding: whether an operation so far had no valid result. So a fast kernel runs without looking at its
-/// values, and where one was beyond it, all are computed again with care.
+/// Within withRounding: whether an operation of this thread so far had no valid result. So a fast kernel runs without
+/// looking at its values, and where one was beyond it, all are computed again with care.
 inline bool metInvalid() { return FloatControl::current().metInvalid(); }
 
 }  // namespace vemi

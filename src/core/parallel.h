@@ -22,15 +22,28 @@ struct Nothing {
   void operator()() const {}
 };
 
+namespace detail {
+
+/// The library's one parallel region.
+void openTeam(void (*body)(const void*), const void* object);
+
+}  // namespace detail
+
+/// Calls body() in each thread of a team. All of them compute as the caller has told his own: a worker has the caller's
+/// control word for the call, and then its own again. The flags that it raises are seen by itself alone.
+template <class Body>
+void inTeam(const Body& body) {
+  detail::openTeam([](const void* object) { (*static_cast<const Body*>(object))(); }, &body);
+}
+
 /// Form A, the row loop: each thread runs row(y) over one contiguous block of rows, then finish() once.
 template <class Row, class Finish = Nothing>
 void rowsInTeam(ptrdiff_t height, const Row& row, const Finish& finish = {}) {
-#pragma omp parallel
-  {
+  inTeam([&] {
 #pragma omp for schedule(static) nowait
     for (ptrdiff_t y = 0; y < height; ++y) row(y);
     finish();
-  }
+  });
 }
 
 template <class Row, class Finish = Nothing>
@@ -71,8 +84,7 @@ struct TeamRows {
 template <class Band>
 void bandsInTeam(int height, const Band& band) {
   int nThreads, bandRows, bandRest;
-#pragma omp parallel
-  {
+  inTeam([&] {
 #pragma omp single
     {
       nThreads = omp_get_num_threads();
@@ -81,7 +93,7 @@ void bandsInTeam(int height, const Band& band) {
     }
     const int t = omp_get_thread_num();
     band(t * bandRows, t == nThreads - 1 ? bandRows + bandRest : bandRows);
-  }
+  });
 }
 
 /// Form C, team scratch with a row loop: row(y, slice), the slice being the thread's own `sliceElements` floats.
@@ -89,8 +101,7 @@ template <class Row>
 VemiStatus scratchRowsInTeam(int height, int sliceElements, const Row& row) {
   Vemi32f* pScratch = nullptr;
   bool failed = false;
-#pragma omp parallel
-  {
+  inTeam([&] {
 #pragma omp single
     {
       const Vemi64s bytes = Vemi64s{sliceElements} * Vemi64s{sizeof(Vemi32f)} * omp_get_num_threads();
@@ -102,7 +113,7 @@ VemiStatus scratchRowsInTeam(int height, int sliceElements, const Row& row) {
 #pragma omp for schedule(static)
       for (int y = 0; y < height; ++y) row(y, slice);
     }
-  }
+  });
   vemiAlignedFree(pScratch);
   return failed ? vemiErrMemAlloc : vemiOk;
 }
@@ -142,8 +153,7 @@ template <class Prepare, class Tile>
 VemiStatus tilesInTeam(TileGrid grid, const Prepare& prepare, const Tile& tile) {
   TeamBlock block = {grid};
   VemiStatus prepared = vemiErrMemAlloc;
-#pragma omp parallel
-  {
+  inTeam([&] {
 #pragma omp single
     {
       block.nThreads = omp_get_num_threads();
@@ -159,7 +169,7 @@ VemiStatus tilesInTeam(TileGrid grid, const Prepare& prepare, const Tile& tile) 
       }
       block.status(t) = status;
     }
-  }
+  });
   VemiStatus status = std::min<VemiStatus>(prepared, vemiOk);
   for (int t = 0; block.base != nullptr && t < block.nThreads; ++t) status = std::min(status, block.status(t));
   vemiAlignedFree(block.base);

@@ -1,13 +1,18 @@
-// The four forms of parallel region: who runs which rows, bands and tiles, with what memory, and what comes back. Every
-// form is run by teams of several sizes, and inside another parallel region, where it has a team of one.
+// The four forms of parallel region: who runs which rows, bands and tiles, with what memory, in which rounding mode,
+// and what comes back. Every form is run by teams of several sizes, and inside another parallel region, where it has a
+// team of one.
 
 #include "core/parallel.h"
 
+#include <fenv.h>
 #include <gtest/gtest.h>
 
 #include <algorithm>
 #include <atomic>
+#include <cfloat>
+#include <functional>
 #include <numeric>
+#include <thread>
 #include <vector>
 
 #include "support/allocator.h"
@@ -259,6 +264,86 @@ TEST(TilesInTeam, SizesBeyond32BitsDoNotWrap) {
     } else {
       EXPECT_EQ(requested, 0u);
     }
+  }
+}
+
+using Work = std::function<void()>;
+
+/// Each form with as much work as there are threads.
+const struct {
+  const char* name;
+  void (*run)(int team, const Work&);
+} forms[] = {
+    {"rows", [](int team, const Work& work) { rowsInTeam(team, [&](ptrdiff_t) { work(); }); }},
+    {"the finish",
+     [](int team, const Work& work) {
+       rowsInTeam(
+           team, [](ptrdiff_t) {}, work);
+     }},
+    {"bands", [](int team, const Work& work) { bandsInTeam(team, [&](int, int) { work(); }); }},
+    {"rows with scratch",
+     [](int team, const Work& work) { scratchRowsInTeam(team, 8, [&](int, Vemi32f*) { work(); }); }},
+    {"tiles",
+     [](int team, const Work& work) {
+       const auto prepare = [&](void*) -> VemiStatus { return work(), vemiOk; };
+       const auto tile = [&](int, int, const void*, void*) -> VemiStatus { return work(), vemiOk; };
+       tilesInTeam({1, team, 8, 8}, prepare, tile);
+     }},
+};
+
+/// Of lanes and scalars; fegetround may tell another unit's.
+int roundingMode() {
+  volatile float one = 1, little = 0x1p-30f;
+  if (one + little > 1) return FE_UPWARD;
+  if (-one - little < -1) return FE_DOWNWARD;
+  return one - little < 1 ? FE_TOWARDZERO : FE_TONEAREST;
+}
+
+// Flags, as lanes raise them.
+
+void divideByZero() {
+  volatile float number = 1;
+  number = number / 0.0f;
+}
+
+void overflow() {
+  volatile float number = FLT_MAX;
+  number = number * number;
+}
+
+/// Threads that were made in one mode work in another, and are left in their own.
+TEST(FloatControl, WorkersHaveTheCallersForACall) {
+  for (const auto& form : forms) {
+    SCOPED_TRACE(form.name);
+    std::thread([&] {
+      constexpr int team = 3;
+      omp_set_num_threads(team);
+      fesetround(FE_UPWARD);
+#pragma omp parallel
+      {
+        feclearexcept(FE_ALL_EXCEPT);
+        overflow();
+      }
+      for (const int mode : {FE_TONEAREST, FE_DOWNWARD}) {
+        fesetround(mode);
+        feclearexcept(FE_ALL_EXCEPT);
+        std::atomic<int> calls = 0;
+        form.run(team, [&] {
+          EXPECT_EQ(roundingMode(), mode);
+          ++calls;
+          divideByZero();
+        });
+        EXPECT_GE(calls, team);
+        EXPECT_EQ(roundingMode(), mode);
+        EXPECT_EQ(fetestexcept(FE_ALL_EXCEPT), FE_DIVBYZERO | FE_INEXACT)
+            << "what the caller's own thread raises is seen";
+#pragma omp parallel
+        if (omp_get_thread_num() > 0) {
+          EXPECT_EQ(fetestexcept(FE_ALL_EXCEPT), FE_OVERFLOW | FE_INEXACT);
+          EXPECT_EQ(roundingMode(), FE_UPWARD);
+        }
+      }
+    }).join();
   }
 }
 
