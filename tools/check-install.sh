@@ -42,7 +42,7 @@ done
 try c99 "$cc" "$root/examples/quickstart.c"
 
 for header in "$prefix"/include/vemi/*.h; do
-  $cc -std=c99 -fsyntax-only -include "$header" "${flags[@]}" -x c /dev/null
+  $cc -std=c99 -fsyntax-only -include "$header" "${flags[@]}" -x c - <<<'typedef int not_empty;'
 done
 
 unset LD_LIBRARY_PATH

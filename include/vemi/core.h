@@ -109,7 +109,7 @@ VEMI_API void vemiFree(void* ptr);
  * @defgroup vemi_version vemiGetLibVersion: what this library is
  *
  * Returns the address of the library's version record (types.h), which is constant: every call returns the same
- * address, and nobody frees or changes the record. It cannot fail.
+ * address, and nobody frees or changes the record. It cannot fail. version.h has the version of the headers as macros.
  *
  *     const VemiLibVersion* v = vemiGetLibVersion();
  *     printf("%s, for %s\n", v->Version, v->targetCpu);

@@ -22,6 +22,7 @@
 #include "vemi/measure.h"
 #include "vemi/status.h"
 #include "vemi/types.h"
+#include "vemi/version.h"
 
 /**
  * @defgroup vemi_guide How to read and call the functions

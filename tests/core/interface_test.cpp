@@ -101,3 +101,18 @@ TEST(Interface, VersionRecord) {
   EXPECT_STREQ(version->BuildDate, "Jan 19 2005");
   EXPECT_EQ(vemiGetLibVersion(), version);
 }
+
+// One version in the record, in the headers and in the packages, whose version is the build's.
+TEST(Interface, VersionMacros) {
+  const VemiLibVersion* const version = vemiGetLibVersion();
+  EXPECT_EQ(VEMI_VERSION_MAJOR, version->major);
+  EXPECT_EQ(VEMI_VERSION_MINOR, version->minor);
+  const std::string text = std::to_string(VEMI_VERSION_MAJOR) + "." + std::to_string(VEMI_VERSION_MINOR) + "." +
+                           std::to_string(VEMI_VERSION_PATCH);
+  EXPECT_EQ("v" + text, version->Version);
+  EXPECT_EQ(text, VEMI_PROJECT_VERSION);
+  EXPECT_EQ(VEMI_VERSION_NUMBER, (version->major * 100 + version->minor) * 100 + VEMI_VERSION_PATCH);
+#if VEMI_VERSION_NUMBER < 40102
+#error "the preprocessor cannot compare versions"
+#endif
+}
