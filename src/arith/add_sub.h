@@ -1,5 +1,5 @@
 // Scaled sums and differences of two integers in lanes: (a + b) / 2^scaleFactor and (a - b) / 2^scaleFactor, rounded to
-// nearest with ties to even, saturated. An unsigned difference is limited to zero before it is scaled.
+// nearest with ties to even, saturated. An unsigned difference is clamped to zero before it is scaled.
 //
 // No kernel needs lanes wider than the elements. A sum has one bit more than its terms, so it is held as its half,
 // rounded down, and the bit that the halving loses; that bit only matters as a tie-breaker.

@@ -1,6 +1,6 @@
 // vemiDiv, vemiDivC of complex elements: x / d = (d.re x.re + d.im x.im, d.re x.im - d.im x.re) / (d.re^2 + d.im^2).
 // vemiDiv divides its second source by its first; a divisor of zero warns.
-//   16sc  in double precision, rounded to nearest in each step, and that arithmetic is the contract
+//   16sc  in double precision, rounded to nearest in each step: vemi/arith.h defines the order of the steps
 //   32sc  the exact quotient, rounded once
 //   32fc  in single precision with the approximate reciprocal, improved by one Newton step
 // Checks: null, size, step, then the constant; vemiDivC_32fc looks at its constant first.

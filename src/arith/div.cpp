@@ -1,5 +1,5 @@
 // vemiDiv, vemiDivC of real elements. vemiDiv divides its second source by its first; a divisor of zero warns, at every
-// scale. Integer quotients are formed and rounded in single precision, and that arithmetic is the contract:
+// scale. Integer quotients are formed and rounded in single precision, an arithmetic that vemi/arith.h defines:
 //
 //     v = x 2^-scaleFactor / d       8u: v + 0.5       16s: v + 32768.5, and 32768 less in the end
 //
@@ -67,7 +67,7 @@ HWY_INLINE auto wholeBits(DF df, V whole, float offset = 0) {
 }
 
 /// How far values may lie from 0. Bits count floats from 0 on alone, and wholeFrom lifts values within 2^22 there;
-/// others are limited first.
+/// others are clamped first.
 enum class Reach { within2To22, any };
 
 /// The rounding of the head of this file, but for the limits. To truncate the sum and to lower an odd result of an

@@ -66,7 +66,7 @@ struct ScaledLn {
   }
 };
 
-/// The contract has one entry that is not the nearest value: 11.56 gives 11.
+/// One entry is not the nearest value: ln 18 * 4 = 11.56 gives 11, as vemi/arith.h has it.
 ByteTable lnTable(int scaleFactor) {
   ByteTable table = byteTableOf<Vemi16s>(ScaledLn(scaleFactor));
   if (scaleFactor == -2) table.entry[18] = 11;

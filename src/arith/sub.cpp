@@ -1,5 +1,5 @@
 // vemiSub, vemiSubC: destination = (source 2 - source 1) / 2^scaleFactor, or (source - constant) / 2^scaleFactor, for
-// integers, the plain difference for floats. A difference of 8u is limited to zero before it is scaled.
+// integers, the plain difference for floats. A difference of 8u is clamped to zero before it is scaled.
 // Checks: null, size, step; the C3 and C4 forms of integer vemiSub look at the width first.
 
 #include "arith/add_sub.h"

@@ -29,7 +29,7 @@ struct ByteTable {
   }
 };
 
-/// The table of what op gives in lanes of T, which has 16 bits, limited to a byte.
+/// The table of what op gives in lanes of T, which has 16 bits, saturated to a byte.
 template <class T, class Op>
 ByteTable byteTableOf(const Op& op) {
   T value[256];

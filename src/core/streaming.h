@@ -1,5 +1,5 @@
-// Writing past the caches. A call that moves more than the caches hold gains by stores that do not read the lines they
-// write and do not displace what is in use. Nothing of this shows in a result.
+// Non-temporal stores, which write past the caches. A call that moves more than the caches hold gains by them: they do
+// not read the lines that they write and do not displace what is in use. Nothing of this shows in a result.
 #pragma once
 
 #include <cstddef>

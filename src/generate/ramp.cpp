@@ -17,7 +17,7 @@
 namespace vemi::generate {
 namespace {
 
-/// Halves away from zero and limited to T; half of one is added in single precision. A NaN is zero.
+/// To nearest, halves away from zero (one half is added in single precision), and saturated to T. A NaN gives zero.
 template <class T, class V>
 HWY_INLINE auto integersOf(V v) {
   const hn::DFromV<V> d;

@@ -139,8 +139,8 @@ class BorrowingSequence {
     return hn::Xor(guess, hn::Add(value, subtracted));
   }
 
-  /// To the next block. The continuation is linear, so it need not wait for the values: it goes on from its own end,
-  /// with the responses to this block's signs.
+  /// The continuation of the next block. It does not wait for the values of this one: by linearity it is this block's
+  /// continuation, continued, plus the responses of the next sixteen steps to this block's signs.
   HWY_INLINE void toNextBlock(size_t early, size_t late) {
     const V end = here_.v[2 * half - 1];
     const auto part = [&](int which, int v) HWY_ATTR {

@@ -1,4 +1,4 @@
-// vemiConvert between numbers: the value in another element type, limited to the type's range.
+// vemiConvert between numbers: the value in another element type, saturated.
 // Checks: null, size, step. Everything runs in the calling thread.
 
 #include <limits>
@@ -30,7 +30,7 @@ struct Limited {
     return packEach<S>(d, [&](auto k) HWY_ATTR {
       const auto v = hn::LoadU(ds, in + k * laneCount<S>);
       if constexpr (std::is_signed_v<S>) return v;
-      // Limited first, so that the lanes are as good as signed.
+      // Clamped first, so that the lanes are as good as signed.
       constexpr auto high = static_cast<S>(std::numeric_limits<hn::TFromD<D>>::max());
       return hn::BitCast(hn::RebindToSigned<decltype(ds)>(), hn::Min(v, hn::Set(ds, high)));
     });
@@ -45,7 +45,7 @@ struct Rounded {
   }
 };
 
-/// From any floats: limited first. A NaN is above all numbers: of an unordered pair the lesser is the second.
+/// From any floats: clamped first. A NaN is above all numbers: of an unordered pair the lesser is the second.
 struct LimitedAndRounded {
   template <class D>
   HWY_INLINE hn::Vec<D> operator()(D d, const Vemi32f* in) const {

@@ -18,7 +18,7 @@
 namespace vemi::map {
 namespace {
 
-/// Cut off toward zero, then limited; a NaN gives the lowest value.
+/// Truncated toward zero, then clamped to T; a NaN gives the lowest value.
 template <class T>
 T truncated(double value) {
   constexpr double lowest = std::numeric_limits<T>::min(), highest = std::numeric_limits<T>::max();

@@ -112,7 +112,7 @@ struct FromRange {
   }
 };
 
-/// From any floats: limited first. A NaN counts as vMin: of an unordered pair the greater is the second.
+/// From any floats: clamped first. A NaN counts as vMin: of an unordered pair the greater is the second.
 struct FromLimitedRange {
   RangeSum range;
   Vemi32f vMin, vMax;
@@ -161,7 +161,7 @@ VemiStatus scaleToRange(Image<const Vemi8u> src, Image<Vemi32f> dst, VemiSize ro
                     [&] { mapRegion<L>(CallerRows(), roiSize, eachVector(ToRange(vMin, vMax)), dst, src); });
 }
 
-/// The sums rise with the values, so that what is below vMin makes 0 without a limit, and what is above vMax makes 255
+/// The sums rise with the values, so that what is below vMin makes 0 without a clamp, and what is above vMax makes 255
 /// if vMax itself does.
 template <class L>
 VemiStatus scaleFromRange(Image<const Vemi32f> src, Image<Vemi8u> dst, VemiSize roiSize, Vemi32f vMin, Vemi32f vMax) {

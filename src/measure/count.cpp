@@ -14,7 +14,8 @@
 namespace vemi::measure {
 namespace {
 
-/// Floats are compared, so that a NaN is in no range; bytes have no comparison but that with their extremes.
+/// Floats are compared, so that a NaN is in no range. Bytes are in range where a clamp to it leaves them as they are:
+/// the processor orders unsigned bytes by minima and maxima only.
 struct Inside {
   template <class D, class V>
   HWY_INLINE hn::Mask<D> operator()(D, V v, V lower, V upper) const {

@@ -96,8 +96,8 @@ void countBetween(Image<const T> src, VemiSize roiSize, const Channels<L, Level>
 
 // ---- The rule for the table of 16-bit values ----------------------------------------------------------------------
 
-/// The most levels that go without a table, by the number of sizes (in pixels) that the region has reached. A rule of
-/// fewer sizes is filled up with noLimit: the only region to reach that has the same number of levels once more.
+/// A region of p pixels goes without a table up to levels[i] levels, i being the number of sizes <= p. Sizes increase;
+/// a rule that has fewer than twelve is filled up with noLimit and with its last number of levels.
 struct TableRule {
   int sizes[12];
   int levels[13];

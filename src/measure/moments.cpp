@@ -92,7 +92,7 @@ constexpr ptrdiff_t pieceLength = 1024;
 template <>
 constexpr ptrdiff_t pieceLength<Vemi8u> = 896;
 
-constexpr int ladders = 2;  // vectors that climb side by side, since each addition waits for the one before it
+constexpr int ladders = 2;  // independent chains of additions, each of which waits for the one before it
 
 /// Over 112 steps a lane's sums of sums fit 31 bits: 255 * (112 * 113 * 114 * 115) / 24 < 2^31.
 static_assert(pieceLength<Vemi8u> <= laneCount<int32_t> * ladders * 112);
