@@ -26,8 +26,7 @@ void* allocate(size_t size) { return std::malloc(size); }
 void release(void* base) { std::free(base); }
 #endif
 
-constexpr size_t alignment = 32;
-constexpr size_t surplus = alignment + sizeof(void*);
+constexpr size_t surplus = blockAlignment + sizeof(void*);
 
 }  // namespace
 
@@ -36,7 +35,7 @@ void* alignedAllocBytes(Vemi64s size) {
   void* const base = allocate(static_cast<size_t>(size) + surplus);
   if (base == nullptr) return nullptr;
   // The last address that is aligned, leaves the word in front and the payload whole.
-  const size_t lead = surplus - 1 - (reinterpret_cast<uintptr_t>(base) + surplus - 1) % alignment;
+  const size_t lead = surplus - 1 - (reinterpret_cast<uintptr_t>(base) + surplus - 1) % blockAlignment;
   char* const payload = static_cast<char*>(base) + lead;
   std::memcpy(payload - sizeof base, &base, sizeof base);
   return payload;
@@ -47,6 +46,8 @@ void* vemiAlignedAlloc(int size) { return alignedAllocBytes(size); }
 Vemi16s* vemiAlignedAlloc16(int count) { return static_cast<Vemi16s*>(alignedAllocBytes(Vemi64s{count} * 2)); }
 
 Vemi32f* vemiAlignedAlloc32f(int count) { return static_cast<Vemi32f*>(alignedAllocBytes(Vemi64s{count} * 4)); }
+
+Vemi64f* vemiAlignedAlloc64f(int count) { return static_cast<Vemi64f*>(alignedAllocBytes(Vemi64s{count} * 8)); }
 
 void vemiAlignedFree(void* block) {
   if (block == nullptr) return;

@@ -8,10 +8,14 @@
 
 namespace vemi {
 
+/// Of the blocks' addresses.
+inline constexpr int blockAlignment = 32;
+
 /// All return null for a size or count below 1 and when the C allocator fails. Blocks are not cleared.
 void* vemiAlignedAlloc(int size);
 Vemi16s* vemiAlignedAlloc16(int count);
 Vemi32f* vemiAlignedAlloc32f(int count);
+Vemi64f* vemiAlignedAlloc64f(int count);
 
 /// The same for sizes that a team multiplies: a size beyond the address space is a failed allocation.
 void* alignedAllocBytes(Vemi64s size);

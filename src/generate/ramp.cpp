@@ -5,12 +5,12 @@
 #include <limits>
 #include <type_traits>
 
-#include "core/alloc.h"
 #include "core/checks.h"
 #include "core/element_width.h"
 #include "core/image.h"
 #include "core/map_row.h"
 #include "core/numbers.h"
+#include "core/scratch.h"
 #include "generate/grey_row.h"
 #include "vemi/generate.h"
 
@@ -106,18 +106,18 @@ void drawRow(const Ramp& ramp, ptrdiff_t width, T* row, Products products) {
 /// All rows are the same one.
 template <class L, class T>
 VemiStatus drawHorizontal(const Ramp& ramp, Image<T> dst, VemiSize roiSize) {
-  const ptrdiff_t rowBytes = roiSize.width * pixelBytes<T, L>;
-  T* const scratch = static_cast<T*>(alignedAllocBytes(rowBytes));
-  if (scratch == nullptr) return vemiErrMemAlloc;
-  drawRow<Interleaved<L::elements>>(ramp, roiSize.width, scratch, ShortProducts{1});
+  const Vemi64s rowBytes = roiSize.width * Vemi64s{pixelBytes<T, L>};
+  const Scratch scratch(rowBytes);
+  if (scratch.failed()) return vemiErrMemAlloc;
+  T* const row = scratch.as<T>();
+  drawRow<Interleaved<L::elements>>(ramp, roiSize.width, row, ShortProducts{1});
   for (int y = 0; y < roiSize.height; ++y) {
     if constexpr (L::keepsAlpha) {
-      mapRow<L>(roiSize.width, eachVector(Identity()), dst.row(y), scratch);
+      mapRow<L>(roiSize.width, eachVector(Identity()), dst.row(y), row);
     } else {
-      rowCopyBytes(scratch, dst.row(y), rowBytes);
+      rowCopyBytes(row, dst.row(y), static_cast<ptrdiff_t>(rowBytes));
     }
   }
-  vemiAlignedFree(scratch);
   return vemiOk;
 }
 

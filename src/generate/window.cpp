@@ -5,7 +5,6 @@
 #include <cstring>
 #include <type_traits>
 
-#include "core/alloc.h"
 #include "core/blocks.h"
 #include "core/checks.h"
 #include "core/element_width.h"
@@ -13,6 +12,7 @@
 #include "core/float_control.h"
 #include "core/image.h"
 #include "core/numbers.h"
+#include "core/scratch.h"
 #include "signal/polynomial.h"
 #include "signal/sine.h"
 #include "signal/window.h"
@@ -51,9 +51,7 @@ void multiplyRow(ptrdiff_t width, const float* ofColumns, float ofRow, const T* 
 
 using Window = VemiStatus(Vemi32f* pSrcDst, int len);
 
-Vemi32f* allocateWindow(Window* window, int len) {
-  Vemi32f* const weights = vemiAlignedAlloc32f(len);
-  if (weights == nullptr) return nullptr;
+Vemi32f* drawWindow(Window* window, Vemi32f* weights, int len) {
   std::fill_n(weights, len, 1.0f);
   window(weights, len);
   return weights;
@@ -63,15 +61,16 @@ template <Window* window, class T>
 VemiStatus separable(Image<const T> src, Image<T> dst, VemiSize roiSize) {
   if (const VemiStatus bad = checkArguments(src, dst, roiSize)) return bad;
   return roundingToNearest([&] {
-    Vemi32f* const ofColumns = allocateWindow(window, roiSize.width);
-    Vemi32f* const ofRows = allocateWindow(window, roiSize.height);
-    const bool failed = ofColumns == nullptr || ofRows == nullptr;
-    for (int y = 0; !failed && y < roiSize.height; ++y) {
+    Pieces pieces;
+    const auto columns = pieces.add<Vemi32f>(roiSize.width), rows = pieces.add<Vemi32f>(roiSize.height);
+    const Scratch scratch(pieces);
+    if (scratch.failed()) return vemiErrMemAlloc;
+    const Vemi32f* const ofColumns = drawWindow(window, scratch[columns], roiSize.width);
+    const Vemi32f* const ofRows = drawWindow(window, scratch[rows], roiSize.height);
+    for (int y = 0; y < roiSize.height; ++y) {
       multiplyRow(roiSize.width, ofColumns, ofRows[y], src.row(y), dst.row(y));
     }
-    vemiAlignedFree(ofRows);
-    vemiAlignedFree(ofColumns);
-    return failed ? vemiErrMemAlloc : vemiOk;
+    return vemiOk;
   });
 }
 
@@ -134,20 +133,21 @@ template <class Shape, class T>
 class RadialRow {
  public:
   explicit RadialRow(VemiSize roiSize)
-      : width_(roiSize.width), cx_(0.5 * roiSize.width), cy_(0.5 * roiSize.height), begin_((width_ + 1) / 2) {}
-
-  Vemi64s scratchBytes() const {
-    const Vemi64s columns = Vemi64s{width_} + slack;
-    return Vemi64s{sizeof(Weight)} * (columns + half() + slack) + Vemi64s{sizeof(int32_t)} * columns;
-  }
-
-  void useScratch(void* scratch) {
-    weights_ = static_cast<Weight*>(scratch);
-    squares_ = weights_ + width_ + slack;
-    fromRim_ = reinterpret_cast<int32_t*>(squares_ + half() + slack);
+      : width_(roiSize.width), cx_(0.5 * roiSize.width), cy_(0.5 * roiSize.height), begin_((width_ + 1) / 2) {
+    Pieces pieces;
+    const auto weights = pieces.add<Weight>(Vemi64s{width_} + slack);
+    const auto squares = pieces.add<Weight>(Vemi64s{half()} + slack);
+    const auto fromRim = pieces.add<int32_t>(Vemi64s{width_} + slack);
+    scratch_ = Scratch(pieces);
+    if (failed()) return;
+    weights_ = scratch_[weights];
+    squares_ = scratch_[squares];
+    fromRim_ = scratch_[fromRim];
     for (ptrdiff_t x = 0; x < half() + slack; ++x) squares_[x] = square((cx_ - static_cast<double>(x)) / cx_);
     for (ptrdiff_t x = 0; x < width_ + slack; ++x) fromRim_[x] = static_cast<int32_t>(std::min(x, width_ - 1 - x));
   }
+
+  bool failed() const { return scratch_.failed(); }
 
   /// Row y of the upper half, from the rim on: its ellipse's columns only grow.
   void compute(ptrdiff_t y) {
@@ -195,6 +195,7 @@ class RadialRow {
   double cx_, cy_;
   ptrdiff_t begin_;  // the columns in front of it are outside
   double ofRow_ = 0;
+  Scratch scratch_;
   Weight* weights_;
   Weight* squares_;   // of the columns' distances from the middle
   int32_t* fromRim_;  // of each column
@@ -291,16 +292,13 @@ VemiStatus radial(Image<const T> src, Image<T> dst, VemiSize roiSize) {
   if (const VemiStatus bad = checkArguments(src, dst, roiSize)) return bad;
   return roundingToNearest([&] {
     RadialRow<Shape, T> row(roiSize);
-    void* const scratch = alignedAllocBytes(row.scratchBytes());
-    if (scratch == nullptr) return vemiErrMemAlloc;
-    row.useScratch(scratch);
+    if (row.failed()) return vemiErrMemAlloc;
     for (ptrdiff_t y = 0; y <= (roiSize.height - 1) / 2; ++y) {
       const ptrdiff_t mirrored = roiSize.height - 1 - y;
       row.compute(y);
       row.multiply(src.row(y), dst.row(y));
       if (mirrored != y) row.multiply(src.row(mirrored), dst.row(mirrored));
     }
-    vemiAlignedFree(scratch);
     return vemiOk;
   });
 }

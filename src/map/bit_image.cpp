@@ -5,10 +5,10 @@
 #include <bit>
 #include <cstring>
 
-#include "core/alloc.h"
 #include "core/blocks.h"
 #include "core/checks.h"
 #include "core/image.h"
+#include "core/scratch.h"
 #include "vemi/map.h"
 
 namespace vemi::map {
@@ -77,20 +77,23 @@ class DitheredRows {
  public:
   static constexpr ptrdiff_t count = hn::MaxLanes(D());
 
-  DitheredRows(ptrdiff_t width, Vemi8u threshold) : width_(width), limit_(threshold * 8192) {}
-
-  Vemi64s scratchBytes() const {
-    const Vemi64s allSteps = Vemi64s{width_} + lastRowStep(0), slots = 2 * lag + allSteps + 1 + lastRowStep(0);
-    return slots * count * Vemi64s{sizeof(Vemi32s)} + (2 * count + 1) * (allSteps + 16) + 16;
+  DitheredRows(ptrdiff_t width, Vemi8u threshold) : width_(width), limit_(threshold * 8192) {
+    Pieces pieces;
+    const Vemi64s allSteps = Vemi64s{width} + lastRowStep(0);
+    const auto sums = pieces.add<Vemi32s>((2 * lag + allSteps + 1 + lastRowStep(0)) * count);
+    const auto lines = pieces.add<Vemi8u>((allSteps + 16) * count);
+    const auto pixels = pieces.add<Vemi8u>((allSteps + 16) * count);
+    const auto bits = pieces.add<Vemi8u>(8 + allSteps + 16);
+    scratch_ = Scratch(pieces);
+    if (failed()) return;
+    std::memset(scratch_.as<char>(), 0, static_cast<size_t>(pieces.bytes()));
+    sums_ = scratch_[sums] + 2 * lag * count;
+    lines_ = scratch_[lines];
+    pixels_ = scratch_[pixels];
+    bits_ = scratch_[bits] + 8;
   }
 
-  void useScratch(void* scratch) {
-    std::memset(scratch, 0, static_cast<size_t>(scratchBytes()));
-    sums_ = static_cast<Vemi32s*>(scratch) + 2 * lag * count;
-    lines_ = reinterpret_cast<Vemi8u*>(sums_ + (steps() + 1 + lastRowStep(0)) * count);
-    pixels_ = lines_ + count * lineBytes();
-    bits_ = pixels_ + count * lineBytes() + 8;
-  }
+  bool failed() const { return scratch_.failed(); }
 
   /// The next rows, `count` of them unless the image ends.
   void run(ptrdiff_t rows, Image<const Vemi8u> src, Image<Vemi8u> dst, int firstBit) {
@@ -107,6 +110,7 @@ class DitheredRows {
 
   ptrdiff_t width_;
   Vemi32s limit_;
+  Scratch scratch_;
   Vemi32s* sums_;   // for each step and row the weighted errors around the column that was decided two steps before
   Vemi8u* lines_;   // the rows' pixels, each row `lag` steps behind the one above it
   Vemi8u* pixels_;  // the same, those of a step side by side
@@ -209,14 +213,11 @@ class DitheredRows {
 VemiStatus dither(Image<const Vemi8u> src, Image<Vemi8u> dst, int bitOffset, VemiSize roiSize, Vemi8u threshold) {
   if (const VemiStatus bad = firstOf(checkNull(src, dst), checkSize(roiSize), checkBitOffset(bitOffset))) return bad;
   DitheredRows rows(roiSize.width, threshold);
-  void* const scratch = alignedAllocBytes(rows.scratchBytes());
-  if (scratch == nullptr) return vemiErrMemAlloc;
-  rows.useScratch(scratch);
+  if (rows.failed()) return vemiErrMemAlloc;
   for (ptrdiff_t y = 0; y < roiSize.height; y += DitheredRows::count) {
     const ptrdiff_t count = std::min(DitheredRows::count, roiSize.height - y);
     rows.run(count, {src.row(y), src.step}, {dst.row(y), dst.step}, bitOffset % 8);
   }
-  vemiAlignedFree(scratch);
   return vemiOk;
 }
 

@@ -6,12 +6,12 @@
 #include <limits>
 #include <numeric>
 
-#include "core/alloc.h"
 #include "core/byte_table.h"
 #include "core/checks.h"
 #include "core/exports.h"
 #include "core/float_control.h"
 #include "core/map_region.h"
+#include "core/scratch.h"
 #include "core/wide_lanes.h"
 #include "core/word_table.h"
 #include "signal/near_power.h"
@@ -205,13 +205,13 @@ VemiStatus gamma16u(Src src, Dst dst, VemiSize roiSize) {
       mapImages<L>(src, dst, roiSize, op);
       return vemiOk;
     }
-    Vemi16u* const table = static_cast<Vemi16u*>(alignedAllocBytes(sizeof(Vemi16u) * wordTableSize));
-    if (table == nullptr) return vemiErrMemAlloc;
+    const Scratch scratch(arrayBytes<Vemi16u>(wordTableSize));
+    if (scratch.failed()) return vemiErrMemAlloc;
+    Vemi16u* const table = scratch.as<Vemi16u>();
     std::iota(table, table + wordTableSize, Vemi16u{0});
     mapElements<Alpha::none>(wordTableSize, eachVector(op), table, static_cast<const Vemi16u*>(table));
     const Vemi16u* const tables[3] = {table, table, table};
     forEachImage(src, dst, [&](auto from, auto to) { mapByWordTables<L>(roiSize, tables, to, from); });
-    vemiAlignedFree(table);
     return vemiOk;
   });
 }

@@ -6,11 +6,11 @@
 #include <limits>
 #include <numeric>
 
-#include "core/alloc.h"
 #include "core/byte_table.h"
 #include "core/float_control.h"
 #include "core/map_channels.h"
 #include "core/numbers.h"
+#include "core/scratch.h"
 #include "core/word_table.h"
 #include "map/level_search.h"
 #include "vemi/map.h"
@@ -103,17 +103,16 @@ VemiStatus lut16s(Image<const Vemi16s> src, Image<Vemi16s> dst, VemiSize roiSize
       mapChannels<L>(roiSize, searches, dst, src);
       return vemiOk;
     }
-    Vemi16s* const tables = vemiAlignedAlloc16(L::channels * wordTableSize);
-    if (tables == nullptr) return vemiErrMemAlloc;
+    const Scratch scratch(arrayBytes<Vemi16s>(L::channels * wordTableSize));
+    if (scratch.failed()) return vemiErrMemAlloc;
     const Curve curve = possibleCurve<L>(wanted, lists);
     const Vemi16s* table[L::channels];
     for (int channel = 0; channel < L::channels; ++channel) {
-      Vemi16s* const ofChannel = tables + ptrdiff_t{channel} * wordTableSize;
+      Vemi16s* const ofChannel = scratch.as<Vemi16s>() + ptrdiff_t{channel} * wordTableSize;
       fillTable(curve, lists[channel], ofChannel);
       table[channel] = ofChannel;
     }
     mapByWordTables<L>(roiSize, table, dst, src);
-    vemiAlignedFree(tables);
     return vemiOk;
   });
 }

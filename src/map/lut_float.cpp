@@ -2,8 +2,8 @@
 // or cubic is computed in double lanes from coefficients that are prepared before the first row.
 // Checks of C1: null, size, step, levels; of the others: null, each channel's levels, size, step.
 
-#include "core/alloc.h"
 #include "core/map_channels.h"
+#include "core/scratch.h"
 #include "core/wide_lanes.h"
 #include "map/level_search.h"
 #include "vemi/map.h"
@@ -125,17 +125,15 @@ template <class Op, class L>
 VemiStatus prepareAndMap(Image<const Vemi32f> src, Image<Vemi32f> dst, VemiSize roiSize, LevelLists<Vemi32f> lists) {
   Vemi64s count = 0;
   for (int channel = 0; channel < L::channels; ++channel) count += lists[channel].intervals();
-  const Vemi64s bytes = count * Op::perInterval * Vemi64s{sizeof(double)};
-  double* const block = static_cast<double*>(alignedAllocBytes(bytes));
-  if (block == nullptr) return vemiErrMemAlloc;
+  const Scratch scratch(arrayBytes<double>(count * Op::perInterval));
+  if (scratch.failed()) return vemiErrMemAlloc;
   PerChannel<Op, L::channels> ofChannels;
-  double* coefficient = block;
+  double* coefficient = scratch.as<double>();
   for (int channel = 0; channel < L::channels; ++channel) {
     ofChannels.of[channel] = Op::prepared(lists[channel], coefficient);
     coefficient += ptrdiff_t{lists[channel].intervals()} * Op::perInterval;
   }
   mapChannels<L>(roiSize, ofChannels, dst, src);
-  vemiAlignedFree(block);
   return vemiOk;
 }
 

@@ -11,9 +11,9 @@
 #include <limits>
 #include <type_traits>
 
-#include "core/alloc.h"
 #include "core/checks.h"
 #include "core/exports.h"
+#include "core/scratch.h"
 #include "measure/histogram_methods.h"
 #include "vemi/measure.h"
 
@@ -60,13 +60,12 @@ void countBytes(Image<const Vemi8u> src, VemiSize roiSize, const Channels<L, Vem
 template <class L>
 bool countWords(Image<const Vemi16s> src, VemiSize roiSize, const Channels<L, Vemi32s>& bins) {
   using Table = uint32_t[L::channels][valueCount<Vemi16s>];
-  void* const block = alignedAllocBytes(sizeof(Table));
-  if (block == nullptr) return false;
-  Table* const table = static_cast<Table*>(block);
+  const Scratch scratch(sizeof(Table));
+  if (scratch.failed()) return false;
+  Table* const table = scratch.as<Table>();
   std::memset(table, 0, sizeof *table);
   for (ptrdiff_t y = 0; y < roiSize.height; ++y) countRow<L, 1>(src.row(y), roiSize.width, table);
   for (int channel = 0; channel < L::channels; ++channel) fillBins<Vemi16s>((*table)[channel], bins[channel]);
-  vemiAlignedFree(block);
   return true;
 }
 

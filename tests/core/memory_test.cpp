@@ -126,12 +126,14 @@ TEST_F(Memory, AnyAlignmentOfTheBase) {
 TEST_F(Memory, ScratchIsCountedInElements) {
   expectBlock(vemi::vemiAlignedAlloc16(5), 10);
   expectBlock(vemi::vemiAlignedAlloc32f(5), 20);
+  expectBlock(vemi::vemiAlignedAlloc64f(5), 40);
   for (const int none : {0, -1, INT_MIN}) {
     EXPECT_EQ(vemi::vemiAlignedAlloc(none), nullptr);
     EXPECT_EQ(vemi::vemiAlignedAlloc16(none), nullptr);
     EXPECT_EQ(vemi::vemiAlignedAlloc32f(none), nullptr);
+    EXPECT_EQ(vemi::vemiAlignedAlloc64f(none), nullptr);
   }
-  EXPECT_EQ(requests, 2);
+  EXPECT_EQ(requests, 3);
 }
 
 TEST_F(Memory, BadSizesGiveNullAndStepZero) {
