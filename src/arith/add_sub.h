@@ -5,7 +5,6 @@
 // rounded down, and the bit that the halving loses; that bit only matters as a tie-breaker.
 #pragma once
 
-#include <limits>
 #include <type_traits>
 
 #include "arith/scaled_up.h"
@@ -13,51 +12,6 @@
 #include "core/numbers.h"
 
 namespace vemi::arith {
-
-// ---- What the processor has for lanes of 8 and 16 bits, for those of 32 as well -----------------------------------
-
-/// (a + b + 1) >> 1 without overflow. The processor has it for unsigned lanes; signed ones are moved there and back.
-template <class D, class V = hn::Vec<D>>
-HWY_INLINE V averageRoundedUp(D d, V a, V b) {
-  using T = hn::TFromD<D>;
-  if constexpr (sizeof(T) > 2) {
-    return hn::Sub(hn::Or(a, b), hn::ShiftRight<1>(hn::Xor(a, b)));
-  } else if constexpr (std::is_unsigned_v<T>) {
-    return hn::AverageRound(a, b);
-  } else {
-    const hn::RebindToUnsigned<D> du;
-    const V bias = hn::Set(d, std::numeric_limits<T>::min());
-    const auto moved = [&](V v) HWY_ATTR { return hn::BitCast(du, hn::Xor(v, bias)); };
-    return hn::Xor(hn::BitCast(d, hn::AverageRound(moved(a), moved(b))), bias);
-  }
-}
-
-/// In 32 bits: where the sign is wrong, which `overflow` says by its own, the limit on a's side of zero.
-template <class D, class V>
-HWY_INLINE V limitOverflow(D d, V result, V overflow, V a) {
-  const V limit = hn::Xor(hn::BroadcastSignBit(a), hn::Set(d, std::numeric_limits<hn::TFromD<D>>::max()));
-  return hn::IfVecThenElse(hn::BroadcastSignBit(overflow), limit, result);
-}
-
-template <class D, class V>
-HWY_INLINE V saturatedAdd(D d, V a, V b) {
-  if constexpr (sizeof(hn::TFromD<D>) < 4) {
-    return hn::SaturatedAdd(a, b);
-  } else {
-    const V sum = hn::Add(a, b);
-    return limitOverflow(d, sum, hn::AndNot(hn::Xor(a, b), hn::Xor(a, sum)), a);
-  }
-}
-
-template <class D, class V>
-HWY_INLINE V saturatedSub(D d, V a, V b) {
-  if constexpr (sizeof(hn::TFromD<D>) < 4) {
-    return hn::SaturatedSub(a, b);
-  } else {
-    const V difference = hn::Sub(a, b);
-    return limitOverflow(d, difference, hn::And(hn::Xor(a, b), hn::Xor(a, difference)), a);
-  }
-}
 
 // ---- The terms: saturated for scale factor 0, and halved for those above -----------------------------------------
 
@@ -135,7 +89,9 @@ struct ScaledDown {
     const V one = hn::Set(d, 1);
     const V quotient = shiftRight(half, shift);
     const V rest = hn::And(half, hn::Set(d, static_cast<T>((1u << shift) - 1)));
-    // Above the tie, or on it with a lost bit or an odd quotient.
+    // The rest beyond the quotient decides: above one half of a unit it rounds up; at one half it does where the lost
+    // bit makes it more, or, to even, where the quotient is odd. Either adds one to the rest, which then exceeds the
+    // tie.
     const V withTieBreak = saturatedAdd(d, rest, hn::Or(lost, hn::And(quotient, one)));
     const V tie = hn::Set(d, static_cast<T>(1u << (shift - 1)));
     return hn::Sub(quotient, hn::VecFromMask(d, hn::Gt(withTieBreak, tie)));

@@ -14,6 +14,7 @@
 #include "core/exports.h"
 #include "core/float_control.h"
 #include "core/numbers.h"
+#include "core/rounding.h"
 #include "vemi/arith.h"
 
 namespace vemi::arith {
@@ -21,13 +22,12 @@ namespace {
 
 // ---- 16sc ---------------------------------------------------------------------------------------------------------
 
-/// To an integer of 16 bits: out of range to the limit, else v + 32768.5 truncated, an odd result of an exact sum
-/// lowered, and 32768 less. To truncate and to lower is to round to even what lies half below the sum.
-template <class D, class V>
-HWY_INLINE V roundedTo16(D d, V v) {
+/// To an integer of 16 bits: out of range to the limit, else nearestBelowSum of v + 32768.5, and 32768 less.
+template <class DI, class V>
+HWY_INLINE hn::Vec<DI> roundedTo16(DI di, V v) {
+  const hn::DFromV<V> d;
   const V within = hn::Min(hn::Max(v, hn::Set(d, -32768)), hn::Set(d, 32767));
-  const V belowSum = hn::Sub(hn::Add(within, hn::Set(d, 32768.5)), hn::Set(d, 0.5));
-  return hn::Sub(hn::Round(belowSum), hn::Set(d, 32768));
+  return hn::Sub(nearestBelowSum(di, hn::Add(within, hn::Set(d, 32768.5))), hn::Set(di, 32768));
 }
 
 struct Quotient16sc {
@@ -53,7 +53,7 @@ struct Quotient16sc {
     const auto den = hn::Add(hn::Mul(dRe, dRe), hn::Mul(dIm, dIm));
     const auto reciprocal = hn::Div(hn::Set(dd, 1), den);
     const auto part = [&](auto numerator) HWY_ATTR {
-      return hn::DemoteTo(d, roundedTo16(dd, hn::Mul(hn::Mul(numerator, reciprocal), hn::Set(dd, scale))));
+      return roundedTo16(d, hn::Mul(hn::Mul(numerator, reciprocal), hn::Set(dd, scale)));
     };
     const V resultRe = part(hn::Add(hn::Mul(dRe, xRe), hn::Mul(dIm, xIm)));
     const V resultIm = part(hn::Sub(hn::Mul(dRe, xIm), hn::Mul(dIm, xRe)));

@@ -15,7 +15,9 @@
 #include "core/checks.h"
 #include "core/exports.h"
 #include "core/float_control.h"
+#include "core/lane_width.h"
 #include "core/map_region.h"
+#include "core/rounding.h"
 #include "vemi/arith.h"
 
 namespace vemi::arith {
@@ -57,21 +59,12 @@ HWY_INLINE hn::Vec<D> inFloats(D d, const F& f, V... v) {
 template <class T>
 constexpr float timesTooLarge = sizeof(T) == 1 ? 1 : 65536;
 
-/// From here on, floats are whole numbers, and their bits count them.
-constexpr float wholeFrom = 1 << 23;
-
-template <class DF, class V>
-HWY_INLINE auto wholeBits(DF df, V whole, float offset = 0) {
-  const hn::RebindToSigned<DF> di;
-  return hn::Sub(hn::BitCast(di, whole), hn::BitCast(di, hn::Set(df, wholeFrom + offset)));
-}
-
-/// How far values may lie from 0. Bits count floats from 0 on alone, and wholeFrom lifts values within 2^22 there;
-/// others are clamped first.
+/// Whether the rounded numbers may lie more than 2^22 from 0. wholeBits counts from 0 on, and wholeFrom lifts the
+/// others there; what may lie beyond is clamped first.
 enum class Reach { within2To22, any };
 
-/// The rounding of the head of this file, but for the limits. To truncate the sum and to lower an odd result of an
-/// exact one is to round to even what lies half below the sum.
+/// The rounding of the head of this file, but for the upper limit, which the packs set. To truncate a sum, and to lower
+/// an odd result where the sum is whole, is to round what lies half below the sum to nearest.
 template <class T, Reach reach, class DF, class V>
 HWY_INLINE auto roundedBySum(DF df, V v) {
   constexpr float offset = std::is_unsigned_v<T> ? 0 : 32768;
@@ -80,7 +73,7 @@ HWY_INLINE auto roundedBySum(DF df, V v) {
   return wholeBits(df, hn::Add(sum, hn::Set(df, wholeFrom - 0.5f)), offset);
 }
 
-/// x / divisor. Quotients by zero are infinite and saturate; 0 / 0 is 0.
+/// x / divisor. A quotient by zero is infinite and becomes the limit on its side, but 0 / 0 is 0.
 template <bool isScaled, Reach reach>
 struct Quotient {
   float scale;
@@ -95,7 +88,7 @@ struct Quotient {
   }
 };
 
-/// Dividends lie within 2^15, so scaled by 2^7 and less, quotients lie within 2^22.
+/// A dividend lies within 2^15. So does its quotient by an integer, and a scale of at most 2^7 keeps it within 2^22.
 template <class F>
 auto dispatchQuotient(int scaleFactor, const F& f) {
   const float scale = quotientScale<float>(scaleFactor);

@@ -11,7 +11,7 @@
 #include "core/image.h"
 #include "core/map_region.h"
 #include "core/numbers.h"
-#include "core/wide_lanes.h"
+#include "core/rounding.h"
 #include "signal/float_parts.h"
 #include "signal/ln.h"
 #include "signal/polynomial.h"
@@ -54,7 +54,7 @@ struct ScaledLn {
       const hn::Rebind<double, decltype(dHalf)> d64;
       const auto rounded = [&](auto half) HWY_ATTR {
         const auto ln = hn::Mul(LnOfInteger()(d64, hn::PromoteTo(d64, half)), hn::Set(d64, scale));
-        return hn::DemoteTo(dHalf, hn::Min(hn::Add(ln, hn::Set(d64, 0.5)), hn::Set(d64, 32767.0)));
+        return truncatedDoubles(dHalf, hn::Min(hn::Add(ln, hn::Set(d64, 0.5)), hn::Set(d64, 32767.0)));
       };
       const auto integers = hn::BitCast(di, x);
       return hn::BitCast(

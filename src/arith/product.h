@@ -6,7 +6,7 @@
 #include <type_traits>
 
 #include "arith/scaled_up.h"
-#include "core/lanes.h"
+#include "core/lane_width.h"
 #include "core/numbers.h"
 
 namespace vemi::arith {

@@ -7,8 +7,8 @@
 #include "core/checks.h"
 #include "core/exports.h"
 #include "core/image.h"
+#include "core/lane_width.h"
 #include "core/map_region.h"
-#include "core/wide_lanes.h"
 #include "vemi/arith.h"
 
 namespace vemi::arith {

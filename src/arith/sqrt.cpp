@@ -10,7 +10,7 @@
 #include "core/image.h"
 #include "core/map_region.h"
 #include "core/numbers.h"
-#include "core/wide_lanes.h"
+#include "core/rounding.h"
 #include "vemi/arith.h"
 
 namespace vemi::arith {
@@ -44,7 +44,7 @@ struct ScaledRoot {
       const hn::RebindToFloat<decltype(dw)> df;
       const hn::RebindToSigned<decltype(dw)> di;
       const auto root = hn::Mul(hn::Sqrt(hn::ConvertTo(df, hn::BitCast(di, x))), hn::Set(df, scale));
-      const auto n = hn::ConvertTo(di, hn::Min(root, hn::Set(df, 65536.0f)));
+      const auto n = truncated(di, hn::Min(root, hn::Set(df, 65536.0f)));
       const auto one = hn::Set(di, 1);
       const auto middle = hn::ShiftLeftSame(hn::Add(hn::Add(n, n), one), shift);
       const auto rest = hn::Sub(hn::BitCast(di, hn::Mul(x, hn::Set(dw, power))), hn::Mul(middle, middle));

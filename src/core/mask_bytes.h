@@ -5,8 +5,8 @@
 #include <cstddef>
 #include <cstdint>
 
-#include "core/element_width.h"
 #include "core/interleave.h"
+#include "core/lane_width.h"
 #include "core/lanes.h"
 
 namespace vemi {

@@ -1,8 +1,7 @@
-// Rounding and saturation, as scalars and as lanes, and the approximate reciprocal.
+// Saturation and scaling of integers, as scalars and as lanes, and the approximate reciprocal.
 #pragma once
 
 #include <bit>
-#include <cmath>
 #include <cstdint>
 #include <limits>
 #include <type_traits>
@@ -21,6 +20,51 @@ constexpr T saturate(Wide value) {
   constexpr Wide low = std::numeric_limits<T>::min();
   constexpr Wide high = std::numeric_limits<T>::max();
   return static_cast<T>(value < low ? low : value > high ? high : value);
+}
+
+// ---- Sums of any integers: what the processor has for lanes of 8 and 16 bits, for those of 32 as well ------------
+
+/// (a + b + 1) >> 1 without overflow. The processor has it for unsigned lanes; signed ones are moved there and back.
+template <class D, class V = hn::Vec<D>>
+HWY_INLINE V averageRoundedUp(D d, V a, V b) {
+  using T = hn::TFromD<D>;
+  if constexpr (sizeof(T) > 2) {
+    return hn::Sub(hn::Or(a, b), hn::ShiftRight<1>(hn::Xor(a, b)));
+  } else if constexpr (std::is_unsigned_v<T>) {
+    return hn::AverageRound(a, b);
+  } else {
+    const hn::RebindToUnsigned<D> du;
+    const V bias = hn::Set(d, std::numeric_limits<T>::min());
+    const auto moved = [&](V v) HWY_ATTR { return hn::BitCast(du, hn::Xor(v, bias)); };
+    return hn::Xor(hn::BitCast(d, hn::AverageRound(moved(a), moved(b))), bias);
+  }
+}
+
+/// In 32 bits: where the sign is wrong, which `overflow` says by its own, the limit on a's side of zero.
+template <class D, class V>
+HWY_INLINE V limitOverflow(D d, V result, V overflow, V a) {
+  const V limit = hn::Xor(hn::BroadcastSignBit(a), hn::Set(d, std::numeric_limits<hn::TFromD<D>>::max()));
+  return hn::IfVecThenElse(hn::BroadcastSignBit(overflow), limit, result);
+}
+
+template <class D, class V>
+HWY_INLINE V saturatedAdd(D d, V a, V b) {
+  if constexpr (sizeof(hn::TFromD<D>) < 4) {
+    return hn::SaturatedAdd(a, b);
+  } else {
+    const V sum = hn::Add(a, b);
+    return limitOverflow(d, sum, hn::AndNot(hn::Xor(a, b), hn::Xor(a, sum)), a);
+  }
+}
+
+template <class D, class V>
+HWY_INLINE V saturatedSub(D d, V a, V b) {
+  if constexpr (sizeof(hn::TFromD<D>) < 4) {
+    return hn::SaturatedSub(a, b);
+  } else {
+    const V difference = hn::Sub(a, b);
+    return limitOverflow(d, difference, hn::And(hn::Xor(a, b), hn::Xor(a, difference)), a);
+  }
 }
 
 // ---- Scaling by a power of two ------------------------------------------------------------------------------------
@@ -94,64 +138,6 @@ struct SaturatingShiftLeft {
   }
 };
 
-// ---- Float to integer ---------------------------------------------------------------------------------------------
-
-/// To the nearest integer, ties to even, whatever rounding mode the caller has set: the remainder decides, not the
-/// processor's mode. The sign of a zero is not defined.
-inline float roundTiesEven(float value) {
-  const float down = std::floor(value);
-  const float rest = value - down;
-  const float half = down * 0.5f;
-  const bool up = rest > 0.5f || (rest == 0.5f && std::floor(half) != half);
-  return up ? down + 1.0f : down;
-}
-
-template <class D, class V = hn::Vec<D>>
-HWY_INLINE V roundTiesEven(D d, V value) {
-  const V down = hn::Floor(value);
-  const V rest = hn::Sub(value, down);
-  const V half = hn::Mul(down, hn::Set(d, 0.5f));
-  const V point5 = hn::Set(d, 0.5f);
-  const auto odd = hn::Ne(hn::Floor(half), half);
-  const auto up = hn::Or(hn::Gt(rest, point5), hn::And(hn::Eq(rest, point5), odd));
-  return hn::Add(down, hn::IfThenElseZero(up, hn::Set(d, 1.0f)));
-}
-
-namespace detail {
-
-/// A sum with it is rounded to an integer, which then stands in the lowest bits: at this size there are no fractions.
-template <class T>
-inline constexpr T roundingSummand = T(0);
-template <>
-inline constexpr float roundingSummand<float> = 0x1.8p23f;
-template <>
-inline constexpr double roundingSummand<double> = 0x1.8p52;
-
-/// Its lower half is the nearest integer.
-template <class V>
-HWY_INLINE auto integerInLowerHalf(V v) {
-  const hn::DFromV<V> d;
-  return hn::BitCast(hn::RebindToUnsigned<decltype(d)>(), hn::Add(v, hn::Set(d, roundingSummand<double>)));
-}
-
-}  // namespace detail
-
-/// The nearest integers, ties to even, of two vectors of doubles below 2^31, one behind the other. A double sum rounds
-/// them, in the rounding mode of all sums.
-template <class D, class V>
-HWY_INLINE hn::Vec<D> nearestIntegers(D d, V lower, V upper) {
-  return hn::ConcatEven(d, hn::BitCast(d, detail::integerInLowerHalf(upper)),
-                        hn::BitCast(d, detail::integerInLowerHalf(lower)));
-}
-
-/// The same, by turns.
-template <class D, class V>
-HWY_INLINE hn::Vec<D> nearestIntegerPairs(D d, V even, V odd) {
-  const auto lower = detail::integerInLowerHalf(even), upper = detail::integerInLowerHalf(odd);
-  const auto lowerHalf = hn::Set(hn::DFromV<decltype(lower)>(), 0xffffffff);
-  return hn::BitCast(d, hn::Or(hn::And(lower, lowerHalf), hn::ShiftLeft<32>(upper)));
-}
-
 // ---- The approximate reciprocal -----------------------------------------------------------------------------------
 //
 // Processors differ in theirs, so it is computed by its classic definition. For a normal x = (1 + f) 2^e let i be the
@@ -179,7 +165,7 @@ inline float approximateReciprocal(float x) {
 template <class D, class V = hn::Vec<D>>
 HWY_INLINE V divideFloor(D di, V n, V m) {
   const hn::RebindToFloat<D> df;
-  const V q = hn::ConvertTo(di, hn::Div(hn::ConvertTo(df, n), hn::ConvertTo(df, m)));
+  const V q = truncated(di, hn::Div(hn::ConvertTo(df, n), hn::ConvertTo(df, m)));
   const V rest = hn::Sub(n, hn::Mul(q, m));
   const V tooLarge = hn::VecFromMask(di, hn::Lt(rest, hn::Zero(di)));
   const V tooSmall = hn::VecFromMask(di, hn::Gt(rest, hn::Sub(m, hn::Set(di, 1))));

@@ -6,6 +6,7 @@
 //   truncated(di, v)             floats to integers of 32 bits, towards zero
 //   rounded(di, v)               the same by the rounding mode that is set
 //   lesser(a, b), greater(a, b)  a < b ? a : b, a > b ? a : b, also of NaNs and of zeros of both signs
+//   multipliesAndAddsAtOnce      whether the lanes' MulAdd and MulSub round once
 //   Rounding, FloatControl       the control of rounding and exceptions, a thread's own
 #pragma once
 
@@ -16,3 +17,9 @@
 #else
 #error "this processor's half is to be written"
 #endif
+
+namespace vemi {
+
+inline constexpr bool multipliesAndAddsAtOnce = HWY_NATIVE_FMA;
+
+}  // namespace vemi

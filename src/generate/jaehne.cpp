@@ -10,6 +10,7 @@
 #include "core/checks.h"
 #include "core/float_control.h"
 #include "core/image.h"
+#include "core/rounding.h"
 #include "generate/grey_row.h"
 #include "signal/sine.h"
 #include "vemi/generate.h"
@@ -31,10 +32,12 @@ HWY_INLINE auto elementsOf(D d, V sine) {
   if constexpr (isShifted) sine = hn::Add(sine, hn::Set(d, 1.0));
   const V value = hn::Mul(sine, hn::Set(d, amplitude<T>));
   const hn::Rebind<T, D> dElements;
-  if constexpr (sizeof(T) == 4) {
+  if constexpr (std::is_same_v<T, float>) {
     return hn::DemoteTo(dElements, value);
   } else {
-    return hn::DemoteTo(dElements, hn::DemoteTo(hn::Rebind<int32_t, D>(), value));
+    const auto integers = truncatedDoubles(hn::Rebind<int32_t, D>(), value);
+    if constexpr (sizeof(T) == 4) return integers;
+    if constexpr (sizeof(T) < 4) return hn::DemoteTo(dElements, integers);
   }
 }
 

@@ -13,7 +13,7 @@
 #include "core/float_control.h"
 #include "core/image.h"
 #include "core/map_row.h"
-#include "core/numbers.h"
+#include "core/rounding.h"
 #include "generate/random.h"
 #include "signal/ln.h"
 #include "vemi/generate.h"

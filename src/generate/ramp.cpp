@@ -6,33 +6,15 @@
 #include <type_traits>
 
 #include "core/checks.h"
-#include "core/element_width.h"
 #include "core/image.h"
 #include "core/map_row.h"
-#include "core/numbers.h"
+#include "core/rounding.h"
 #include "core/scratch.h"
 #include "generate/grey_row.h"
 #include "vemi/generate.h"
 
 namespace vemi::generate {
 namespace {
-
-/// To nearest, halves away from zero (one half is added in single precision), and saturated to T. A NaN gives zero.
-template <class T, class V>
-HWY_INLINE auto integersOf(V v) {
-  const hn::DFromV<V> d;
-  const hn::RebindToSigned<decltype(d)> di;
-  const auto isNumber = hn::Eq(v, v);
-  v = hn::Add(v, std::is_signed_v<T> ? hn::CopySign(hn::Set(d, 0.5f), v) : hn::Set(d, 0.5f));
-  if constexpr (sizeof(T) == 4) {
-    return hn::ConvertTo(di, hn::IfThenElseZero(isNumber, v));
-  } else {
-    // What is too low becomes the lowest integer, which is packed to the lowest of T. So does a NaN: of an unordered
-    // pair the lesser is the second.
-    const V limited = lesser(hn::Set(d, static_cast<float>(std::numeric_limits<T>::max())), v);
-    return truncated(di, std::is_signed_v<T> ? hn::IfThenElseZero(isNumber, limited) : limited);
-  }
-}
 
 struct Ramp {
   float offset, slope;
@@ -46,9 +28,9 @@ struct Ramp {
     if constexpr (std::is_same_v<T, float>) {
       return value(0);
     } else if constexpr (sizeof(T) == 4) {
-      return integersOf<T>(value(0));
+      return halvesAwayOf<T>(Lanes<int32_t>(), value(0));
     } else {
-      return packEach<float>(Lanes<T>(), [&](auto n) HWY_ATTR { return integersOf<T>(value(n)); });
+      return packEach<float>(Lanes<T>(), [&](auto n) HWY_ATTR { return halvesAwayOf<T>(Lanes<int32_t>(), value(n)); });
     }
   }
 };

@@ -7,11 +7,10 @@
 
 #include "core/blocks.h"
 #include "core/checks.h"
-#include "core/element_width.h"
 #include "core/exports.h"
 #include "core/float_control.h"
 #include "core/image.h"
-#include "core/numbers.h"
+#include "core/rounding.h"
 #include "core/scratch.h"
 #include "signal/polynomial.h"
 #include "signal/sine.h"

@@ -4,11 +4,10 @@
 #include <limits>
 
 #include "core/checks.h"
-#include "core/element_width.h"
 #include "core/exports.h"
 #include "core/float_control.h"
 #include "core/map_region.h"
-#include "map/rounded_floats.h"
+#include "core/rounding.h"
 #include "vemi/map.h"
 
 namespace vemi::map {
@@ -68,7 +67,7 @@ VemiStatus convert(Image<const S> src, Image<T> dst, VemiSize roiSize) {
 template <class L, class T>
 VemiStatus convertRounded(Image<const Vemi32f> src, Image<T> dst, VemiSize roiSize, vemiRoundMode roundMode) {
   if (const VemiStatus bad = firstOf(checkNull(src, dst), checkSize(roiSize), checkStep(src, dst))) return bad;
-  return withRounding(roundMode == vemiRndNear ? Rounding::nearest : Rounding::towardZero, [&] {
+  return roundingAs(roundMode == vemiRndNear ? Rounding::nearest : Rounding::towardZero, [&] {
     mapRegion<L>(CallerRows(), roiSize, eachVector(Rounded()), dst, src);
     if (metInvalid()) mapRegion<L>(CallerRows(), roiSize, eachVector(LimitedAndRounded()), dst, src);
     return vemiOk;

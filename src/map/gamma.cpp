@@ -11,8 +11,8 @@
 #include "core/exports.h"
 #include "core/float_control.h"
 #include "core/map_region.h"
+#include "core/rounding.h"
 #include "core/scratch.h"
-#include "core/wide_lanes.h"
 #include "core/word_table.h"
 #include "signal/near_power.h"
 #include "signal/pow.h"
@@ -150,7 +150,7 @@ class TransferCurve {
   }
 };
 
-/// 16u: 65535 times the curve, to nearest. Ties go to even: a sum with one half that is an odd integer goes down.
+/// 16u: 65535 times the curve and one half, of which the nearest integer below is half less.
 template <class Direction>
 struct OfWords {
   TransferCurve<Direction> curve{
@@ -158,15 +158,12 @@ struct OfWords {
 
   template <class D, class V>
   HWY_INLINE V operator()(D d, V v) const {
-    const auto rounded = [&](auto dWide, auto wide) HWY_ATTR {
+    const auto element = [&](auto dWide, auto wide) HWY_ATTR {
       const hn::RebindToSigned<decltype(dWide)> di;
       const hn::RebindToFloat<decltype(dWide)> df;
-      const auto sum = curve(df, hn::ConvertTo(df, hn::BitCast(di, wide)));
-      const auto whole = hn::ConvertTo(di, sum);
-      const auto isWhole = hn::RebindMask(di, hn::Eq(hn::ConvertTo(df, whole), sum));
-      return hn::BitCast(dWide, hn::Sub(whole, hn::IfThenElseZero(isWhole, hn::And(whole, hn::Set(di, 1)))));
+      return hn::BitCast(dWide, nearestBelowSum(di, curve(df, hn::ConvertTo(df, hn::BitCast(di, wide)))));
     };
-    return inWideLanes(d, rounded, v);
+    return inWideLanes(d, element, v);
   }
 };
 

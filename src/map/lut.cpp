@@ -8,8 +8,10 @@
 
 #include "core/byte_table.h"
 #include "core/float_control.h"
+#include "core/lane_width.h"
 #include "core/map_channels.h"
 #include "core/numbers.h"
+#include "core/rounding.h"
 #include "core/scratch.h"
 #include "core/word_table.h"
 #include "map/level_search.h"
@@ -17,14 +19,6 @@
 
 namespace vemi::map {
 namespace {
-
-/// Truncated toward zero, then clamped to T; a NaN gives the lowest value.
-template <class T>
-T truncated(double value) {
-  constexpr double lowest = std::numeric_limits<T>::min(), highest = std::numeric_limits<T>::max();
-  const double limited = value > lowest ? (value < highest ? value : highest) : lowest;
-  return static_cast<T>(static_cast<int>(limited));
-}
 
 /// What the curve makes of the numbers from `from` to `to`, which lie in the interval.
 template <class T>
@@ -37,12 +31,12 @@ void fillInterval(Curve curve, const Levels<Vemi32s>& levels, int interval, int 
     std::fill(result, result + (to - from), saturate<T>(Vemi64s{value[0]}));
   } else if (curve == Curve::lines) {
     const double slope = (value[1] - y) / width;
-    for (int v = from; v < to; ++v) *result++ = truncated<T>(y + 0.5 + slope * (v - x));
+    for (int v = from; v < to; ++v) *result++ = truncatedTo<T>(y + 0.5 + slope * (v - x));
   } else {
     const Cubic cubic = cubicOf(levels, interval);
     for (int v = from; v < to; ++v) {
       const double t = v - cubic.x;
-      *result++ = truncated<T>(cubic.y + 0.5 + cubic.a * t + cubic.b * (t * t) + cubic.c * (t * t * t));
+      *result++ = truncatedTo<T>(cubic.y + 0.5 + cubic.a * t + cubic.b * (t * t) + cubic.c * (t * t * t));
     }
   }
 }

@@ -2,9 +2,9 @@
 // or cubic is computed in double lanes from coefficients that are prepared before the first row.
 // Checks of C1: null, size, step, levels; of the others: null, each channel's levels, size, step.
 
+#include "core/lane_width.h"
 #include "core/map_channels.h"
 #include "core/scratch.h"
-#include "core/wide_lanes.h"
 #include "map/level_search.h"
 #include "vemi/map.h"
 

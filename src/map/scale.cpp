@@ -5,11 +5,10 @@
 #include <type_traits>
 
 #include "core/checks.h"
-#include "core/element_width.h"
 #include "core/exports.h"
 #include "core/float_control.h"
 #include "core/map_region.h"
-#include "map/rounded_floats.h"
+#include "core/rounding.h"
 #include "vemi/map.h"
 
 namespace vemi::map {
@@ -147,7 +146,7 @@ VemiStatus scaleDown(Image<const S> src, Image<Vemi8u> dst, VemiSize roiSize, ve
 /// The frame of the forms with floats: run() if the arguments are good.
 template <class S, class T, class Run>
 VemiStatus scaleRange(Image<S> src, Image<T> dst, VemiSize roiSize, Vemi32f vMin, Vemi32f vMax, const Run& run) {
-  return withRounding(Rounding::nearest, [&] {
+  return roundingAs(Rounding::nearest, [&] {
     const VemiStatus rangeStatus = vMax - vMin > 0 ? vemiOk : vemiErrScaleRange;
     const VemiStatus bad = firstOf(rangeStatus, checkNull(src, dst), checkSize(roiSize), checkStep(src, dst));
     if (bad == vemiOk) run();

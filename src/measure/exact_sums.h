@@ -8,8 +8,8 @@
 #include <cstdint>
 #include <limits>
 
+#include "core/lane_width.h"
 #include "core/reduce_region.h"
-#include "core/wide_lanes.h"
 
 namespace vemi::measure {
 

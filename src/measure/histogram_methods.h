@@ -8,7 +8,7 @@
 #include <type_traits>
 
 #include "core/image.h"
-#include "core/lanes.h"
+#include "core/processor.h"
 #include "measure/row_pieces.h"
 
 namespace vemi::measure {
@@ -193,7 +193,7 @@ struct Sections {
     const V distance = hn::Mul(hn::Sub(v, hn::Set(d, base)), hn::Set(d, scale));
     const V limited = hn::IfThenElseZero(hn::Gt(distance, hn::Zero(d)), hn::Min(distance, hn::Set(d, count - 1.0f)));
     const auto inside = hn::And(hn::Ge(v, hn::Set(d, low)), hn::Lt(v, hn::Set(d, high)));
-    return hn::IfThenElse(hn::RebindMask(di, inside), hn::ConvertTo(di, limited), hn::Set(di, outside));
+    return hn::IfThenElse(hn::RebindMask(di, inside), truncated(di, limited), hn::Set(di, outside));
   }
 };
 

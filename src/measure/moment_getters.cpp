@@ -7,6 +7,7 @@
 #include <cstring>
 #include <limits>
 
+#include "core/rounding.h"
 #include "measure/moment_state.h"
 
 namespace vemi::measure {
@@ -111,15 +112,9 @@ void huMoments(const Sums& S, double (&h)[7]) {
 
 // ---- Results ------------------------------------------------------------------------------------------------------
 
-/// As the processor converts: in the rounding mode, with the smallest integer for what does not fit, NaN included.
-Vemi64s toInteger(double value) {
-  constexpr double bound = 9223372036854775808.0;  // 2^63
-  return value >= -bound && value < bound ? std::llrint(value) : std::numeric_limits<Vemi64s>::min();
-}
-
 /// value / 2^scaleFactor; beyond the clamp no double changes any more.
 void put(double value, Vemi64s* pValue, int scaleFactor) {
-  *pValue = toInteger(std::ldexp(value, -std::clamp(scaleFactor, -5000, 5000)));
+  *pValue = roundedTo64(std::ldexp(value, -std::clamp(scaleFactor, -5000, 5000)));
 }
 
 void put(double value, Vemi64f* pValue, int /*scaleFactor*/ = 0) { *pValue = value; }

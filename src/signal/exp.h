@@ -48,7 +48,7 @@ struct Exp {
   template <class D, class V>
   HWY_INLINE static auto split(D d, V x) {
     const hn::RebindToSigned<D> di;
-    const V integers = hn::Set(d, vemi::detail::roundingSummand<float>);
+    const V integers = hn::Set(d, roundingSummand<float>);
     const V sum = hn::Add(hn::Mul(x, hn::Set(d, log2OfE)), integers);
     const V whole = hn::Sub(sum, integers);
     const auto k = hn::Sub(hn::BitCast(di, sum), hn::BitCast(di, integers));

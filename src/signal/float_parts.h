@@ -5,6 +5,7 @@
 
 #include "core/lanes.h"
 #include "core/numbers.h"
+#include "core/rounding.h"
 
 namespace vemi::signal {
 
@@ -57,9 +58,7 @@ HWY_INLINE TwoParts<V> exactSum(V a, V b) {
 template <class D, class V>
 HWY_INLINE TwoParts<V> exactProduct([[maybe_unused]] D d, V a, V b) {
   const V product = hn::Mul(a, b);
-#if HWY_NATIVE_FMA
-  return {product, hn::MulSub(a, b, product)};
-#else
+  if constexpr (multipliesAndAddsAtOnce) return {product, hn::MulSub(a, b, product)};
   const auto halved = [&](V v) HWY_ATTR {
     const V shifted = hn::Mul(v, hn::Set(d, 0x1p27 + 1));
     const V upper = hn::Sub(shifted, hn::Sub(shifted, v));
@@ -71,7 +70,6 @@ HWY_INLINE TwoParts<V> exactProduct([[maybe_unused]] D d, V a, V b) {
   rest = hn::Add(rest, hn::Mul(aUpper, bLower));
   rest = hn::Add(rest, hn::Mul(aLower, bUpper));
   return {product, hn::Add(rest, hn::Mul(aLower, bLower))};
-#endif
 }
 
 }  // namespace vemi::signal

@@ -66,7 +66,7 @@ struct Power {
   template <class D, class V>
   HWY_INLINE static V powerOfTwo(D d, V upper, V lower) {
     const hn::RebindToUnsigned<D> du;
-    const V integers = hn::Set(d, vemi::detail::roundingSummand<double>);
+    const V integers = hn::Set(d, roundingSummand<double>);
     const V sum = hn::Add(upper, integers);
     const auto k = hn::ShiftLeft<52>(hn::BitCast(du, sum));
     const auto r = exactSum(hn::Sub(upper, hn::Sub(sum, integers)), lower);

@@ -46,7 +46,7 @@ struct SineOfTurned {
   template <class D, class V>
   HWY_INLINE static auto reduced(D d, V x) {
     const hn::RebindToUnsigned<D> du;
-    const V integers = hn::Set(d, vemi::detail::roundingSummand<double>);
+    const V integers = hn::Set(d, roundingSummand<double>);
     const V sum = hn::Add(hn::Mul(x, hn::Set(d, quartersPerRadian)), integers);
     const V k = hn::Sub(sum, integers);
 

@@ -1,4 +1,4 @@
-// Rounding, saturation and the approximate reciprocal: scalars against exact integer formulations, lanes against both.
+// Saturation, scaling and the approximate reciprocal: scalars against exact integer formulations, lanes against both.
 
 #include "core/numbers.h"
 
@@ -6,11 +6,11 @@
 
 #include <algorithm>
 #include <bit>
-#include <cfenv>
 #include <cmath>
 #include <limits>
 #include <vector>
 
+#include "core/lane_values.h"
 #include "support/for_types.h"
 #include "support/guarded_row.h"
 
@@ -18,39 +18,6 @@ using namespace vemi;
 using namespace vemi::test;
 
 namespace {
-
-/// op over all values in lanes, whatever their number.
-template <class T, class Op>
-std::vector<T> inLanes(const Op& op, std::vector<T> values) {
-  const Lanes<T> d;
-  const size_t count = values.size();
-  values.resize(count + hn::Lanes(d), T(1));
-  for (size_t i = 0; i < count; i += hn::Lanes(d)) hn::StoreU(op(d, hn::LoadU(d, &values[i])), d, &values[i]);
-  values.resize(count);
-  return values;
-}
-
-/// Every value of a type of 8 or 16 bits; for 32 bits those around every power of two and every 3/2 of one.
-template <class T>
-std::vector<T> interestingValues() {
-  std::vector<T> values;
-  if constexpr (sizeof(T) < 4) {
-    for (int64_t v = std::numeric_limits<T>::min(); v <= std::numeric_limits<T>::max(); ++v) {
-      values.push_back(static_cast<T>(v));
-    }
-  } else {
-    for (int k = 0; k < 32; ++k) {
-      for (int64_t base : {int64_t{1} << k, int64_t{3} << k}) {
-        for (int64_t delta : {-2, -1, 0, 1, 2}) {
-          for (int64_t v : {base + delta, -base + delta}) {
-            if (static_cast<int64_t>(static_cast<T>(v)) == v) values.push_back(static_cast<T>(v));
-          }
-        }
-      }
-    }
-  }
-  return values;
-}
 
 template <class T, class Wide>
 void checkSaturate(T, Wide) {
@@ -63,51 +30,21 @@ TEST(Saturate, GivesTheNearestValue) {
   forTypes<int8_t, uint8_t, int16_t, uint16_t>([](auto t) { checkSaturate(t, int32_t()); });
 }
 
-/// The lanes of a widened vector as elements.
-template <class DW, class V>
-std::vector<hn::TFromD<DW>> elementsOf(DW dWide, Widened<V> wide) {
-  std::vector<hn::TFromD<DW>> elements(2 * hn::Lanes(dWide));
-  hn::StoreU(wide.lower, dWide, &elements[0]);
-  hn::StoreU(wide.upper, dWide, &elements[elements.size() / 2]);
-  return elements;
-}
-
-// Which wide lane belongs to which narrow one is theirs to choose, so the test asks by widening the lanes' indices.
-template <class T, class Wide>
-void checkNarrow(T, Wide) {
-  const Lanes<T> d;
-  const Lanes<Wide> dWide;
-  const auto index = elementsOf(hn::RepartitionToWide<Lanes<T>>(), widen(d, hn::Iota(d, 0)));
-  const size_t n = index.size();
-  const auto values = interestingValues<Wide>();
-  std::vector<Wide> wide(n);
-  std::vector<T> result(n);
-  for (size_t first = 0; first + n <= values.size(); first += n) {
-    for (size_t i = 0; i < n; ++i) wide[i] = values[first + static_cast<size_t>(index[i])];
-    const hn::Vec<Lanes<Wide>> lower = hn::LoadU(dWide, &wide[0]), upper = hn::LoadU(dWide, &wide[n / 2]);
-    hn::StoreU(narrow(d, Widened<hn::Vec<Lanes<Wide>>>{lower, upper}), d, &result[0]);
-    for (size_t i = 0; i < n; ++i) {
-      const auto nearest =
-          std::clamp<int64_t>(values[first + i], std::numeric_limits<T>::min(), std::numeric_limits<T>::max());
-      ASSERT_EQ(result[i], nearest) << values[first + i];
-    }
-  }
-}
-
-TEST(Lanes, NarrowingSaturatesAndUndoesWidening) {
-  checkNarrow(uint8_t(), int16_t());
-  checkNarrow(uint8_t(), uint16_t());
-  checkNarrow(int16_t(), int32_t());
-}
-
-TEST(Lanes, WideningKeepsEveryValue) {
-  forTypes<int8_t, uint8_t, int16_t, uint16_t>([](auto type) {
-    const Lanes<decltype(type)> d;
-    const auto values = interestingValues<decltype(type)>();
-    for (size_t first = 0; first < values.size(); first += hn::Lanes(d)) {
-      auto wide = elementsOf(hn::RepartitionToWide<decltype(d)>(), widen(d, hn::LoadU(d, &values[first])));
-      std::sort(wide.begin(), wide.end());  // the values are consecutive
-      ASSERT_TRUE(std::equal(wide.begin(), wide.end(), &values[first]));
+TEST(SaturatedSums, OfAnyIntegers) {
+  forTypes<int8_t, uint8_t, int16_t, uint16_t, int32_t>([](auto type) {
+    using T = decltype(type);
+    constexpr int64_t low = std::numeric_limits<T>::min(), high = std::numeric_limits<T>::max();
+    const auto values = interestingValues<T>();
+    for (const T other : {std::numeric_limits<T>::min(), T(low / 2), T(-1), T(0), T(1), T(high / 2), T(high)}) {
+      std::vector<T> sums, differences, averages;
+      for (const int64_t v : values) {
+        sums.push_back(static_cast<T>(std::clamp(v + other, low, high)));
+        differences.push_back(static_cast<T>(std::clamp(v - other, low, high)));
+        averages.push_back(static_cast<T>((v + other + 1) >> 1));
+      }
+      ASSERT_EQ(inLanes([=](auto d, auto v) { return saturatedAdd(d, v, hn::Set(d, other)); }, values), sums);
+      ASSERT_EQ(inLanes([=](auto d, auto v) { return saturatedSub(d, v, hn::Set(d, other)); }, values), differences);
+      ASSERT_EQ(inLanes([=](auto d, auto v) { return averageRoundedUp(d, v, hn::Set(d, other)); }, values), averages);
     }
   });
 }
@@ -185,73 +122,6 @@ TEST(SaturateShiftLeft, EqualsRepeatedSaturatedDoubling) {
       }
     }
   });
-}
-
-/// Runs f in each rounding mode of the processor.
-template <class F>
-void inEveryRoundingMode(const F& f) {
-  const int mode = std::fegetround();
-  for (const int other : {FE_TONEAREST, FE_UPWARD, FE_DOWNWARD, FE_TOWARDZERO}) {
-    ASSERT_EQ(std::fesetround(other), 0);
-    SCOPED_TRACE(other);
-    f();
-  }
-  std::fesetround(mode);
-}
-
-/// |value| < 2^31. The truncated part and the fraction are exact in double precision.
-float exactRoundTiesEven(float value) {
-  const auto whole = static_cast<int64_t>(value);
-  const double fraction = static_cast<double>(value) - static_cast<double>(whole);
-  const double size = fraction < 0 ? -fraction : fraction;
-  const bool away = size > 0.5 || (size == 0.5 && whole % 2 != 0);
-  return static_cast<float>(away ? (value < 0 ? whole - 1 : whole + 1) : whole);
-}
-
-TEST(RoundTiesEven, IsIndependentOfTheRoundingMode) {
-  std::vector<float> values = {0.0f,        -0.0f,      1e-45f,      -1e-45f,      8388607.5f,
-                               -8388607.5f, 8388608.0f, 16777215.0f, 2147483520.0f};
-  for (int k = -3000; k <= 3000; ++k) {
-    const float tie = static_cast<float>(k) + 0.5f;
-    for (const float v : {tie, std::nextafter(tie, -1e9f), std::nextafter(tie, 1e9f), tie - 0.5f}) values.push_back(v);
-  }
-  for (uint32_t bits = 0; bits < 0x4f000000u; bits += 40013) {
-    values.push_back(std::bit_cast<float>(bits));
-    values.push_back(-values.back());
-  }
-  std::vector<float> expected;
-  for (const float v : values) expected.push_back(exactRoundTiesEven(v));
-  const float infinity = std::numeric_limits<float>::infinity();
-  for (const float v : {infinity, -infinity, 1e30f, -1e30f}) {
-    values.push_back(v);
-    expected.push_back(v);
-  }
-  inEveryRoundingMode([&] {
-    for (size_t i = 0; i < values.size(); ++i) ASSERT_EQ(roundTiesEven(values[i]), expected[i]) << values[i];
-    ASSERT_EQ(inLanes([](auto d, auto v) { return roundTiesEven(d, v); }, values), expected);
-    ASSERT_TRUE(std::isnan(roundTiesEven(std::nanf(""))));
-  });
-}
-
-TEST(NearestIntegers, OfDoublesKeepTheirOrder) {
-  std::vector<double> values = {2147483646.5, -2147483647.5, 2147483647.25, -2147483648.25, 0.0, -0.0};
-  for (int k = -3000; k <= 3000; ++k) {
-    for (const double v : {k + 0.5, std::nextafter(k + 0.5, -1e9), std::nextafter(k + 0.5, 1e9)}) values.push_back(v);
-  }
-  const Lanes<int32_t> d;
-  const Lanes<double> dWide;
-  constexpr size_t N = laneCount<double>;
-  std::vector<int32_t> inSequence(2 * N), byTurns(2 * N);
-  for (size_t first = 0; first + 2 * N <= values.size(); first += 2 * N) {
-    const auto lower = hn::LoadU(dWide, &values[first]), upper = hn::LoadU(dWide, &values[first + N]);
-    hn::StoreU(nearestIntegers(d, lower, upper), d, inSequence.data());
-    hn::StoreU(nearestIntegerPairs(d, lower, upper), d, byTurns.data());
-    for (size_t i = 0; i < 2 * N; ++i) {
-      const double expected = std::nearbyint(values[first + i]);
-      ASSERT_EQ(inSequence[i], expected) << values[first + i];
-      ASSERT_EQ(byTurns[i < N ? 2 * i : 2 * (i - N) + 1], expected) << values[first + i];
-    }
-  }
 }
 
 uint32_t reciprocalBits(uint32_t bits) {
