@@ -34,43 +34,47 @@ Parameter parameterOf() {
   return result;
 }
 
-template <class... A, size_t... n>
-VemiStatus callWith(AnyFunction function, const Slot* arguments, std::index_sequence<n...>) {
-  return reinterpret_cast<VemiStatus (*)(A...)>(function)(arguments[n].template get<A>()...);
-}
-
-/// What the compiler knows of a function. A plain record: there are thousands of them.
+/// What the compiler knows of a function. A plain record, made by calls that are not inlined: there are hundreds of
+/// signatures and thousands of functions, all of them in one list.
 struct Entry {
   const char* name;
   const char* prototype;
   AnyFunction function;
-  void (*describe)(Export&);
+  Parameter (*const* parameters)();  // one after the other, then null
+  decltype(Export::call) call = nullptr;
+  decltype(Export::allocate) allocate = nullptr;
 };
 
 template <class... A>
-Entry entryOf(const char* name, const char* prototype, VemiStatus (*function)(A...)) {
-  return {name, prototype, reinterpret_cast<AnyFunction>(function), [](Export& described) {
-            described.parameters = {parameterOf<A>()...};
-            described.call = [](AnyFunction f, const Slot* arguments) {
-              return callWith<A...>(f, arguments, std::index_sequence_for<A...>());
-            };
-          }};
+constexpr Parameter (*parametersOf[])() = {parameterOf<A>..., nullptr};
+
+template <class... A>
+VemiStatus callWith(AnyFunction function, const Slot* arguments) {
+  return [&]<size_t... n>(std::index_sequence<n...>) {
+    return reinterpret_cast<VemiStatus (*)(A...)>(function)(arguments[n].template get<A>()...);
+  }
+  (std::index_sequence_for<A...>());
+}
+
+template <class... A>
+[[gnu::noinline]] Entry entryOf(const char* name, const char* prototype, VemiStatus (*function)(A...)) {
+  return {name, prototype, reinterpret_cast<AnyFunction>(function), parametersOf<A...>, callWith<A...>};
 }
 
 template <class T>
-Entry entryOf(const char* name, const char* prototype, T* (*function)(VemiSize, int*)) {
-  return {name, prototype, reinterpret_cast<AnyFunction>(function), [](Export& described) {
-            described.parameters = {parameterOf<VemiSize>(), parameterOf<int*>()};
-            described.allocate = [](AnyFunction f, VemiSize size, int* pStep) -> void* {
-              return reinterpret_cast<T* (*)(VemiSize, int*)>(f)(size, pStep);
-            };
-          }};
+void* allocateBy(AnyFunction function, VemiSize size, int* pStep) {
+  return reinterpret_cast<T* (*)(VemiSize, int*)>(function)(size, pStep);
+}
+
+template <class T>
+[[gnu::noinline]] Entry entryOf(const char* name, const char* prototype, T* (*function)(VemiSize, int*)) {
+  return {name,    prototype,    reinterpret_cast<AnyFunction>(function), parametersOf<VemiSize, int*>,
+          nullptr, allocateBy<T>};
 }
 
 template <class R, class... A>
-Entry entryOf(const char* name, const char* prototype, R (*function)(A...)) {
-  return {name, prototype, reinterpret_cast<AnyFunction>(function),
-          [](Export& described) { described.parameters = {parameterOf<A>()...}; }};
+[[gnu::noinline]] Entry entryOf(const char* name, const char* prototype, R (*function)(A...)) {
+  return {name, prototype, reinterpret_cast<AnyFunction>(function), parametersOf<A...>};
 }
 
 // ---- From the prototype's text: parameter names, and the roles that they settle ----
@@ -169,7 +173,11 @@ void parseName(Export& function) {
 
 Export exportOf(const Entry& entry) {
   Export described;
-  entry.describe(described);
+  for (auto parameter = entry.parameters; *parameter != nullptr; ++parameter) {
+    described.parameters.push_back((*parameter)());
+  }
+  described.call = entry.call;
+  described.allocate = entry.allocate;
   const std::vector<Spelling> spellings = spellingsOf(entry.prototype);
   if (spellings.size() != described.parameters.size()) {
     throw std::logic_error(std::string("exports.inc: the parameters of ") + entry.name + " are not those of its type");
