@@ -1,16 +1,27 @@
 #!/bin/bash
-# Every export gives the same bytes in all of these builds, with teams of one, two and three threads.
-# usage: compare-digests.sh PRESET...
+# Every export gives the same bytes in all of these builds, with teams of one, two and three threads. A build is a preset
+# with its program vemi_digest, or a build folder that may have the library alone, for the program of the preset ahead.
+# usage: compare-digests.sh PRESET [PRESET|BUILD_FOLDER]...
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
 mkdir -p build/digests
 reference=
-for preset in "$@"; do
+for build in "$@"; do
+  case $build in
+    */*)
+      library=$build
+      [ -e "$library/libvemi.so" ] || { echo "no library in $library"; exit 1; }
+      ;;
+    *)
+      library=
+      program=build/$build/tests/vemi_digest
+      ;;
+  esac
   for threads in 1 2 3; do
-    digest=build/digests/$preset.$threads
-    OMP_NUM_THREADS=$threads OMP_DYNAMIC=false build/"$preset"/tests/vemi_digest >"$digest"
-    [ -s "$digest" ] || { echo "$preset printed no digest"; exit 1; }
+    digest=build/digests/${build//\//-}.$threads
+    LD_LIBRARY_PATH=$library OMP_NUM_THREADS=$threads OMP_DYNAMIC=false "$program" >"$digest"
+    [ -s "$digest" ] || { echo "$build printed no digest"; exit 1; }
     if [ -z "$reference" ]; then
       reference=$digest
     elif ! diff "$reference" "$digest" >build/digests/difference; then

@@ -2,7 +2,7 @@
 # Installs the library for every 64-bit x86 processor: the baseline level with headers and packages, the higher levels
 # beneath it in glibc-hwcaps, where the loader finds the best one that the processor has. Builds as you are, and becomes
 # root by sudo only to write where you may not.
-# usage: install-levels.sh PREFIX   (DESTDIR from the environment, for packagers)
+# usage: install-levels.sh PREFIX   (from the environment: DESTDIR, for packagers; VEMI_WERROR=ON, for tests)
 set -euo pipefail
 cd "$(dirname "$0")/.."
 prefix=$(realpath -ms "${1:?usage: install-levels.sh PREFIX}")
@@ -16,7 +16,7 @@ fi
 for level in x86-64-v2 x86-64-v3 x86-64-v4; do
   build=build/install/$level
   cmake --preset $level -B "$build" -DCMAKE_INSTALL_PREFIX="$prefix" \
-    -DVEMI_BUILD_TESTS=OFF -DVEMI_BUILD_EXAMPLES=OFF -DVEMI_WERROR=OFF >/dev/null
+    -DVEMI_BUILD_TESTS=OFF -DVEMI_BUILD_EXAMPLES=OFF -DVEMI_WERROR="${VEMI_WERROR:-OFF}" >/dev/null
   cmake --build "$build" --target vemi
   rm -f "$build"/install_manifest*.txt  # of an earlier installation, by root
 done
