@@ -222,48 +222,41 @@ VemiStatus compositePlanesC(Planes<const T, 4> src1, T alpha1, Planes<const T, 4
 using namespace vemi;
 using namespace vemi::arith;
 
-// Two sources and the type of a composite, without and with an alpha for each source, and of four planes each.
-#define VEMI_COMPOSITE(name, T, ...)                                                                                  \
-  VemiStatus name(const T* pSrc1, int src1Step, const T* pSrc2, int src2Step, T* pDst, int dstStep, VemiSize roiSize, \
-                  int alphaType) {                                                                                    \
-    return __VA_ARGS__(Image<const T>{pSrc1, src1Step}, Image<const T>{pSrc2, src2Step}, Image<T>{pDst, dstStep},     \
-                       roiSize, alphaType);                                                                           \
-  }
-#define VEMI_COMPOSITE_PLANES(name, T, ...)                                                                       \
-  VemiStatus name(const T* const pSrc1[4], int src1Step, const T* const pSrc2[4], int src2Step, T* const pDst[4], \
-                  int dstStep, VemiSize roiSize, int alphaType) {                                                 \
-    return __VA_ARGS__(Planes<const T, 4>{pSrc1, src1Step}, Planes<const T, 4>{pSrc2, src2Step},                  \
-                       Planes<T, 4>{pDst, dstStep}, roiSize, alphaType);                                          \
-  }
-#define VEMI_COMPOSITE_C(name, T, ...)                                                                     \
-  VemiStatus name(const T* pSrc1, int src1Step, T alpha1, const T* pSrc2, int src2Step, T alpha2, T* pDst, \
-                  int dstStep, VemiSize roiSize, int alphaType) {                                          \
-    return __VA_ARGS__(Image<const T>{pSrc1, src1Step}, alpha1, Image<const T>{pSrc2, src2Step}, alpha2,   \
-                       Image<T>{pDst, dstStep}, roiSize, alphaType);                                       \
-  }
-#define VEMI_COMPOSITE_PLANES_C(name, T, ...)                                                                       \
-  VemiStatus name(const T* const pSrc1[4], int src1Step, T alpha1, const T* const pSrc2[4], int src2Step, T alpha2, \
-                  T* const pDst[4], int dstStep, VemiSize roiSize, int alphaType) {                                 \
-    return __VA_ARGS__(Planes<const T, 4>{pSrc1, src1Step}, alpha1, Planes<const T, 4>{pSrc2, src2Step}, alpha2,    \
-                       Planes<T, 4>{pDst, dstStep}, roiSize, alphaType);                                            \
-  }
+#define ALPHA_TYPE ((vemiAlphaType alphaType), (alphaType))
 
-VEMI_COMPOSITE(vemiAlphaComp_8u_AC1R, Vemi8u, compositeAlphas)
-VEMI_COMPOSITE(vemiAlphaComp_8u_AC4R, Vemi8u, compositePixels)
-VEMI_COMPOSITE_PLANES(vemiAlphaComp_8u_AP4R, Vemi8u, compositePlanes)
+// Pixels with an alpha for each source, and four planes without and with one.
+#define PIXELS_C(T)                                                                                            \
+  ((const T* pSrc1, int src1Step, T alpha1, const T* pSrc2, int src2Step, T alpha2, T* pDst, int dstStep,      \
+    VemiSize roiSize, vemiAlphaType alphaType),                                                                \
+   (Image<const T>{pSrc1, src1Step}, alpha1, Image<const T>{pSrc2, src2Step}, alpha2, Image<T>{pDst, dstStep}, \
+    roiSize, alphaType))
+#define PLANES(T)                                                                                                   \
+  ((const T* const pSrc1[4], int src1Step, const T* const pSrc2[4], int src2Step, T* const pDst[4], int dstStep,    \
+    VemiSize roiSize, vemiAlphaType alphaType),                                                                     \
+   (Planes<const T, 4>{pSrc1, src1Step}, Planes<const T, 4>{pSrc2, src2Step}, Planes<T, 4>{pDst, dstStep}, roiSize, \
+    alphaType))
+#define PLANES_C(T)                                                                                   \
+  ((const T* const pSrc1[4], int src1Step, T alpha1, const T* const pSrc2[4], int src2Step, T alpha2, \
+    T* const pDst[4], int dstStep, VemiSize roiSize, vemiAlphaType alphaType),                        \
+   (Planes<const T, 4>{pSrc1, src1Step}, alpha1, Planes<const T, 4>{pSrc2, src2Step}, alpha2,         \
+    Planes<T, 4>{pDst, dstStep}, roiSize, alphaType))
 
-VEMI_COMPOSITE(vemiAlphaComp_16u_AC1R, Vemi16u, compositeAlphas)
-VEMI_COMPOSITE(vemiAlphaComp_16u_AC4R, Vemi16u, compositePixels)
-VEMI_COMPOSITE_PLANES(vemiAlphaComp_16u_AP4R, Vemi16u, compositePlanes)
+VEMI_DEFINE(vemiAlphaComp_8u_AC1R, VEMI_2SRC_DST(Vemi8u, ALPHA_TYPE), compositeAlphas)
+VEMI_DEFINE(vemiAlphaComp_8u_AC4R, VEMI_2SRC_DST(Vemi8u, ALPHA_TYPE), compositePixels)
+VEMI_DEFINE(vemiAlphaComp_8u_AP4R, PLANES(Vemi8u), compositePlanes)
 
-VEMI_COMPOSITE_C(vemiAlphaCompC_8u_C1R, Vemi8u, compositeC<Vemi8u, C1>)
-VEMI_COMPOSITE_C(vemiAlphaCompC_8u_C3R, Vemi8u, compositeC<Vemi8u, C3>)
-VEMI_COMPOSITE_C(vemiAlphaCompC_8u_C4R, Vemi8u, compositeC<Vemi8u, C4>)
-VEMI_COMPOSITE_C(vemiAlphaCompC_8u_AC4R, Vemi8u, compositeC<Vemi8u, AC4>)
-VEMI_COMPOSITE_PLANES_C(vemiAlphaCompC_8u_AP4R, Vemi8u, compositePlanesC)
+VEMI_DEFINE(vemiAlphaComp_16u_AC1R, VEMI_2SRC_DST(Vemi16u, ALPHA_TYPE), compositeAlphas)
+VEMI_DEFINE(vemiAlphaComp_16u_AC4R, VEMI_2SRC_DST(Vemi16u, ALPHA_TYPE), compositePixels)
+VEMI_DEFINE(vemiAlphaComp_16u_AP4R, PLANES(Vemi16u), compositePlanes)
 
-VEMI_COMPOSITE_C(vemiAlphaCompC_16u_C1R, Vemi16u, compositeC<Vemi16u, C1>)
-VEMI_COMPOSITE_C(vemiAlphaCompC_16u_C3R, Vemi16u, compositeC<Vemi16u, C3>)
-VEMI_COMPOSITE_C(vemiAlphaCompC_16u_C4R, Vemi16u, compositeC<Vemi16u, C4>)
-VEMI_COMPOSITE_C(vemiAlphaCompC_16u_AC4R, Vemi16u, compositeC<Vemi16u, AC4>)
-VEMI_COMPOSITE_PLANES_C(vemiAlphaCompC_16u_AP4R, Vemi16u, compositePlanesC)
+VEMI_DEFINE(vemiAlphaCompC_8u_C1R, PIXELS_C(Vemi8u), compositeC<Vemi8u, C1>)
+VEMI_DEFINE(vemiAlphaCompC_8u_C3R, PIXELS_C(Vemi8u), compositeC<Vemi8u, C3>)
+VEMI_DEFINE(vemiAlphaCompC_8u_C4R, PIXELS_C(Vemi8u), compositeC<Vemi8u, C4>)
+VEMI_DEFINE(vemiAlphaCompC_8u_AC4R, PIXELS_C(Vemi8u), compositeC<Vemi8u, AC4>)
+VEMI_DEFINE(vemiAlphaCompC_8u_AP4R, PLANES_C(Vemi8u), compositePlanesC)
+
+VEMI_DEFINE(vemiAlphaCompC_16u_C1R, PIXELS_C(Vemi16u), compositeC<Vemi16u, C1>)
+VEMI_DEFINE(vemiAlphaCompC_16u_C3R, PIXELS_C(Vemi16u), compositeC<Vemi16u, C3>)
+VEMI_DEFINE(vemiAlphaCompC_16u_C4R, PIXELS_C(Vemi16u), compositeC<Vemi16u, C4>)
+VEMI_DEFINE(vemiAlphaCompC_16u_AC4R, PIXELS_C(Vemi16u), compositeC<Vemi16u, AC4>)
+VEMI_DEFINE(vemiAlphaCompC_16u_AP4R, PLANES_C(Vemi16u), compositePlanesC)

@@ -99,46 +99,42 @@ VemiStatus premultiplyPlanesC(Planes<const T, 4> src, T alpha, Planes<T, 4> dst,
 using namespace vemi;
 using namespace vemi::arith;
 
-// Planes and a constant; in place, the source is the destination.
-#define VEMI_PLANES_VALUE_PLANES(name, T, planes, ...)                                                            \
-  VemiStatus name(const T* const pSrc[planes], int srcStep, T value, T* const pDst[planes], int dstStep,          \
-                  VemiSize roiSize) {                                                                             \
-    return __VA_ARGS__(Planes<const T, planes>{pSrc, srcStep}, value, Planes<T, planes>{pDst, dstStep}, roiSize); \
-  }
-#define VEMI_VALUE_PLANES_SRCDST(name, T, planes, ...)                                                              \
-  VemiStatus name(T value, T* const pSrcDst[planes], int srcDstStep, VemiSize roiSize) {                            \
-    return __VA_ARGS__(Planes<const T, planes>{pSrcDst, srcDstStep}, value, Planes<T, planes>{pSrcDst, srcDstStep}, \
-                       roiSize);                                                                                    \
-  }
+// Four planes and an alpha; in place, the source is the destination.
+#define PLANES_C_PLANES(T)                                                                          \
+  ((const T* const pSrc[4], int srcStep, T alpha, T* const pDst[4], int dstStep, VemiSize roiSize), \
+   (Planes<const T, 4>{pSrc, srcStep}, alpha, Planes<T, 4>{pDst, dstStep}, roiSize))
+#define C_PLANES_SRCDST(T)                                           \
+  ((T alpha, T* const pSrcDst[4], int srcDstStep, VemiSize roiSize), \
+   (Planes<const T, 4>{pSrcDst, srcDstStep}, alpha, Planes<T, 4>{pSrcDst, srcDstStep}, roiSize))
 
-VEMI_SRC_DST(vemiAlphaPremul_8u_AC4R, Vemi8u, premultiply)
-VEMI_PLANES_PLANES(vemiAlphaPremul_8u_AP4R, Vemi8u, 4, premultiplyPlanes)
-VEMI_SRCDST(vemiAlphaPremul_8u_AC4IR, Vemi8u, premultiply)
-VEMI_PLANES_SRCDST(vemiAlphaPremul_8u_AP4IR, Vemi8u, 4, premultiplyPlanes)
+VEMI_DEFINE(vemiAlphaPremul_8u_AC4R, VEMI_SRC_DST(Vemi8u), premultiply)
+VEMI_DEFINE(vemiAlphaPremul_8u_AP4R, VEMI_PLANES_PLANES(Vemi8u, 4), premultiplyPlanes)
+VEMI_DEFINE(vemiAlphaPremul_8u_AC4IR, VEMI_SRCDST(Vemi8u), premultiply)
+VEMI_DEFINE(vemiAlphaPremul_8u_AP4IR, VEMI_PLANES_SRCDST(Vemi8u, 4), premultiplyPlanes)
 
-VEMI_SRC_DST(vemiAlphaPremul_16u_AC4R, Vemi16u, premultiply)
-VEMI_PLANES_PLANES(vemiAlphaPremul_16u_AP4R, Vemi16u, 4, premultiplyPlanes)
-VEMI_SRCDST(vemiAlphaPremul_16u_AC4IR, Vemi16u, premultiply)
-VEMI_PLANES_SRCDST(vemiAlphaPremul_16u_AP4IR, Vemi16u, 4, premultiplyPlanes)
+VEMI_DEFINE(vemiAlphaPremul_16u_AC4R, VEMI_SRC_DST(Vemi16u), premultiply)
+VEMI_DEFINE(vemiAlphaPremul_16u_AP4R, VEMI_PLANES_PLANES(Vemi16u, 4), premultiplyPlanes)
+VEMI_DEFINE(vemiAlphaPremul_16u_AC4IR, VEMI_SRCDST(Vemi16u), premultiply)
+VEMI_DEFINE(vemiAlphaPremul_16u_AP4IR, VEMI_PLANES_SRCDST(Vemi16u, 4), premultiplyPlanes)
 
-VEMI_SRC_VALUE_DST(vemiAlphaPremulC_8u_C1R, Vemi8u, premultiplyC<Vemi8u, C1>)
-VEMI_SRC_VALUE_DST(vemiAlphaPremulC_8u_C3R, Vemi8u, premultiplyC<Vemi8u, C3>)
-VEMI_SRC_VALUE_DST(vemiAlphaPremulC_8u_C4R, Vemi8u, premultiplyC<Vemi8u, C4>)
-VEMI_SRC_VALUE_DST(vemiAlphaPremulC_8u_AC4R, Vemi8u, premultiplyPixelsC)
-VEMI_PLANES_VALUE_PLANES(vemiAlphaPremulC_8u_AP4R, Vemi8u, 4, premultiplyPlanesC)
-VEMI_VALUE_SRCDST(vemiAlphaPremulC_8u_C1IR, Vemi8u, premultiplyC<Vemi8u, C1>)
-VEMI_VALUE_SRCDST(vemiAlphaPremulC_8u_C3IR, Vemi8u, premultiplyC<Vemi8u, C3>)
-VEMI_VALUE_SRCDST(vemiAlphaPremulC_8u_C4IR, Vemi8u, premultiplyC<Vemi8u, C4>)
-VEMI_VALUE_SRCDST(vemiAlphaPremulC_8u_AC4IR, Vemi8u, premultiplyPixelsC)
-VEMI_VALUE_PLANES_SRCDST(vemiAlphaPremulC_8u_AP4IR, Vemi8u, 4, premultiplyPlanesC)
+VEMI_DEFINE(vemiAlphaPremulC_8u_C1R, VEMI_SRC_VALUE_DST(Vemi8u), premultiplyC<Vemi8u, C1>)
+VEMI_DEFINE(vemiAlphaPremulC_8u_C3R, VEMI_SRC_VALUE_DST(Vemi8u), premultiplyC<Vemi8u, C3>)
+VEMI_DEFINE(vemiAlphaPremulC_8u_C4R, VEMI_SRC_VALUE_DST(Vemi8u), premultiplyC<Vemi8u, C4>)
+VEMI_DEFINE(vemiAlphaPremulC_8u_AC4R, VEMI_SRC_VALUE_DST(Vemi8u), premultiplyPixelsC)
+VEMI_DEFINE(vemiAlphaPremulC_8u_AP4R, PLANES_C_PLANES(Vemi8u), premultiplyPlanesC)
+VEMI_DEFINE(vemiAlphaPremulC_8u_C1IR, VEMI_VALUE_SRCDST(Vemi8u), premultiplyC<Vemi8u, C1>)
+VEMI_DEFINE(vemiAlphaPremulC_8u_C3IR, VEMI_VALUE_SRCDST(Vemi8u), premultiplyC<Vemi8u, C3>)
+VEMI_DEFINE(vemiAlphaPremulC_8u_C4IR, VEMI_VALUE_SRCDST(Vemi8u), premultiplyC<Vemi8u, C4>)
+VEMI_DEFINE(vemiAlphaPremulC_8u_AC4IR, VEMI_VALUE_SRCDST(Vemi8u), premultiplyPixelsC)
+VEMI_DEFINE(vemiAlphaPremulC_8u_AP4IR, C_PLANES_SRCDST(Vemi8u), premultiplyPlanesC)
 
-VEMI_SRC_VALUE_DST(vemiAlphaPremulC_16u_C1R, Vemi16u, premultiplyC<Vemi16u, C1>)
-VEMI_SRC_VALUE_DST(vemiAlphaPremulC_16u_C3R, Vemi16u, premultiplyC<Vemi16u, C3>)
-VEMI_SRC_VALUE_DST(vemiAlphaPremulC_16u_C4R, Vemi16u, premultiplyC<Vemi16u, C4>)
-VEMI_SRC_VALUE_DST(vemiAlphaPremulC_16u_AC4R, Vemi16u, premultiplyPixelsC)
-VEMI_PLANES_VALUE_PLANES(vemiAlphaPremulC_16u_AP4R, Vemi16u, 4, premultiplyPlanesC)
-VEMI_VALUE_SRCDST(vemiAlphaPremulC_16u_C1IR, Vemi16u, premultiplyC<Vemi16u, C1>)
-VEMI_VALUE_SRCDST(vemiAlphaPremulC_16u_C3IR, Vemi16u, premultiplyC<Vemi16u, C3>)
-VEMI_VALUE_SRCDST(vemiAlphaPremulC_16u_C4IR, Vemi16u, premultiplyC<Vemi16u, C4>)
-VEMI_VALUE_SRCDST(vemiAlphaPremulC_16u_AC4IR, Vemi16u, premultiplyPixelsC)
-VEMI_VALUE_PLANES_SRCDST(vemiAlphaPremulC_16u_AP4IR, Vemi16u, 4, premultiplyPlanesC)
+VEMI_DEFINE(vemiAlphaPremulC_16u_C1R, VEMI_SRC_VALUE_DST(Vemi16u), premultiplyC<Vemi16u, C1>)
+VEMI_DEFINE(vemiAlphaPremulC_16u_C3R, VEMI_SRC_VALUE_DST(Vemi16u), premultiplyC<Vemi16u, C3>)
+VEMI_DEFINE(vemiAlphaPremulC_16u_C4R, VEMI_SRC_VALUE_DST(Vemi16u), premultiplyC<Vemi16u, C4>)
+VEMI_DEFINE(vemiAlphaPremulC_16u_AC4R, VEMI_SRC_VALUE_DST(Vemi16u), premultiplyPixelsC)
+VEMI_DEFINE(vemiAlphaPremulC_16u_AP4R, PLANES_C_PLANES(Vemi16u), premultiplyPlanesC)
+VEMI_DEFINE(vemiAlphaPremulC_16u_C1IR, VEMI_VALUE_SRCDST(Vemi16u), premultiplyC<Vemi16u, C1>)
+VEMI_DEFINE(vemiAlphaPremulC_16u_C3IR, VEMI_VALUE_SRCDST(Vemi16u), premultiplyC<Vemi16u, C3>)
+VEMI_DEFINE(vemiAlphaPremulC_16u_C4IR, VEMI_VALUE_SRCDST(Vemi16u), premultiplyC<Vemi16u, C4>)
+VEMI_DEFINE(vemiAlphaPremulC_16u_AC4IR, VEMI_VALUE_SRCDST(Vemi16u), premultiplyPixelsC)
+VEMI_DEFINE(vemiAlphaPremulC_16u_AP4IR, C_PLANES_SRCDST(Vemi16u), premultiplyPlanesC)

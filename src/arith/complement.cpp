@@ -30,4 +30,4 @@ VemiStatus complement(Image<const Vemi32s> src, Image<Vemi32s> dst, VemiSize roi
 using namespace vemi;
 using namespace vemi::arith;
 
-VEMI_SRCDST(vemiComplement_32s_C1IR, Vemi32s, complement)
+VEMI_DEFINE(vemiComplement_32s_C1IR, VEMI_SRCDST(Vemi32s), complement)

@@ -80,17 +80,17 @@ VemiStatus exp32f(Image<const Vemi32f> src, Image<Vemi32f> dst, VemiSize roiSize
 using namespace vemi;
 using namespace vemi::arith;
 
-VEMI_SRC_DST_SFS(vemiExp_8u_C1RSfs, Vemi8u, expScaled<Vemi8u, C1>)
-VEMI_SRC_DST_SFS(vemiExp_8u_C3RSfs, Vemi8u, expScaled<Vemi8u, C3>)
-VEMI_SRCDST_SFS(vemiExp_8u_C1IRSfs, Vemi8u, expScaled<Vemi8u, C1>)
-VEMI_SRCDST_SFS(vemiExp_8u_C3IRSfs, Vemi8u, expScaled<Vemi8u, C3>)
+VEMI_DEFINE(vemiExp_8u_C1RSfs, VEMI_SRC_DST(Vemi8u, VEMI_SFS), expScaled<Vemi8u, C1>)
+VEMI_DEFINE(vemiExp_8u_C3RSfs, VEMI_SRC_DST(Vemi8u, VEMI_SFS), expScaled<Vemi8u, C3>)
+VEMI_DEFINE(vemiExp_8u_C1IRSfs, VEMI_SRCDST(Vemi8u, VEMI_SFS), expScaled<Vemi8u, C1>)
+VEMI_DEFINE(vemiExp_8u_C3IRSfs, VEMI_SRCDST(Vemi8u, VEMI_SFS), expScaled<Vemi8u, C3>)
 
-VEMI_SRC_DST_SFS(vemiExp_16s_C1RSfs, Vemi16s, expScaled<Vemi16s, C1>)
-VEMI_SRC_DST_SFS(vemiExp_16s_C3RSfs, Vemi16s, expScaled<Vemi16s, C3>)
-VEMI_SRCDST_SFS(vemiExp_16s_C1IRSfs, Vemi16s, expScaled<Vemi16s, C1>)
-VEMI_SRCDST_SFS(vemiExp_16s_C3IRSfs, Vemi16s, expScaled<Vemi16s, C3>)
+VEMI_DEFINE(vemiExp_16s_C1RSfs, VEMI_SRC_DST(Vemi16s, VEMI_SFS), expScaled<Vemi16s, C1>)
+VEMI_DEFINE(vemiExp_16s_C3RSfs, VEMI_SRC_DST(Vemi16s, VEMI_SFS), expScaled<Vemi16s, C3>)
+VEMI_DEFINE(vemiExp_16s_C1IRSfs, VEMI_SRCDST(Vemi16s, VEMI_SFS), expScaled<Vemi16s, C1>)
+VEMI_DEFINE(vemiExp_16s_C3IRSfs, VEMI_SRCDST(Vemi16s, VEMI_SFS), expScaled<Vemi16s, C3>)
 
-VEMI_SRC_DST(vemiExp_32f_C1R, Vemi32f, exp32f<C1>)
-VEMI_SRC_DST(vemiExp_32f_C3R, Vemi32f, exp32f<C3>)
-VEMI_SRCDST(vemiExp_32f_C1IR, Vemi32f, exp32f<C1>)
-VEMI_SRCDST(vemiExp_32f_C3IR, Vemi32f, exp32f<C3>)
+VEMI_DEFINE(vemiExp_32f_C1R, VEMI_SRC_DST(Vemi32f), exp32f<C1>)
+VEMI_DEFINE(vemiExp_32f_C3R, VEMI_SRC_DST(Vemi32f), exp32f<C3>)
+VEMI_DEFINE(vemiExp_32f_C1IR, VEMI_SRCDST(Vemi32f), exp32f<C1>)
+VEMI_DEFINE(vemiExp_32f_C3IR, VEMI_SRCDST(Vemi32f), exp32f<C3>)

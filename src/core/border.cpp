@@ -5,6 +5,7 @@
 #include <algorithm>
 
 #include "core/checks.h"
+#include "core/exports.h"
 #include "core/image.h"
 #include "core/map_row.h"
 #include "core/rows.h"
@@ -161,56 +162,42 @@ VemiStatus wrapBorderInPlace(Image<T> srcDst, VemiSize srcRoiSize, VemiSize dstR
 using namespace vemi;
 
 // A source that lands inside a larger destination.
-#define VEMI_BORDER(name, T, ...)                                                                             \
-  VemiStatus name(const T* pSrc, int srcStep, VemiSize srcRoiSize, T* pDst, int dstStep, VemiSize dstRoiSize, \
-                  int topBorderHeight, int leftBorderWidth) {                                                 \
-    return __VA_ARGS__(Image<const T>{pSrc, srcStep}, srcRoiSize, Image<T>{pDst, dstStep}, dstRoiSize,        \
-                       topBorderHeight, leftBorderWidth);                                                     \
-  }
-#define VEMI_BORDER_VALUE(name, T, ...)                                                                       \
-  VemiStatus name(const T* pSrc, int srcStep, VemiSize srcRoiSize, T* pDst, int dstStep, VemiSize dstRoiSize, \
-                  int topBorderHeight, int leftBorderWidth, T value) {                                        \
-    return __VA_ARGS__(Image<const T>{pSrc, srcStep}, srcRoiSize, Image<T>{pDst, dstStep}, dstRoiSize,        \
-                       topBorderHeight, leftBorderWidth, &value);                                             \
-  }
-#define VEMI_BORDER_VALUES(name, T, ...)                                                                      \
-  VemiStatus name(const T* pSrc, int srcStep, VemiSize srcRoiSize, T* pDst, int dstStep, VemiSize dstRoiSize, \
-                  int topBorderHeight, int leftBorderWidth, const T* value) {                                 \
-    return __VA_ARGS__(Image<const T>{pSrc, srcStep}, srcRoiSize, Image<T>{pDst, dstStep}, dstRoiSize,        \
-                       topBorderHeight, leftBorderWidth, value);                                              \
-  }
+#define BORDER(T, ...)                                                                                        \
+  VEMI_HEAD((const T* pSrc, int srcStep, VemiSize srcRoiSize, T* pDst, int dstStep, VemiSize dstRoiSize,      \
+             int topBorderHeight, int leftBorderWidth),                                                       \
+            (Image<const T>{pSrc, srcStep}, srcRoiSize, Image<T>{pDst, dstStep}, dstRoiSize, topBorderHeight, \
+             leftBorderWidth),                                                                                \
+            __VA_ARGS__)
+#define BORDER_IN_PLACE(T)                                                                                         \
+  ((T * pSrc, int srcDstStep, VemiSize srcRoiSize, VemiSize dstRoiSize, int topBorderHeight, int leftBorderWidth), \
+   (Image<T>{pSrc, srcDstStep}, srcRoiSize, dstRoiSize, topBorderHeight, leftBorderWidth))
+#define VALUE(C) ((C value), (addressOf(value)))
 
-#define VEMI_BORDER_IN_PLACE(name, T, ...)                                                                    \
-  VemiStatus name(T* pSrc, int srcDstStep, VemiSize srcRoiSize, VemiSize dstRoiSize, int topBorderHeight,     \
-                  int leftBorderWidth) {                                                                      \
-    return __VA_ARGS__(Image<T>{pSrc, srcDstStep}, srcRoiSize, dstRoiSize, topBorderHeight, leftBorderWidth); \
-  }
+VEMI_DEFINE(vemiCopyConstBorder_8u_C1R, BORDER(Vemi8u, VALUE(Vemi8u)), copyConstBorder<Vemi8u, C1>)
+VEMI_DEFINE(vemiCopyConstBorder_16s_C1R, BORDER(Vemi16s, VALUE(Vemi16s)), copyConstBorder<Vemi16s, C1>)
+VEMI_DEFINE(vemiCopyConstBorder_32s_C1R, BORDER(Vemi32s, VALUE(Vemi32s)), copyConstBorder<Vemi32s, C1>)
+VEMI_DEFINE(vemiCopyConstBorder_8u_C3R, BORDER(Vemi8u, VALUE(const Vemi8u*)), copyConstBorder<Vemi8u, C3>)
+VEMI_DEFINE(vemiCopyConstBorder_16s_C3R, BORDER(Vemi16s, VALUE(const Vemi16s*)), copyConstBorder<Vemi16s, C3>)
+VEMI_DEFINE(vemiCopyConstBorder_32s_C3R, BORDER(Vemi32s, VALUE(const Vemi32s*)), copyConstBorder<Vemi32s, C3>)
+VEMI_DEFINE(vemiCopyConstBorder_8u_C4R, BORDER(Vemi8u, VALUE(const Vemi8u*)), copyConstBorder<Vemi8u, C4>)
+VEMI_DEFINE(vemiCopyConstBorder_16s_C4R, BORDER(Vemi16s, VALUE(const Vemi16s*)), copyConstBorder<Vemi16s, C4>)
+VEMI_DEFINE(vemiCopyConstBorder_32s_C4R, BORDER(Vemi32s, VALUE(const Vemi32s*)), copyConstBorder<Vemi32s, C4>)
+VEMI_DEFINE(vemiCopyConstBorder_8u_AC4R, BORDER(Vemi8u, VALUE(const Vemi8u*)), copyConstBorder<Vemi8u, AC4>)
+VEMI_DEFINE(vemiCopyConstBorder_16s_AC4R, BORDER(Vemi16s, VALUE(const Vemi16s*)), copyConstBorder<Vemi16s, AC4>)
+VEMI_DEFINE(vemiCopyConstBorder_32s_AC4R, BORDER(Vemi32s, VALUE(const Vemi32s*)), copyConstBorder<Vemi32s, AC4>)
 
-VEMI_BORDER_VALUE(vemiCopyConstBorder_8u_C1R, Vemi8u, copyConstBorder<Vemi8u, C1>)
-VEMI_BORDER_VALUE(vemiCopyConstBorder_16s_C1R, Vemi16s, copyConstBorder<Vemi16s, C1>)
-VEMI_BORDER_VALUE(vemiCopyConstBorder_32s_C1R, Vemi32s, copyConstBorder<Vemi32s, C1>)
-VEMI_BORDER_VALUES(vemiCopyConstBorder_8u_C3R, Vemi8u, copyConstBorder<Vemi8u, C3>)
-VEMI_BORDER_VALUES(vemiCopyConstBorder_16s_C3R, Vemi16s, copyConstBorder<Vemi16s, C3>)
-VEMI_BORDER_VALUES(vemiCopyConstBorder_32s_C3R, Vemi32s, copyConstBorder<Vemi32s, C3>)
-VEMI_BORDER_VALUES(vemiCopyConstBorder_8u_C4R, Vemi8u, copyConstBorder<Vemi8u, C4>)
-VEMI_BORDER_VALUES(vemiCopyConstBorder_16s_C4R, Vemi16s, copyConstBorder<Vemi16s, C4>)
-VEMI_BORDER_VALUES(vemiCopyConstBorder_32s_C4R, Vemi32s, copyConstBorder<Vemi32s, C4>)
-VEMI_BORDER_VALUES(vemiCopyConstBorder_8u_AC4R, Vemi8u, copyConstBorder<Vemi8u, AC4>)
-VEMI_BORDER_VALUES(vemiCopyConstBorder_16s_AC4R, Vemi16s, copyConstBorder<Vemi16s, AC4>)
-VEMI_BORDER_VALUES(vemiCopyConstBorder_32s_AC4R, Vemi32s, copyConstBorder<Vemi32s, AC4>)
+VEMI_DEFINE(vemiCopyReplicateBorder_8u_C1R, BORDER(Vemi8u), copyReplicateBorder<Vemi8u, C1>)
+VEMI_DEFINE(vemiCopyReplicateBorder_16s_C1R, BORDER(Vemi16s), copyReplicateBorder<Vemi16s, C1>)
+VEMI_DEFINE(vemiCopyReplicateBorder_32s_C1R, BORDER(Vemi32s), copyReplicateBorder<Vemi32s, C1>)
+VEMI_DEFINE(vemiCopyReplicateBorder_8u_C3R, BORDER(Vemi8u), copyReplicateBorder<Vemi8u, C3>)
+VEMI_DEFINE(vemiCopyReplicateBorder_16s_C3R, BORDER(Vemi16s), copyReplicateBorder<Vemi16s, C3>)
+VEMI_DEFINE(vemiCopyReplicateBorder_32s_C3R, BORDER(Vemi32s), copyReplicateBorder<Vemi32s, C3>)
+VEMI_DEFINE(vemiCopyReplicateBorder_8u_C4R, BORDER(Vemi8u), copyReplicateBorder<Vemi8u, C4>)
+VEMI_DEFINE(vemiCopyReplicateBorder_16s_C4R, BORDER(Vemi16s), copyReplicateBorder<Vemi16s, C4>)
+VEMI_DEFINE(vemiCopyReplicateBorder_32s_C4R, BORDER(Vemi32s), copyReplicateBorder<Vemi32s, C4>)
+VEMI_DEFINE(vemiCopyReplicateBorder_8u_AC4R, BORDER(Vemi8u), copyReplicateBorder<Vemi8u, AC4>)
+VEMI_DEFINE(vemiCopyReplicateBorder_16s_AC4R, BORDER(Vemi16s), copyReplicateBorder<Vemi16s, AC4>)
+VEMI_DEFINE(vemiCopyReplicateBorder_32s_AC4R, BORDER(Vemi32s), copyReplicateBorder<Vemi32s, AC4>)
 
-VEMI_BORDER(vemiCopyReplicateBorder_8u_C1R, Vemi8u, copyReplicateBorder<Vemi8u, C1>)
-VEMI_BORDER(vemiCopyReplicateBorder_16s_C1R, Vemi16s, copyReplicateBorder<Vemi16s, C1>)
-VEMI_BORDER(vemiCopyReplicateBorder_32s_C1R, Vemi32s, copyReplicateBorder<Vemi32s, C1>)
-VEMI_BORDER(vemiCopyReplicateBorder_8u_C3R, Vemi8u, copyReplicateBorder<Vemi8u, C3>)
-VEMI_BORDER(vemiCopyReplicateBorder_16s_C3R, Vemi16s, copyReplicateBorder<Vemi16s, C3>)
-VEMI_BORDER(vemiCopyReplicateBorder_32s_C3R, Vemi32s, copyReplicateBorder<Vemi32s, C3>)
-VEMI_BORDER(vemiCopyReplicateBorder_8u_C4R, Vemi8u, copyReplicateBorder<Vemi8u, C4>)
-VEMI_BORDER(vemiCopyReplicateBorder_16s_C4R, Vemi16s, copyReplicateBorder<Vemi16s, C4>)
-VEMI_BORDER(vemiCopyReplicateBorder_32s_C4R, Vemi32s, copyReplicateBorder<Vemi32s, C4>)
-VEMI_BORDER(vemiCopyReplicateBorder_8u_AC4R, Vemi8u, copyReplicateBorder<Vemi8u, AC4>)
-VEMI_BORDER(vemiCopyReplicateBorder_16s_AC4R, Vemi16s, copyReplicateBorder<Vemi16s, AC4>)
-VEMI_BORDER(vemiCopyReplicateBorder_32s_AC4R, Vemi32s, copyReplicateBorder<Vemi32s, AC4>)
-
-VEMI_BORDER(vemiCopyWrapBorder_32s_C1R, Vemi32s, copyWrapBorder<Vemi32s>)
-VEMI_BORDER_IN_PLACE(vemiCopyWrapBorder_32s_C1IR, Vemi32s, wrapBorderInPlace<Vemi32s>)
+VEMI_DEFINE(vemiCopyWrapBorder_32s_C1R, BORDER(Vemi32s), copyWrapBorder<Vemi32s>)
+VEMI_DEFINE(vemiCopyWrapBorder_32s_C1IR, BORDER_IN_PLACE(Vemi32s), wrapBorderInPlace<Vemi32s>)

@@ -5,6 +5,7 @@
 #include <cstring>
 
 #include "core/checks.h"
+#include "core/exports.h"
 #include "core/image.h"
 #include "core/map_row.h"
 #include "core/masked_row.h"
@@ -73,54 +74,35 @@ VemiStatus setChannel(const T* value, Image<T> dst, VemiSize roiSize) {
 
 using namespace vemi;
 
-// A constant (one value, or one for each channel) and a destination. A single value is handed on by its address, so
-// that one implementation serves both.
-#define VEMI_VALUE_DST(name, T, ...)                                 \
-  VemiStatus name(T value, T* pDst, int dstStep, VemiSize roiSize) { \
-    return __VA_ARGS__(&value, Image<T>{pDst, dstStep}, roiSize);    \
-  }
-#define VEMI_VALUES_DST(name, T, ...)                                       \
-  VemiStatus name(const T* value, T* pDst, int dstStep, VemiSize roiSize) { \
-    return __VA_ARGS__(value, Image<T>{pDst, dstStep}, roiSize);            \
-  }
-#define VEMI_VALUE_DST_MASK(name, T, ...)                                                               \
-  VemiStatus name(T value, T* pDst, int dstStep, VemiSize roiSize, const Vemi8u* pMask, int maskStep) { \
-    return __VA_ARGS__(&value, Image<T>{pDst, dstStep}, roiSize, Image<const Vemi8u>{pMask, maskStep}); \
-  }
-#define VEMI_VALUES_DST_MASK(name, T, ...)                                                                     \
-  VemiStatus name(const T* value, T* pDst, int dstStep, VemiSize roiSize, const Vemi8u* pMask, int maskStep) { \
-    return __VA_ARGS__(value, Image<T>{pDst, dstStep}, roiSize, Image<const Vemi8u>{pMask, maskStep});         \
-  }
+VEMI_DEFINE(vemiSet_8u_C1R, VEMI_C_DST(Vemi8u, Vemi8u), setBytes)
+VEMI_DEFINE(vemiSet_16s_C1R, VEMI_C_DST(Vemi16s, Vemi16s), set<Vemi16s, C1>)
+VEMI_DEFINE(vemiSet_32f_C1R, VEMI_C_DST(Vemi32f, Vemi32f), set<Vemi32f, C1>)
+VEMI_DEFINE(vemiSet_8u_C3R, VEMI_C_DST(Vemi8u, const Vemi8u*), set<Vemi8u, C3>)
+VEMI_DEFINE(vemiSet_16s_C3R, VEMI_C_DST(Vemi16s, const Vemi16s*), set<Vemi16s, C3>)
+VEMI_DEFINE(vemiSet_32f_C3R, VEMI_C_DST(Vemi32f, const Vemi32f*), set<Vemi32f, C3>)
+VEMI_DEFINE(vemiSet_8u_C4R, VEMI_C_DST(Vemi8u, const Vemi8u*), set<Vemi8u, C4>)
+VEMI_DEFINE(vemiSet_16s_C4R, VEMI_C_DST(Vemi16s, const Vemi16s*), set<Vemi16s, C4>)
+VEMI_DEFINE(vemiSet_32f_C4R, VEMI_C_DST(Vemi32f, const Vemi32f*), set<Vemi32f, C4>)
+VEMI_DEFINE(vemiSet_8u_AC4R, VEMI_C_DST(Vemi8u, const Vemi8u*), set<Vemi8u, AC4>)
+VEMI_DEFINE(vemiSet_16s_AC4R, VEMI_C_DST(Vemi16s, const Vemi16s*), set<Vemi16s, AC4>)
+VEMI_DEFINE(vemiSet_32f_AC4R, VEMI_C_DST(Vemi32f, const Vemi32f*), set<Vemi32f, AC4>)
 
-VEMI_VALUE_DST(vemiSet_8u_C1R, Vemi8u, setBytes)
-VEMI_VALUE_DST(vemiSet_16s_C1R, Vemi16s, set<Vemi16s, C1>)
-VEMI_VALUE_DST(vemiSet_32f_C1R, Vemi32f, set<Vemi32f, C1>)
-VEMI_VALUES_DST(vemiSet_8u_C3R, Vemi8u, set<Vemi8u, C3>)
-VEMI_VALUES_DST(vemiSet_16s_C3R, Vemi16s, set<Vemi16s, C3>)
-VEMI_VALUES_DST(vemiSet_32f_C3R, Vemi32f, set<Vemi32f, C3>)
-VEMI_VALUES_DST(vemiSet_8u_C4R, Vemi8u, set<Vemi8u, C4>)
-VEMI_VALUES_DST(vemiSet_16s_C4R, Vemi16s, set<Vemi16s, C4>)
-VEMI_VALUES_DST(vemiSet_32f_C4R, Vemi32f, set<Vemi32f, C4>)
-VEMI_VALUES_DST(vemiSet_8u_AC4R, Vemi8u, set<Vemi8u, AC4>)
-VEMI_VALUES_DST(vemiSet_16s_AC4R, Vemi16s, set<Vemi16s, AC4>)
-VEMI_VALUES_DST(vemiSet_32f_AC4R, Vemi32f, set<Vemi32f, AC4>)
+VEMI_DEFINE(vemiSet_8u_C1MR, VEMI_C_DST(Vemi8u, Vemi8u, VEMI_MASK), setMasked<Vemi8u, C1>)
+VEMI_DEFINE(vemiSet_16s_C1MR, VEMI_C_DST(Vemi16s, Vemi16s, VEMI_MASK), setMasked<Vemi16s, C1>)
+VEMI_DEFINE(vemiSet_32f_C1MR, VEMI_C_DST(Vemi32f, Vemi32f, VEMI_MASK), setMasked<Vemi32f, C1>)
+VEMI_DEFINE(vemiSet_8u_C3MR, VEMI_C_DST(Vemi8u, const Vemi8u*, VEMI_MASK), setMasked<Vemi8u, C3>)
+VEMI_DEFINE(vemiSet_16s_C3MR, VEMI_C_DST(Vemi16s, const Vemi16s*, VEMI_MASK), setMasked<Vemi16s, C3>)
+VEMI_DEFINE(vemiSet_32f_C3MR, VEMI_C_DST(Vemi32f, const Vemi32f*, VEMI_MASK), setMasked<Vemi32f, C3>)
+VEMI_DEFINE(vemiSet_8u_C4MR, VEMI_C_DST(Vemi8u, const Vemi8u*, VEMI_MASK), setMasked<Vemi8u, C4>)
+VEMI_DEFINE(vemiSet_16s_C4MR, VEMI_C_DST(Vemi16s, const Vemi16s*, VEMI_MASK), setMasked<Vemi16s, C4>)
+VEMI_DEFINE(vemiSet_32f_C4MR, VEMI_C_DST(Vemi32f, const Vemi32f*, VEMI_MASK), setMasked<Vemi32f, C4>)
+VEMI_DEFINE(vemiSet_8u_AC4MR, VEMI_C_DST(Vemi8u, const Vemi8u*, VEMI_MASK), setMasked<Vemi8u, AC4>)
+VEMI_DEFINE(vemiSet_16s_AC4MR, VEMI_C_DST(Vemi16s, const Vemi16s*, VEMI_MASK), setMasked<Vemi16s, AC4>)
+VEMI_DEFINE(vemiSet_32f_AC4MR, VEMI_C_DST(Vemi32f, const Vemi32f*, VEMI_MASK), setMasked<Vemi32f, AC4>)
 
-VEMI_VALUE_DST_MASK(vemiSet_8u_C1MR, Vemi8u, setMasked<Vemi8u, C1>)
-VEMI_VALUE_DST_MASK(vemiSet_16s_C1MR, Vemi16s, setMasked<Vemi16s, C1>)
-VEMI_VALUE_DST_MASK(vemiSet_32f_C1MR, Vemi32f, setMasked<Vemi32f, C1>)
-VEMI_VALUES_DST_MASK(vemiSet_8u_C3MR, Vemi8u, setMasked<Vemi8u, C3>)
-VEMI_VALUES_DST_MASK(vemiSet_16s_C3MR, Vemi16s, setMasked<Vemi16s, C3>)
-VEMI_VALUES_DST_MASK(vemiSet_32f_C3MR, Vemi32f, setMasked<Vemi32f, C3>)
-VEMI_VALUES_DST_MASK(vemiSet_8u_C4MR, Vemi8u, setMasked<Vemi8u, C4>)
-VEMI_VALUES_DST_MASK(vemiSet_16s_C4MR, Vemi16s, setMasked<Vemi16s, C4>)
-VEMI_VALUES_DST_MASK(vemiSet_32f_C4MR, Vemi32f, setMasked<Vemi32f, C4>)
-VEMI_VALUES_DST_MASK(vemiSet_8u_AC4MR, Vemi8u, setMasked<Vemi8u, AC4>)
-VEMI_VALUES_DST_MASK(vemiSet_16s_AC4MR, Vemi16s, setMasked<Vemi16s, AC4>)
-VEMI_VALUES_DST_MASK(vemiSet_32f_AC4MR, Vemi32f, setMasked<Vemi32f, AC4>)
-
-VEMI_VALUE_DST(vemiSet_8u_C3CR, Vemi8u, setChannel<Vemi8u, C3>)
-VEMI_VALUE_DST(vemiSet_16s_C3CR, Vemi16s, setChannel<Vemi16s, C3>)
-VEMI_VALUE_DST(vemiSet_32f_C3CR, Vemi32f, setChannel<Vemi32f, C3>)
-VEMI_VALUE_DST(vemiSet_8u_C4CR, Vemi8u, setChannel<Vemi8u, C4>)
-VEMI_VALUE_DST(vemiSet_16s_C4CR, Vemi16s, setChannel<Vemi16s, C4>)
-VEMI_VALUE_DST(vemiSet_32f_C4CR, Vemi32f, setChannel<Vemi32f, C4>)
+VEMI_DEFINE(vemiSet_8u_C3CR, VEMI_C_DST(Vemi8u, Vemi8u), setChannel<Vemi8u, C3>)
+VEMI_DEFINE(vemiSet_16s_C3CR, VEMI_C_DST(Vemi16s, Vemi16s), setChannel<Vemi16s, C3>)
+VEMI_DEFINE(vemiSet_32f_C3CR, VEMI_C_DST(Vemi32f, Vemi32f), setChannel<Vemi32f, C3>)
+VEMI_DEFINE(vemiSet_8u_C4CR, VEMI_C_DST(Vemi8u, Vemi8u), setChannel<Vemi8u, C4>)
+VEMI_DEFINE(vemiSet_16s_C4CR, VEMI_C_DST(Vemi16s, Vemi16s), setChannel<Vemi16s, C4>)
+VEMI_DEFINE(vemiSet_32f_C4CR, VEMI_C_DST(Vemi32f, Vemi32f), setChannel<Vemi32f, C4>)

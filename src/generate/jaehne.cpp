@@ -8,6 +8,7 @@
 #include <type_traits>
 
 #include "core/checks.h"
+#include "core/exports.h"
 #include "core/float_control.h"
 #include "core/image.h"
 #include "core/rounding.h"
@@ -96,30 +97,27 @@ VemiStatus drawChirp(Image<T> dst, VemiSize roiSize) {
 using namespace vemi;
 using namespace vemi::generate;
 
-#define VEMI_DST(name, T, ...) \
-  VemiStatus name(T* pDst, int dstStep, VemiSize roiSize) { return __VA_ARGS__(Image<T>{pDst, dstStep}, roiSize); }
-
-VEMI_DST(vemiImageJaehne_8u_C1R, Vemi8u, drawChirp<C1>)
-VEMI_DST(vemiImageJaehne_8u_C3R, Vemi8u, drawChirp<C3>)
-VEMI_DST(vemiImageJaehne_8u_C4R, Vemi8u, drawChirp<C4>)
-VEMI_DST(vemiImageJaehne_8u_AC4R, Vemi8u, drawChirp<AC4>)
-VEMI_DST(vemiImageJaehne_8s_C1R, Vemi8s, drawChirp<C1>)
-VEMI_DST(vemiImageJaehne_8s_C3R, Vemi8s, drawChirp<C3>)
-VEMI_DST(vemiImageJaehne_8s_C4R, Vemi8s, drawChirp<C4>)
-VEMI_DST(vemiImageJaehne_8s_AC4R, Vemi8s, drawChirp<AC4>)
-VEMI_DST(vemiImageJaehne_16u_C1R, Vemi16u, drawChirp<C1>)
-VEMI_DST(vemiImageJaehne_16u_C3R, Vemi16u, drawChirp<C3>)
-VEMI_DST(vemiImageJaehne_16u_C4R, Vemi16u, drawChirp<C4>)
-VEMI_DST(vemiImageJaehne_16u_AC4R, Vemi16u, drawChirp<AC4>)
-VEMI_DST(vemiImageJaehne_16s_C1R, Vemi16s, drawChirp<C1>)
-VEMI_DST(vemiImageJaehne_16s_C3R, Vemi16s, drawChirp<C3>)
-VEMI_DST(vemiImageJaehne_16s_C4R, Vemi16s, drawChirp<C4>)
-VEMI_DST(vemiImageJaehne_16s_AC4R, Vemi16s, drawChirp<AC4>)
-VEMI_DST(vemiImageJaehne_32s_C1R, Vemi32s, drawChirp<C1>)
-VEMI_DST(vemiImageJaehne_32s_C3R, Vemi32s, drawChirp<C3>)
-VEMI_DST(vemiImageJaehne_32s_C4R, Vemi32s, drawChirp<C4>)
-VEMI_DST(vemiImageJaehne_32s_AC4R, Vemi32s, drawChirp<AC4>)
-VEMI_DST(vemiImageJaehne_32f_C1R, Vemi32f, drawChirp<C1>)
-VEMI_DST(vemiImageJaehne_32f_C3R, Vemi32f, drawChirp<C3>)
-VEMI_DST(vemiImageJaehne_32f_C4R, Vemi32f, drawChirp<C4>)
-VEMI_DST(vemiImageJaehne_32f_AC4R, Vemi32f, drawChirp<AC4>)
+VEMI_DEFINE(vemiImageJaehne_8u_C1R, VEMI_DST(Vemi8u), drawChirp<C1>)
+VEMI_DEFINE(vemiImageJaehne_8u_C3R, VEMI_DST(Vemi8u), drawChirp<C3>)
+VEMI_DEFINE(vemiImageJaehne_8u_C4R, VEMI_DST(Vemi8u), drawChirp<C4>)
+VEMI_DEFINE(vemiImageJaehne_8u_AC4R, VEMI_DST(Vemi8u), drawChirp<AC4>)
+VEMI_DEFINE(vemiImageJaehne_8s_C1R, VEMI_DST(Vemi8s), drawChirp<C1>)
+VEMI_DEFINE(vemiImageJaehne_8s_C3R, VEMI_DST(Vemi8s), drawChirp<C3>)
+VEMI_DEFINE(vemiImageJaehne_8s_C4R, VEMI_DST(Vemi8s), drawChirp<C4>)
+VEMI_DEFINE(vemiImageJaehne_8s_AC4R, VEMI_DST(Vemi8s), drawChirp<AC4>)
+VEMI_DEFINE(vemiImageJaehne_16u_C1R, VEMI_DST(Vemi16u), drawChirp<C1>)
+VEMI_DEFINE(vemiImageJaehne_16u_C3R, VEMI_DST(Vemi16u), drawChirp<C3>)
+VEMI_DEFINE(vemiImageJaehne_16u_C4R, VEMI_DST(Vemi16u), drawChirp<C4>)
+VEMI_DEFINE(vemiImageJaehne_16u_AC4R, VEMI_DST(Vemi16u), drawChirp<AC4>)
+VEMI_DEFINE(vemiImageJaehne_16s_C1R, VEMI_DST(Vemi16s), drawChirp<C1>)
+VEMI_DEFINE(vemiImageJaehne_16s_C3R, VEMI_DST(Vemi16s), drawChirp<C3>)
+VEMI_DEFINE(vemiImageJaehne_16s_C4R, VEMI_DST(Vemi16s), drawChirp<C4>)
+VEMI_DEFINE(vemiImageJaehne_16s_AC4R, VEMI_DST(Vemi16s), drawChirp<AC4>)
+VEMI_DEFINE(vemiImageJaehne_32s_C1R, VEMI_DST(Vemi32s), drawChirp<C1>)
+VEMI_DEFINE(vemiImageJaehne_32s_C3R, VEMI_DST(Vemi32s), drawChirp<C3>)
+VEMI_DEFINE(vemiImageJaehne_32s_C4R, VEMI_DST(Vemi32s), drawChirp<C4>)
+VEMI_DEFINE(vemiImageJaehne_32s_AC4R, VEMI_DST(Vemi32s), drawChirp<AC4>)
+VEMI_DEFINE(vemiImageJaehne_32f_C1R, VEMI_DST(Vemi32f), drawChirp<C1>)
+VEMI_DEFINE(vemiImageJaehne_32f_C3R, VEMI_DST(Vemi32f), drawChirp<C3>)
+VEMI_DEFINE(vemiImageJaehne_32f_C4R, VEMI_DST(Vemi32f), drawChirp<C4>)
+VEMI_DEFINE(vemiImageJaehne_32f_AC4R, VEMI_DST(Vemi32f), drawChirp<AC4>)

@@ -10,6 +10,7 @@
 
 #include "core/blocks.h"
 #include "core/checks.h"
+#include "core/exports.h"
 #include "core/float_control.h"
 #include "core/image.h"
 #include "core/map_row.h"
@@ -283,33 +284,32 @@ VemiStatus addNoise(Image<T> dst, VemiSize roiSize, T first, T second, Vemi32u* 
 using namespace vemi;
 using namespace vemi::generate;
 
-#define VEMI_NOISE(name, T, ...)                                                                     \
-  VemiStatus name(T* pSrcDst, int srcDstStep, VemiSize roiSize, T first, T second, Vemi32u* pSeed) { \
-    return __VA_ARGS__(Image<T>{pSrcDst, srcDstStep}, roiSize, first, second, pSeed);                \
-  }
+#define NOISE(T, first, second)                                                        \
+  ((T * pSrcDst, int srcDstStep, VemiSize roiSize, T first, T second, Vemi32u* pSeed), \
+   (Image<T>{pSrcDst, srcDstStep}, roiSize, first, second, pSeed))
 
-VEMI_NOISE(vemiAddRandUniform_Direct_8u_C1IR, Vemi8u, addNoise<UniformSource, C1>)
-VEMI_NOISE(vemiAddRandUniform_Direct_8u_C3IR, Vemi8u, addNoise<UniformSource, C3>)
-VEMI_NOISE(vemiAddRandUniform_Direct_8u_C4IR, Vemi8u, addNoise<UniformSource, C4>)
-VEMI_NOISE(vemiAddRandUniform_Direct_8u_AC4IR, Vemi8u, addNoise<UniformSource, AC4>)
-VEMI_NOISE(vemiAddRandUniform_Direct_16s_C1IR, Vemi16s, addNoise<UniformSource, C1>)
-VEMI_NOISE(vemiAddRandUniform_Direct_16s_C3IR, Vemi16s, addNoise<UniformSource, C3>)
-VEMI_NOISE(vemiAddRandUniform_Direct_16s_C4IR, Vemi16s, addNoise<UniformSource, C4>)
-VEMI_NOISE(vemiAddRandUniform_Direct_16s_AC4IR, Vemi16s, addNoise<UniformSource, AC4>)
-VEMI_NOISE(vemiAddRandUniform_Direct_32f_C1IR, Vemi32f, addNoise<UniformSource, C1>)
-VEMI_NOISE(vemiAddRandUniform_Direct_32f_C3IR, Vemi32f, addNoise<UniformSource, C3>)
-VEMI_NOISE(vemiAddRandUniform_Direct_32f_C4IR, Vemi32f, addNoise<UniformSource, C4>)
-VEMI_NOISE(vemiAddRandUniform_Direct_32f_AC4IR, Vemi32f, addNoise<UniformSource, AC4>)
+VEMI_DEFINE(vemiAddRandUniform_Direct_8u_C1IR, NOISE(Vemi8u, low, high), addNoise<UniformSource, C1>)
+VEMI_DEFINE(vemiAddRandUniform_Direct_8u_C3IR, NOISE(Vemi8u, low, high), addNoise<UniformSource, C3>)
+VEMI_DEFINE(vemiAddRandUniform_Direct_8u_C4IR, NOISE(Vemi8u, low, high), addNoise<UniformSource, C4>)
+VEMI_DEFINE(vemiAddRandUniform_Direct_8u_AC4IR, NOISE(Vemi8u, low, high), addNoise<UniformSource, AC4>)
+VEMI_DEFINE(vemiAddRandUniform_Direct_16s_C1IR, NOISE(Vemi16s, low, high), addNoise<UniformSource, C1>)
+VEMI_DEFINE(vemiAddRandUniform_Direct_16s_C3IR, NOISE(Vemi16s, low, high), addNoise<UniformSource, C3>)
+VEMI_DEFINE(vemiAddRandUniform_Direct_16s_C4IR, NOISE(Vemi16s, low, high), addNoise<UniformSource, C4>)
+VEMI_DEFINE(vemiAddRandUniform_Direct_16s_AC4IR, NOISE(Vemi16s, low, high), addNoise<UniformSource, AC4>)
+VEMI_DEFINE(vemiAddRandUniform_Direct_32f_C1IR, NOISE(Vemi32f, low, high), addNoise<UniformSource, C1>)
+VEMI_DEFINE(vemiAddRandUniform_Direct_32f_C3IR, NOISE(Vemi32f, low, high), addNoise<UniformSource, C3>)
+VEMI_DEFINE(vemiAddRandUniform_Direct_32f_C4IR, NOISE(Vemi32f, low, high), addNoise<UniformSource, C4>)
+VEMI_DEFINE(vemiAddRandUniform_Direct_32f_AC4IR, NOISE(Vemi32f, low, high), addNoise<UniformSource, AC4>)
 
-VEMI_NOISE(vemiAddRandGauss_Direct_8u_C1IR, Vemi8u, addNoise<GaussSource, C1>)
-VEMI_NOISE(vemiAddRandGauss_Direct_8u_C3IR, Vemi8u, addNoise<GaussSource, C3>)
-VEMI_NOISE(vemiAddRandGauss_Direct_8u_C4IR, Vemi8u, addNoise<GaussSource, C4>)
-VEMI_NOISE(vemiAddRandGauss_Direct_8u_AC4IR, Vemi8u, addNoise<GaussSource, AC4>)
-VEMI_NOISE(vemiAddRandGauss_Direct_16s_C1IR, Vemi16s, addNoise<GaussSource, C1>)
-VEMI_NOISE(vemiAddRandGauss_Direct_16s_C3IR, Vemi16s, addNoise<GaussSource, C3>)
-VEMI_NOISE(vemiAddRandGauss_Direct_16s_C4IR, Vemi16s, addNoise<GaussSource, C4>)
-VEMI_NOISE(vemiAddRandGauss_Direct_16s_AC4IR, Vemi16s, addNoise<GaussSource, AC4>)
-VEMI_NOISE(vemiAddRandGauss_Direct_32f_C1IR, Vemi32f, addNoise<GaussSource, C1>)
-VEMI_NOISE(vemiAddRandGauss_Direct_32f_C3IR, Vemi32f, addNoise<GaussSource, C3>)
-VEMI_NOISE(vemiAddRandGauss_Direct_32f_C4IR, Vemi32f, addNoise<GaussSource, C4>)
-VEMI_NOISE(vemiAddRandGauss_Direct_32f_AC4IR, Vemi32f, addNoise<GaussSource, AC4>)
+VEMI_DEFINE(vemiAddRandGauss_Direct_8u_C1IR, NOISE(Vemi8u, mean, stDev), addNoise<GaussSource, C1>)
+VEMI_DEFINE(vemiAddRandGauss_Direct_8u_C3IR, NOISE(Vemi8u, mean, stDev), addNoise<GaussSource, C3>)
+VEMI_DEFINE(vemiAddRandGauss_Direct_8u_C4IR, NOISE(Vemi8u, mean, stDev), addNoise<GaussSource, C4>)
+VEMI_DEFINE(vemiAddRandGauss_Direct_8u_AC4IR, NOISE(Vemi8u, mean, stDev), addNoise<GaussSource, AC4>)
+VEMI_DEFINE(vemiAddRandGauss_Direct_16s_C1IR, NOISE(Vemi16s, mean, stDev), addNoise<GaussSource, C1>)
+VEMI_DEFINE(vemiAddRandGauss_Direct_16s_C3IR, NOISE(Vemi16s, mean, stDev), addNoise<GaussSource, C3>)
+VEMI_DEFINE(vemiAddRandGauss_Direct_16s_C4IR, NOISE(Vemi16s, mean, stDev), addNoise<GaussSource, C4>)
+VEMI_DEFINE(vemiAddRandGauss_Direct_16s_AC4IR, NOISE(Vemi16s, mean, stDev), addNoise<GaussSource, AC4>)
+VEMI_DEFINE(vemiAddRandGauss_Direct_32f_C1IR, NOISE(Vemi32f, mean, stDev), addNoise<GaussSource, C1>)
+VEMI_DEFINE(vemiAddRandGauss_Direct_32f_C3IR, NOISE(Vemi32f, mean, stDev), addNoise<GaussSource, C3>)
+VEMI_DEFINE(vemiAddRandGauss_Direct_32f_C4IR, NOISE(Vemi32f, mean, stDev), addNoise<GaussSource, C4>)
+VEMI_DEFINE(vemiAddRandGauss_Direct_32f_AC4IR, NOISE(Vemi32f, mean, stDev), addNoise<GaussSource, AC4>)

@@ -6,6 +6,7 @@
 #include <type_traits>
 
 #include "core/checks.h"
+#include "core/exports.h"
 #include "core/image.h"
 #include "core/map_row.h"
 #include "core/rounding.h"
@@ -148,32 +149,29 @@ VemiStatus drawRamp(Image<T> dst, VemiSize roiSize, Ramp ramp, int axis) {
 using namespace vemi;
 using namespace vemi::generate;
 
-#define VEMI_RAMP(name, T, ...)                                                                      \
-  VemiStatus name(T* pDst, int dstStep, VemiSize roiSize, Vemi32f offset, Vemi32f slope, int axis) { \
-    return __VA_ARGS__(Image<T>{pDst, dstStep}, roiSize, Ramp{offset, slope}, axis);                 \
-  }
+#define RAMP ((Vemi32f offset, Vemi32f slope, int axis), (Ramp{offset, slope}, axis))
 
-VEMI_RAMP(vemiImageRamp_8u_C1R, Vemi8u, drawRamp<C1>)
-VEMI_RAMP(vemiImageRamp_8u_C3R, Vemi8u, drawRamp<C3>)
-VEMI_RAMP(vemiImageRamp_8u_C4R, Vemi8u, drawRamp<C4>)
-VEMI_RAMP(vemiImageRamp_8u_AC4R, Vemi8u, drawRamp<AC4>)
-VEMI_RAMP(vemiImageRamp_8s_C1R, Vemi8s, drawRamp<C1>)
-VEMI_RAMP(vemiImageRamp_8s_C3R, Vemi8s, drawRamp<C3>)
-VEMI_RAMP(vemiImageRamp_8s_C4R, Vemi8s, drawRamp<C4>)
-VEMI_RAMP(vemiImageRamp_8s_AC4R, Vemi8s, drawRamp<AC4>)
-VEMI_RAMP(vemiImageRamp_16u_C1R, Vemi16u, drawRamp<C1>)
-VEMI_RAMP(vemiImageRamp_16u_C3R, Vemi16u, drawRamp<C3>)
-VEMI_RAMP(vemiImageRamp_16u_C4R, Vemi16u, drawRamp<C4>)
-VEMI_RAMP(vemiImageRamp_16u_AC4R, Vemi16u, drawRamp<AC4>)
-VEMI_RAMP(vemiImageRamp_16s_C1R, Vemi16s, drawRamp<C1>)
-VEMI_RAMP(vemiImageRamp_16s_C3R, Vemi16s, drawRamp<C3>)
-VEMI_RAMP(vemiImageRamp_16s_C4R, Vemi16s, drawRamp<C4>)
-VEMI_RAMP(vemiImageRamp_16s_AC4R, Vemi16s, drawRamp<AC4>)
-VEMI_RAMP(vemiImageRamp_32s_C1R, Vemi32s, drawRamp<C1>)
-VEMI_RAMP(vemiImageRamp_32s_C3R, Vemi32s, drawRamp<C3>)
-VEMI_RAMP(vemiImageRamp_32s_C4R, Vemi32s, drawRamp<C4>)
-VEMI_RAMP(vemiImageRamp_32s_AC4R, Vemi32s, drawRamp<AC4>)
-VEMI_RAMP(vemiImageRamp_32f_C1R, Vemi32f, drawRamp<C1>)
-VEMI_RAMP(vemiImageRamp_32f_C3R, Vemi32f, drawRamp<C3>)
-VEMI_RAMP(vemiImageRamp_32f_C4R, Vemi32f, drawRamp<C4>)
-VEMI_RAMP(vemiImageRamp_32f_AC4R, Vemi32f, drawRamp<AC4>)
+VEMI_DEFINE(vemiImageRamp_8u_C1R, VEMI_DST(Vemi8u, RAMP), drawRamp<C1>)
+VEMI_DEFINE(vemiImageRamp_8u_C3R, VEMI_DST(Vemi8u, RAMP), drawRamp<C3>)
+VEMI_DEFINE(vemiImageRamp_8u_C4R, VEMI_DST(Vemi8u, RAMP), drawRamp<C4>)
+VEMI_DEFINE(vemiImageRamp_8u_AC4R, VEMI_DST(Vemi8u, RAMP), drawRamp<AC4>)
+VEMI_DEFINE(vemiImageRamp_8s_C1R, VEMI_DST(Vemi8s, RAMP), drawRamp<C1>)
+VEMI_DEFINE(vemiImageRamp_8s_C3R, VEMI_DST(Vemi8s, RAMP), drawRamp<C3>)
+VEMI_DEFINE(vemiImageRamp_8s_C4R, VEMI_DST(Vemi8s, RAMP), drawRamp<C4>)
+VEMI_DEFINE(vemiImageRamp_8s_AC4R, VEMI_DST(Vemi8s, RAMP), drawRamp<AC4>)
+VEMI_DEFINE(vemiImageRamp_16u_C1R, VEMI_DST(Vemi16u, RAMP), drawRamp<C1>)
+VEMI_DEFINE(vemiImageRamp_16u_C3R, VEMI_DST(Vemi16u, RAMP), drawRamp<C3>)
+VEMI_DEFINE(vemiImageRamp_16u_C4R, VEMI_DST(Vemi16u, RAMP), drawRamp<C4>)
+VEMI_DEFINE(vemiImageRamp_16u_AC4R, VEMI_DST(Vemi16u, RAMP), drawRamp<AC4>)
+VEMI_DEFINE(vemiImageRamp_16s_C1R, VEMI_DST(Vemi16s, RAMP), drawRamp<C1>)
+VEMI_DEFINE(vemiImageRamp_16s_C3R, VEMI_DST(Vemi16s, RAMP), drawRamp<C3>)
+VEMI_DEFINE(vemiImageRamp_16s_C4R, VEMI_DST(Vemi16s, RAMP), drawRamp<C4>)
+VEMI_DEFINE(vemiImageRamp_16s_AC4R, VEMI_DST(Vemi16s, RAMP), drawRamp<AC4>)
+VEMI_DEFINE(vemiImageRamp_32s_C1R, VEMI_DST(Vemi32s, RAMP), drawRamp<C1>)
+VEMI_DEFINE(vemiImageRamp_32s_C3R, VEMI_DST(Vemi32s, RAMP), drawRamp<C3>)
+VEMI_DEFINE(vemiImageRamp_32s_C4R, VEMI_DST(Vemi32s, RAMP), drawRamp<C4>)
+VEMI_DEFINE(vemiImageRamp_32s_AC4R, VEMI_DST(Vemi32s, RAMP), drawRamp<AC4>)
+VEMI_DEFINE(vemiImageRamp_32f_C1R, VEMI_DST(Vemi32f, RAMP), drawRamp<C1>)
+VEMI_DEFINE(vemiImageRamp_32f_C3R, VEMI_DST(Vemi32f, RAMP), drawRamp<C3>)
+VEMI_DEFINE(vemiImageRamp_32f_C4R, VEMI_DST(Vemi32f, RAMP), drawRamp<C4>)
+VEMI_DEFINE(vemiImageRamp_32f_AC4R, VEMI_DST(Vemi32f, RAMP), drawRamp<AC4>)

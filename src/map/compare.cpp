@@ -188,58 +188,46 @@ VemiStatus compareEqualEpsC(Image<const Vemi32f> src, const Vemi32f* value, Imag
 using namespace vemi;
 using namespace vemi::map;
 
-// A map of bytes out of two sources, or of a source and a constant, by an operator or a tolerance.
-#define VEMI_2SRC_MAP(name, T, By, ...)                                                                                \
-  VemiStatus name(const T* pSrc1, int src1Step, const T* pSrc2, int src2Step, Vemi8u* pDst, int dstStep,               \
-                  VemiSize roiSize, By by) {                                                                           \
-    return __VA_ARGS__(Image<const T>{pSrc1, src1Step}, Image<const T>{pSrc2, src2Step}, Image<Vemi8u>{pDst, dstStep}, \
-                       roiSize, by);                                                                                   \
-  }
-#define VEMI_SRC_VALUE_MAP(name, T, By, ...)                                                                 \
-  VemiStatus name(const T* pSrc, int srcStep, T value, Vemi8u* pDst, int dstStep, VemiSize roiSize, By by) { \
-    return __VA_ARGS__(Image<const T>{pSrc, srcStep}, &value, Image<Vemi8u>{pDst, dstStep}, roiSize, by);    \
-  }
-#define VEMI_SRC_VALUES_MAP(name, T, By, ...)                                                                       \
-  VemiStatus name(const T* pSrc, int srcStep, const T* value, Vemi8u* pDst, int dstStep, VemiSize roiSize, By by) { \
-    return __VA_ARGS__(Image<const T>{pSrc, srcStep}, value, Image<Vemi8u>{pDst, dstStep}, roiSize, by);            \
-  }
+#define CMP_OP ((vemiCmpOp cmpOp), (cmpOp))
+#define EPS ((Vemi32f eps), (eps))
 
-VEMI_2SRC_MAP(vemiCompare_8u_C1R, Vemi8u, vemiCmpOp, compare<C1>)
-VEMI_2SRC_MAP(vemiCompare_8u_C3R, Vemi8u, vemiCmpOp, compare<C3>)
-VEMI_2SRC_MAP(vemiCompare_8u_C4R, Vemi8u, vemiCmpOp, compare<C4>)
-VEMI_2SRC_MAP(vemiCompare_8u_AC4R, Vemi8u, vemiCmpOp, compare<AC4>)
+VEMI_DEFINE(vemiCompare_8u_C1R, VEMI_2SRC_CONVERSION(Vemi8u, Vemi8u, CMP_OP), compare<C1>)
+VEMI_DEFINE(vemiCompare_8u_C3R, VEMI_2SRC_CONVERSION(Vemi8u, Vemi8u, CMP_OP), compare<C3>)
+VEMI_DEFINE(vemiCompare_8u_C4R, VEMI_2SRC_CONVERSION(Vemi8u, Vemi8u, CMP_OP), compare<C4>)
+VEMI_DEFINE(vemiCompare_8u_AC4R, VEMI_2SRC_CONVERSION(Vemi8u, Vemi8u, CMP_OP), compare<AC4>)
 
-VEMI_2SRC_MAP(vemiCompare_16s_C1R, Vemi16s, vemiCmpOp, compare<C1>)
-VEMI_2SRC_MAP(vemiCompare_16s_C3R, Vemi16s, vemiCmpOp, compare<C3>)
-VEMI_2SRC_MAP(vemiCompare_16s_C4R, Vemi16s, vemiCmpOp, compare<C4>)
-VEMI_2SRC_MAP(vemiCompare_16s_AC4R, Vemi16s, vemiCmpOp, compare<AC4>)
+VEMI_DEFINE(vemiCompare_16s_C1R, VEMI_2SRC_CONVERSION(Vemi16s, Vemi8u, CMP_OP), compare<C1>)
+VEMI_DEFINE(vemiCompare_16s_C3R, VEMI_2SRC_CONVERSION(Vemi16s, Vemi8u, CMP_OP), compare<C3>)
+VEMI_DEFINE(vemiCompare_16s_C4R, VEMI_2SRC_CONVERSION(Vemi16s, Vemi8u, CMP_OP), compare<C4>)
+VEMI_DEFINE(vemiCompare_16s_AC4R, VEMI_2SRC_CONVERSION(Vemi16s, Vemi8u, CMP_OP), compare<AC4>)
 
-VEMI_2SRC_MAP(vemiCompare_32f_C1R, Vemi32f, vemiCmpOp, compare<C1>)
-VEMI_2SRC_MAP(vemiCompare_32f_C3R, Vemi32f, vemiCmpOp, compare<C3>)
-VEMI_2SRC_MAP(vemiCompare_32f_C4R, Vemi32f, vemiCmpOp, compare<C4>)
-VEMI_2SRC_MAP(vemiCompare_32f_AC4R, Vemi32f, vemiCmpOp, compare<AC4>)
+VEMI_DEFINE(vemiCompare_32f_C1R, VEMI_2SRC_CONVERSION(Vemi32f, Vemi8u, CMP_OP), compare<C1>)
+VEMI_DEFINE(vemiCompare_32f_C3R, VEMI_2SRC_CONVERSION(Vemi32f, Vemi8u, CMP_OP), compare<C3>)
+VEMI_DEFINE(vemiCompare_32f_C4R, VEMI_2SRC_CONVERSION(Vemi32f, Vemi8u, CMP_OP), compare<C4>)
+VEMI_DEFINE(vemiCompare_32f_AC4R, VEMI_2SRC_CONVERSION(Vemi32f, Vemi8u, CMP_OP), compare<AC4>)
 
-VEMI_SRC_VALUE_MAP(vemiCompareC_8u_C1R, Vemi8u, vemiCmpOp, compareC<C1>)
-VEMI_SRC_VALUES_MAP(vemiCompareC_8u_C3R, Vemi8u, vemiCmpOp, compareC<C3>)
-VEMI_SRC_VALUES_MAP(vemiCompareC_8u_C4R, Vemi8u, vemiCmpOp, compareC<C4>)
-VEMI_SRC_VALUES_MAP(vemiCompareC_8u_AC4R, Vemi8u, vemiCmpOp, compareC<AC4>)
+VEMI_DEFINE(vemiCompareC_8u_C1R, VEMI_CONVERSION_C(Vemi8u, Vemi8u, Vemi8u, CMP_OP), compareC<C1>)
+VEMI_DEFINE(vemiCompareC_8u_C3R, VEMI_CONVERSION_C(Vemi8u, Vemi8u, const Vemi8u*, CMP_OP), compareC<C3>)
+VEMI_DEFINE(vemiCompareC_8u_C4R, VEMI_CONVERSION_C(Vemi8u, Vemi8u, const Vemi8u*, CMP_OP), compareC<C4>)
+VEMI_DEFINE(vemiCompareC_8u_AC4R, VEMI_CONVERSION_C(Vemi8u, Vemi8u, const Vemi8u*, CMP_OP), compareC<AC4>)
 
-VEMI_SRC_VALUE_MAP(vemiCompareC_16s_C1R, Vemi16s, vemiCmpOp, compareC<C1>)
-VEMI_SRC_VALUES_MAP(vemiCompareC_16s_C3R, Vemi16s, vemiCmpOp, compareC<C3>)
-VEMI_SRC_VALUES_MAP(vemiCompareC_16s_C4R, Vemi16s, vemiCmpOp, compareC<C4>)
-VEMI_SRC_VALUES_MAP(vemiCompareC_16s_AC4R, Vemi16s, vemiCmpOp, compareC<AC4>)
+VEMI_DEFINE(vemiCompareC_16s_C1R, VEMI_CONVERSION_C(Vemi16s, Vemi8u, Vemi16s, CMP_OP), compareC<C1>)
+VEMI_DEFINE(vemiCompareC_16s_C3R, VEMI_CONVERSION_C(Vemi16s, Vemi8u, const Vemi16s*, CMP_OP), compareC<C3>)
+VEMI_DEFINE(vemiCompareC_16s_C4R, VEMI_CONVERSION_C(Vemi16s, Vemi8u, const Vemi16s*, CMP_OP), compareC<C4>)
+VEMI_DEFINE(vemiCompareC_16s_AC4R, VEMI_CONVERSION_C(Vemi16s, Vemi8u, const Vemi16s*, CMP_OP), compareC<AC4>)
 
-VEMI_SRC_VALUE_MAP(vemiCompareC_32f_C1R, Vemi32f, vemiCmpOp, compareC<C1>)
-VEMI_SRC_VALUES_MAP(vemiCompareC_32f_C3R, Vemi32f, vemiCmpOp, compareC<C3>)
-VEMI_SRC_VALUES_MAP(vemiCompareC_32f_C4R, Vemi32f, vemiCmpOp, compareC<C4>)
-VEMI_SRC_VALUES_MAP(vemiCompareC_32f_AC4R, Vemi32f, vemiCmpOp, compareC<AC4>)
+VEMI_DEFINE(vemiCompareC_32f_C1R, VEMI_CONVERSION_C(Vemi32f, Vemi8u, Vemi32f, CMP_OP), compareC<C1>)
+VEMI_DEFINE(vemiCompareC_32f_C3R, VEMI_CONVERSION_C(Vemi32f, Vemi8u, const Vemi32f*, CMP_OP), compareC<C3>)
+VEMI_DEFINE(vemiCompareC_32f_C4R, VEMI_CONVERSION_C(Vemi32f, Vemi8u, const Vemi32f*, CMP_OP), compareC<C4>)
+VEMI_DEFINE(vemiCompareC_32f_AC4R, VEMI_CONVERSION_C(Vemi32f, Vemi8u, const Vemi32f*, CMP_OP), compareC<AC4>)
 
-VEMI_2SRC_MAP(vemiCompareEqualEps_32f_C1R, Vemi32f, Vemi32f, compareEqualEps<C1>)
-VEMI_2SRC_MAP(vemiCompareEqualEps_32f_C3R, Vemi32f, Vemi32f, compareEqualEps<C3>)
-VEMI_2SRC_MAP(vemiCompareEqualEps_32f_C4R, Vemi32f, Vemi32f, compareEqualEps<C4>)
-VEMI_2SRC_MAP(vemiCompareEqualEps_32f_AC4R, Vemi32f, Vemi32f, compareEqualEps<AC4>)
+VEMI_DEFINE(vemiCompareEqualEps_32f_C1R, VEMI_2SRC_CONVERSION(Vemi32f, Vemi8u, EPS), compareEqualEps<C1>)
+VEMI_DEFINE(vemiCompareEqualEps_32f_C3R, VEMI_2SRC_CONVERSION(Vemi32f, Vemi8u, EPS), compareEqualEps<C3>)
+VEMI_DEFINE(vemiCompareEqualEps_32f_C4R, VEMI_2SRC_CONVERSION(Vemi32f, Vemi8u, EPS), compareEqualEps<C4>)
+VEMI_DEFINE(vemiCompareEqualEps_32f_AC4R, VEMI_2SRC_CONVERSION(Vemi32f, Vemi8u, EPS), compareEqualEps<AC4>)
 
-VEMI_SRC_VALUE_MAP(vemiCompareEqualEpsC_32f_C1R, Vemi32f, Vemi32f, compareEqualEpsC<C1>)
-VEMI_SRC_VALUES_MAP(vemiCompareEqualEpsC_32f_C3R, Vemi32f, Vemi32f, compareEqualEpsC<C3>)
-VEMI_SRC_VALUES_MAP(vemiCompareEqualEpsC_32f_C4R, Vemi32f, Vemi32f, compareEqualEpsC<C4>)
-VEMI_SRC_VALUES_MAP(vemiCompareEqualEpsC_32f_AC4R, Vemi32f, Vemi32f, compareEqualEpsC<AC4>)
+VEMI_DEFINE(vemiCompareEqualEpsC_32f_C1R, VEMI_CONVERSION_C(Vemi32f, Vemi8u, Vemi32f, EPS), compareEqualEpsC<C1>)
+VEMI_DEFINE(vemiCompareEqualEpsC_32f_C3R, VEMI_CONVERSION_C(Vemi32f, Vemi8u, const Vemi32f*, EPS), compareEqualEpsC<C3>)
+VEMI_DEFINE(vemiCompareEqualEpsC_32f_C4R, VEMI_CONVERSION_C(Vemi32f, Vemi8u, const Vemi32f*, EPS), compareEqualEpsC<C4>)
+VEMI_DEFINE(vemiCompareEqualEpsC_32f_AC4R, VEMI_CONVERSION_C(Vemi32f, Vemi8u, const Vemi32f*, EPS),
+            compareEqualEpsC<AC4>)

@@ -229,58 +229,44 @@ VemiStatus gamma32f(Src src, Dst dst, VemiSize roiSize, Vemi32f vMin, Vemi32f vM
 using namespace vemi;
 using namespace vemi::map;
 
-// With the values of black and white behind the region.
-#define VEMI_SRC_DST_RANGE(name, T, ...) VEMI_SRC_DST_AND(name, T, (T vMin, T vMax), (vMin, vMax), __VA_ARGS__)
-#define VEMI_SRCDST_RANGE(name, T, ...) VEMI_SRCDST_AND(name, T, (T vMin, T vMax), (vMin, vMax), __VA_ARGS__)
-#define VEMI_PLANES_PLANES_RANGE(name, T, planes, ...)                                                                 \
-  VemiStatus name(const T* const pSrc[planes], int srcStep, T* const pDst[planes], int dstStep, VemiSize roiSize,      \
-                  T vMin, T vMax) {                                                                                    \
-    return __VA_ARGS__(Planes<const T, planes>{pSrc, srcStep}, Planes<T, planes>{pDst, dstStep}, roiSize, vMin, vMax); \
-  }
-#define VEMI_PLANES_SRCDST_RANGE(name, T, planes, ...)                                                                \
-  VemiStatus name(T* const pSrcDst[planes], int srcDstStep, VemiSize roiSize, T vMin, T vMax) {                       \
-    return __VA_ARGS__(Planes<const T, planes>{pSrcDst, srcDstStep}, Planes<T, planes>{pSrcDst, srcDstStep}, roiSize, \
-                       vMin, vMax);                                                                                   \
-  }
+VEMI_DEFINE(vemiGammaFwd_8u_C3R, VEMI_SRC_DST(Vemi8u), gamma8u<Forward, C3>)
+VEMI_DEFINE(vemiGammaFwd_8u_AC4R, VEMI_SRC_DST(Vemi8u), gamma8u<Forward, AC4>)
+VEMI_DEFINE(vemiGammaFwd_8u_P3R, VEMI_PLANES_PLANES(Vemi8u, 3), gamma8u<Forward, C1>)
+VEMI_DEFINE(vemiGammaFwd_8u_C3IR, VEMI_SRCDST(Vemi8u), gamma8u<Forward, C3>)
+VEMI_DEFINE(vemiGammaFwd_8u_AC4IR, VEMI_SRCDST(Vemi8u), gamma8u<Forward, AC4>)
+VEMI_DEFINE(vemiGammaFwd_8u_IP3R, VEMI_PLANES_SRCDST(Vemi8u, 3), gamma8u<Forward, C1>)
 
-VEMI_SRC_DST(vemiGammaFwd_8u_C3R, Vemi8u, gamma8u<Forward, C3>)
-VEMI_SRC_DST(vemiGammaFwd_8u_AC4R, Vemi8u, gamma8u<Forward, AC4>)
-VEMI_PLANES_PLANES(vemiGammaFwd_8u_P3R, Vemi8u, 3, gamma8u<Forward, C1>)
-VEMI_SRCDST(vemiGammaFwd_8u_C3IR, Vemi8u, gamma8u<Forward, C3>)
-VEMI_SRCDST(vemiGammaFwd_8u_AC4IR, Vemi8u, gamma8u<Forward, AC4>)
-VEMI_PLANES_SRCDST(vemiGammaFwd_8u_IP3R, Vemi8u, 3, gamma8u<Forward, C1>)
+VEMI_DEFINE(vemiGammaFwd_16u_C3R, VEMI_SRC_DST(Vemi16u), gamma16u<Forward, C3>)
+VEMI_DEFINE(vemiGammaFwd_16u_AC4R, VEMI_SRC_DST(Vemi16u), gamma16u<Forward, AC4>)
+VEMI_DEFINE(vemiGammaFwd_16u_P3R, VEMI_PLANES_PLANES(Vemi16u, 3), gamma16u<Forward, C1>)
+VEMI_DEFINE(vemiGammaFwd_16u_C3IR, VEMI_SRCDST(Vemi16u), gamma16u<Forward, C3>)
+VEMI_DEFINE(vemiGammaFwd_16u_AC4IR, VEMI_SRCDST(Vemi16u), gamma16u<Forward, AC4>)
+VEMI_DEFINE(vemiGammaFwd_16u_IP3R, VEMI_PLANES_SRCDST(Vemi16u, 3), gamma16u<Forward, C1>)
 
-VEMI_SRC_DST(vemiGammaFwd_16u_C3R, Vemi16u, gamma16u<Forward, C3>)
-VEMI_SRC_DST(vemiGammaFwd_16u_AC4R, Vemi16u, gamma16u<Forward, AC4>)
-VEMI_PLANES_PLANES(vemiGammaFwd_16u_P3R, Vemi16u, 3, gamma16u<Forward, C1>)
-VEMI_SRCDST(vemiGammaFwd_16u_C3IR, Vemi16u, gamma16u<Forward, C3>)
-VEMI_SRCDST(vemiGammaFwd_16u_AC4IR, Vemi16u, gamma16u<Forward, AC4>)
-VEMI_PLANES_SRCDST(vemiGammaFwd_16u_IP3R, Vemi16u, 3, gamma16u<Forward, C1>)
+VEMI_DEFINE(vemiGammaFwd_32f_C3R, VEMI_SRC_DST(Vemi32f, VEMI_RANGE), gamma32f<Forward, C3>)
+VEMI_DEFINE(vemiGammaFwd_32f_AC4R, VEMI_SRC_DST(Vemi32f, VEMI_RANGE), gamma32f<Forward, AC4>)
+VEMI_DEFINE(vemiGammaFwd_32f_P3R, VEMI_PLANES_PLANES(Vemi32f, 3, VEMI_RANGE), gamma32f<Forward, C1>)
+VEMI_DEFINE(vemiGammaFwd_32f_C3IR, VEMI_SRCDST(Vemi32f, VEMI_RANGE), gamma32f<Forward, C3>)
+VEMI_DEFINE(vemiGammaFwd_32f_AC4IR, VEMI_SRCDST(Vemi32f, VEMI_RANGE), gamma32f<Forward, AC4>)
+VEMI_DEFINE(vemiGammaFwd_32f_IP3R, VEMI_PLANES_SRCDST(Vemi32f, 3, VEMI_RANGE), gamma32f<Forward, C1>)
 
-VEMI_SRC_DST_RANGE(vemiGammaFwd_32f_C3R, Vemi32f, gamma32f<Forward, C3>)
-VEMI_SRC_DST_RANGE(vemiGammaFwd_32f_AC4R, Vemi32f, gamma32f<Forward, AC4>)
-VEMI_PLANES_PLANES_RANGE(vemiGammaFwd_32f_P3R, Vemi32f, 3, gamma32f<Forward, C1>)
-VEMI_SRCDST_RANGE(vemiGammaFwd_32f_C3IR, Vemi32f, gamma32f<Forward, C3>)
-VEMI_SRCDST_RANGE(vemiGammaFwd_32f_AC4IR, Vemi32f, gamma32f<Forward, AC4>)
-VEMI_PLANES_SRCDST_RANGE(vemiGammaFwd_32f_IP3R, Vemi32f, 3, gamma32f<Forward, C1>)
+VEMI_DEFINE(vemiGammaInv_8u_C3R, VEMI_SRC_DST(Vemi8u), gamma8u<Inverse, C3>)
+VEMI_DEFINE(vemiGammaInv_8u_AC4R, VEMI_SRC_DST(Vemi8u), gamma8u<Inverse, AC4>)
+VEMI_DEFINE(vemiGammaInv_8u_P3R, VEMI_PLANES_PLANES(Vemi8u, 3), gamma8u<Inverse, C1>)
+VEMI_DEFINE(vemiGammaInv_8u_C3IR, VEMI_SRCDST(Vemi8u), gamma8u<Inverse, C3>)
+VEMI_DEFINE(vemiGammaInv_8u_AC4IR, VEMI_SRCDST(Vemi8u), gamma8u<Inverse, AC4>)
+VEMI_DEFINE(vemiGammaInv_8u_IP3R, VEMI_PLANES_SRCDST(Vemi8u, 3), gamma8u<Inverse, C1>)
 
-VEMI_SRC_DST(vemiGammaInv_8u_C3R, Vemi8u, gamma8u<Inverse, C3>)
-VEMI_SRC_DST(vemiGammaInv_8u_AC4R, Vemi8u, gamma8u<Inverse, AC4>)
-VEMI_PLANES_PLANES(vemiGammaInv_8u_P3R, Vemi8u, 3, gamma8u<Inverse, C1>)
-VEMI_SRCDST(vemiGammaInv_8u_C3IR, Vemi8u, gamma8u<Inverse, C3>)
-VEMI_SRCDST(vemiGammaInv_8u_AC4IR, Vemi8u, gamma8u<Inverse, AC4>)
-VEMI_PLANES_SRCDST(vemiGammaInv_8u_IP3R, Vemi8u, 3, gamma8u<Inverse, C1>)
+VEMI_DEFINE(vemiGammaInv_16u_C3R, VEMI_SRC_DST(Vemi16u), gamma16u<Inverse, C3>)
+VEMI_DEFINE(vemiGammaInv_16u_AC4R, VEMI_SRC_DST(Vemi16u), gamma16u<Inverse, AC4>)
+VEMI_DEFINE(vemiGammaInv_16u_P3R, VEMI_PLANES_PLANES(Vemi16u, 3), gamma16u<Inverse, C1>)
+VEMI_DEFINE(vemiGammaInv_16u_C3IR, VEMI_SRCDST(Vemi16u), gamma16u<Inverse, C3>)
+VEMI_DEFINE(vemiGammaInv_16u_AC4IR, VEMI_SRCDST(Vemi16u), gamma16u<Inverse, AC4>)
+VEMI_DEFINE(vemiGammaInv_16u_IP3R, VEMI_PLANES_SRCDST(Vemi16u, 3), gamma16u<Inverse, C1>)
 
-VEMI_SRC_DST(vemiGammaInv_16u_C3R, Vemi16u, gamma16u<Inverse, C3>)
-VEMI_SRC_DST(vemiGammaInv_16u_AC4R, Vemi16u, gamma16u<Inverse, AC4>)
-VEMI_PLANES_PLANES(vemiGammaInv_16u_P3R, Vemi16u, 3, gamma16u<Inverse, C1>)
-VEMI_SRCDST(vemiGammaInv_16u_C3IR, Vemi16u, gamma16u<Inverse, C3>)
-VEMI_SRCDST(vemiGammaInv_16u_AC4IR, Vemi16u, gamma16u<Inverse, AC4>)
-VEMI_PLANES_SRCDST(vemiGammaInv_16u_IP3R, Vemi16u, 3, gamma16u<Inverse, C1>)
-
-VEMI_SRC_DST_RANGE(vemiGammaInv_32f_C3R, Vemi32f, gamma32f<Inverse, C3>)
-VEMI_SRC_DST_RANGE(vemiGammaInv_32f_AC4R, Vemi32f, gamma32f<Inverse, AC4>)
-VEMI_PLANES_PLANES_RANGE(vemiGammaInv_32f_P3R, Vemi32f, 3, gamma32f<Inverse, C1>)
-VEMI_SRCDST_RANGE(vemiGammaInv_32f_C3IR, Vemi32f, gamma32f<Inverse, C3>)
-VEMI_SRCDST_RANGE(vemiGammaInv_32f_AC4IR, Vemi32f, gamma32f<Inverse, AC4>)
-VEMI_PLANES_SRCDST_RANGE(vemiGammaInv_32f_IP3R, Vemi32f, 3, gamma32f<Inverse, C1>)
+VEMI_DEFINE(vemiGammaInv_32f_C3R, VEMI_SRC_DST(Vemi32f, VEMI_RANGE), gamma32f<Inverse, C3>)
+VEMI_DEFINE(vemiGammaInv_32f_AC4R, VEMI_SRC_DST(Vemi32f, VEMI_RANGE), gamma32f<Inverse, AC4>)
+VEMI_DEFINE(vemiGammaInv_32f_P3R, VEMI_PLANES_PLANES(Vemi32f, 3, VEMI_RANGE), gamma32f<Inverse, C1>)
+VEMI_DEFINE(vemiGammaInv_32f_C3IR, VEMI_SRCDST(Vemi32f, VEMI_RANGE), gamma32f<Inverse, C3>)
+VEMI_DEFINE(vemiGammaInv_32f_AC4IR, VEMI_SRCDST(Vemi32f, VEMI_RANGE), gamma32f<Inverse, AC4>)
+VEMI_DEFINE(vemiGammaInv_32f_IP3R, VEMI_PLANES_SRCDST(Vemi32f, 3, VEMI_RANGE), gamma32f<Inverse, C1>)

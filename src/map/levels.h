@@ -89,10 +89,8 @@ Cubic cubicOf(const Levels<V>& levels, int interval) {
 }  // namespace vemi::map
 
 // Levels with their values behind the region: one list of them, or one for each channel.
-#define VEMI_SRC_DST_LEVELS(name, T, V, ...)                                   \
-  VEMI_SRC_DST_AND(name, T, (const V* pValues, const V* pLevels, int nLevels), \
-                   (LevelLists<V>{&pValues, &pLevels, &nLevels}), __VA_ARGS__)
-#define VEMI_SRC_DST_CHANNEL_LEVELS(name, T, V, channels, ...)                                                        \
-  VEMI_SRC_DST_AND(name, T,                                                                                           \
-                   (const V* const pValues[channels], const V* const pLevels[channels], const int nLevels[channels]), \
-                   (LevelLists<V>{pValues, pLevels, nLevels}), __VA_ARGS__)
+#define VEMI_LEVELS(V) \
+  ((const V* pValues, const V* pLevels, int nLevels), (LevelLists<V>{&pValues, &pLevels, &nLevels}))
+#define VEMI_CHANNEL_LEVELS(V, channels)                                                              \
+  ((const V* const pValues[channels], const V* const pLevels[channels], const int nLevels[channels]), \
+   (LevelLists<V>{pValues, pLevels, nLevels}))

@@ -156,17 +156,17 @@ VemiStatus cubics(Image<const Vemi32f> src, Image<Vemi32f> dst, VemiSize roiSize
 using namespace vemi;
 using namespace vemi::map;
 
-VEMI_SRC_DST_LEVELS(vemiLUT_32f_C1R, Vemi32f, Vemi32f, steps<C1>)
-VEMI_SRC_DST_CHANNEL_LEVELS(vemiLUT_32f_C3R, Vemi32f, Vemi32f, 3, steps<C3>)
-VEMI_SRC_DST_CHANNEL_LEVELS(vemiLUT_32f_C4R, Vemi32f, Vemi32f, 4, steps<C4>)
-VEMI_SRC_DST_CHANNEL_LEVELS(vemiLUT_32f_AC4R, Vemi32f, Vemi32f, 3, steps<AC4>)
+VEMI_DEFINE(vemiLUT_32f_C1R, VEMI_SRC_DST(Vemi32f, VEMI_LEVELS(Vemi32f)), steps<C1>)
+VEMI_DEFINE(vemiLUT_32f_C3R, VEMI_SRC_DST(Vemi32f, VEMI_CHANNEL_LEVELS(Vemi32f, 3)), steps<C3>)
+VEMI_DEFINE(vemiLUT_32f_C4R, VEMI_SRC_DST(Vemi32f, VEMI_CHANNEL_LEVELS(Vemi32f, 4)), steps<C4>)
+VEMI_DEFINE(vemiLUT_32f_AC4R, VEMI_SRC_DST(Vemi32f, VEMI_CHANNEL_LEVELS(Vemi32f, 3)), steps<AC4>)
 
-VEMI_SRC_DST_LEVELS(vemiLUT_Linear_32f_C1R, Vemi32f, Vemi32f, lines<C1>)
-VEMI_SRC_DST_CHANNEL_LEVELS(vemiLUT_Linear_32f_C3R, Vemi32f, Vemi32f, 3, lines<C3>)
-VEMI_SRC_DST_CHANNEL_LEVELS(vemiLUT_Linear_32f_C4R, Vemi32f, Vemi32f, 4, lines<C4>)
-VEMI_SRC_DST_CHANNEL_LEVELS(vemiLUT_Linear_32f_AC4R, Vemi32f, Vemi32f, 3, lines<AC4>)
+VEMI_DEFINE(vemiLUT_Linear_32f_C1R, VEMI_SRC_DST(Vemi32f, VEMI_LEVELS(Vemi32f)), lines<C1>)
+VEMI_DEFINE(vemiLUT_Linear_32f_C3R, VEMI_SRC_DST(Vemi32f, VEMI_CHANNEL_LEVELS(Vemi32f, 3)), lines<C3>)
+VEMI_DEFINE(vemiLUT_Linear_32f_C4R, VEMI_SRC_DST(Vemi32f, VEMI_CHANNEL_LEVELS(Vemi32f, 4)), lines<C4>)
+VEMI_DEFINE(vemiLUT_Linear_32f_AC4R, VEMI_SRC_DST(Vemi32f, VEMI_CHANNEL_LEVELS(Vemi32f, 3)), lines<AC4>)
 
-VEMI_SRC_DST_LEVELS(vemiLUT_Cubic_32f_C1R, Vemi32f, Vemi32f, cubics<C1>)
-VEMI_SRC_DST_CHANNEL_LEVELS(vemiLUT_Cubic_32f_C3R, Vemi32f, Vemi32f, 3, cubics<C3>)
-VEMI_SRC_DST_CHANNEL_LEVELS(vemiLUT_Cubic_32f_C4R, Vemi32f, Vemi32f, 4, cubics<C4>)
-VEMI_SRC_DST_CHANNEL_LEVELS(vemiLUT_Cubic_32f_AC4R, Vemi32f, Vemi32f, 3, cubics<AC4>)
+VEMI_DEFINE(vemiLUT_Cubic_32f_C1R, VEMI_SRC_DST(Vemi32f, VEMI_LEVELS(Vemi32f)), cubics<C1>)
+VEMI_DEFINE(vemiLUT_Cubic_32f_C3R, VEMI_SRC_DST(Vemi32f, VEMI_CHANNEL_LEVELS(Vemi32f, 3)), cubics<C3>)
+VEMI_DEFINE(vemiLUT_Cubic_32f_C4R, VEMI_SRC_DST(Vemi32f, VEMI_CHANNEL_LEVELS(Vemi32f, 4)), cubics<C4>)
+VEMI_DEFINE(vemiLUT_Cubic_32f_AC4R, VEMI_SRC_DST(Vemi32f, VEMI_CHANNEL_LEVELS(Vemi32f, 3)), cubics<AC4>)

@@ -5,6 +5,7 @@
 
 #include "core/blocks.h"
 #include "core/checks.h"
+#include "core/exports.h"
 #include "core/image.h"
 #include "vemi/map.h"
 
@@ -45,13 +46,10 @@ VemiStatus palette(Image<const S> src, Image<T> dst, VemiSize roiSize, const T* 
 using namespace vemi;
 using namespace vemi::map;
 
-#define VEMI_PALETTE(name, S, T, ...)                                                                                  \
-  VemiStatus name(const S* pSrc, int srcStep, T* pDst, int dstStep, VemiSize roiSize, const T* pTable, int nBitSize) { \
-    return __VA_ARGS__(Image<const S>{pSrc, srcStep}, Image<T>{pDst, dstStep}, roiSize, pTable, nBitSize);             \
-  }
+#define PALETTE(T) ((const T* pTable, int nBitSize), (pTable, nBitSize))
 
-VEMI_PALETTE(vemiLUTPalette_8u24u_C1R, Vemi8u, Vemi8u, palette<C3>)
-VEMI_PALETTE(vemiLUTPalette_8u32u_C1R, Vemi8u, Vemi32u, palette<C1>)
-VEMI_PALETTE(vemiLUTPalette_16u8u_C1R, Vemi16u, Vemi8u, palette<C1>)
-VEMI_PALETTE(vemiLUTPalette_16u24u_C1R, Vemi16u, Vemi8u, palette<C3>)
-VEMI_PALETTE(vemiLUTPalette_16u32u_C1R, Vemi16u, Vemi32u, palette<C1>)
+VEMI_DEFINE(vemiLUTPalette_8u24u_C1R, VEMI_CONVERSION(Vemi8u, Vemi8u, PALETTE(Vemi8u)), palette<C3>)
+VEMI_DEFINE(vemiLUTPalette_8u32u_C1R, VEMI_CONVERSION(Vemi8u, Vemi32u, PALETTE(Vemi32u)), palette<C1>)
+VEMI_DEFINE(vemiLUTPalette_16u8u_C1R, VEMI_CONVERSION(Vemi16u, Vemi8u, PALETTE(Vemi8u)), palette<C1>)
+VEMI_DEFINE(vemiLUTPalette_16u24u_C1R, VEMI_CONVERSION(Vemi16u, Vemi8u, PALETTE(Vemi8u)), palette<C3>)
+VEMI_DEFINE(vemiLUTPalette_16u32u_C1R, VEMI_CONVERSION(Vemi16u, Vemi32u, PALETTE(Vemi32u)), palette<C1>)

@@ -180,48 +180,44 @@ VemiStatus scaleFromRange(Image<const Vemi32f> src, Image<Vemi8u> dst, VemiSize 
 using namespace vemi;
 using namespace vemi::map;
 
-// With the range of the floats behind the region.
-#define VEMI_CONVERSION_RANGE(name, S, T, ...)                                                                      \
-  VemiStatus name(const S* pSrc, int srcStep, T* pDst, int dstStep, VemiSize roiSize, Vemi32f vMin, Vemi32f vMax) { \
-    return __VA_ARGS__(Image<const S>{pSrc, srcStep}, Image<T>{pDst, dstStep}, roiSize, vMin, vMax);                \
-  }
+#define HINT ((vemiHint hint), (hint))
 
-VEMI_CONVERSION(vemiScale_8u16u_C1R, Vemi8u, Vemi16u, scaleUp<C1>)
-VEMI_CONVERSION(vemiScale_8u16u_C3R, Vemi8u, Vemi16u, scaleUp<C3>)
-VEMI_CONVERSION(vemiScale_8u16u_C4R, Vemi8u, Vemi16u, scaleUp<C4>)
-VEMI_CONVERSION(vemiScale_8u16u_AC4R, Vemi8u, Vemi16u, scaleUp<AC4>)
+VEMI_DEFINE(vemiScale_8u16u_C1R, VEMI_CONVERSION(Vemi8u, Vemi16u), scaleUp<C1>)
+VEMI_DEFINE(vemiScale_8u16u_C3R, VEMI_CONVERSION(Vemi8u, Vemi16u), scaleUp<C3>)
+VEMI_DEFINE(vemiScale_8u16u_C4R, VEMI_CONVERSION(Vemi8u, Vemi16u), scaleUp<C4>)
+VEMI_DEFINE(vemiScale_8u16u_AC4R, VEMI_CONVERSION(Vemi8u, Vemi16u), scaleUp<AC4>)
 
-VEMI_CONVERSION(vemiScale_8u16s_C1R, Vemi8u, Vemi16s, scaleUp<C1>)
-VEMI_CONVERSION(vemiScale_8u16s_C3R, Vemi8u, Vemi16s, scaleUp<C3>)
-VEMI_CONVERSION(vemiScale_8u16s_C4R, Vemi8u, Vemi16s, scaleUp<C4>)
-VEMI_CONVERSION(vemiScale_8u16s_AC4R, Vemi8u, Vemi16s, scaleUp<AC4>)
+VEMI_DEFINE(vemiScale_8u16s_C1R, VEMI_CONVERSION(Vemi8u, Vemi16s), scaleUp<C1>)
+VEMI_DEFINE(vemiScale_8u16s_C3R, VEMI_CONVERSION(Vemi8u, Vemi16s), scaleUp<C3>)
+VEMI_DEFINE(vemiScale_8u16s_C4R, VEMI_CONVERSION(Vemi8u, Vemi16s), scaleUp<C4>)
+VEMI_DEFINE(vemiScale_8u16s_AC4R, VEMI_CONVERSION(Vemi8u, Vemi16s), scaleUp<AC4>)
 
-VEMI_CONVERSION(vemiScale_8u32s_C1R, Vemi8u, Vemi32s, scaleUp<C1>)
-VEMI_CONVERSION(vemiScale_8u32s_C3R, Vemi8u, Vemi32s, scaleUp<C3>)
-VEMI_CONVERSION(vemiScale_8u32s_C4R, Vemi8u, Vemi32s, scaleUp<C4>)
-VEMI_CONVERSION(vemiScale_8u32s_AC4R, Vemi8u, Vemi32s, scaleUp<AC4>)
+VEMI_DEFINE(vemiScale_8u32s_C1R, VEMI_CONVERSION(Vemi8u, Vemi32s), scaleUp<C1>)
+VEMI_DEFINE(vemiScale_8u32s_C3R, VEMI_CONVERSION(Vemi8u, Vemi32s), scaleUp<C3>)
+VEMI_DEFINE(vemiScale_8u32s_C4R, VEMI_CONVERSION(Vemi8u, Vemi32s), scaleUp<C4>)
+VEMI_DEFINE(vemiScale_8u32s_AC4R, VEMI_CONVERSION(Vemi8u, Vemi32s), scaleUp<AC4>)
 
-VEMI_CONVERSION_MODE(vemiScale_16u8u_C1R, Vemi16u, Vemi8u, scaleDown<C1>)
-VEMI_CONVERSION_MODE(vemiScale_16u8u_C3R, Vemi16u, Vemi8u, scaleDown<C3>)
-VEMI_CONVERSION_MODE(vemiScale_16u8u_C4R, Vemi16u, Vemi8u, scaleDown<C4>)
-VEMI_CONVERSION_MODE(vemiScale_16u8u_AC4R, Vemi16u, Vemi8u, scaleDown<AC4>)
+VEMI_DEFINE(vemiScale_16u8u_C1R, VEMI_CONVERSION(Vemi16u, Vemi8u, HINT), scaleDown<C1>)
+VEMI_DEFINE(vemiScale_16u8u_C3R, VEMI_CONVERSION(Vemi16u, Vemi8u, HINT), scaleDown<C3>)
+VEMI_DEFINE(vemiScale_16u8u_C4R, VEMI_CONVERSION(Vemi16u, Vemi8u, HINT), scaleDown<C4>)
+VEMI_DEFINE(vemiScale_16u8u_AC4R, VEMI_CONVERSION(Vemi16u, Vemi8u, HINT), scaleDown<AC4>)
 
-VEMI_CONVERSION_MODE(vemiScale_16s8u_C1R, Vemi16s, Vemi8u, scaleDown<C1>)
-VEMI_CONVERSION_MODE(vemiScale_16s8u_C3R, Vemi16s, Vemi8u, scaleDown<C3>)
-VEMI_CONVERSION_MODE(vemiScale_16s8u_C4R, Vemi16s, Vemi8u, scaleDown<C4>)
-VEMI_CONVERSION_MODE(vemiScale_16s8u_AC4R, Vemi16s, Vemi8u, scaleDown<AC4>)
+VEMI_DEFINE(vemiScale_16s8u_C1R, VEMI_CONVERSION(Vemi16s, Vemi8u, HINT), scaleDown<C1>)
+VEMI_DEFINE(vemiScale_16s8u_C3R, VEMI_CONVERSION(Vemi16s, Vemi8u, HINT), scaleDown<C3>)
+VEMI_DEFINE(vemiScale_16s8u_C4R, VEMI_CONVERSION(Vemi16s, Vemi8u, HINT), scaleDown<C4>)
+VEMI_DEFINE(vemiScale_16s8u_AC4R, VEMI_CONVERSION(Vemi16s, Vemi8u, HINT), scaleDown<AC4>)
 
-VEMI_CONVERSION_MODE(vemiScale_32s8u_C1R, Vemi32s, Vemi8u, scaleDown<C1>)
-VEMI_CONVERSION_MODE(vemiScale_32s8u_C3R, Vemi32s, Vemi8u, scaleDown<C3>)
-VEMI_CONVERSION_MODE(vemiScale_32s8u_C4R, Vemi32s, Vemi8u, scaleDown<C4>)
-VEMI_CONVERSION_MODE(vemiScale_32s8u_AC4R, Vemi32s, Vemi8u, scaleDown<AC4>)
+VEMI_DEFINE(vemiScale_32s8u_C1R, VEMI_CONVERSION(Vemi32s, Vemi8u, HINT), scaleDown<C1>)
+VEMI_DEFINE(vemiScale_32s8u_C3R, VEMI_CONVERSION(Vemi32s, Vemi8u, HINT), scaleDown<C3>)
+VEMI_DEFINE(vemiScale_32s8u_C4R, VEMI_CONVERSION(Vemi32s, Vemi8u, HINT), scaleDown<C4>)
+VEMI_DEFINE(vemiScale_32s8u_AC4R, VEMI_CONVERSION(Vemi32s, Vemi8u, HINT), scaleDown<AC4>)
 
-VEMI_CONVERSION_RANGE(vemiScale_8u32f_C1R, Vemi8u, Vemi32f, scaleToRange<C1>)
-VEMI_CONVERSION_RANGE(vemiScale_8u32f_C3R, Vemi8u, Vemi32f, scaleToRange<C3>)
-VEMI_CONVERSION_RANGE(vemiScale_8u32f_C4R, Vemi8u, Vemi32f, scaleToRange<C4>)
-VEMI_CONVERSION_RANGE(vemiScale_8u32f_AC4R, Vemi8u, Vemi32f, scaleToRange<AC4>)
+VEMI_DEFINE(vemiScale_8u32f_C1R, VEMI_CONVERSION(Vemi8u, Vemi32f, VEMI_RANGE), scaleToRange<C1>)
+VEMI_DEFINE(vemiScale_8u32f_C3R, VEMI_CONVERSION(Vemi8u, Vemi32f, VEMI_RANGE), scaleToRange<C3>)
+VEMI_DEFINE(vemiScale_8u32f_C4R, VEMI_CONVERSION(Vemi8u, Vemi32f, VEMI_RANGE), scaleToRange<C4>)
+VEMI_DEFINE(vemiScale_8u32f_AC4R, VEMI_CONVERSION(Vemi8u, Vemi32f, VEMI_RANGE), scaleToRange<AC4>)
 
-VEMI_CONVERSION_RANGE(vemiScale_32f8u_C1R, Vemi32f, Vemi8u, scaleFromRange<C1>)
-VEMI_CONVERSION_RANGE(vemiScale_32f8u_C3R, Vemi32f, Vemi8u, scaleFromRange<C3>)
-VEMI_CONVERSION_RANGE(vemiScale_32f8u_C4R, Vemi32f, Vemi8u, scaleFromRange<C4>)
-VEMI_CONVERSION_RANGE(vemiScale_32f8u_AC4R, Vemi32f, Vemi8u, scaleFromRange<AC4>)
+VEMI_DEFINE(vemiScale_32f8u_C1R, VEMI_CONVERSION(Vemi32f, Vemi8u, VEMI_RANGE), scaleFromRange<C1>)
+VEMI_DEFINE(vemiScale_32f8u_C3R, VEMI_CONVERSION(Vemi32f, Vemi8u, VEMI_RANGE), scaleFromRange<C3>)
+VEMI_DEFINE(vemiScale_32f8u_C4R, VEMI_CONVERSION(Vemi32f, Vemi8u, VEMI_RANGE), scaleFromRange<C4>)
+VEMI_DEFINE(vemiScale_32f8u_AC4R, VEMI_CONVERSION(Vemi32f, Vemi8u, VEMI_RANGE), scaleFromRange<AC4>)

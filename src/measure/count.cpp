@@ -96,18 +96,11 @@ VemiStatus countInRange(Image<const T> src, VemiSize roiSize, Vemi32s* pCounts, 
 using namespace vemi;
 using namespace vemi::measure;
 
-#define VEMI_SRC_RESULT_LIMITS(name, T, Result, ...)                                                 \
-  VemiStatus name(const T* pSrc, int srcStep, VemiSize roiSize, Result* pResult, T lower, T upper) { \
-    return __VA_ARGS__(Image<const T>{pSrc, srcStep}, roiSize, pResult, &lower, &upper);             \
-  }
-#define VEMI_SRC_RESULT_EACH_LIMITS(name, T, Result, ...)                                                          \
-  VemiStatus name(const T* pSrc, int srcStep, VemiSize roiSize, Result* pResult, const T* lower, const T* upper) { \
-    return __VA_ARGS__(Image<const T>{pSrc, srcStep}, roiSize, pResult, lower, upper);                             \
-  }
+#define COUNTS(C) ((Vemi32s * pCounts, C lower, C upper), (pCounts, addressOf(lower), addressOf(upper)))
 
-VEMI_SRC_RESULT_LIMITS(vemiCountInRange_8u_C1R, Vemi8u, Vemi32s, countInRange<C1>)
-VEMI_SRC_RESULT_EACH_LIMITS(vemiCountInRange_8u_C3R, Vemi8u, Vemi32s, countInRange<C3>)
-VEMI_SRC_RESULT_EACH_LIMITS(vemiCountInRange_8u_AC4R, Vemi8u, Vemi32s, countInRange<AC4>)
-VEMI_SRC_RESULT_LIMITS(vemiCountInRange_32f_C1R, Vemi32f, Vemi32s, countInRange<C1>)
-VEMI_SRC_RESULT_EACH_LIMITS(vemiCountInRange_32f_C3R, Vemi32f, Vemi32s, countInRange<C3>)
-VEMI_SRC_RESULT_EACH_LIMITS(vemiCountInRange_32f_AC4R, Vemi32f, Vemi32s, countInRange<AC4>)
+VEMI_DEFINE(vemiCountInRange_8u_C1R, VEMI_SRC(Vemi8u, COUNTS(Vemi8u)), countInRange<C1>)
+VEMI_DEFINE(vemiCountInRange_8u_C3R, VEMI_SRC(Vemi8u, COUNTS(const Vemi8u*)), countInRange<C3>)
+VEMI_DEFINE(vemiCountInRange_8u_AC4R, VEMI_SRC(Vemi8u, COUNTS(const Vemi8u*)), countInRange<AC4>)
+VEMI_DEFINE(vemiCountInRange_32f_C1R, VEMI_SRC(Vemi32f, COUNTS(Vemi32f)), countInRange<C1>)
+VEMI_DEFINE(vemiCountInRange_32f_C3R, VEMI_SRC(Vemi32f, COUNTS(const Vemi32f*)), countInRange<C3>)
+VEMI_DEFINE(vemiCountInRange_32f_AC4R, VEMI_SRC(Vemi32f, COUNTS(const Vemi32f*)), countInRange<AC4>)

@@ -221,50 +221,41 @@ VemiStatus even(Image<const T> src, VemiSize roiSize, Vemi32s* const* pHist, Vem
 using namespace vemi;
 using namespace vemi::measure;
 
-// A source that is counted between levels: those of one channel, or an array of them for each channel. One channel is
-// handed on as an array of one. The levels are the caller's, or made even between two bounds.
-#define VEMI_HISTOGRAM(name, T, Level, ...)                                                                          \
-  VemiStatus name(const T* pSrc, int srcStep, VemiSize roiSize, Vemi32s* pHist, const Level* pLevels, int nLevels) { \
-    return __VA_ARGS__(Image<const T>{pSrc, srcStep}, roiSize, &pHist, &pLevels, &nLevels);                          \
-  }
-#define VEMI_HISTOGRAM_CHANNELS(name, T, Level, channels, ...)                                  \
-  VemiStatus name(const T* pSrc, int srcStep, VemiSize roiSize, Vemi32s* const pHist[channels], \
-                  const Level* const pLevels[channels], const int nLevels[channels]) {          \
-    return __VA_ARGS__(Image<const T>{pSrc, srcStep}, roiSize, pHist, pLevels, nLevels);        \
-  }
-#define VEMI_HISTOGRAM_EVEN(name, T, ...)                                                                             \
-  VemiStatus name(const T* pSrc, int srcStep, VemiSize roiSize, Vemi32s* pHist, Vemi32s* pLevels, int nLevels,        \
-                  Vemi32s lowerLevel, Vemi32s upperLevel) {                                                           \
-    return __VA_ARGS__(Image<const T>{pSrc, srcStep}, roiSize, &pHist, &pLevels, &nLevels, &lowerLevel, &upperLevel); \
-  }
-#define VEMI_HISTOGRAM_EVEN_CHANNELS(name, T, channels, ...)                                                         \
-  VemiStatus name(const T* pSrc, int srcStep, VemiSize roiSize, Vemi32s* const pHist[channels],                      \
-                  Vemi32s* const pLevels[channels], const int nLevels[channels], const Vemi32s lowerLevel[channels], \
-                  const Vemi32s upperLevel[channels]) {                                                              \
-    return __VA_ARGS__(Image<const T>{pSrc, srcStep}, roiSize, pHist, pLevels, nLevels, lowerLevel, upperLevel);     \
-  }
+// Counts between levels, which are the caller's or made even between two bounds: those of one channel, handed on as
+// arrays of one, or an array of them for each channel.
+#define RANGE(Level) ((Vemi32s * pHist, const Level* pLevels, int nLevels), (&pHist, &pLevels, &nLevels))
+#define CHANNEL_RANGES(Level, channels)                                                                 \
+  ((Vemi32s* const pHist[channels], const Level* const pLevels[channels], const int nLevels[channels]), \
+   (pHist, pLevels, nLevels))
+#define EVEN                                                                                  \
+  ((Vemi32s * pHist, Vemi32s * pLevels, int nLevels, Vemi32s lowerLevel, Vemi32s upperLevel), \
+   (&pHist, &pLevels, &nLevels, &lowerLevel, &upperLevel))
+#define CHANNEL_EVEN(channels)                                                                     \
+  ((Vemi32s* const pHist[channels], Vemi32s* const pLevels[channels], const int nLevels[channels], \
+    const Vemi32s lowerLevel[channels], const Vemi32s upperLevel[channels]),                       \
+   (pHist, pLevels, nLevels, lowerLevel, upperLevel))
 
-VEMI_HISTOGRAM(vemiHistogramRange_8u_C1R, Vemi8u, Vemi32s, range<C1>)
-VEMI_HISTOGRAM_CHANNELS(vemiHistogramRange_8u_C3R, Vemi8u, Vemi32s, 3, range<C3>)
-VEMI_HISTOGRAM_CHANNELS(vemiHistogramRange_8u_C4R, Vemi8u, Vemi32s, 4, range<C4>)
-VEMI_HISTOGRAM_CHANNELS(vemiHistogramRange_8u_AC4R, Vemi8u, Vemi32s, 3, range<AC4>)
+VEMI_DEFINE(vemiHistogramRange_8u_C1R, VEMI_SRC(Vemi8u, RANGE(Vemi32s)), range<C1>)
+VEMI_DEFINE(vemiHistogramRange_8u_C3R, VEMI_SRC(Vemi8u, CHANNEL_RANGES(Vemi32s, 3)), range<C3>)
+VEMI_DEFINE(vemiHistogramRange_8u_C4R, VEMI_SRC(Vemi8u, CHANNEL_RANGES(Vemi32s, 4)), range<C4>)
+VEMI_DEFINE(vemiHistogramRange_8u_AC4R, VEMI_SRC(Vemi8u, CHANNEL_RANGES(Vemi32s, 3)), range<AC4>)
 
-VEMI_HISTOGRAM(vemiHistogramRange_16s_C1R, Vemi16s, Vemi32s, range<C1>)
-VEMI_HISTOGRAM_CHANNELS(vemiHistogramRange_16s_C3R, Vemi16s, Vemi32s, 3, range<C3>)
-VEMI_HISTOGRAM_CHANNELS(vemiHistogramRange_16s_C4R, Vemi16s, Vemi32s, 4, range<C4>)
-VEMI_HISTOGRAM_CHANNELS(vemiHistogramRange_16s_AC4R, Vemi16s, Vemi32s, 3, range<AC4>)
+VEMI_DEFINE(vemiHistogramRange_16s_C1R, VEMI_SRC(Vemi16s, RANGE(Vemi32s)), range<C1>)
+VEMI_DEFINE(vemiHistogramRange_16s_C3R, VEMI_SRC(Vemi16s, CHANNEL_RANGES(Vemi32s, 3)), range<C3>)
+VEMI_DEFINE(vemiHistogramRange_16s_C4R, VEMI_SRC(Vemi16s, CHANNEL_RANGES(Vemi32s, 4)), range<C4>)
+VEMI_DEFINE(vemiHistogramRange_16s_AC4R, VEMI_SRC(Vemi16s, CHANNEL_RANGES(Vemi32s, 3)), range<AC4>)
 
-VEMI_HISTOGRAM(vemiHistogramRange_32f_C1R, Vemi32f, Vemi32f, range<C1>)
-VEMI_HISTOGRAM_CHANNELS(vemiHistogramRange_32f_C3R, Vemi32f, Vemi32f, 3, range<C3>)
-VEMI_HISTOGRAM_CHANNELS(vemiHistogramRange_32f_C4R, Vemi32f, Vemi32f, 4, range<C4>)
-VEMI_HISTOGRAM_CHANNELS(vemiHistogramRange_32f_AC4R, Vemi32f, Vemi32f, 3, range<AC4>)
+VEMI_DEFINE(vemiHistogramRange_32f_C1R, VEMI_SRC(Vemi32f, RANGE(Vemi32f)), range<C1>)
+VEMI_DEFINE(vemiHistogramRange_32f_C3R, VEMI_SRC(Vemi32f, CHANNEL_RANGES(Vemi32f, 3)), range<C3>)
+VEMI_DEFINE(vemiHistogramRange_32f_C4R, VEMI_SRC(Vemi32f, CHANNEL_RANGES(Vemi32f, 4)), range<C4>)
+VEMI_DEFINE(vemiHistogramRange_32f_AC4R, VEMI_SRC(Vemi32f, CHANNEL_RANGES(Vemi32f, 3)), range<AC4>)
 
-VEMI_HISTOGRAM_EVEN(vemiHistogramEven_8u_C1R, Vemi8u, even<C1>)
-VEMI_HISTOGRAM_EVEN_CHANNELS(vemiHistogramEven_8u_C3R, Vemi8u, 3, even<C3>)
-VEMI_HISTOGRAM_EVEN_CHANNELS(vemiHistogramEven_8u_C4R, Vemi8u, 4, even<C4>)
-VEMI_HISTOGRAM_EVEN_CHANNELS(vemiHistogramEven_8u_AC4R, Vemi8u, 3, even<AC4>)
+VEMI_DEFINE(vemiHistogramEven_8u_C1R, VEMI_SRC(Vemi8u, EVEN), even<C1>)
+VEMI_DEFINE(vemiHistogramEven_8u_C3R, VEMI_SRC(Vemi8u, CHANNEL_EVEN(3)), even<C3>)
+VEMI_DEFINE(vemiHistogramEven_8u_C4R, VEMI_SRC(Vemi8u, CHANNEL_EVEN(4)), even<C4>)
+VEMI_DEFINE(vemiHistogramEven_8u_AC4R, VEMI_SRC(Vemi8u, CHANNEL_EVEN(3)), even<AC4>)
 
-VEMI_HISTOGRAM_EVEN(vemiHistogramEven_16s_C1R, Vemi16s, even<C1>)
-VEMI_HISTOGRAM_EVEN_CHANNELS(vemiHistogramEven_16s_C3R, Vemi16s, 3, even<C3>)
-VEMI_HISTOGRAM_EVEN_CHANNELS(vemiHistogramEven_16s_C4R, Vemi16s, 4, even<C4>)
-VEMI_HISTOGRAM_EVEN_CHANNELS(vemiHistogramEven_16s_AC4R, Vemi16s, 3, even<AC4>)
+VEMI_DEFINE(vemiHistogramEven_16s_C1R, VEMI_SRC(Vemi16s, EVEN), even<C1>)
+VEMI_DEFINE(vemiHistogramEven_16s_C3R, VEMI_SRC(Vemi16s, CHANNEL_EVEN(3)), even<C3>)
+VEMI_DEFINE(vemiHistogramEven_16s_C4R, VEMI_SRC(Vemi16s, CHANNEL_EVEN(4)), even<C4>)
+VEMI_DEFINE(vemiHistogramEven_16s_AC4R, VEMI_SRC(Vemi16s, CHANNEL_EVEN(3)), even<AC4>)

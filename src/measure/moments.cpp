@@ -314,12 +314,12 @@ VemiStatus vemiMomentGetStateSize_64s(vemiHint /*hint*/, int* pSize) {
   return vemiOk;
 }
 
-VEMI_SRC_RESULT(vemiMoments64f_8u_C1R, Vemi8u, VemiMomentState, moments<Vemi64f, C1>)
-VEMI_SRC_RESULT(vemiMoments64f_8u_C3R, Vemi8u, VemiMomentState, moments<Vemi64f, C3>)
-VEMI_SRC_RESULT(vemiMoments64f_8u_AC4R, Vemi8u, VemiMomentState, moments<Vemi64f, AC4>)
-VEMI_SRC_RESULT(vemiMoments64f_32f_C1R, Vemi32f, VemiMomentState, moments<Vemi64f, C1>)
-VEMI_SRC_RESULT(vemiMoments64f_32f_C3R, Vemi32f, VemiMomentState, moments<Vemi64f, C3>)
-VEMI_SRC_RESULT(vemiMoments64f_32f_AC4R, Vemi32f, VemiMomentState, moments<Vemi64f, AC4>)
-VEMI_SRC_RESULT(vemiMoments64s_8u_C1R, Vemi8u, VemiMomentState, moments<Vemi64s, C1>)
-VEMI_SRC_RESULT(vemiMoments64s_8u_C3R, Vemi8u, VemiMomentState, moments<Vemi64s, C3>)
-VEMI_SRC_RESULT(vemiMoments64s_8u_AC4R, Vemi8u, VemiMomentState, moments<Vemi64s, AC4>)
+VEMI_DEFINE(vemiMoments64f_8u_C1R, VEMI_SRC(Vemi8u, VEMI_RESULT(VemiMomentState, pState)), moments<Vemi64f, C1>)
+VEMI_DEFINE(vemiMoments64f_8u_C3R, VEMI_SRC(Vemi8u, VEMI_RESULT(VemiMomentState, pState)), moments<Vemi64f, C3>)
+VEMI_DEFINE(vemiMoments64f_8u_AC4R, VEMI_SRC(Vemi8u, VEMI_RESULT(VemiMomentState, pState)), moments<Vemi64f, AC4>)
+VEMI_DEFINE(vemiMoments64f_32f_C1R, VEMI_SRC(Vemi32f, VEMI_RESULT(VemiMomentState, pState)), moments<Vemi64f, C1>)
+VEMI_DEFINE(vemiMoments64f_32f_C3R, VEMI_SRC(Vemi32f, VEMI_RESULT(VemiMomentState, pState)), moments<Vemi64f, C3>)
+VEMI_DEFINE(vemiMoments64f_32f_AC4R, VEMI_SRC(Vemi32f, VEMI_RESULT(VemiMomentState, pState)), moments<Vemi64f, AC4>)
+VEMI_DEFINE(vemiMoments64s_8u_C1R, VEMI_SRC(Vemi8u, VEMI_RESULT(VemiMomentState, pState)), moments<Vemi64s, C1>)
+VEMI_DEFINE(vemiMoments64s_8u_C3R, VEMI_SRC(Vemi8u, VEMI_RESULT(VemiMomentState, pState)), moments<Vemi64s, C3>)
+VEMI_DEFINE(vemiMoments64s_8u_AC4R, VEMI_SRC(Vemi8u, VEMI_RESULT(VemiMomentState, pState)), moments<Vemi64s, AC4>)

@@ -30,53 +30,44 @@ VemiStatus normRel(Image<const T> src1, Image<const T> src2, VemiSize roiSize, V
 using namespace vemi;
 using namespace vemi::measure;
 
-VEMI_2SRC_RESULT(vemiNormRel_Inf_8u_C1R, Vemi8u, Vemi64f, normRel<C1, vemiNormDiff_Inf_8u_C1R, vemiNorm_Inf_8u_C1R>)
-VEMI_2SRC_RESULT(vemiNormRel_Inf_8u_C3R, Vemi8u, Vemi64f, normRel<C3, vemiNormDiff_Inf_8u_C3R, vemiNorm_Inf_8u_C3R>)
-VEMI_2SRC_RESULT(vemiNormRel_Inf_8u_C4R, Vemi8u, Vemi64f, normRel<C4, vemiNormDiff_Inf_8u_C4R, vemiNorm_Inf_8u_C4R>)
-VEMI_2SRC_RESULT(vemiNormRel_Inf_8u_AC4R, Vemi8u, Vemi64f, normRel<AC4, vemiNormDiff_Inf_8u_AC4R, vemiNorm_Inf_8u_AC4R>)
-VEMI_2SRC_RESULT(vemiNormRel_Inf_16s_C1R, Vemi16s, Vemi64f, normRel<C1, vemiNormDiff_Inf_16s_C1R, vemiNorm_Inf_16s_C1R>)
-VEMI_2SRC_RESULT(vemiNormRel_Inf_16s_C3R, Vemi16s, Vemi64f, normRel<C3, vemiNormDiff_Inf_16s_C3R, vemiNorm_Inf_16s_C3R>)
-VEMI_2SRC_RESULT(vemiNormRel_Inf_16s_C4R, Vemi16s, Vemi64f, normRel<C4, vemiNormDiff_Inf_16s_C4R, vemiNorm_Inf_16s_C4R>)
-VEMI_2SRC_RESULT(vemiNormRel_Inf_16s_AC4R, Vemi16s, Vemi64f,
-                 normRel<AC4, vemiNormDiff_Inf_16s_AC4R, vemiNorm_Inf_16s_AC4R>)
-VEMI_2SRC_RESULT(vemiNormRel_Inf_32f_C1R, Vemi32f, Vemi64f, normRel<C1, vemiNormDiff_Inf_32f_C1R, vemiNorm_Inf_32f_C1R>)
-VEMI_2SRC_RESULT(vemiNormRel_Inf_32f_C3R, Vemi32f, Vemi64f, normRel<C3, vemiNormDiff_Inf_32f_C3R, vemiNorm_Inf_32f_C3R>)
-VEMI_2SRC_RESULT(vemiNormRel_Inf_32f_C4R, Vemi32f, Vemi64f, normRel<C4, vemiNormDiff_Inf_32f_C4R, vemiNorm_Inf_32f_C4R>)
-VEMI_2SRC_RESULT(vemiNormRel_Inf_32f_AC4R, Vemi32f, Vemi64f,
-                 normRel<AC4, vemiNormDiff_Inf_32f_AC4R, vemiNorm_Inf_32f_AC4R>)
+#define NORM(T) VEMI_2SRC(T, VEMI_RESULT(Vemi64f, pValue))
+#define HINTED_NORM(T) VEMI_2SRC(T, VEMI_RESULT_HINT(Vemi64f, pValue))
 
-VEMI_2SRC_RESULT(vemiNormRel_L1_8u_C1R, Vemi8u, Vemi64f, normRel<C1, vemiNormDiff_L1_8u_C1R, vemiNorm_L1_8u_C1R>)
-VEMI_2SRC_RESULT(vemiNormRel_L1_8u_C3R, Vemi8u, Vemi64f, normRel<C3, vemiNormDiff_L1_8u_C3R, vemiNorm_L1_8u_C3R>)
-VEMI_2SRC_RESULT(vemiNormRel_L1_8u_C4R, Vemi8u, Vemi64f, normRel<C4, vemiNormDiff_L1_8u_C4R, vemiNorm_L1_8u_C4R>)
-VEMI_2SRC_RESULT(vemiNormRel_L1_8u_AC4R, Vemi8u, Vemi64f, normRel<AC4, vemiNormDiff_L1_8u_AC4R, vemiNorm_L1_8u_AC4R>)
-VEMI_2SRC_RESULT(vemiNormRel_L1_16s_C1R, Vemi16s, Vemi64f, normRel<C1, vemiNormDiff_L1_16s_C1R, vemiNorm_L1_16s_C1R>)
-VEMI_2SRC_RESULT(vemiNormRel_L1_16s_C3R, Vemi16s, Vemi64f, normRel<C3, vemiNormDiff_L1_16s_C3R, vemiNorm_L1_16s_C3R>)
-VEMI_2SRC_RESULT(vemiNormRel_L1_16s_C4R, Vemi16s, Vemi64f, normRel<C4, vemiNormDiff_L1_16s_C4R, vemiNorm_L1_16s_C4R>)
-VEMI_2SRC_RESULT(vemiNormRel_L1_16s_AC4R, Vemi16s, Vemi64f,
-                 normRel<AC4, vemiNormDiff_L1_16s_AC4R, vemiNorm_L1_16s_AC4R>)
-VEMI_2SRC_RESULT_HINT(vemiNormRel_L1_32f_C1R, Vemi32f, Vemi64f,
-                      normRel<C1, vemiNormDiff_L1_32f_C1R, vemiNorm_L1_32f_C1R>)
-VEMI_2SRC_RESULT_HINT(vemiNormRel_L1_32f_C3R, Vemi32f, Vemi64f,
-                      normRel<C3, vemiNormDiff_L1_32f_C3R, vemiNorm_L1_32f_C3R>)
-VEMI_2SRC_RESULT_HINT(vemiNormRel_L1_32f_C4R, Vemi32f, Vemi64f,
-                      normRel<C4, vemiNormDiff_L1_32f_C4R, vemiNorm_L1_32f_C4R>)
-VEMI_2SRC_RESULT_HINT(vemiNormRel_L1_32f_AC4R, Vemi32f, Vemi64f,
-                      normRel<AC4, vemiNormDiff_L1_32f_AC4R, vemiNorm_L1_32f_AC4R>)
+VEMI_DEFINE(vemiNormRel_Inf_8u_C1R, NORM(Vemi8u), normRel<C1, vemiNormDiff_Inf_8u_C1R, vemiNorm_Inf_8u_C1R>)
+VEMI_DEFINE(vemiNormRel_Inf_8u_C3R, NORM(Vemi8u), normRel<C3, vemiNormDiff_Inf_8u_C3R, vemiNorm_Inf_8u_C3R>)
+VEMI_DEFINE(vemiNormRel_Inf_8u_C4R, NORM(Vemi8u), normRel<C4, vemiNormDiff_Inf_8u_C4R, vemiNorm_Inf_8u_C4R>)
+VEMI_DEFINE(vemiNormRel_Inf_8u_AC4R, NORM(Vemi8u), normRel<AC4, vemiNormDiff_Inf_8u_AC4R, vemiNorm_Inf_8u_AC4R>)
+VEMI_DEFINE(vemiNormRel_Inf_16s_C1R, NORM(Vemi16s), normRel<C1, vemiNormDiff_Inf_16s_C1R, vemiNorm_Inf_16s_C1R>)
+VEMI_DEFINE(vemiNormRel_Inf_16s_C3R, NORM(Vemi16s), normRel<C3, vemiNormDiff_Inf_16s_C3R, vemiNorm_Inf_16s_C3R>)
+VEMI_DEFINE(vemiNormRel_Inf_16s_C4R, NORM(Vemi16s), normRel<C4, vemiNormDiff_Inf_16s_C4R, vemiNorm_Inf_16s_C4R>)
+VEMI_DEFINE(vemiNormRel_Inf_16s_AC4R, NORM(Vemi16s), normRel<AC4, vemiNormDiff_Inf_16s_AC4R, vemiNorm_Inf_16s_AC4R>)
+VEMI_DEFINE(vemiNormRel_Inf_32f_C1R, NORM(Vemi32f), normRel<C1, vemiNormDiff_Inf_32f_C1R, vemiNorm_Inf_32f_C1R>)
+VEMI_DEFINE(vemiNormRel_Inf_32f_C3R, NORM(Vemi32f), normRel<C3, vemiNormDiff_Inf_32f_C3R, vemiNorm_Inf_32f_C3R>)
+VEMI_DEFINE(vemiNormRel_Inf_32f_C4R, NORM(Vemi32f), normRel<C4, vemiNormDiff_Inf_32f_C4R, vemiNorm_Inf_32f_C4R>)
+VEMI_DEFINE(vemiNormRel_Inf_32f_AC4R, NORM(Vemi32f), normRel<AC4, vemiNormDiff_Inf_32f_AC4R, vemiNorm_Inf_32f_AC4R>)
 
-VEMI_2SRC_RESULT(vemiNormRel_L2_8u_C1R, Vemi8u, Vemi64f, normRel<C1, vemiNormDiff_L2_8u_C1R, vemiNorm_L2_8u_C1R>)
-VEMI_2SRC_RESULT(vemiNormRel_L2_8u_C3R, Vemi8u, Vemi64f, normRel<C3, vemiNormDiff_L2_8u_C3R, vemiNorm_L2_8u_C3R>)
-VEMI_2SRC_RESULT(vemiNormRel_L2_8u_C4R, Vemi8u, Vemi64f, normRel<C4, vemiNormDiff_L2_8u_C4R, vemiNorm_L2_8u_C4R>)
-VEMI_2SRC_RESULT(vemiNormRel_L2_8u_AC4R, Vemi8u, Vemi64f, normRel<AC4, vemiNormDiff_L2_8u_AC4R, vemiNorm_L2_8u_AC4R>)
-VEMI_2SRC_RESULT(vemiNormRel_L2_16s_C1R, Vemi16s, Vemi64f, normRel<C1, vemiNormDiff_L2_16s_C1R, vemiNorm_L2_16s_C1R>)
-VEMI_2SRC_RESULT(vemiNormRel_L2_16s_C3R, Vemi16s, Vemi64f, normRel<C3, vemiNormDiff_L2_16s_C3R, vemiNorm_L2_16s_C3R>)
-VEMI_2SRC_RESULT(vemiNormRel_L2_16s_C4R, Vemi16s, Vemi64f, normRel<C4, vemiNormDiff_L2_16s_C4R, vemiNorm_L2_16s_C4R>)
-VEMI_2SRC_RESULT(vemiNormRel_L2_16s_AC4R, Vemi16s, Vemi64f,
-                 normRel<AC4, vemiNormDiff_L2_16s_AC4R, vemiNorm_L2_16s_AC4R>)
-VEMI_2SRC_RESULT_HINT(vemiNormRel_L2_32f_C1R, Vemi32f, Vemi64f,
-                      normRel<C1, vemiNormDiff_L2_32f_C1R, vemiNorm_L2_32f_C1R>)
-VEMI_2SRC_RESULT_HINT(vemiNormRel_L2_32f_C3R, Vemi32f, Vemi64f,
-                      normRel<C3, vemiNormDiff_L2_32f_C3R, vemiNorm_L2_32f_C3R>)
-VEMI_2SRC_RESULT_HINT(vemiNormRel_L2_32f_C4R, Vemi32f, Vemi64f,
-                      normRel<C4, vemiNormDiff_L2_32f_C4R, vemiNorm_L2_32f_C4R>)
-VEMI_2SRC_RESULT_HINT(vemiNormRel_L2_32f_AC4R, Vemi32f, Vemi64f,
-                      normRel<AC4, vemiNormDiff_L2_32f_AC4R, vemiNorm_L2_32f_AC4R>)
+VEMI_DEFINE(vemiNormRel_L1_8u_C1R, NORM(Vemi8u), normRel<C1, vemiNormDiff_L1_8u_C1R, vemiNorm_L1_8u_C1R>)
+VEMI_DEFINE(vemiNormRel_L1_8u_C3R, NORM(Vemi8u), normRel<C3, vemiNormDiff_L1_8u_C3R, vemiNorm_L1_8u_C3R>)
+VEMI_DEFINE(vemiNormRel_L1_8u_C4R, NORM(Vemi8u), normRel<C4, vemiNormDiff_L1_8u_C4R, vemiNorm_L1_8u_C4R>)
+VEMI_DEFINE(vemiNormRel_L1_8u_AC4R, NORM(Vemi8u), normRel<AC4, vemiNormDiff_L1_8u_AC4R, vemiNorm_L1_8u_AC4R>)
+VEMI_DEFINE(vemiNormRel_L1_16s_C1R, NORM(Vemi16s), normRel<C1, vemiNormDiff_L1_16s_C1R, vemiNorm_L1_16s_C1R>)
+VEMI_DEFINE(vemiNormRel_L1_16s_C3R, NORM(Vemi16s), normRel<C3, vemiNormDiff_L1_16s_C3R, vemiNorm_L1_16s_C3R>)
+VEMI_DEFINE(vemiNormRel_L1_16s_C4R, NORM(Vemi16s), normRel<C4, vemiNormDiff_L1_16s_C4R, vemiNorm_L1_16s_C4R>)
+VEMI_DEFINE(vemiNormRel_L1_16s_AC4R, NORM(Vemi16s), normRel<AC4, vemiNormDiff_L1_16s_AC4R, vemiNorm_L1_16s_AC4R>)
+VEMI_DEFINE(vemiNormRel_L1_32f_C1R, HINTED_NORM(Vemi32f), normRel<C1, vemiNormDiff_L1_32f_C1R, vemiNorm_L1_32f_C1R>)
+VEMI_DEFINE(vemiNormRel_L1_32f_C3R, HINTED_NORM(Vemi32f), normRel<C3, vemiNormDiff_L1_32f_C3R, vemiNorm_L1_32f_C3R>)
+VEMI_DEFINE(vemiNormRel_L1_32f_C4R, HINTED_NORM(Vemi32f), normRel<C4, vemiNormDiff_L1_32f_C4R, vemiNorm_L1_32f_C4R>)
+VEMI_DEFINE(vemiNormRel_L1_32f_AC4R, HINTED_NORM(Vemi32f), normRel<AC4, vemiNormDiff_L1_32f_AC4R, vemiNorm_L1_32f_AC4R>)
+
+VEMI_DEFINE(vemiNormRel_L2_8u_C1R, NORM(Vemi8u), normRel<C1, vemiNormDiff_L2_8u_C1R, vemiNorm_L2_8u_C1R>)
+VEMI_DEFINE(vemiNormRel_L2_8u_C3R, NORM(Vemi8u), normRel<C3, vemiNormDiff_L2_8u_C3R, vemiNorm_L2_8u_C3R>)
+VEMI_DEFINE(vemiNormRel_L2_8u_C4R, NORM(Vemi8u), normRel<C4, vemiNormDiff_L2_8u_C4R, vemiNorm_L2_8u_C4R>)
+VEMI_DEFINE(vemiNormRel_L2_8u_AC4R, NORM(Vemi8u), normRel<AC4, vemiNormDiff_L2_8u_AC4R, vemiNorm_L2_8u_AC4R>)
+VEMI_DEFINE(vemiNormRel_L2_16s_C1R, NORM(Vemi16s), normRel<C1, vemiNormDiff_L2_16s_C1R, vemiNorm_L2_16s_C1R>)
+VEMI_DEFINE(vemiNormRel_L2_16s_C3R, NORM(Vemi16s), normRel<C3, vemiNormDiff_L2_16s_C3R, vemiNorm_L2_16s_C3R>)
+VEMI_DEFINE(vemiNormRel_L2_16s_C4R, NORM(Vemi16s), normRel<C4, vemiNormDiff_L2_16s_C4R, vemiNorm_L2_16s_C4R>)
+VEMI_DEFINE(vemiNormRel_L2_16s_AC4R, NORM(Vemi16s), normRel<AC4, vemiNormDiff_L2_16s_AC4R, vemiNorm_L2_16s_AC4R>)
+VEMI_DEFINE(vemiNormRel_L2_32f_C1R, HINTED_NORM(Vemi32f), normRel<C1, vemiNormDiff_L2_32f_C1R, vemiNorm_L2_32f_C1R>)
+VEMI_DEFINE(vemiNormRel_L2_32f_C3R, HINTED_NORM(Vemi32f), normRel<C3, vemiNormDiff_L2_32f_C3R, vemiNorm_L2_32f_C3R>)
+VEMI_DEFINE(vemiNormRel_L2_32f_C4R, HINTED_NORM(Vemi32f), normRel<C4, vemiNormDiff_L2_32f_C4R, vemiNorm_L2_32f_C4R>)
+VEMI_DEFINE(vemiNormRel_L2_32f_AC4R, HINTED_NORM(Vemi32f), normRel<AC4, vemiNormDiff_L2_32f_AC4R, vemiNorm_L2_32f_AC4R>)
