@@ -2,7 +2,7 @@
 #   make demo [IMAGE=photo.png]   builds the library and runs the demo, which writes build/demo/index.html
 #   make test                     builds and runs the tests
 #   make bench [BENCH=words]      times the library against its peers; without words, writes docs/performance.md
-#   make check                    format, warnings, static analysis
+#   make check                    format, floors, warnings, static analysis
 #   make fuzz [SECONDS=60 SEED=0] calls all functions with arguments that a fuzzer makes up, under AddressSanitizer
 #   make race                     calls all functions from many threads at once, under ThreadSanitizer
 #   make docs                     the reference, as build/docs/html/index.html
@@ -82,6 +82,7 @@ bench-build: configure
 check: build
 	@tools/need.sh clang-format clang-tidy libomp-dev
 	tools/format.sh --check
+	tools/check-floors.sh
 	tools/tidy.sh $(BUILD)
 
 docs:
