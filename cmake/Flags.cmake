@@ -25,6 +25,19 @@ endif()
 target_compile_definitions(vemi_flags INTERFACE HWY_DISABLE_PCLMUL_AES HWY_IS_DEBUG_BUILD=0 VEMI_LANES=${lanes})
 target_include_directories(vemi_flags SYSTEM INTERFACE ${VEMI_HIGHWAY_INCLUDE_DIR})
 
+# Blocks of lanes are copied in whole vectors, and copies of a length that is bounded but unknown by the C library. GCC
+# would take pieces of 16 bytes at x86-64-v3 and `rep movs` for short lengths: what is then loaded as a vector waits until
+# the pieces have reached the cache, and a `rep movs` needs 30 ns to start. Other compilers lack the flags and the faults.
+set(block_copies -mmemcpy-strategy=libcall:-1:noalign -mmemset-strategy=libcall:-1:noalign)
+if(VEMI_LEVEL STREQUAL "x86-64-v3")
+  list(APPEND block_copies -mmove-max=256 -mstore-max=256)
+endif()
+include(CheckCXXCompilerFlag)
+check_cxx_compiler_flag("${block_copies}" VEMI_BLOCK_COPIES)
+if(VEMI_BLOCK_COPIES)
+  target_compile_options(vemi_flags INTERFACE $<$<COMPILE_LANGUAGE:CXX>:${block_copies}>)
+endif()
+
 # No contraction of a*b+c into one rounding: the same bits on every level.
 target_compile_options(vemi_flags INTERFACE -ffp-contract=off)
 

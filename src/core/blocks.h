@@ -1,11 +1,13 @@
 // The loop over one row and its end, for every kernel of the library.
 //
 // A kernel handles exactly one block: a fixed number of items (elements or pixels) that it reads through lanes and then
-// writes. The row is cut into whole blocks; the last one ends with the row and overlaps its predecessor. Its inputs are
-// set aside before anything is written, so a row may be its own source. A row shorter than a block goes through blocks
-// on the stack. A kernel therefore has one arithmetic and no scalar twin, and touches no byte outside the row. It meets
-// no item that is not in the row, but may meet one more than once (and, in element strands of a short row, beside
-// another channel's constants): what it collects across blocks must not count.
+// writes. So it has one arithmetic and no scalar twin, and touches no byte outside the row.
+//
+// A row is cut into whole blocks. The last one ends with the row and overlaps its predecessor: its inputs are set aside
+// before anything is written, so a row may be its own source. A row shorter than a block is copied into a block on the
+// stack, which is filled up with items of the same row. Hence some items pass through the kernel twice: what it
+// collects must not depend on how often it meets an item. And elements that fill up a short row may stand beside the
+// constants of another channel: their results are dropped, and what the kernel learns from them must not count.
 #pragma once
 
 #include <cstddef>
@@ -20,6 +22,7 @@ namespace vemi {
 /// it stay is named twice, as an input and as an output.
 template <class T, int elementsPerItem = 1>
 struct Strand {
+  using Pointer = T*;
   T* first;
 
   T* at(ptrdiff_t item) const { return first + item * elementsPerItem; }
@@ -27,30 +30,46 @@ struct Strand {
 
 namespace detail {
 
-/// The block of one strand on the stack.
-template <ptrdiff_t items, class S>
+/// The block of one strand of a short row. Half a block of items and more stand in it as two halves that overlap in the
+/// row, each of them copied as lanes are: what is loaded from the stack in other pieces than it was stored waits.
+template <ptrdiff_t items, bool byHalves, class S>
 struct StackBlock;
 
-template <ptrdiff_t items, class T, int elementsPerItem>
-struct StackBlock<items, Strand<T, elementsPerItem>> {
+template <ptrdiff_t items, bool byHalves, class T, int elementsPerItem>
+struct StackBlock<items, byHalves, Strand<T, elementsPerItem>> {
   using S = Strand<T, elementsPerItem>;
   static constexpr bool isOutput = !std::is_const_v<T>;
+  static constexpr size_t itemBytes = elementsPerItem * sizeof(T);
+  static constexpr ptrdiff_t half = items / 2;
 
   alignas(laneAlignment) std::remove_const_t<T> element[items * elementsPerItem];
 
-  StackBlock(S strand, ptrdiff_t count) {
+  StackBlock(const StackBlock&) = delete;
+  HWY_INLINE StackBlock(S strand, ptrdiff_t count) {
     // An output is loaded too: a kernel may leave some of its items alone.
-    std::memcpy(element, strand.first, static_cast<size_t>(count * elementsPerItem) * sizeof(T));
+    if (byHalves && count >= half) {
+      std::memcpy(element, strand.first, half * itemBytes);
+      std::memcpy(element + half * elementsPerItem, strand.at(count - half), half * itemBytes);
+      return;
+    }
     if constexpr (!isOutput) {  // behind the row's end its first item is repeated
-      for (ptrdiff_t i = count * elementsPerItem; i < items * elementsPerItem; ++i) {
-        element[i] = element[i % elementsPerItem];
+      std::remove_const_t<T> item[elementsPerItem];
+      std::memcpy(item, strand.first, itemBytes);
+      for (ptrdiff_t i = 0; i < items; ++i) {
+        for (ptrdiff_t k = 0; k < elementsPerItem; ++k) element[i * elementsPerItem + k] = item[k];
       }
     }
+    std::memcpy(element, strand.first, static_cast<size_t>(count) * itemBytes);
   }
 
-  void writeBack(S strand, ptrdiff_t count) const {
+  HWY_INLINE void writeBack(S strand, ptrdiff_t count) const {
     if constexpr (isOutput) {
-      std::memcpy(strand.first, element, static_cast<size_t>(count * elementsPerItem) * sizeof(T));
+      if (byHalves && count >= half) {
+        std::memcpy(strand.first, element, half * itemBytes);
+        std::memcpy(strand.at(count - half), element + half * elementsPerItem, half * itemBytes);
+      } else {
+        std::memcpy(strand.first, element, static_cast<size_t>(count) * itemBytes);
+      }
     }
   }
 
@@ -65,7 +84,8 @@ template <ptrdiff_t items, class T, int elementsPerItem>
 struct LastBlock<items, Strand<const T, elementsPerItem>> {
   alignas(laneAlignment) T element[items * elementsPerItem];
 
-  LastBlock(Strand<const T, elementsPerItem> strand, ptrdiff_t item) {
+  LastBlock(const LastBlock&) = delete;
+  HWY_INLINE LastBlock(Strand<const T, elementsPerItem> strand, ptrdiff_t item) {
     std::memcpy(element, strand.at(item), sizeof element);
   }
   const T* at() const { return element; }
@@ -79,27 +99,54 @@ requires(!std::is_const_v<T>) struct LastBlock<items, Strand<T, elementsPerItem>
   T* at() const { return first; }
 };
 
-template <ptrdiff_t items, class Kernel, class... S>
-HWY_NOINLINE void shortRow(ptrdiff_t count, const Kernel& kernel, S... strand) {
+template <ptrdiff_t items, int period, class Kernel, class... S>
+HWY_FLATTEN HWY_NOINLINE void rowOnStack(ptrdiff_t count, Kernel kernel, S... strand) {
   if (count < 1) return;
   if (count >= items) __builtin_unreachable();  // bounds the copies for the compiler's warnings
-  [&](auto... block) {
+  constexpr bool byHalves = items % (2 * period) == 0;
+  [&](auto... block) HWY_ATTR {
     kernel(block.at()...);
     (block.writeBack(strand, count), ...);
-  }(StackBlock<items, S>(strand, count)...);
+  }(StackBlock<items, byHalves, S>(strand, count)...);
 }
+
+/// A kernel that is a function of rows, called for a row of one block.
+template <class... Pointer>
+struct RowCall {
+  void (*row)(const void* context, Pointer... block);
+  const void* context;
+
+  void operator()(Pointer... block) const { row(context, block...); }
+};
 
 }  // namespace detail
 
-/// Runs kernel(pointer of each strand) over `count` items, `items` at a time.
+/// A row of fewer than `items` items by row(&context, pointer of each strand's block), which handles a row of one
+/// block. What it does to an item may depend on the item's place in a pixel; pixels are whole, and `period` is a
+/// multiple of their length. All functions of rows with strands of the same types share the code, where forBlocks makes
+/// it anew.
+template <ptrdiff_t items, int period = 1, class Context, class... S>
+void shortRow(ptrdiff_t count, void (*row)(const void* context, typename S::Pointer... block), const Context& context,
+              S... strand) {
+  const detail::RowCall<typename S::Pointer...> kernel = {row, &context};
+  detail::rowOnStack<items, period>(count, kernel, strand...);
+}
+
+/// Runs kernel(pointer of each strand) over `items` items or more, `items` at a time.
 template <ptrdiff_t items, class Kernel, class... S>
-HWY_INLINE void forBlocks(ptrdiff_t count, const Kernel& kernel, S... strand) {
-  if (count < items) return detail::shortRow<items>(count, kernel, strand...);
+HWY_INLINE void forWholeBlocks(ptrdiff_t count, const Kernel& kernel, S... strand) {
   const ptrdiff_t last = count - items;
   [&](auto... lastBlock) HWY_ATTR {
     for (ptrdiff_t i = 0; i < last; i += items) kernel(strand.at(i)...);
     kernel(lastBlock.at()...);
   }(detail::LastBlock<items, S>(strand, last)...);
+}
+
+/// The same over any number of items.
+template <ptrdiff_t items, class Kernel, class... S>
+HWY_INLINE void forBlocks(ptrdiff_t count, const Kernel& kernel, S... strand) {
+  if (count < items) return detail::rowOnStack<items, 1, const Kernel&>(count, kernel, strand...);
+  forWholeBlocks<items>(count, kernel, strand...);
 }
 
 }  // namespace vemi

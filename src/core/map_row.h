@@ -74,8 +74,8 @@ inline constexpr PixelPhase<pixelSize, bytes> pixelPhase;
 template <class L>
 inline constexpr int pixelVectors = L::elements == 3 ? 3 : 2;
 
-/// `value` holds L::channels constants, repeated here so that any block that begins with a pixel finds them in phase.
-/// An alpha that stays has zero.
+/// The constants of a pixel's channels as lanes of a block that begins with a pixel: its element i meets constant
+/// i modulo L::elements. `value` holds L::channels of them; an alpha that stays meets zero.
 template <class L, class T>
 auto channelConstants(const T* value) {
   constexpr int vectors = pixelVectors<L>;
@@ -179,10 +179,18 @@ HWY_INLINE void storeBlock(D d, hn::TFromD<D>* out, const ResultOf& resultOf) {
 /// A row of `count` elements. Layouts differ in the operation's constants alone, or in an alpha channel that stays.
 template <Alpha alpha, class T, class IndexedOp, class... Src>
 HWY_NOINLINE void mapElements(ptrdiff_t count, const IndexedOp& indexedOp, T* dst, const Src*... src) {
-  const IndexedOp op = indexedOp;  // a local, which no store to the destination can change
-  const Lanes<T> d;
   constexpr ptrdiff_t N = laneCount<T>;
   constexpr int vectors = IndexedOp::vectors;
+  constexpr ptrdiff_t items = vectors * N;
+  if (count < items) {
+    constexpr int period = alpha == Alpha::kept ? 4 : IndexedOp::period;
+    const auto wholeBlock = [](const void* context, T* out, const Src*... in) {
+      mapElements<alpha>(items, *static_cast<const IndexedOp*>(context), out, in...);
+    };
+    return shortRow<items, period>(count, wholeBlock, indexedOp, Strand<T>{dst}, Strand<const Src>{src}...);
+  }
+  const IndexedOp op = indexedOp;  // a local, which no store to the destination can change
+  const Lanes<T> d;
   if constexpr (alpha == Alpha::kept) {
     const auto kernel = [&](T* out, const T* old, const Src*... in) HWY_ATTR {
       storeBlock<vectors>(d, out, [&](auto k) HWY_ATTR {
@@ -190,12 +198,12 @@ HWY_NOINLINE void mapElements(ptrdiff_t count, const IndexedOp& indexedOp, T* ds
         return hn::IfThenElse(colour, op(d, k, operandOf(d, in + k * N)...), hn::LoadU(d, old + k * N));
       });
     };
-    forBlocks<vectors * N>(count, kernel, Strand<T>{dst}, Strand<const T>{dst}, Strand<const Src>{src}...);
+    forWholeBlocks<items>(count, kernel, Strand<T>{dst}, Strand<const T>{dst}, Strand<const Src>{src}...);
   } else {
     const auto kernel = [&](T* out, const Src*... in) HWY_ATTR {
       storeBlock<vectors>(d, out, [&](auto k) HWY_ATTR { return op(d, k, operandOf(d, in + k * N)...); });
     };
-    forBlocks<vectors * N>(count, kernel, Strand<T>{dst}, Strand<const Src>{src}...);
+    forWholeBlocks<items>(count, kernel, Strand<T>{dst}, Strand<const Src>{src}...);
   }
 }
 

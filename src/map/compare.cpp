@@ -65,13 +65,20 @@ struct EqualWithin {
 
 // ---- Rows and regions ----
 
-/// One vector of results. The bits of a four-channel pixel's byte masks in `ignored` do not count.
+/// A condition, and the bytes of a four-channel pixel's mask, as bits, that do not count.
+template <class IndexedOp>
+struct Comparison {
+  IndexedOp op;
+  uint32_t ignored;
+};
+
+/// One vector of results.
 template <int elements, class IndexedOp, class T, class... More>
-HWY_INLINE auto comparePixels(const IndexedOp& op, uint32_t ignored, const T* first, const More*... more) {
+HWY_INLINE auto comparePixels(const Comparison<IndexedOp>& comparison, const T* first, const More*... more) {
   const Lanes<T> d;
   const auto maskOf = [&](auto k) HWY_ATTR {
     const ptrdiff_t at = k * laneCount<T>;
-    return hn::VecFromMask(d, op(d, k, hn::LoadU(d, first + at), hn::LoadU(d, more + at)...));
+    return hn::VecFromMask(d, comparison.op(d, k, hn::LoadU(d, first + at), hn::LoadU(d, more + at)...));
   };
   Vectors<hn::Vec<Lanes<uint8_t>>, elements> masks;
   unrolled<elements>([&](auto k) HWY_ATTR {
@@ -80,42 +87,45 @@ HWY_INLINE auto comparePixels(const IndexedOp& op, uint32_t ignored, const T* fi
     }
     (std::make_integer_sequence<int, sizeof(T)>());
   });
-  return allChannels<elements>(masks, ignored);
+  return allChannels<elements>(masks, comparison.ignored);
 }
 
 constexpr ptrdiff_t pixelsPerBlock = laneCount<uint8_t>;
 
-template <int elements, class IndexedOp, class... Src>
-HWY_NOINLINE void compareRow(ptrdiff_t width, const IndexedOp& indexedOp, uint32_t ignored, Vemi8u* dst,
-                             const Src*... src) {
-  const IndexedOp op = indexedOp;  // a local, which no store to the destination can change
+template <int elements, class Comparison, class... Src>
+HWY_NOINLINE void compareRow(ptrdiff_t width, const Comparison& shared, Vemi8u* dst, const Src*... src) {
+  if (width < pixelsPerBlock) {
+    const auto wholeBlock = [](const void* context, Vemi8u* out, const Src*... in) {
+      compareRow<elements>(pixelsPerBlock, *static_cast<const Comparison*>(context), out, in...);
+    };
+    return shortRow<pixelsPerBlock>(width, wholeBlock, shared, Strand<Vemi8u>{dst},
+                                    Strand<const Src, elements>{src}...);
+  }
+  const Comparison comparison = shared;  // a local, which no store to the destination can change
   const auto kernel = [&](Vemi8u* out, const Src*... in)
-                          HWY_ATTR { hn::StoreU(comparePixels<elements>(op, ignored, in...), Lanes<uint8_t>(), out); };
-  forBlocks<pixelsPerBlock>(width, kernel, Strand<Vemi8u>{dst}, Strand<const Src, elements>{src}...);
+                          HWY_ATTR { hn::StoreU(comparePixels<elements>(comparison, in...), Lanes<uint8_t>(), out); };
+  forWholeBlocks<pixelsPerBlock>(width, kernel, Strand<Vemi8u>{dst}, Strand<const Src, elements>{src}...);
 }
 
 /// compareRow with stores past the caches.
-template <int elements, class IndexedOp, class... Src>
-HWY_NOINLINE void streamCompareRow(ptrdiff_t width, const IndexedOp& indexedOp, uint32_t ignored, Vemi8u* dst,
-                                   const Src*... src) {
-  const IndexedOp op = indexedOp;
-  const auto plain = [&](ptrdiff_t x, ptrdiff_t n) {
-    compareRow<elements>(n, indexedOp, ignored, dst + x, src + x * elements...);
-  };
+template <int elements, class Comparison, class... Src>
+HWY_NOINLINE void streamCompareRow(ptrdiff_t width, const Comparison& shared, Vemi8u* dst, const Src*... src) {
+  const Comparison comparison = shared;
+  const auto plain = [&](ptrdiff_t x, ptrdiff_t n) { compareRow<elements>(n, shared, dst + x, src + x * elements...); };
   const auto kernel = [&](Vemi8u* out, const Src*... in)
-                          HWY_ATTR { hn::Stream(comparePixels<elements>(op, ignored, in...), Lanes<uint8_t>(), out); };
+                          HWY_ATTR { hn::Stream(comparePixels<elements>(comparison, in...), Lanes<uint8_t>(), out); };
   forStreamedBlocks<pixelsPerBlock, 1>(width, plain, kernel, Strand<Vemi8u>{dst}, Strand<const Src, elements>{src}...);
 }
 
 template <class L, class IndexedOp, class... Src>
 VemiStatus compareRegion(VemiSize roiSize, const IndexedOp& op, Image<Vemi8u> dst, Image<const Src>... src) {
-  constexpr uint32_t ignored = L::keepsAlpha ? 0xff000000u : 0;
+  const Comparison<IndexedOp> comparison = {op, L::keepsAlpha ? 0xff000000u : 0};
   const bool contiguous = isContiguous<C1>(dst, roiSize) && (isContiguous<L>(src, roiSize) && ...);
   const Extent pixels = mergedExtent(roiSize, contiguous);
   runPlainOrStreamed(
       CallerRows(), pixels.height, trafficOf(pixels, (1 + ... + pixelBytes<Src, L>)),
-      [&](ptrdiff_t y) { compareRow<L::elements>(pixels.width, op, ignored, dst.row(y), src.row(y)...); },
-      [&](ptrdiff_t y) { streamCompareRow<L::elements>(pixels.width, op, ignored, dst.row(y), src.row(y)...); });
+      [&](ptrdiff_t y) { compareRow<L::elements>(pixels.width, comparison, dst.row(y), src.row(y)...); },
+      [&](ptrdiff_t y) { streamCompareRow<L::elements>(pixels.width, comparison, dst.row(y), src.row(y)...); });
   return vemiOk;
 }
 

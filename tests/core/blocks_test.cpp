@@ -63,4 +63,35 @@ TEST(ForBlocks, AKernelMeetsEveryItemOfTheRowAndNoOther) {
   });
 }
 
+// A row's function that depends on the place of an element in its pixel, and leaves the pixel's last one alone.
+template <ptrdiff_t items, int period>
+void expectShortRows() {
+  const auto handle = [](ptrdiff_t i, Vemi16u* out, const Vemi8u* in, int constant) {
+    const ptrdiff_t channel = i % period;
+    if (channel != period - 1) out[i] = static_cast<Vemi16u>(in[i] * (channel + 1) + constant);
+  };
+  forRows(items / period, [&](ptrdiff_t pixels, Place place) {
+    const ptrdiff_t count = pixels * period;
+    if (count >= items) return;
+    const GuardedRow<Vemi8u> source(count, place);
+    const GuardedRow<Vemi16u> destination(count, place);
+    const auto row = [](const void* constant, Vemi16u* out, const Vemi8u* in) {
+      for (ptrdiff_t i = 0; i < items; ++i) decltype(handle)()(i, out, in, *static_cast<const int*>(constant));
+    };
+    const int constant = 1000;
+    shortRow<items, period>(count, row, constant, Strand<Vemi16u>{destination.data()},
+                            Strand<const Vemi8u>{source.data()});
+    auto expected = destination.original();
+    const auto in = source.original();
+    for (ptrdiff_t i = 0; i < count; ++i) handle(i, expected.data(), in.data(), constant);
+    ASSERT_TRUE(destination.holds(expected) && source.untouched());
+  });
+}
+
+TEST(ShortRow, EveryItemIsHandledInItsPlace) {
+  expectShortRows<64, 4>();
+  expectShortRows<24, 3>();
+  expectShortRows<12, 4>();  // no whole pixels in half a block
+}
+
 }  // namespace
