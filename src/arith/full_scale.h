@@ -19,10 +19,8 @@ HWY_INLINE PreparedFactor<V> preparedFactor(D d, V v) {
   if constexpr (sizeof(hn::TFromD<D>) > 1) {
     return {v, v};
   } else {
-    const hn::RepartitionToWide<D> dWide;
-    const auto pairs = hn::BitCast(dWide, v);
-    return {hn::OddEven(hn::BitCast(d, hn::ShiftLeft<8>(pairs)), v),
-            hn::OddEven(v, hn::BitCast(d, hn::ShiftRight<8>(pairs)))};
+    const V evenOfBlock = hn::And(hn::Iota(d, 0), hn::Set(d, 14));
+    return {hn::TableLookupBytes(v, evenOfBlock), hn::TableLookupBytes(v, hn::Or(evenOfBlock, hn::Set(d, 1)))};
   }
 }
 
