@@ -73,5 +73,6 @@ Family gammaFamily();
 Family countsFamily();
 Family noiseFamily();
 Family generatedFamily();
+Family rowsFamily();
 
 }  // namespace bench

@@ -1,4 +1,5 @@
-// Images as users have them: one block, rows without gaps, the first pixel on a cache line.
+// Images as users have them: one block, rows without gaps but where a row of the table asks for some, the first pixel
+// on a cache line.
 #pragma once
 
 #include <cstdint>
@@ -21,12 +22,16 @@ struct Image {
   std::shared_ptr<T> pixels;
 
   T* data() const { return pixels.get(); }
-  size_t elements() const { return static_cast<size_t>(size.width) * static_cast<size_t>(size.height * channels); }
+  // With the gaps.
+  size_t elements() const { return static_cast<size_t>(step) * static_cast<size_t>(size.height) / sizeof(T); }
   Bytes bytes() const { return {data(), elements() * sizeof(T)}; }
 };
 
 // What our side moves through the images that a row has made since the report last set it to 0.
 inline size_t bytesMoved = 0;
+
+// Bytes between the rows of the images that are made next; whole elements.
+inline int gapBytes = 0;
 
 // How often our side passes over an image: it reads or writes it, does both in place, or leaves it to the peer.
 enum Passes { peersAlone, once, inPlace };
@@ -35,12 +40,13 @@ enum Passes { peersAlone, once, inPlace };
 template <class T>
 Image<T> blankImage(VemiSize size, int channels, Passes passes = once) {
   constexpr size_t cacheLine = 64;
-  Image<T> image{size, channels, size.width * channels * static_cast<int>(sizeof(T)), nullptr};
+  const int rowBytes = size.width * channels * static_cast<int>(sizeof(T));
+  Image<T> image{size, channels, rowBytes + gapBytes, nullptr};
   const size_t count = image.bytes().count;
   void* block = std::aligned_alloc(cacheLine, (count + cacheLine - 1) / cacheLine * cacheLine);
   if (!block) throw std::bad_alloc();
   std::memset(block, 0, count);
-  bytesMoved += count * passes;
+  bytesMoved += static_cast<size_t>(rowBytes) * static_cast<size_t>(size.height) * passes;
   image.pixels.reset(static_cast<T*>(block), std::free);
   return image;
 }

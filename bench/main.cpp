@@ -27,13 +27,14 @@ constexpr FamilyTable families[] = {
     divideScalingFamily, unaryFamily,   mulScaleFamily,   unaryScalingFamily, logicalFamily,
     shiftFamily,         alphaFamily,   reductionsFamily, normFamily,         hardReductionsFamily,
     thresholdFamily,     compareFamily, convertFamily,    bitImageFamily,     lutFamily,
-    gammaFamily,         countsFamily,  noiseFamily,      generatedFamily,
+    gammaFamily,         countsFamily,  noiseFamily,      generatedFamily,    rowsFamily,
+    rowsFamily,
 };
 
 constexpr const char* usage =
     "usage: vemi_bench [--quick] [--size WIDTHxHEIGHT]... [WORD]...\n"
     "  Runs the rows whose family, name or peer contains all of the WORDs; without one, all rows.\n"
-    "  --size   an image size; default 320x240, 1920x1080 and 4096x4096\n"
+    "  --size   an image size; default 64x64, 320x240, 1920x1080 and 4096x4096\n"
     "  --quick  one round instead of three: rougher figures in a third of the time\n";
 
 struct Options {
@@ -59,7 +60,7 @@ std::optional<Options> parse(int count, char** arguments) {
       options.words.push_back(argument);
     }
   }
-  if (options.sizes.empty()) options.sizes = {{320, 240}, {1920, 1080}, {4096, 4096}};
+  if (options.sizes.empty()) options.sizes = {{64, 64}, {320, 240}, {1920, 1080}, {4096, 4096}};
   return options;
 }
 

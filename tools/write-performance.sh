@@ -28,23 +28,28 @@ awk '
   function text(x, y, anchor, what) {
     printf "  <text x=\"%.0f\" y=\"%.0f\" text-anchor=\"%s\">%s</text>\n", x, y, anchor, what
   }
-  BEGIN { left = 190; octave = 110; octaves = 4; bar = 6; gap = 8; top = 56; split("#1f6f8b #f0a202 #b23a48", colour, " ") }
-  NR == 2 { for (i = 1; i <= 3; ++i) size[i] = $(NF - 3 + i) }
+  BEGIN {
+    left = 190; octave = 110; octaves = 4; bar = 6; gap = 8; top = 56; split("#7a9e3f #1f6f8b #f0a202 #b23a48", colour, " ")
+  }
+  NR == 2 {
+    for (i = 3; i <= NF; ++i) size[i - 2] = $i
+    sizes = NF - 2
+  }
   /^= / {
     name[++families] = $2
-    for (i = 3; i <= NF - 3; ++i) name[families] = name[families] " " $i
-    for (i = 1; i <= 3; ++i) {
-      mean[families, i] = $(NF - 3 + i)
+    for (i = 3; i <= NF - sizes; ++i) name[families] = name[families] " " $i
+    for (i = 1; i <= sizes; ++i) {
+      mean[families, i] = $(NF - sizes + i)
       while (mean[families, i] > 2 ^ (octaves - 1)) ++octaves
     }
   }
   END {
-    bottom = top + families * (3 * bar + gap)
+    bottom = top + families * (sizes * bar + gap)
     printf "<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"%d\" height=\"%d\" font-family=\"sans-serif\"", left + octaves * octave + 60, bottom + 30
     print " font-size=\"12\">"
     print "  <rect width=\"100%\" height=\"100%\" fill=\"white\"/>"
     text(left, 18, "start", "Time of the peer / time of Vemi, geometric mean over the rows of a family")
-    for (i = 1; i <= 3; ++i) {
+    for (i = 1; i <= sizes; ++i) {
       printf "  <rect x=\"%d\" y=\"28\" width=\"12\" height=\"10\" fill=\"%s\"/>\n", left + 130 * (i - 1), colour[i]
       text(left + 130 * (i - 1) + 18, 37, "start", size[i])
     }
@@ -53,9 +58,9 @@ awk '
       text(place(ratio), bottom + 16, "middle", ratio)
     }
     for (f = 1; f <= families; ++f) {
-      y = top + (f - 1) * (3 * bar + gap)
-      text(left - 8, y + 2 * bar + 1, "end", name[f])
-      for (i = 1; i <= 3; ++i) {
+      y = top + (f - 1) * (sizes * bar + gap)
+      text(left - 8, y + (sizes + 1) / 2 * bar + 1, "end", name[f])
+      for (i = 1; i <= sizes; ++i) {
         from = place(1); to = place(mean[f, i])
         printf "  <rect x=\"%.1f\" y=\"%d\" width=\"%.1f\" height=\"%d\" fill=\"%s\"/>\n", from < to ? from : to, y + (i - 1) * bar, (from < to ? to - from : from - to) + 0.5, bar - 1, colour[i]
       }
