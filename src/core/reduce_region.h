@@ -7,12 +7,13 @@
 //
 // A reduction is a record that gives
 //   Element, Lane         types of the elements that it reads and of the lanes that it adds to;
-//   parts                 accumulators for one vector of elements; part p holds those that are p behind a multiple of
-//                         sizeof(Lane) / sizeof(Element);
+//   accumulators          how many a vector of elements is added to. A lane lies over sizeof(Lane) / sizeof(Element)
+//                         elements; where these are of several channels, accumulator a takes the one at place a modulo
+//                         their number;
 //   capacity              vectors that an accumulator takes before it must be emptied; see below;
 //   order                 what the result may depend on, see below;
-//   start(part)           what lanes begin with;
-//   add(d, k, kept, v...) adds a vector of each source to kept.part[0..parts - 1].v[k];
+//   start(a)              what the lanes of accumulator a begin with;
+//   add(d, k, sums, v...) adds a vector of each source to sums.of[a].v[k], for each accumulator a;
 //   padding(row, channel) an element that changes nothing, equal in all sources.
 #pragma once
 
@@ -54,31 +55,32 @@ struct Accumulators {
   using Element = typename Reduction::Element;
   using Lane = typename Reduction::Lane;
   using V = hn::Vec<Lanes<Lane>>;
-  static constexpr int parts = Reduction::parts;
+  static constexpr int count = Reduction::accumulators;
   static constexpr ptrdiff_t items = blockItems<Element, L>;
   static constexpr int vectors = static_cast<int>(items / laneCount<Element>);
   /// Independent sums, so that an addition need not wait for the one before.
   static constexpr int chains = Reduction::order == ReductionOrder::fixed ? vectors
                                 : L::elements == 3                        ? 3
-                                : 4 / parts < vectors                     ? 4 / parts
+                                : 4 / count < vectors                     ? 4 / count
                                                                           : vectors;
   static constexpr ptrdiff_t capacity = Reduction::capacity / (vectors / chains);  // in blocks
   static_assert(items % L::elements == 0 && vectors % chains == 0 && capacity > 0);
 
-  static constexpr ptrdiff_t lanesInPart = chains * laneCount<Lane>;
+  /// Of each accumulator.
+  static constexpr ptrdiff_t lanes = chains * laneCount<Lane>;
 
-  /// Of lane i of a part.
-  static constexpr int channelOf(int part, ptrdiff_t i) {
+  /// Of lane i of an accumulator.
+  static constexpr int channelOf(int accumulator, ptrdiff_t i) {
     constexpr ptrdiff_t spread = laneCount<Element> / laneCount<Lane>;
-    return static_cast<int>((spread * i + part % spread) % L::elements);
+    return static_cast<int>((spread * i + accumulator % spread) % L::elements);
   }
 
-  Vectors<V, chains> part[parts];
+  Vectors<V, chains> of[count];
 
   HWY_INLINE void restart() {
-    unrolled<parts>([&](auto p) HWY_ATTR {
-      const V start = hn::Set(Lanes<Lane>(), Reduction::start(p));
-      unrolled<chains>([&](auto k) HWY_ATTR { part[p].v[k] = start; });
+    unrolled<count>([&](auto a) HWY_ATTR {
+      const V start = hn::Set(Lanes<Lane>(), Reduction::start(a));
+      unrolled<chains>([&](auto k) HWY_ATTR { of[a].v[k] = start; });
     });
   }
 };
@@ -86,12 +88,12 @@ struct Accumulators {
 /// The lanes of all accumulators, in memory.
 template <class A>
 struct EmptiedLanes {
-  alignas(laneAlignment) typename A::Lane part[A::parts][A::lanesInPart];
+  alignas(laneAlignment) typename A::Lane of[A::count][A::lanes];
 
-  HWY_INLINE explicit EmptiedLanes(const A& kept) {
+  HWY_INLINE explicit EmptiedLanes(const A& sums) {
     const Lanes<typename A::Lane> d;
-    unrolled<A::parts>([&](auto p) HWY_ATTR {
-      unrolled<A::chains>([&](auto k) HWY_ATTR { hn::Store(kept.part[p].v[k], d, part[p] + k * hn::Lanes(d)); });
+    unrolled<A::count>([&](auto a) HWY_ATTR {
+      unrolled<A::chains>([&](auto k) HWY_ATTR { hn::Store(sums.of[a].v[k], d, of[a] + k * hn::Lanes(d)); });
     });
   }
 };
@@ -103,15 +105,15 @@ template <class A, class Reduction, class... Src>
 HWY_NOINLINE void addBlocks(A& accumulators, ptrdiff_t blocks, const Reduction& reduction, const Src*... src) {
   const Lanes<typename A::Element> d;
   constexpr ptrdiff_t N = laneCount<typename A::Element>;
-  A kept = accumulators;  // a local, which stays in registers
+  A sums = accumulators;  // a local, which stays in registers
   for (; blocks > 0; --blocks) {
     unrolled<A::vectors>([&](auto k) HWY_ATTR {
       const std::integral_constant<int, k % A::chains> chain;
-      reduction.add(d, chain, kept, hn::LoadU(d, src + k * N)...);
+      reduction.add(d, chain, sums, hn::LoadU(d, src + k * N)...);
     });
     ((src += A::items), ...);
   }
-  accumulators = kept;
+  accumulators = sums;
 }
 
 /// A row's last elements, `count` modulo a block's, at the end of a block.
@@ -157,18 +159,18 @@ HWY_NOINLINE void reduceRegion(VemiSize roiSize, const Reduction& reduction, Sin
   const bool contiguous = isContiguous<L>(src, roiSize) && (isContiguous<L>(others, roiSize) && ...);
   const Extent pixels = mergedExtent(roiSize, contiguous && !byRow);
   const ptrdiff_t elements = pixels.width * L::elements;
-  A kept;
-  kept.restart();
+  A sums;
+  sums.restart();
   ptrdiff_t room = A::capacity;
   const auto empty = [&] {
-    sink(EmptiedLanes<A>(kept));
-    kept.restart();
+    sink(EmptiedLanes<A>(sums));
+    sums.restart();
     room = A::capacity;
   };
   const auto add = [&](ptrdiff_t blocks, auto... row) {
     while (blocks > 0) {
       const ptrdiff_t some = std::min(blocks, room);
-      detail::addBlocks(kept, some, reduction, row...);
+      detail::addBlocks(sums, some, reduction, row...);
       ((row += some * A::items), ...);
       blocks -= some;
       room -= some;

@@ -46,7 +46,7 @@ template <class L, class T>
 struct InRange {
   using Element = T;
   using Lane = hwy::UnsignedFromSize<sizeof(T)>;
-  static constexpr int parts = 1;
+  static constexpr int accumulators = 1;
   static constexpr ptrdiff_t capacity = capacityFor<Lane>(1);
   static constexpr ReductionOrder order = ReductionOrder::any;
   static Lane start(int) { return 0; }
@@ -61,10 +61,10 @@ struct InRange {
   T padding(const T*, int channel) const { return outside[channel]; }
 
   template <class D, class K, class A, class V>
-  HWY_INLINE void add(D d, K k, A& kept, V v) const {
+  HWY_INLINE void add(D d, K k, A& sums, V v) const {
     const hn::RebindToUnsigned<D> dLanes;
     const auto counted = hn::VecFromMask(dLanes, hn::RebindMask(dLanes, inside(d, k, v)));
-    kept.part[0].v[k] = hn::Sub(kept.part[0].v[k], counted);
+    sums.of[0].v[k] = hn::Sub(sums.of[0].v[k], counted);
   }
 };
 

@@ -22,9 +22,9 @@ struct ExactSums : Adding {
   static T padding(const T*, int) { return 0; }
 
   template <class D, class K, class A, class... V>
-  HWY_INLINE void add(D d, K k, A& kept, V... v) const {
-    const auto addTo = [&](int part, auto term) HWY_ATTR {
-      kept.part[part].v[k] = hn::Add(kept.part[part].v[k], hn::BitCast(Lanes<typename Adding::Lane>(), term));
+  HWY_INLINE void add(D d, K k, A& sums, V... v) const {
+    const auto addTo = [&](int a, auto term) HWY_ATTR {
+      sums.of[a].v[k] = hn::Add(sums.of[a].v[k], hn::BitCast(Lanes<typename Adding::Lane>(), term));
     };
     Adding::addTerm(addTo, Term()(d, v...));
   }
@@ -47,7 +47,7 @@ HWY_INLINE auto pairsOfProducts(V a, V b) {
 /// Bytes of one channel.
 struct AddBytes {
   using Lane = uint64_t;
-  static constexpr int parts = 1;
+  static constexpr int accumulators = 1;
   static constexpr ptrdiff_t capacity = capacityFor<Lane>(uint64_t{8} * 255);
   template <class F, class V>
   HWY_INLINE static void addTerm(const F& addTo, V bytes) {
@@ -59,7 +59,7 @@ struct AddBytes {
 template <class T>
 struct AddApart {
   using Lane = std::conditional_t<sizeof(T) == 1, uint16_t, uint32_t>;
-  static constexpr int parts = 2;
+  static constexpr int accumulators = 2;
   static constexpr ptrdiff_t capacity = capacityFor<Lane>(std::numeric_limits<T>::max());
   template <class F, class V>
   HWY_INLINE static void addTerm(const F& addTo, V v) {
@@ -72,7 +72,7 @@ struct AddApart {
 /// Signed words of one channel.
 struct AddSignedPairs {
   using Lane = int32_t;
-  static constexpr int parts = 1;
+  static constexpr int accumulators = 1;
   static constexpr ptrdiff_t capacity = capacityFor<Lane>(uint64_t{2} * 32768);
   template <class F, class V>
   HWY_INLINE static void addTerm(const F& addTo, V v) {
@@ -83,7 +83,7 @@ struct AddSignedPairs {
 /// Signed words of several channels.
 struct AddSignedApart {
   using Lane = int32_t;
-  static constexpr int parts = 2;
+  static constexpr int accumulators = 2;
   static constexpr ptrdiff_t capacity = capacityFor<Lane>(32768);
   template <class F, class V>
   HWY_INLINE static void addTerm(const F& addTo, V v) {
@@ -96,7 +96,7 @@ struct AddSignedApart {
 /// Squares of bytes of one channel.
 struct AddSquaredBytes {
   using Lane = uint32_t;
-  static constexpr int parts = 1;
+  static constexpr int accumulators = 1;
   static constexpr ptrdiff_t capacity = capacityFor<Lane>(uint64_t{4} * 255 * 255);
   template <class F, class V>
   HWY_INLINE static void addTerm(const F& addTo, V bytes) {
@@ -111,7 +111,7 @@ struct AddSquaredBytes {
 template <class T>
 struct AddSquaresApart {
   using Lane = std::conditional_t<sizeof(T) == 1, uint32_t, uint64_t>;
-  static constexpr int parts = 4;
+  static constexpr int accumulators = 4;
   static constexpr ptrdiff_t capacity =
       capacityFor<Lane>(uint64_t{std::numeric_limits<T>::max()} * std::numeric_limits<T>::max());
   template <class F, class V>
@@ -123,15 +123,15 @@ struct AddSquaresApart {
 
  private:
   template <class F, class V>
-  HWY_INLINE static void addSquares(const F& addTo, int part, V root) {
+  HWY_INLINE static void addSquares(const F& addTo, int accumulator, V root) {
     if constexpr (sizeof(T) == 1) {  // the square fits the lane of the root
       const auto [even, odd] = evenAndOdd(hn::Mul(root, root));
-      addTo(part, even);
-      addTo(part + 2, odd);
+      addTo(accumulator, even);
+      addTo(accumulator + 2, odd);
     } else {
       const auto odd = hn::BitCast(hn::DFromV<V>(), hn::ShiftRight<32>(hn::BitCast(Lanes<uint64_t>(), root)));
-      addTo(part, hn::MulEven(root, root));
-      addTo(part + 2, hn::MulEven(odd, odd));
+      addTo(accumulator, hn::MulEven(root, root));
+      addTo(accumulator + 2, hn::MulEven(odd, odd));
     }
   }
 };
@@ -143,11 +143,11 @@ namespace detail {
 /// Signed lanes run on below zero modulo 2^64.
 template <class A>
 struct Totals {
-  uint64_t part[A::parts][A::lanesInPart] = {};
+  uint64_t of[A::count][A::lanes] = {};
 
   void operator()(const EmptiedLanes<A>& lanes) {
-    for (int p = 0; p < A::parts; ++p) {
-      for (ptrdiff_t i = 0; i < A::lanesInPart; ++i) part[p][i] += static_cast<uint64_t>(lanes.part[p][i]);
+    for (int a = 0; a < A::count; ++a) {
+      for (ptrdiff_t i = 0; i < A::lanes; ++i) of[a][i] += static_cast<uint64_t>(lanes.of[a][i]);
     }
   }
 };
@@ -166,8 +166,8 @@ ChannelSums<L> exactSums(VemiSize roiSize, const Reduction& reduction, Image<Src
   detail::Totals<A> totals;
   reduceRegion<L>(roiSize, reduction, totals, src...);
   ChannelSums<L> sums;
-  for (int p = 0; p < A::parts; ++p) {
-    for (ptrdiff_t i = 0; i < A::lanesInPart; ++i) sums.channel[A::channelOf(p, i)] += totals.part[p][i];
+  for (int a = 0; a < A::count; ++a) {
+    for (ptrdiff_t i = 0; i < A::lanes; ++i) sums.channel[A::channelOf(a, i)] += totals.of[a][i];
   }
   return sums;
 }

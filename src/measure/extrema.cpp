@@ -15,7 +15,7 @@ namespace {
 struct Holds {
   using Element = float;
   using Lane = uint32_t;
-  static constexpr int parts = 1;
+  static constexpr int accumulators = 1;
   static constexpr ptrdiff_t capacity = unlimitedCapacity;
   static constexpr ReductionOrder order = ReductionOrder::repeat;
   static Lane start(int) { return 0; }
@@ -26,10 +26,10 @@ struct Holds {
   Lane bits;
 
   template <class D, class K, class A, class V>
-  HWY_INLINE void add(D, K k, A& kept, V v) const {
+  HWY_INLINE void add(D, K k, A& flags, V v) const {
     const Lanes<Lane> d;
     const auto found = hn::VecFromMask(d, hn::Eq(hn::BitCast(d, v), hn::Set(d, bits)));
-    kept.part[0].v[k] = hn::Or(kept.part[0].v[k], found);
+    flags.of[0].v[k] = hn::Or(flags.of[0].v[k], found);
   }
 };
 
@@ -42,7 +42,7 @@ void settleZeros(VemiSize roiSize, float (&best)[L::elements], Image<const float
   using A = Accumulators<L, Holds>;
   uint32_t found[L::elements] = {};
   const auto sink = [&](const EmptiedLanes<A>& lanes) {
-    for (ptrdiff_t i = 0; i < A::lanesInPart; ++i) found[A::channelOf(0, i)] |= lanes.part[0][i];
+    for (ptrdiff_t i = 0; i < A::lanes; ++i) found[A::channelOf(0, i)] |= lanes.of[0][i];
   };
   reduceRegion<L>(roiSize, winner, sink, src);
   for (int c = 0; c < L::elements; ++c) {
@@ -55,10 +55,10 @@ VemiStatus extrema(Image<const T> src, VemiSize roiSize, Result*... pResult) {
   if (const VemiStatus bad = firstOf(checkNull(src, pResult...), checkSize(roiSize), checkStep(src))) return bad;
   using Pixel = Interleaved<L::elements>;
   auto values = bestOf<Pixel>(KeepBest<T, T, Identity, Extreme...>(), roiSize, src);
-  int part = 0;
-  if constexpr (std::is_floating_point_v<T>) (settleZeros<Pixel, Extreme>(roiSize, values.best[part++], src), ...);
-  part = 0;
-  (std::copy_n(values.best[part++], L::channels, pResult), ...);
+  int extreme = 0;
+  if constexpr (std::is_floating_point_v<T>) (settleZeros<Pixel, Extreme>(roiSize, values.best[extreme++], src), ...);
+  extreme = 0;
+  (std::copy_n(values.best[extreme++], L::channels, pResult), ...);
   return vemiOk;
 }
 

@@ -14,15 +14,15 @@ template <class Term>
 struct FloatSums {
   using Element = float;
   using Lane = float;
-  static constexpr int parts = 1;
+  static constexpr int accumulators = 1;
   static constexpr ptrdiff_t capacity = 256;
   static constexpr ReductionOrder order = ReductionOrder::fixed;
   static float start(int) { return 0; }
   static float padding(const float*, int) { return 0; }
 
   template <class D, class K, class A, class... V>
-  HWY_INLINE void add(D d, K k, A& kept, V... v) const {
-    kept.part[0].v[k] = hn::Add(kept.part[0].v[k], Term()(d, v...));
+  HWY_INLINE void add(D d, K k, A& sums, V... v) const {
+    sums.of[0].v[k] = hn::Add(sums.of[0].v[k], Term()(d, v...));
   }
 };
 
@@ -41,7 +41,7 @@ struct ExtendedTotals {
     constexpr ptrdiff_t N = laneCount<double>;
     alignas(laneAlignment) double sum[A::items];
     for (ptrdiff_t i = 0; i < A::items; i += N) {
-      hn::Store(hn::PromoteTo(d, hn::Load(dFloat, lanes.part[0] + i)), d, sum + i);
+      hn::Store(hn::PromoteTo(d, hn::Load(dFloat, lanes.of[0] + i)), d, sum + i);
     }
     for (ptrdiff_t half = A::items / 2; half >= L::elements; half /= 2) {
       ptrdiff_t i = 0;

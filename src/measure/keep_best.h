@@ -67,12 +67,12 @@ template <class T, class Value, class Term, class... Extreme>
 struct KeepBest {
   using Element = T;
   using Lane = Value;
-  static constexpr int parts = sizeof...(Extreme);
+  static constexpr int accumulators = sizeof...(Extreme);
   static constexpr ptrdiff_t capacity = unlimitedCapacity;
   static constexpr ReductionOrder order = ReductionOrder::repeat;
-  static Lane start(int part) {
+  static Lane start(int accumulator) {
     constexpr Lane worst[] = {Extreme::template worst<Lane>...};
-    return worst[part];
+    return worst[accumulator];
   }
   static T padding(const T* row, int channel) {
     T element;
@@ -81,10 +81,10 @@ struct KeepBest {
   }
 
   template <class D, class K, class A, class... V>
-  HWY_INLINE void add(D d, K k, A& kept, V... v) const {
+  HWY_INLINE void add(D d, K k, A& bests, V... v) const {
     const auto term = Term()(d, v...);
-    int part = 0;
-    ((kept.part[part].v[k] = Extreme::better(term, kept.part[part].v[k]), ++part), ...);
+    int a = 0;
+    ((bests.of[a].v[k] = Extreme::better(term, bests.of[a].v[k]), ++a), ...);
   }
 };
 
@@ -92,28 +92,28 @@ struct KeepBest {
 template <class L, class Reduction>
 struct BestValues {
   using T = typename Reduction::Lane;
-  T best[Reduction::parts][L::elements];
+  T best[Reduction::accumulators][L::elements];
 };
 
 template <class L, class T, class Value, class Term, class... Extreme, class... Others>
 auto bestOf(KeepBest<T, Value, Term, Extreme...> reduction, VemiSize roiSize, Image<const T> src, Others... others) {
   using A = Accumulators<L, decltype(reduction)>;
   BestValues<L, decltype(reduction)> values;
-  for (int p = 0; p < A::parts; ++p) {
-    for (auto& each : values.best[p]) each = reduction.start(p);
+  for (int a = 0; a < A::count; ++a) {
+    for (auto& each : values.best[a]) each = reduction.start(a);
   }
   const auto sink = [&](const EmptiedLanes<A>& lanes) {
-    const auto fold = [&]<class One>(One, int p) {
+    const auto fold = [&]<class One>(One, int a) {
       for (int c = 0; c < L::elements; ++c) {
-        auto best = values.best[p][c];
-        for (ptrdiff_t i = c; i < A::lanesInPart; i += L::elements) {
-          best = One::isBetter(lanes.part[p][i], best) ? lanes.part[p][i] : best;
+        auto best = values.best[a][c];
+        for (ptrdiff_t i = c; i < A::lanes; i += L::elements) {
+          best = One::isBetter(lanes.of[a][i], best) ? lanes.of[a][i] : best;
         }
-        values.best[p][c] = best;
+        values.best[a][c] = best;
       }
     };
-    int part = 0;
-    (fold(Extreme(), part++), ...);
+    int a = 0;
+    (fold(Extreme(), a++), ...);
   };
   reduceRegion<L>(roiSize, reduction, sink, src, others...);
   return values;

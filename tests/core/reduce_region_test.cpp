@@ -19,15 +19,15 @@ template <ReductionOrder walkOrder>
 struct Adding {
   using Element = uint16_t;
   using Lane = uint16_t;
-  static constexpr int parts = 1;
+  static constexpr int accumulators = 1;
   static constexpr ptrdiff_t capacity = 12;
   static constexpr ReductionOrder order = walkOrder;
   static Lane start(int) { return 0; }
   static Element padding(const Element*, int) { return 0; }
 
   template <class D, class K, class A, class V>
-  HWY_INLINE void add(D, K k, A& kept, V v) const {
-    kept.part[0].v[k] = hn::Add(kept.part[0].v[k], v);
+  HWY_INLINE void add(D, K k, A& sums, V v) const {
+    sums.of[0].v[k] = hn::Add(sums.of[0].v[k], v);
   }
 };
 
@@ -46,9 +46,9 @@ void expectChannelSums(VemiSize size, ptrdiff_t gap, Place place) {
     }
   }
   const auto sink = [&](const EmptiedLanes<A>& lanes) {
-    for (ptrdiff_t i = 0; i < A::lanesInPart; ++i) {
+    for (ptrdiff_t i = 0; i < A::lanes; ++i) {
       uint16_t& sum = sums[static_cast<size_t>(A::channelOf(0, i))];
-      sum = static_cast<uint16_t>(sum + lanes.part[0][i]);
+      sum = static_cast<uint16_t>(sum + lanes.of[0][i]);
     }
   };
   reduceRegion<L>(size, Adding<order>(), sink, Image<const uint16_t>{pixels.data(), static_cast<int>(2 * pitch)});
@@ -80,7 +80,7 @@ TEST(ReduceRegion, AFixedOrderGivesEachElementItsLane) {
   constexpr int items = static_cast<int>(A::items), width = items / 3 + 2;
   std::vector<uint16_t> row(3 * width), lanes;
   for (size_t i = 0; i < row.size(); ++i) row[i] = static_cast<uint16_t>(1000 + i);
-  const auto sink = [&](const EmptiedLanes<A>& emptied) { lanes.assign(emptied.part[0], emptied.part[0] + items); };
+  const auto sink = [&](const EmptiedLanes<A>& emptied) { lanes.assign(emptied.of[0], emptied.of[0] + items); };
   reduceRegion<C3>({width, 1}, Adding<ReductionOrder::fixed>(), sink, Image<const uint16_t>{row.data(), 6 * width});
   for (int i = 0; i < items; ++i) {
     EXPECT_EQ(lanes[static_cast<size_t>(i)], 1000 + i + (i < items - 6 ? 0 : 1000 + 6 + i)) << i;
