@@ -113,13 +113,13 @@ struct WatchedRows {
   const Watch& watch;
   VemiStatus& status;
 
-  template <class Row, class Finish = Nothing>
+  template <class Row, class Finish = NoFinish>
   void run(ptrdiff_t height, const Row& row, const Finish& finish = {}) const {
     const auto watchedRow = [&](ptrdiff_t y) {
       if (status == vemiOk) status = watch(y);
       row(y);
     };
-    rowsSerially(height, watchedRow, finish);
+    rowsSerially({0, height}, watchedRow, finish);
   }
 };
 

@@ -1,14 +1,15 @@
-// The parallel regions of the heavier families, in four forms. A region is opened once in a call, after all checks; the
-// OpenMP runtime decides on the team, and where it allows no team the same body runs in the calling thread. Results
-// never depend on the size of the team.
+// Who works on a call, the calling thread alone or a team, and in which shares: rows, bands or tiles. A region is
+// opened once in a call, after all checks; the OpenMP runtime decides on the team, and where it allows no team the same
+// work is done in the calling thread. Results never depend on the size of the team.
 #pragma once
 
 #include <omp.h>
 
 #include <algorithm>
 #include <cstddef>
+#include <type_traits>
 
-#include "core/alloc.h"
+#include "core/scratch.h"
 #include "vemi/status.h"
 #include "vemi/types.h"
 
@@ -18,48 +19,64 @@ namespace vemi {
 /// that it is one rule for all element types.
 inline bool belowSerialThreshold(int height, ptrdiff_t rowBytes) { return (height >> 2) + (rowBytes >> 4) <= 20; }
 
-struct Nothing {
-  void operator()() const {}
-};
-
 namespace detail {
 
-/// The library's one parallel region.
-void openTeam(void (*body)(const void*), const void* object);
+template <class Signature>
+class FunctionRef;
+
+/// A function object that is called through a pointer: so one region serves all work. The object outlives the call.
+template <class Result, class... Arguments>
+class FunctionRef<Result(Arguments...)> {
+ public:
+  template <class F>
+  FunctionRef(const F& f)
+      : object_(&f), call_([](const void* object, Arguments... arguments) -> Result {
+          return (*static_cast<const F*>(object))(arguments...);
+        }) {}
+
+  Result operator()(Arguments... arguments) const { return call_(object_, arguments...); }
+
+ private:
+  const void* object_;
+  Result (*call_)(const void*, Arguments...);
+};
 
 }  // namespace detail
 
-/// Calls body() in each thread of a team. All of them compute as the caller has told his own: a worker has the caller's
-/// control word for the call, and then its own again. The flags that it raises are seen by itself alone.
-template <class Body>
-void inTeam(const Body& body) {
-  detail::openTeam([](const void* object) { (*static_cast<const Body*>(object))(); }, &body);
-}
+/// The rows from `first` on, up to `end`.
+struct RowRange {
+  ptrdiff_t first, end;
+};
 
-/// Form A, the row loop: each thread runs row(y) over one contiguous block of rows, then finish() once.
-template <class Row, class Finish = Nothing>
-void rowsInTeam(ptrdiff_t height, const Row& row, const Finish& finish = {}) {
-  inTeam([&] {
-#pragma omp for schedule(static) nowait
-    for (ptrdiff_t y = 0; y < height; ++y) row(y);
-    finish();
-  });
-}
+/// Of thread t of n, as OpenMP's static schedule has it: blocks of equal height, the first ones with a row more.
+RowRange rowsOf(int t, int n, ptrdiff_t height);
 
-template <class Row, class Finish = Nothing>
-void rowsSerially(ptrdiff_t height, const Row& row, const Finish& finish = {}) {
-  for (ptrdiff_t y = 0; y < height; ++y) row(y);
+namespace detail {
+
+/// work(rows) for the block of rows of each thread.
+void runRows(bool inOneThread, ptrdiff_t height, FunctionRef<void(RowRange rows)> work);
+
+}  // namespace detail
+
+struct NoFinish {
+  void operator()() const {}
+};
+
+template <class Row, class Finish = NoFinish>
+void rowsSerially(RowRange rows, const Row& row, const Finish& finish = {}) {
+  for (ptrdiff_t y = rows.first; y < rows.end; ++y) row(y);
   finish();
 }
 
-// Who runs the rows of a member: the calling thread alone, or, unless the image is small, a team.
+// Who works on a call: the calling thread alone, or, unless the image is small, a team. run(height, row, finish) is the
+// plain row loop: each thread runs row(y) over one block of rows, then finish() once.
 
 struct CallerRows {
   static constexpr bool inOneThread() { return true; }
 
-  template <class Row, class Finish = Nothing>
+  template <class Row, class Finish = NoFinish>
   void run(ptrdiff_t height, const Row& row, const Finish& finish = {}) const {
-    rowsSerially(height, row, finish);
+    rowsSerially({0, height}, row, finish);
   }
 };
 
@@ -69,111 +86,98 @@ struct TeamRows {
   /// A region of one thread is left out: opening it takes as long as some ten thousand bytes of work.
   bool inOneThread() const { return small || omp_get_max_threads() == 1; }
 
-  template <class Row, class Finish = Nothing>
+  template <class Row, class Finish = NoFinish>
   void run(ptrdiff_t height, const Row& row, const Finish& finish = {}) const {
-    if (inOneThread()) {
-      rowsSerially(height, row, finish);
-    } else {
-      rowsInTeam(height, row, finish);
-    }
+    detail::runRows(inOneThread(), height, [&](RowRange own) { rowsSerially(own, row, finish); });
   }
 };
 
-/// Form B, contiguous bands: band(first row, rows) once in each thread. All bands have the same height but the last,
+// ---- Rows, bands and tiles with memory and a status -----------------------------------------------------------------
+//
+//   Pieces slice;
+//   const auto sums = slice.add<float>(width);
+//   return forRows(TeamRows{small}, height, {.slice = slice}, [&](ptrdiff_t y, Memory own) { ... own[sums] ... });
+//
+// One thread allocates one block for the team. Where that fails, all threads learn it before any has begun, and the
+// status is vemiErrMemAlloc. Work may return a status or nothing. The smallest status is kept, so that an error wins
+// over a warning; an error stops no other work, and warnings alone are vemiOk.
+
+/// What a team works with.
+struct TeamMemory {
+  Pieces shared = {};      // by all threads
+  Pieces slice = {};       // by each thread for itself
+  void* buffer = nullptr;  // where the slices lie one behind the other, if a user has handed memory over
+};
+
+namespace detail {
+
+template <class Work, class... Arguments>
+inline constexpr bool hasStatus = !std::is_void_v<std::invoke_result_t<const Work&, Arguments...>>;
+
+template <class Work, class... Arguments>
+VemiStatus statusOf(const Work& work, Arguments... arguments) {
+  if constexpr (hasStatus<Work, Arguments...>) {
+    return work(arguments...);
+  } else {
+    work(arguments...);
+    return vemiOk;
+  }
+}
+
+using Prepare = FunctionRef<VemiStatus(Memory shared)>;
+using Share = FunctionRef<VemiStatus(int t, int n, Memory shared, Memory slice)>;
+
+/// prepare(shared) in one thread, then share(t, n, shared, slice) in each thread t of n, unless that failed.
+/// `withStatus` says whether a share may fail.
+VemiStatus runTeam(bool inOneThread, const TeamMemory& memory, bool withStatus, Prepare prepare, Share share);
+
+}  // namespace detail
+
+/// The row loop: row(y, slice), each thread over one block of rows.
+template <class Rows, class Row>
+VemiStatus forRows(const Rows& who, ptrdiff_t height, const TeamMemory& memory, const Row& row) {
+  const auto prepare = [](Memory) { return vemiOk; };
+  const auto share = [&](int t, int n, Memory, Memory slice) {
+    const RowRange own = rowsOf(t, n, height);
+    VemiStatus status = vemiOk;
+    for (ptrdiff_t y = own.first; y < own.end; ++y) status = std::min(status, detail::statusOf(row, y, slice));
+    return status;
+  };
+  return detail::runTeam(who.inOneThread(), memory, detail::hasStatus<Row, ptrdiff_t, Memory>, prepare, share);
+}
+
+/// Contiguous bands: band(first row, rows, slice) once in each thread. All bands have the same height but the last,
 /// which takes the rest too; with more threads than rows all bands but the last are empty.
-template <class Band>
-void bandsInTeam(int height, const Band& band) {
-  int nThreads, bandRows, bandRest;
-  inTeam([&] {
-#pragma omp single
-    {
-      nThreads = omp_get_num_threads();
-      bandRows = height / nThreads;
-      bandRest = height % nThreads;
-    }
-    const int t = omp_get_thread_num();
-    band(t * bandRows, t == nThreads - 1 ? bandRows + bandRest : bandRows);
-  });
+template <class Rows, class Band>
+VemiStatus forBands(const Rows& who, int height, const TeamMemory& memory, const Band& band) {
+  const auto prepare = [](Memory) { return vemiOk; };
+  const auto share = [&](int t, int n, Memory, Memory slice) {
+    const int rows = height / n, rest = t == n - 1 ? height % n : 0;
+    return detail::statusOf(band, t * rows, rows + rest, slice);
+  };
+  return detail::runTeam(who.inOneThread(), memory, detail::hasStatus<Band, int, int, Memory>, prepare, share);
 }
 
-/// Form C, team scratch with a row loop: row(y, slice), the slice being the thread's own `sliceElements` floats.
-template <class Row>
-VemiStatus scratchRowsInTeam(int height, int sliceElements, const Row& row) {
-  Vemi32f* pScratch = nullptr;
-  bool failed = false;
-  inTeam([&] {
-#pragma omp single
-    {
-      const Vemi64s bytes = Vemi64s{sliceElements} * Vemi64s{sizeof(Vemi32f)} * omp_get_num_threads();
-      pScratch = static_cast<Vemi32f*>(alignedAllocBytes(bytes));
-      failed = pScratch == nullptr;
-    }
-    if (!failed) {
-      Vemi32f* const slice = pScratch + ptrdiff_t{omp_get_thread_num()} * sliceElements;
-#pragma omp for schedule(static)
-      for (int y = 0; y < height; ++y) row(y, slice);
-    }
-  });
-  vemiAlignedFree(pScratch);
-  return failed ? vemiErrMemAlloc : vemiOk;
-}
-
-/// The tiles of form D and the memory that they need: one block that all tiles read, one slice for each thread.
 struct TileGrid {
   int across, down;
-  Vemi64s sharedBytes, sliceBytes;
 };
 
-/// The one block of form D: a status word for each thread, the shared memory, the threads' slices.
-struct TeamBlock {
-  TileGrid grid;
-  int nThreads = 0;
-  char* base = nullptr;
-
-  /// At full width, also where pointers are narrower: what exceeds these must fail to be allocated, not wrap.
-  static Vemi64s aligned(Vemi64s bytes) { return (bytes + 31) / 32 * 32; }
-
-  Vemi64s headBytes() const { return aligned(Vemi64s{sizeof(VemiStatus)} * nThreads); }
-
-  void allocate() {
-    const Vemi64s bytes = headBytes() + aligned(grid.sharedBytes) + aligned(grid.sliceBytes) * nThreads;
-    base = static_cast<char*>(alignedAllocBytes(bytes));
-  }
-
-  VemiStatus& status(int t) const { return reinterpret_cast<VemiStatus*>(base)[t]; }
-  char* shared() const { return base + headBytes(); }
-  char* slice(int t) const { return shared() + aligned(grid.sharedBytes) + aligned(grid.sliceBytes) * t; }
-};
-
-/// Form D, team scratch with a cyclic tile loop: one thread prepares the shared block, then thread t of n works on the
-/// tiles t, t + n, t + 2n, ... with its own slice. prepare(shared) and tile(row, column, shared, slice) return a
-/// status; the smallest is kept, so an error wins over a warning, and a tile's error stops no other tile. A failed
-/// preparation starts no tile.
-template <class Prepare, class Tile>
-VemiStatus tilesInTeam(TileGrid grid, const Prepare& prepare, const Tile& tile) {
-  TeamBlock block = {grid};
-  VemiStatus prepared = vemiErrMemAlloc;
-  inTeam([&] {
-#pragma omp single
-    {
-      block.nThreads = omp_get_num_threads();
-      block.allocate();
-      if (block.base != nullptr) prepared = prepare(block.shared());
+/// Tiles: prepare(shared) in one thread, then tile(row, column, shared, slice), thread t of n taking the tiles t, t +
+/// n, t + 2n, ..., counted row by row. A failed preparation starts no tile.
+template <class Rows, class Prepare, class Tile>
+VemiStatus forTiles(const Rows& who, TileGrid grid, const TeamMemory& memory, const Prepare& prepare,
+                    const Tile& tile) {
+  const auto prepareShared = [&](Memory shared) { return detail::statusOf(prepare, shared); };
+  const auto share = [&](int t, int n, Memory shared, Memory slice) {
+    VemiStatus status = vemiOk;
+    for (Vemi64s i = t; i < Vemi64s{grid.across} * grid.down; i += n) {
+      const int row = static_cast<int>(i / grid.across), column = static_cast<int>(i % grid.across);
+      status = std::min(status, detail::statusOf(tile, row, column, shared, slice));
     }
-    if (block.base != nullptr) {
-      const int t = omp_get_thread_num();
-      VemiStatus status = vemiOk;
-      for (int i = t; prepared >= vemiOk && i < grid.across * grid.down; i += block.nThreads) {
-        const VemiStatus tileStatus = tile(i / grid.across, i % grid.across, block.shared(), block.slice(t));
-        status = std::min(status, tileStatus);
-      }
-      block.status(t) = status;
-    }
-  });
-  VemiStatus status = std::min<VemiStatus>(prepared, vemiOk);
-  for (int t = 0; block.base != nullptr && t < block.nThreads; ++t) status = std::min(status, block.status(t));
-  vemiAlignedFree(block.base);
-  return status;
+    return status;
+  };
+  constexpr bool withStatus = detail::hasStatus<Tile, int, int, Memory, Memory>;
+  return detail::runTeam(who.inOneThread(), memory, withStatus, prepareShared, share);
 }
 
 }  // namespace vemi

@@ -10,7 +10,6 @@
 #pragma once
 
 #include <cstddef>
-#include <cstdint>
 #include <limits>
 #include <utility>
 
@@ -48,14 +47,14 @@ struct Piece {
 /// A list of arrays that share a block.
 class Pieces {
  public:
-  /// Each array begins at a multiple of `alignment`: that of our blocks, or, to have them close together, less.
-  explicit Pieces(Vemi64s alignment = blockAlignment) : alignment_(alignment) {}
+  Pieces() = default;
+  /// Each array begins at a multiple of `alignment`, which is less than that of our blocks where arrays are to lie
+  /// close together.
+  explicit Pieces(Vemi64s alignment) : alignment_(alignment) {}
 
   template <class T>
   Piece<T> add(Vemi64s count) {
-    const Piece<T> piece = {roundedUp(bytes_, alignment_)};
-    bytes_ = limitedSum(piece.offset, arrayBytes<T>(count));
-    return piece;
+    return {place(count, sizeof(T))};
   }
 
   Vemi64s bytes() const { return bytes_; }
@@ -63,7 +62,9 @@ class Pieces {
   Vemi64s distance() const { return roundedUp(bytes_, alignment_); }
 
  private:
-  Vemi64s alignment_, bytes_ = 0;
+  Vemi64s alignment_ = blockAlignment, bytes_ = 0;
+
+  Vemi64s place(Vemi64s count, Vemi64s elementBytes);
 };
 
 /// A block, seen by the places of its arrays.
@@ -84,15 +85,7 @@ class Scratch {
  public:
   Scratch() = default;
   /// A null buffer has the block allocated.
-  explicit Scratch(Vemi64s bytes, void* buffer = nullptr) {
-    if (buffer != nullptr) {
-      const uintptr_t address = reinterpret_cast<uintptr_t>(buffer);
-      memory_.first = static_cast<char*>(buffer) + (-address % bufferSlack);
-    } else if (bytes > 0) {
-      memory_.first = static_cast<char*>(own_ = alignedAllocBytes(bytes));
-      failed_ = own_ == nullptr;
-    }
-  }
+  explicit Scratch(Vemi64s bytes, void* buffer = nullptr);
   explicit Scratch(const Pieces& pieces, void* buffer = nullptr) : Scratch(pieces.bytes(), buffer) {}
   Scratch(Scratch&& other) noexcept { *this = std::move(other); }
   Scratch& operator=(Scratch&& other) noexcept {

@@ -24,7 +24,7 @@ namespace {
 
 /// Runs f(n) where the next parallel region has a team of n.
 template <class F>
-void inTeam(int n, const F& f) {
+void inTeamOf(int n, const F& f) {
   const int threads = omp_get_max_threads();
   omp_set_num_threads(n);
   SCOPED_TRACE(n);
@@ -34,7 +34,7 @@ void inTeam(int n, const F& f) {
 
 template <class F>
 void inTeams(const F& f) {
-  for (const int n : {1, 2, 3, 8}) inTeam(n, f);
+  for (const int n : {1, 2, 3, 8}) inTeamOf(n, f);
 #pragma omp parallel num_threads(2)
   {
     SCOPED_TRACE("nested");
@@ -42,19 +42,21 @@ void inTeams(const F& f) {
   }
 }
 
+constexpr TeamRows team = {.small = false};
+
 /// What each thread of a region did, in its order, and the memory that it had for it.
 struct Log {
   std::vector<std::vector<int>> items;
   std::vector<char*> slice;
 
-  explicit Log(int team) : items(static_cast<size_t>(team)), slice(items.size()) {}
+  explicit Log(int threads) : items(static_cast<size_t>(threads)), slice(items.size()) {}
 
-  void note(ptrdiff_t item, void* ownSlice = nullptr) {
+  void note(ptrdiff_t item, Memory own = {}) {
     EXPECT_EQ(static_cast<size_t>(omp_get_num_threads()), items.size());
     const auto t = static_cast<size_t>(omp_get_thread_num());
-    EXPECT_TRUE(items[t].empty() || slice[t] == ownSlice) << "a thread keeps its slice";
+    EXPECT_TRUE(items[t].empty() || slice[t] == own.first) << "a thread keeps its slice";
     items[t].push_back(static_cast<int>(item));
-    slice[t] = static_cast<char*>(ownSlice);
+    slice[t] = own.first;
   }
 
   /// Each thread had one block of the rows, and its slice to itself.
@@ -84,11 +86,11 @@ TEST(SerialThreshold, CountsRowsByFourAndBytesBySixteen) {
     EXPECT_EQ(belowSerialThreshold(c.height, c.rowBytes), c.below) << c.height << " " << c.rowBytes;
 }
 
-TEST(RowsInTeam, EachThreadHasOneBlockOfRowsAndFinishesOnce) {
-  inTeams([](int team) {
+TEST(TeamRows, EachThreadHasOneBlockOfRowsAndFinishesOnce) {
+  inTeams([](int n) {
     for (int height = 1; height <= 20; ++height) {
-      Log log(team);
-      rowsInTeam(
+      Log log(n);
+      team.run(
           height, [&](ptrdiff_t y) { log.note(y); }, [&] { log.note(-1); });
       for (auto& own : log.items) {
         ASSERT_FALSE(own.empty());
@@ -100,165 +102,347 @@ TEST(RowsInTeam, EachThreadHasOneBlockOfRowsAndFinishesOnce) {
   });
 }
 
-TEST(RowsInTeam, SmallImagesAndMembersWithoutARegionStayInTheCallingThread) {
-  inTeam(3, [](int) {
-    Log small(1), serial(1), team(3);
+/// As OpenMP divides a loop by itself.
+TEST(TeamRows, BlocksDifferByOneRowAtMost) {
+  for (int n = 1; n <= 9; ++n) {
+    for (const ptrdiff_t height : {ptrdiff_t{1}, ptrdiff_t{8}, ptrdiff_t{9}, ptrdiff_t{1000}, PTRDIFF_MAX / 16}) {
+      ptrdiff_t end = 0, former = height;
+      for (int t = 0; t < n; ++t) {
+        const RowRange own = rowsOf(t, n, height);
+        EXPECT_EQ(own.first, end);
+        end = own.end;
+        EXPECT_LE(end - own.first, former) << "the first ones are the larger ones";
+        EXPECT_LE(end - own.first, height / n + 1);
+        EXPECT_GE(end - own.first, height / n);
+        former = end - own.first;
+      }
+      EXPECT_EQ(end, height);
+    }
+  }
+}
+
+TEST(TeamRows, SmallImagesAndMembersWithoutARegionStayInTheCallingThread) {
+  inTeamOf(3, [](int) {
+    Log small(1), serial(1), three(3);
     const auto noteIn = [](Log& log) { return [&log](ptrdiff_t y) { log.note(y); }; };
     TeamRows{.small = true}.run(4, noteIn(small), [&] { small.note(4); });
     CallerRows().run(4, noteIn(serial), [&] { serial.note(4); });
-    TeamRows{.small = false}.run(4, noteIn(team));
+    team.run(4, noteIn(three));
     small.expectBlocksOfRows(5);
     serial.expectBlocksOfRows(5);
-    team.expectBlocksOfRows(4);
+    three.expectBlocksOfRows(4);
   });
 }
 
 /// Rows of each thread's band, by thread; the bands must follow each other.
-std::vector<int> bandHeights(int team, int height) {
-  std::vector<int> first(static_cast<size_t>(team)), heights(first.size(), -1);
-  bandsInTeam(height, [&](int firstRow, int rows) {
+std::vector<int> bandHeights(int n, int height) {
+  std::vector<int> first(static_cast<size_t>(n)), heights(first.size(), -1);
+  const VemiStatus status = forBands(team, height, {}, [&](int firstRow, int rows, Memory) {
     const auto t = static_cast<size_t>(omp_get_thread_num());
     EXPECT_EQ(heights[t], -1) << "one band for each thread";
     first[t] = firstRow;
     heights[t] = rows;
   });
+  EXPECT_EQ(status, vemiOk);
   EXPECT_EQ(first[0], 0);
   for (size_t t = 1; t < first.size(); ++t) EXPECT_EQ(first[t], first[t - 1] + heights[t - 1]);
   return heights;
 }
 
-TEST(BandsInTeam, TheLastBandTakesTheRest) {
-  inTeams([](int team) {
-    for (int height = 1; height <= 20; ++height) {
-      std::vector<int> expected(static_cast<size_t>(team), height / team);
-      expected.back() += height % team;
-      EXPECT_EQ(bandHeights(team, height), expected);
-    }
-  });
-  inTeam(4, [](int team) {
-    EXPECT_EQ(bandHeights(team, 10), (std::vector<int>{2, 2, 2, 4}));
-    EXPECT_EQ(bandHeights(team, 1), (std::vector<int>{0, 0, 0, 1}));
-  });
-}
-
-TEST(ScratchRowsInTeam, EachThreadHasRowsAndASliceOfItsOwn) {
-  constexpr int sliceElements = 37;
-  const WatchedAllocator allocator;
-  std::atomic<int> calls = 0;
-  inTeams([&](int team) {
-    for (int height = 1; height <= 20; ++height) {
-      Log log(team);
-      const auto row = [&](int y, Vemi32f* slice) {
-        std::fill_n(slice, sliceElements, 1.0f);
-        log.note(y, slice);
-      };
-      EXPECT_EQ(scratchRowsInTeam(height, sliceElements, row), vemiOk);
-      ++calls;
-      log.expectBlocksOfRows(height);
-      log.expectOwnSlices(sliceElements * ptrdiff_t{sizeof(Vemi32f)});
-    }
-  });
-  EXPECT_EQ(allocator.requests(), calls) << "one block for the whole team";
-  EXPECT_EQ(allocator.released(), calls);
-}
-
-TEST(ScratchRowsInTeam, AFailedAllocationRunsNoRow) {
+TEST(Bands, TheLastBandTakesTheRest) {
   const NoMemory allocator;
-  std::atomic<int> rows = 0;
-  inTeams([&](int) { EXPECT_EQ(scratchRowsInTeam(9, 16, [&](int, Vemi32f*) { ++rows; }), vemiErrMemAlloc); });
-  EXPECT_EQ(rows, 0);
-  EXPECT_EQ(allocator.released(), 0);
+  inTeams([](int n) {
+    for (int height = 1; height <= 20; ++height) {
+      std::vector<int> expected(static_cast<size_t>(n), height / n);
+      expected.back() += height % n;
+      EXPECT_EQ(bandHeights(n, height), expected);
+    }
+  });
+  inTeamOf(4, [](int n) {
+    EXPECT_EQ(bandHeights(n, 10), (std::vector<int>{2, 2, 2, 4}));
+    EXPECT_EQ(bandHeights(n, 1), (std::vector<int>{0, 0, 0, 1}));
+  });
+  EXPECT_EQ(allocator.requests(), 0) << "memory that is not wanted";
 }
 
-constexpr TileGrid grid = {5, 3, 100, 77};  // 15 tiles; memory that is no multiple of any alignment
+TEST(Rows, EachThreadHasOneBlockOfRows) {
+  inTeams([](int n) {
+    for (int height = 1; height <= 20; ++height) {
+      Log log(n);
+      EXPECT_EQ(forRows(team, height, {}, [&](ptrdiff_t y, Memory) { log.note(y); }), vemiOk);
+      log.expectBlocksOfRows(height);
+    }
+  });
+}
 
-TEST(TilesInTeam, TileIRunsOnThreadIModuloTeamSizeInItsOwnSlice) {
-  const WatchedAllocator allocator;
-  std::atomic<int> calls = 0;
-  inTeams([&](int team) {
-    Log log(team);
+constexpr TileGrid grid = {5, 3};
+
+TEST(Tiles, TileIRunsOnThreadIModuloTeamSize) {
+  inTeams([](int n) {
+    Log log(n);
     std::atomic<int> preparations = 0;
-    const auto isAligned = [](const void* block) { return reinterpret_cast<uintptr_t>(block) % 32 == 0; };
-    const auto prepare = [&](void* shared) -> VemiStatus {
-      ++preparations;
-      std::fill_n(static_cast<char*>(shared), grid.sharedBytes, 's');
-      return vemiOk;
-    };
-    const auto tile = [&](int row, int column, const void* shared, void* slice) -> VemiStatus {
-      const auto* common = static_cast<const char*>(shared);
-      EXPECT_EQ(std::count(common, common + grid.sharedBytes, 's'), grid.sharedBytes);
-      EXPECT_TRUE(isAligned(shared) && isAligned(slice));
-      std::fill_n(static_cast<char*>(slice), grid.sliceBytes, '\xff');  // would be an error, if it were a status
-      log.note(row * grid.across + column, slice);
-      return vemiOk;
-    };
-    EXPECT_EQ(tilesInTeam(grid, prepare, tile), vemiOk);
-    ++calls;
+    const auto prepare = [&](Memory) { ++preparations; };
+    const auto tile = [&](int row, int column, Memory, Memory) { log.note(row * grid.across + column); };
+    EXPECT_EQ(forTiles(team, grid, {}, prepare, tile), vemiOk);
     EXPECT_EQ(preparations, 1);
-    for (int t = 0; t < team; ++t) {
+    for (int t = 0; t < n; ++t) {
       std::vector<int> expected;
-      for (int i = t; i < 15; i += team) expected.push_back(i);
+      for (int i = t; i < 15; i += n) expected.push_back(i);
       EXPECT_EQ(log.items[static_cast<size_t>(t)], expected) << "thread " << t;
     }
-    log.expectOwnSlices(grid.sliceBytes);
-  });
-  EXPECT_EQ(allocator.requests(), calls) << "one block for the whole team";
-  EXPECT_EQ(allocator.released(), calls);
-}
-
-TEST(TilesInTeam, TheSmallestStatusComesBack) {
-  const struct {
-    const char* what;
-    VemiStatus prepared, first, other, last;  // of the preparation, tile 0, the tiles between, tile 14
-    VemiStatus expected;
-    int tiles;
-  } cases[] = {
-      {"all well", vemiOk, vemiOk, vemiOk, vemiOk, vemiOk, 15},
-      {"warnings alone are success", vemiWarnLnZero, vemiWarnLnZero, vemiOk, vemiWarnDivByZero, vemiOk, 15},
-      {"an early error stops no other tile", vemiOk, vemiErrSize, vemiOk, vemiOk, vemiErrSize, 15},
-      {"a late error is not lost", vemiOk, vemiOk, vemiOk, vemiErrStep, vemiErrStep, 15},
-      {"an error wins over warnings", vemiOk, vemiWarnLnZero, vemiErrSize, vemiWarnLnZero, vemiErrSize, 15},
-      {"the lower of two errors", vemiOk, vemiErrStep, vemiOk, vemiErrSize, vemiErrStep, 15},
-      {"the same in the other order", vemiOk, vemiErrSize, vemiOk, vemiErrStep, vemiErrStep, 15},
-      {"a failed preparation starts no tile", vemiErrFftOrder, vemiOk, vemiOk, vemiOk, vemiErrFftOrder, 0},
-  };
-  inTeams([&](int) {
-    for (const auto& c : cases) {
-      std::atomic<int> tiles = 0;
-      const auto tile = [&](int row, int column, const void*, void*) -> VemiStatus {
-        ++tiles;
-        const int i = row * grid.across + column;
-        return i == 0 ? c.first : i == 14 ? c.last : c.other;
-      };
-      EXPECT_EQ(tilesInTeam(
-                    grid, [&](void*) { return c.prepared; }, tile),
-                c.expected)
-          << c.what;
-      EXPECT_EQ(tiles, c.tiles) << c.what;
-    }
   });
 }
 
-TEST(TilesInTeam, AFailedAllocationPreparesNothingAndRunsNoTile) {
+// ---- All forms ------------------------------------------------------------------------------------------------------
+
+/// A piece of work, the number of which says which; it fails as it likes.
+using Work = std::function<VemiStatus(int item, Memory slice)>;
+
+template <class Who>
+VemiStatus runRows(const Who& who, int items, const TeamMemory& memory, const Work& work) {
+  return forRows(who, items, memory, [&](ptrdiff_t y, Memory slice) { return work(static_cast<int>(y), slice); });
+}
+
+/// A band is as many pieces of work as it has rows.
+template <class Who>
+VemiStatus runBands(const Who& who, int items, const TeamMemory& memory, const Work& work) {
+  return forBands(who, items, memory, [&](int first, int rows, Memory slice) {
+    VemiStatus status = vemiOk;
+    for (int y = first; y < first + rows; ++y) status = std::min(status, work(y, slice));
+    return status;
+  });
+}
+
+template <class Who>
+VemiStatus runTiles(const Who& who, int items, const TeamMemory& memory, const Work& work) {
+  const auto prepare = [](Memory) { return vemiOk; };
+  return forTiles(who, {1, items}, memory, prepare,
+                  [&](int row, int, Memory, Memory slice) { return work(row, slice); });
+}
+
+using Form = VemiStatus (*)(int items, const TeamMemory&, const Work&);
+
+#define FORM(name, run, who)                                                                                  \
+  {                                                                                                           \
+    name, [](int items, const TeamMemory& memory, const Work& work) { return run(who, items, memory, work); } \
+  }
+
+const struct {
+  const char* name;
+  Form run;
+} teamForms[] = {FORM("rows", runRows, team), FORM("bands", runBands, team), FORM("tiles", runTiles, team)},
+  callerForms[] = {FORM("rows", runRows, CallerRows()), FORM("bands", runBands, CallerRows()),
+                   FORM("tiles", runTiles, CallerRows())};
+
+#undef FORM
+
+/// Arrays of several types, the sizes of which are no multiple of any alignment.
+struct SliceOfArrays {
+  static constexpr int bytes = 77, doubles = 5, shorts = 3;
+  TeamMemory memory;
+  Piece<Vemi8u> byte = memory.slice.add<Vemi8u>(bytes);
+  Piece<double> number = memory.slice.add<double>(doubles);
+  Piece<Vemi16s> word = memory.slice.add<Vemi16s>(shorts);
+
+  explicit SliceOfArrays(Vemi64s alignment = 32) : memory{.slice = Pieces(alignment)} {}
+
+  void fill(Memory slice, int value) const {
+    std::fill_n(slice[byte], bytes, static_cast<Vemi8u>(value));
+    std::fill_n(slice[number], doubles, value);
+    std::fill_n(slice[word], shorts, static_cast<Vemi16s>(value));
+  }
+  bool holds(Memory slice, int value) const {
+    return std::count(slice[byte], slice[byte] + bytes, value) == bytes &&
+           std::count(slice[number], slice[number] + doubles, value) == doubles &&
+           std::count(slice[word], slice[word] + shorts, value) == shorts;
+  }
+};
+
+TEST(Forms, EachThreadKeepsASliceOfItsOwn) {
+  for (const auto& form : teamForms) {
+    SCOPED_TRACE(form.name);
+    const WatchedAllocator allocator;
+    std::atomic<int> calls = 0;
+    inTeams([&](int n) {
+      for (const int items : {1, 7, 20}) {
+        const SliceOfArrays arrays;
+        Log log(n);
+        const auto work = [&](int item, Memory slice) -> VemiStatus {
+          const int t = omp_get_thread_num();
+          EXPECT_EQ(reinterpret_cast<uintptr_t>(slice.first) % 32, 0u);
+          if (!log.items[static_cast<size_t>(t)].empty()) {
+            EXPECT_TRUE(arrays.holds(slice, t + 1)) << "what the thread has left";
+          }
+          arrays.fill(slice, t + 1);
+          log.note(item, slice);
+          return vemiOk;
+        };
+        EXPECT_EQ(form.run(items, arrays.memory, work), vemiOk);
+        ++calls;
+        log.expectOwnSlices(arrays.memory.slice.bytes());
+      }
+    });
+    EXPECT_EQ(allocator.requests(), calls) << "one block for the whole team";
+    EXPECT_EQ(allocator.released(), calls);
+  }
+}
+
+/// From the first multiple of 16 bytes on.
+TEST(Forms, SlicesLieInAUsersBuffer) {
+  for (const auto& form : teamForms) {
+    SCOPED_TRACE(form.name);
+    inTeamOf(3, [&](int n) {
+      SliceOfArrays arrays(16);
+      const auto distance = static_cast<size_t>(arrays.memory.slice.distance());
+      const size_t size = 15 + static_cast<size_t>(n) * distance;
+      std::vector<Vemi8u> buffer(1 + size + 16, 0xee);
+      arrays.memory.buffer = buffer.data() + 1;
+      Log log(n);
+      EXPECT_EQ(form.run(9, arrays.memory,
+                         [&](int item, Memory slice) -> VemiStatus {
+                           arrays.fill(slice, 1);
+                           log.note(item, slice);
+                           return vemiOk;
+                         }),
+                vemiOk);
+      const uintptr_t first = (reinterpret_cast<uintptr_t>(arrays.memory.buffer) + 15) / 16 * 16;
+      for (size_t t = 0; t < log.slice.size(); ++t) {
+        EXPECT_EQ(reinterpret_cast<uintptr_t>(log.slice[t]), first + t * distance);
+      }
+      EXPECT_EQ(buffer[0], 0xee);
+      EXPECT_EQ(std::count(buffer.end() - 16, buffer.end(), 0xee), 16);
+    });
+  }
+  const NoMemory allocator;
+  SliceOfArrays arrays(16);
+  std::vector<Vemi8u> buffer(1000);
+  arrays.memory.buffer = buffer.data();
+  inTeamOf(2, [&](int) { EXPECT_EQ(forRows(team, 4, arrays.memory, [](ptrdiff_t, Memory) {}), vemiOk); });
+  EXPECT_EQ(allocator.requests(), 0) << "work without a status needs no block";
+}
+
+TEST(Forms, AFailedAllocationStartsNoWork) {
   const NoMemory allocator;
   std::atomic<int> calls = 0;
-  const auto count = [&](auto...) -> VemiStatus { return ++calls, vemiOk; };
-  inTeams([&](int) { EXPECT_EQ(tilesInTeam(grid, count, count), vemiErrMemAlloc); });
+  const auto work = [&](int, Memory) -> VemiStatus { return ++calls, vemiOk; };
+  TeamMemory memory;
+  memory.slice.add<float>(16);
+  inTeams([&](int) {
+    for (const auto& form : teamForms) EXPECT_EQ(form.run(9, memory, work), vemiErrMemAlloc) << form.name;
+    for (const auto& form : callerForms) EXPECT_EQ(form.run(9, memory, work), vemiErrMemAlloc) << form.name;
+    const auto prepare = [&](Memory) { ++calls; };
+    EXPECT_EQ(forTiles(team, grid, memory, prepare, [&](int, int, Memory, Memory) { ++calls; }), vemiErrMemAlloc);
+  });
   EXPECT_EQ(calls, 0);
   EXPECT_EQ(allocator.released(), 0);
 }
 
+TEST(Forms, TheSmallestStatusComesBack) {
+  const struct {
+    const char* what;
+    VemiStatus first, other, last, expected;  // of the first piece of work, those between, the last one
+  } cases[] = {
+      {"all well", vemiOk, vemiOk, vemiOk, vemiOk},
+      {"warnings alone are success", vemiWarnLnZero, vemiOk, vemiWarnDivByZero, vemiOk},
+      {"an early error stops no other work", vemiErrSize, vemiOk, vemiOk, vemiErrSize},
+      {"a late error is not lost", vemiOk, vemiOk, vemiErrStep, vemiErrStep},
+      {"an error wins over warnings", vemiWarnLnZero, vemiErrSize, vemiWarnLnZero, vemiErrSize},
+      {"the lower of two errors", vemiErrStep, vemiOk, vemiErrSize, vemiErrStep},
+      {"the same in the other order", vemiErrSize, vemiOk, vemiErrStep, vemiErrStep},
+  };
+  const SliceOfArrays arrays;
+  inTeams([&](int) {
+    for (const auto& c : cases) {
+      std::atomic<int> calls = 0;
+      const auto work = [&](int item, Memory slice) -> VemiStatus {
+        ++calls;
+        arrays.fill(slice, 0xff);  // would be an error, if it were a status
+        return item == 0 ? c.first : item == 14 ? c.last : c.other;
+      };
+      const auto expectStatus = [&](const char* name, Form run) {
+        calls = 0;
+        EXPECT_EQ(run(15, arrays.memory, work), c.expected) << name << ": " << c.what;
+        EXPECT_EQ(calls, 15) << name << ": " << c.what;
+      };
+      for (const auto& form : teamForms) expectStatus(form.name, form.run);
+      for (const auto& form : callerForms) expectStatus(form.name, form.run);
+    }
+  });
+}
+
+/// Where the caller is in a region of its own, its threads work apart from each other.
+TEST(Forms, TheCallingThreadAloneDoesAllWork) {
+  for (const auto& form : callerForms) {
+    SCOPED_TRACE(form.name);
+#pragma omp parallel num_threads(3)
+    {
+      const SliceOfArrays arrays;
+      std::vector<int> items, expected(10);
+      std::iota(expected.begin(), expected.end(), 0);
+      const int thread = omp_get_thread_num();
+      const auto work = [&](int item, Memory slice) -> VemiStatus {
+        EXPECT_EQ(omp_get_thread_num(), thread);
+        EXPECT_TRUE(item == 0 || arrays.holds(slice, thread));
+        arrays.fill(slice, thread);
+        items.push_back(item);
+        return vemiOk;
+      };
+      EXPECT_EQ(form.run(10, arrays.memory, work), vemiOk);
+      EXPECT_EQ(items, expected);
+    }
+  }
+}
+
+TEST(Tiles, HaveABlockInCommonThatOneThreadPrepares) {
+  const WatchedAllocator allocator;
+  std::atomic<int> calls = 0;
+  inTeams([&](int n) {
+    SliceOfArrays arrays;
+    const auto letters = arrays.memory.shared.add<char>(100);
+    const auto isWhole = [&](Memory shared) { return std::count(shared[letters], shared[letters] + 100, 's') == 100; };
+    Log log(n);
+    const auto prepare = [&](Memory shared) { std::fill_n(shared[letters], 100, 's'); };
+    const auto tile = [&](int row, int column, Memory shared, Memory slice) {
+      arrays.fill(slice, 0xff);
+      EXPECT_TRUE(isWhole(shared));
+      log.note(row * grid.across + column, slice);
+    };
+    EXPECT_EQ(forTiles(team, grid, arrays.memory, prepare, tile), vemiOk);
+    ++calls;
+    log.expectOwnSlices(arrays.memory.slice.bytes());
+  });
+  EXPECT_EQ(allocator.requests(), calls);
+  EXPECT_EQ(allocator.released(), calls);
+}
+
+TEST(Tiles, AFailedPreparationStartsNone) {
+  inTeams([](int) {
+    std::atomic<int> tiles = 0;
+    const auto runAfter = [&](VemiStatus prepared) {
+      return forTiles(
+          team, grid, {}, [&](Memory) { return prepared; }, [&](int, int, Memory, Memory) { ++tiles; });
+    };
+    EXPECT_EQ(runAfter(vemiErrFftOrder), vemiErrFftOrder);
+    EXPECT_EQ(tiles, 0);
+    EXPECT_EQ(runAfter(vemiWarnLnZero), vemiOk);
+    EXPECT_EQ(tiles, 15);
+  });
+}
+
 /// More than 32 bits count is more than 32-bit pointers reach; a wider address space is told what is wanted, whole.
-TEST(TilesInTeam, SizesBeyond32BitsDoNotWrap) {
+TEST(Forms, SizesBeyond32BitsDoNotWrap) {
   static size_t requested;
   requested = 0;
   const NoMemory noMemory;
   vemi::testing::allocate = [](size_t size) -> void* { return requested = size, nullptr; };
-  const auto none = [](auto...) -> VemiStatus { return ADD_FAILURE() << "ran without memory", vemiOk; };
   constexpr Vemi64s beyond = (Vemi64s{1} << 32) + 64;
-  for (const TileGrid& large :
-       {TileGrid{1, 1, beyond, 64}, TileGrid{1, 1, 64, beyond}, TileGrid{1, 1, beyond, beyond}}) {
-    EXPECT_EQ(tilesInTeam(large, none, none), vemiErrMemAlloc);
+  const Vemi64s sizes[][2] = {{beyond, 64}, {64, beyond}, {beyond, beyond}, {64, mostBytes / 2}};
+  for (const auto& size : sizes) {
+    TeamMemory memory;
+    memory.shared.add<char>(size[0]);
+    memory.slice.add<char>(size[1]);
+    const auto none = [](auto...) { ADD_FAILURE() << "ran without memory"; };
+    inTeamOf(3, [&](int) { EXPECT_EQ(forTiles(team, {1, 1}, memory, none, none), vemiErrMemAlloc); });
     if (sizeof(void*) > 4) {
       EXPECT_GT(requested, static_cast<size_t>(beyond));
     } else {
@@ -267,29 +451,21 @@ TEST(TilesInTeam, SizesBeyond32BitsDoNotWrap) {
   }
 }
 
-using Work = std::function<void()>;
-
-/// Each form with as much work as there are threads.
-const struct {
-  const char* name;
-  void (*run)(int team, const Work&);
-} forms[] = {
-    {"rows", [](int team, const Work& work) { rowsInTeam(team, [&](ptrdiff_t) { work(); }); }},
-    {"the finish",
-     [](int team, const Work& work) {
-       rowsInTeam(
-           team, [](ptrdiff_t) {}, work);
-     }},
-    {"bands", [](int team, const Work& work) { bandsInTeam(team, [&](int, int) { work(); }); }},
-    {"rows with scratch",
-     [](int team, const Work& work) { scratchRowsInTeam(team, 8, [&](int, Vemi32f*) { work(); }); }},
-    {"tiles",
-     [](int team, const Work& work) {
-       const auto prepare = [&](void*) -> VemiStatus { return work(), vemiOk; };
-       const auto tile = [&](int, int, const void*, void*) -> VemiStatus { return work(), vemiOk; };
-       tilesInTeam({1, team, 8, 8}, prepare, tile);
-     }},
-};
+/// The plain row loop, what follows behind its last row, and a preparation.
+const Form plainForms[] = {[](int items, const TeamMemory&, const Work& work) {
+                             team.run(items, [&](ptrdiff_t y) { work(static_cast<int>(y), {}); });
+                             return VemiStatus{vemiOk};
+                           },
+                           [](int items, const TeamMemory&, const Work& work) {
+                             team.run(
+                                 items, [](ptrdiff_t) {}, [&] { work(0, {}); });
+                             return VemiStatus{vemiOk};
+                           },
+                           [](int items, const TeamMemory& memory, const Work& work) {
+                             return forTiles(
+                                 team, {1, items}, memory, [&](Memory shared) { return work(0, shared); },
+                                 [&](int, int, Memory, Memory slice) { return work(0, slice); });
+                           }};
 
 /// Of lanes and scalars; fegetround may tell another unit's.
 int roundingMode() {
@@ -313,11 +489,13 @@ void overflow() {
 
 /// Threads that were made in one mode work in another, and are left in their own.
 TEST(FloatControl, WorkersHaveTheCallersForACall) {
-  for (const auto& form : forms) {
-    SCOPED_TRACE(form.name);
+  std::vector<Form> forms(std::begin(plainForms), std::end(plainForms));
+  for (const auto& form : teamForms) forms.push_back(form.run);
+  for (size_t form = 0; form < forms.size(); ++form) {
+    SCOPED_TRACE(form);
     std::thread([&] {
-      constexpr int team = 3;
-      omp_set_num_threads(team);
+      constexpr int threads = 3;
+      omp_set_num_threads(threads);
       fesetround(FE_UPWARD);
 #pragma omp parallel
       {
@@ -328,12 +506,13 @@ TEST(FloatControl, WorkersHaveTheCallersForACall) {
         fesetround(mode);
         feclearexcept(FE_ALL_EXCEPT);
         std::atomic<int> calls = 0;
-        form.run(team, [&] {
+        forms[form](threads, {}, [&](int, Memory) -> VemiStatus {
           EXPECT_EQ(roundingMode(), mode);
           ++calls;
           divideByZero();
+          return vemiOk;
         });
-        EXPECT_GE(calls, team);
+        EXPECT_GE(calls, 1);
         EXPECT_EQ(roundingMode(), mode);
         EXPECT_EQ(fetestexcept(FE_ALL_EXCEPT), FE_DIVBYZERO | FE_INEXACT)
             << "what the caller's own thread raises is seen";
