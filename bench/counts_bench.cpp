@@ -24,23 +24,34 @@ struct Sums {
     const double sums[6] = {m.m00, m.m10, m.m01, m.m20, m.m11, m.m02};
     std::transform(sums, sums + 6, sum, [](double s) { return static_cast<float>(s); });
   }
-  void take(const VemiMomentState& state) {
-    constexpr int entries[6] = {0, 1, 4, 2, 5, 8};
+  template <class Sum>
+  void take(const VemiMomentState* state) {
+    constexpr int orders[6][2] = {{0, 0}, {1, 0}, {0, 1}, {2, 0}, {1, 1}, {0, 2}};
     for (int i = 0; i < 6; ++i) {
-      sum[i] = static_cast<float>(state.tag == 33 ? state.sum.f[0][entries[i]]
-                                                  : static_cast<double>(state.sum.s[0][entries[i]]));
+      Sum s;
+      const int m = orders[i][0], n = orders[i][1];
+      if constexpr (std::is_same_v<Sum, Vemi64f>) vemiGetSpatialMoment_64f(state, m, n, 0, 0, 0, &s);
+      if constexpr (std::is_same_v<Sum, Vemi64s>) vemiGetSpatialMoment_64s(state, m, n, 0, 0, 0, &s, 0);
+      sum[i] = static_cast<float>(s);
     }
   }
 };
 
-template <class T, Pass<T>* function, int tag, int hint = vemiHintFast>
+template <class Sum>
+std::shared_ptr<VemiMomentState> momentState(vemiHint hint) {
+  constexpr bool isDouble = std::is_same_v<Sum, Vemi64f>;
+  VemiMomentState* state = nullptr;
+  (isDouble ? vemiMomentInitAlloc_64f : vemiMomentInitAlloc_64s)(&state, hint);
+  return {state, isDouble ? vemiMomentFree_64f : vemiMomentFree_64s};
+}
+
+template <class T, class Sum, Pass<T>* function, vemiHint hint = vemiHintFast>
 Contest moments(VemiSize size) {
   const Image<T> src = randomImage<T>(size, 1);
   const auto sums = std::make_shared<Sums>();
-  const auto ours = [=] {
-    VemiMomentState state = {tag, hint, -1, 0, {}};
-    const VemiStatus status = function(src.data(), src.step, size, &state);
-    sums->take(state);
+  const auto ours = [=, state = momentState<Sum>(hint)] {
+    const VemiStatus status = function(src.data(), src.step, size, state.get());
+    sums->template take<Sum>(state.get());
     return status;
   };
   return {ours, [=, image = mat(src)] { sums->take(cv::moments(image)); }, {{sums.get(), sizeof *sums}}};
@@ -110,11 +121,11 @@ Family countsFamily() {
   return {"moments and histograms",
           {
 #ifdef VEMI_BENCH_OPENCV
-              {"Moments64f 8u C1", "OpenCV moments", moments<Vemi8u, vemiMoments64f_8u_C1R, 33>},
-              {"Moments64s 8u C1", "OpenCV moments", moments<Vemi8u, vemiMoments64s_8u_C1R, 34>},
-              {"Moments64f 32f C1", "OpenCV moments", moments<Vemi32f, vemiMoments64f_32f_C1R, 33>},
+              {"Moments64f 8u C1", "OpenCV moments", moments<Vemi8u, Vemi64f, vemiMoments64f_8u_C1R>},
+              {"Moments64s 8u C1", "OpenCV moments", moments<Vemi8u, Vemi64s, vemiMoments64s_8u_C1R>},
+              {"Moments64f 32f C1", "OpenCV moments", moments<Vemi32f, Vemi64f, vemiMoments64f_32f_C1R>},
               {"Moments64f 32f C1 accurate", "OpenCV moments",
-               moments<Vemi32f, vemiMoments64f_32f_C1R, 33, vemiHintAccurate>},
+               moments<Vemi32f, Vemi64f, vemiMoments64f_32f_C1R, vemiHintAccurate>},
               {"Histogram 8u C1, 256 bins", "OpenCV calcHist", histogram<Vemi8u, 1, 256, Levels::even>},
               {"Histogram 8u C1, 256 bins, runs", "OpenCV calcHist",
                histogram<Vemi8u, 1, 256, Levels::even, Picture::runs>},

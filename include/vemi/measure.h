@@ -644,9 +644,11 @@ VEMI_API VemiStatus vemiNormRel_L2_32f_AC4R(const Vemi32f* pSrc1, int src1Step, 
  * of two. The functions of one kind answer a state of the other with vemiErrContext.
  *
  * A state is made by vemiMomentInitAlloc and released by vemiMomentFree; a 64s state may also be the caller's memory,
- * which vemiMomentInit_64s makes a state of, and which is not to be passed to vemiMomentFree. Until vemiMoments has
- * run, a state has no channels, and each getter returns vemiErrChannelIndex. Running it again overwrites the sums. A
- * call that writes a state must be the only one that uses it; getters only read, and may share a state among threads.
+ * which vemiMomentInit_64s makes a state of, and which is not to be passed to vemiMomentFree. What a state holds is
+ * read through functions alone: a program knows its address, and where the memory is its own, its size. Until
+ * vemiMoments has run, a state has no channels, and each getter returns vemiErrChannelIndex. Running it again
+ * overwrites the sums. A call that writes a state must be the only one that uses it; getters only read, and may share a
+ * state among threads.
  *
  *     VemiMomentState* state;
  *     Vemi64f area, sumX, sumY;
@@ -659,17 +661,8 @@ VEMI_API VemiStatus vemiNormRel_L2_32f_AC4R(const Vemi32f* pSrc1, int src1Step, 
  * @{
  */
 
-/** The record behind a state: 400 bytes. Programs have no need to look into it, and must not write to it. */
-typedef struct VemiMomentState {
-  int tag;       /**< 33 in a 64f state, 34 in a 64s state, 0 after vemiMomentFree */
-  int hint;      /**< as passed to the function that made the state */
-  int nChannels; /**< -1 before the first vemiMoments call, then 1 or 3 */
-  int reserved;  /**< not used */
-  union {
-    Vemi64f f[3][16]; /**< of a 64f state */
-    Vemi64s s[3][16]; /**< of a 64s state */
-  } sum;              /**< of each channel; S(m, n) is entry m + 4 * n, and entries of m + n > 3 are 0 */
-} VemiMomentState;
+/** A state of either kind. */
+typedef struct VemiMomentState VemiMomentState;
 
 /**
  * Makes a state without channels.
@@ -685,7 +678,7 @@ VEMI_API VemiStatus vemiMomentInitAlloc_64f(VemiMomentState** ppState, vemiHint 
 VEMI_API VemiStatus vemiMomentInitAlloc_64s(VemiMomentState** ppState, vemiHint hint);
 
 /**
- * Releases a state that vemiMomentInitAlloc made. Its tag is cleared first.
+ * Releases a state that vemiMomentInitAlloc made.
  *
  * **Statuses**, in the order of the tests: vemiErrNullPtr; vemiErrContext for a state of the other kind.
  */
@@ -694,8 +687,8 @@ VEMI_API VemiStatus vemiMomentFree_64f(VemiMomentState* pState);
 VEMI_API VemiStatus vemiMomentFree_64s(VemiMomentState* pState);
 
 /**
- * Makes a 64s state without channels out of memory that the caller owns: a VemiMomentState, or as many bytes as
- * vemiMomentGetStateSize_64s tells, aligned for 64-bit integers.
+ * Makes a 64s state without channels out of memory that the caller owns: as many bytes as vemiMomentGetStateSize_64s
+ * tells, aligned for 64-bit integers.
  *
  * **Status**: vemiErrNullPtr.
  */

@@ -3,7 +3,7 @@
 #include <cstdint>
 #include <cstring>
 
-#include "core/map_row.h"
+#include "core/lanes.h"
 #include "core/thresholds.h"
 
 namespace vemi {
@@ -65,7 +65,5 @@ void rowStreamBytes(const void* pSrc, void* pDst, ptrdiff_t lenBytes) {
 }
 
 void rowSet8(Vemi8u value, Vemi8u* pDst, ptrdiff_t len) { std::memset(pDst, value, static_cast<size_t>(len)); }
-
-void rowSet32(Vemi32u value, Vemi32u* pDst, ptrdiff_t len) { mapRow<C1>(len, constantPixel<C1>(&value), pDst); }
 
 }  // namespace vemi

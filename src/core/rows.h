@@ -15,6 +15,5 @@ void rowCopyBytes(const void* pSrc, void* pDst, ptrdiff_t lenBytes);
 void rowStreamBytes(const void* pSrc, void* pDst, ptrdiff_t lenBytes);
 
 void rowSet8(Vemi8u value, Vemi8u* pDst, ptrdiff_t len);
-void rowSet32(Vemi32u value, Vemi32u* pDst, ptrdiff_t len);
 
 }  // namespace vemi

@@ -7,6 +7,7 @@
 #include <cstring>
 #include <limits>
 
+#include "core/checks.h"
 #include "core/rounding.h"
 #include "measure/moment_state.h"
 
@@ -127,8 +128,8 @@ VemiStatus checkChannel(const VemiMomentState* pState, int channel) {
 
 template <class Sum>
 VemiStatus checkArguments(const VemiMomentState* pState, int m, int n, int channel, const Sum* pResult) {
-  if (VemiStatus bad = checkNull(pState, pResult)) return bad;
-  return firstOf(checkContext<Sum>(pState), checkOrders(m, n), checkChannel(pState, channel));
+  if (VemiStatus bad = firstOf(checkNull(pState, pResult), checkRecord(pState, momentTag<Sum>))) return bad;
+  return firstOf(checkOrders(m, n), checkChannel(pState, channel));
 }
 
 /// In each of the functions below, a 64f state has a 64f result and no scale factor.

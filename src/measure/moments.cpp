@@ -10,8 +10,9 @@
 #include <algorithm>
 #include <cstring>
 #include <type_traits>
+#include <utility>
 
-#include "core/alloc.h"
+#include "core/checks.h"
 #include "core/image.h"
 #include "core/lanes.h"
 #include "measure/exports.h"
@@ -23,28 +24,22 @@ namespace {
 
 // ---- States -------------------------------------------------------------------------------------------------------
 
-void begin(VemiMomentState* pState, int tag, vemiHint hint) {
-  pState->tag = tag;
-  pState->hint = hint;
-  pState->nChannels = -1;
-}
-
 template <class Sum>
 VemiStatus initAlloc(VemiMomentState** ppState, vemiHint hint) {
   if (ppState == nullptr) return vemiErrNullPtr;
-  void* const block = alignedAllocBytes(sizeof(VemiMomentState));
-  if (block == nullptr) return vemiErrMemAlloc;
-  *ppState = static_cast<VemiMomentState*>(block);
-  begin(*ppState, momentTag<Sum>, hint);
-  return vemiOk;
+  auto state = makeRecord<VemiMomentState>(momentTag<Sum>);
+  if (state == nullptr) return vemiErrMemAlloc;
+  state->hint = hint;
+  state->nChannels = -1;
+  return handOver(std::move(state), ppState);
 }
 
-template <class Sum>
-VemiStatus release(VemiMomentState* pState) {
+/// In the user's memory. The sums are left to the first pass.
+VemiStatus init(VemiMomentState* pState, vemiHint hint) {
   if (pState == nullptr) return vemiErrNullPtr;
-  if (VemiStatus bad = checkContext<Sum>(pState)) return bad;
-  pState->tag = 0;
-  vemiAlignedFree(pState);
+  pState->tag = momentTag<Vemi64s>;
+  pState->hint = hint;
+  pState->nChannels = -1;
   return vemiOk;
 }
 
@@ -266,8 +261,10 @@ void sumByPixels(Image<const T> src, VemiSize roiSize, Table<double>* table) {
 
 template <class Sum, class L, class T>
 VemiStatus moments(Image<const T> src, VemiSize roiSize, VemiMomentState* pState) {
-  if (VemiStatus bad = checkNull(src, pState)) return bad;
-  if (VemiStatus bad = firstOf(checkContext<Sum>(pState), checkStep(src), checkSize(roiSize))) return bad;
+  if (VemiStatus bad =
+          firstOf(checkNull(src, pState), checkRecord(pState, momentTag<Sum>), checkStep(src), checkSize(roiSize))) {
+    return bad;
+  }
   const Vemi64s rowBytes = Vemi64s{roiSize.width} * pixelBytes<T, L>;
   if (rowBytes > src.step) return vemiErrStride;
   using A = Arithmetic<Sum>;
@@ -299,14 +296,10 @@ VemiStatus vemiMomentInitAlloc_64s(VemiMomentState** ppState, vemiHint hint) {
   return initAlloc<Vemi64s>(ppState, hint);
 }
 
-VemiStatus vemiMomentFree_64f(VemiMomentState* pState) { return release<Vemi64f>(pState); }
-VemiStatus vemiMomentFree_64s(VemiMomentState* pState) { return release<Vemi64s>(pState); }
+VemiStatus vemiMomentFree_64f(VemiMomentState* pState) { return freeRecord(pState, momentTag<Vemi64f>); }
+VemiStatus vemiMomentFree_64s(VemiMomentState* pState) { return freeRecord(pState, momentTag<Vemi64s>); }
 
-VemiStatus vemiMomentInit_64s(VemiMomentState* pState, vemiHint hint) {
-  if (pState == nullptr) return vemiErrNullPtr;
-  begin(pState, momentTag<Vemi64s>, hint);
-  return vemiOk;
-}
+VemiStatus vemiMomentInit_64s(VemiMomentState* pState, vemiHint hint) { return init(pState, hint); }
 
 VemiStatus vemiMomentGetStateSize_64s(vemiHint /*hint*/, int* pSize) {
   if (pSize == nullptr) return vemiErrNullPtr;

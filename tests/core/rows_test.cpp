@@ -74,7 +74,6 @@ void expectFilled(T value, const Fill& fill) {
 
 TEST(RowSet, RepeatsOneElement) {
   expectFilled<Vemi8u>(0xa7, [](Vemi8u* dst, ptrdiff_t n) { rowSet8(0xa7, dst, n); });
-  expectFilled<Vemi32u>(0xa7c35b19, [](Vemi32u* dst, ptrdiff_t n) { rowSet32(0xa7c35b19, dst, n); });
 }
 
 }  // namespace

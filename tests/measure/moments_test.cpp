@@ -8,6 +8,7 @@
 #include <limits>
 #include <memory>
 
+#include "measure/moment_state.h"
 #include "support/allocator.h"
 #include "support/check.h"
 

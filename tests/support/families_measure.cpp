@@ -35,9 +35,18 @@ void setLimits(Call& call, int highest) {
 /// Whether the name speaks of a state, or of sums, of 64-bit floats.
 bool hasDoubles(const Call& call) { return call.function.name.find("64f") != std::string::npos; }
 
+/// A state, as it lies in memory.
+struct MomentState {
+  int tag, hint, nChannels, reserved;
+  union {
+    Vemi64f f[3][16];
+    Vemi64s s[3][16];
+  } sum;
+};
+
 /// A state of three channels, with sums as of a picture of some size.
 void setMomentState(Call& call) {
-  VemiMomentState state = {hasDoubles(call) ? 33 : 34, call.random.below(3), 3, 0, {}};
+  MomentState state = {hasDoubles(call) ? 33 : 34, call.random.below(3), 3, 0, {}};
   for (int channel = 0; channel < 3; ++channel) {
     for (int entry = 0; entry < 16; ++entry) {
       const Vemi64s sum = 1 + Vemi64s{call.random.below(1 << 20)} * (1 + entry % 4 * 50) * (1 + entry / 4 * 30);
@@ -85,7 +94,7 @@ bool shortStep(Call& call) {
 /// A vanishing sum to divide by. Normalised spatial moments then leave something behind, and are tested by themselves.
 bool noDivisor(Call& call) {
   if (call.function.operation.find("Spatial") != std::string::npos) return false;
-  const VemiMomentState cleared = {hasDoubles(call) ? 33 : 34, 0, 3, 0, {}};
+  const MomentState cleared = {hasDoubles(call) ? 33 : 34, 0, 3, 0, {}};
   for (Image::Plane& plane : call.image("pState").planes) {
     const ptrdiff_t offset = plane.first - plane.memory.begin();
     std::memcpy(plane.memory.begin() + offset, &cleared, sizeof cleared);
