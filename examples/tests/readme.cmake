@@ -1,8 +1,16 @@
-# The program in README.md is examples/quickstart.c, word for word.
+# The program in README.md is examples/quickstart.c, word for word, and the number of functions is that of the exports.
 get_filename_component(root ${CMAKE_CURRENT_LIST_DIR}/../.. ABSOLUTE)
 file(READ ${root}/examples/quickstart.c program)
 file(READ ${root}/README.md readme)
 string(FIND "${readme}" "```c\n${program}```" place)
 if(place EQUAL -1)
   message(FATAL_ERROR "README.md does not quote examples/quickstart.c as it is")
+endif()
+
+file(STRINGS ${root}/tools/exports.txt exports)
+list(LENGTH exports count)
+string(REGEX MATCH "There are ([0-9,]+) so far" found "${readme}")
+string(REPLACE "," "" number "${CMAKE_MATCH_1}")
+if(NOT number STREQUAL count)
+  message(FATAL_ERROR "README.md counts ${CMAKE_MATCH_1} functions, tools/exports.txt ${count}")
 endif()
