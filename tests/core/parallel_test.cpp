@@ -15,6 +15,7 @@
 #include <thread>
 #include <vector>
 
+#include "core/float_control.h"
 #include "support/allocator.h"
 
 using namespace vemi;
@@ -487,10 +488,33 @@ void overflow() {
   number = number * number;
 }
 
-/// Threads that were made in one mode work in another, and are left in their own.
-TEST(FloatControl, WorkersHaveTheCallersForACall) {
+std::vector<Form> allForms() {
   std::vector<Form> forms(std::begin(plainForms), std::end(plainForms));
   for (const auto& form : teamForms) forms.push_back(form.run);
+  return forms;
+}
+
+TEST(FloatControl, AModeThatACallSetsHoldsInItsTeam) {
+  inTeamOf(3, [](int) {
+    for (const Form form : allForms()) {
+      const auto work = [](int, Memory) -> VemiStatus {
+        EXPECT_EQ(roundingMode(), FE_TOWARDZERO);
+        return vemiOk;
+      };
+      EXPECT_EQ(roundingAs(Rounding::towardZero, [&] { return form(6, {}, work); }), vemiOk);
+      EXPECT_EQ(form(6, {},
+                     [](int, Memory) -> VemiStatus {
+                       EXPECT_EQ(roundingMode(), FE_TONEAREST);
+                       return vemiOk;
+                     }),
+                vemiOk);
+    }
+  });
+}
+
+/// Threads that were made in one mode work in another, and are left in their own.
+TEST(FloatControl, WorkersHaveTheCallersForACall) {
+  const std::vector<Form> forms = allForms();
   for (size_t form = 0; form < forms.size(); ++form) {
     SCOPED_TRACE(form);
     std::thread([&] {
