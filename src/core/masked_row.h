@@ -28,12 +28,20 @@ HWY_INLINE void storeRepeated(D d, V v, hn::TFromD<D>* out) {
 template <class L, class T, class IndexedOp, class... Src>
 HWY_NOINLINE void mapRowMasked(ptrdiff_t width, const Vemi8u* mask, const IndexedOp& indexedOp, T* dst,
                                const Src*... src) {
+  constexpr int E = L::elements;
+  constexpr ptrdiff_t N = laneCount<T>;
+  if (width < N) {
+    const auto wholeBlock = [](const void* context, T* out, const Vemi8u* selection, const Src*... in) {
+      mapRowMasked<L>(N, selection, *static_cast<const IndexedOp*>(context), out, in...);
+    };
+    return shortRow<N>(width, wholeBlock, indexedOp, Strand<T, E>{dst}, Strand<const Vemi8u>{mask},
+                       Strand<const Src, E>{src}...);
+  }
   const IndexedOp op = indexedOp;  // a local, which no store to the destination can change
   const Lanes<T> d;
   const hn::RebindToSigned<Lanes<T>> dFlags;
   const hn::Rebind<int8_t, decltype(d)> dMask;
   using Flag = hn::TFromD<decltype(dFlags)>;
-  constexpr ptrdiff_t N = laneCount<T>;
   static_assert(!L::keepsAlpha || N % 4 == 0, "every vector begins with a pixel");
   constexpr int vectors = L::elements;
   // Short elements of one channel: a blend costs less than the breaks that skipped blocks make in the streams of loads.
@@ -79,9 +87,8 @@ HWY_NOINLINE void mapRowMasked(ptrdiff_t width, const Vemi8u* mask, const Indexe
       }
     });
   };
-  constexpr int E = L::elements;
-  forBlocks<N>(width, kernel, Strand<T, E>{dst}, Strand<const T, E>{dst}, Strand<const Vemi8u>{mask},
-               Strand<const Src, E>{src}...);
+  forWholeBlocks<N>(width, kernel, Strand<T, E>{dst}, Strand<const T, E>{dst}, Strand<const Vemi8u>{mask},
+                    Strand<const Src, E>{src}...);
 }
 
 }  // namespace vemi
