@@ -24,7 +24,7 @@ ifeq ($(PRESET),ia32)
 BUILD_PACKAGES += $(IA32_PACKAGES)
 endif
 
-.PHONY: all demo test fuzz race bench peers bench-build check docs install exports format build configure clean
+.PHONY: all demo test fuzz race bench peers bench-build check docs install exports digests format build configure clean
 
 all: build
 
@@ -95,9 +95,15 @@ install:
 	@tools/need.sh $(BUILD_PACKAGES)
 	tools/install-levels.sh "$(PREFIX)"
 
-# After a function was added: the committed list of exports.
+# After a function was added: the committed lists of names and prototypes.
 exports:
 	tools/list-exports.sh include >tools/exports.txt
+	tools/list-exports.sh include --prototypes >tools/prototypes.txt
+
+# After a function was added or gives other bytes on purpose: the committed digests.
+digests: configure
+	cmake --build $(BUILD) -j $(JOBS) --target vemi_digest
+	$(BUILD)/tests/vemi_digest >tests/digest/digests.txt
 
 format:
 	@tools/need.sh clang-format

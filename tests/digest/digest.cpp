@@ -1,4 +1,5 @@
-// Prints a line `name hash` for each exported function. The lines of two builds, or of two team sizes, must be equal.
+// Prints a line `name hash` for each exported function. The lines of all builds and team sizes must be those of
+// digests.txt.
 //
 //   vemi_digest            all functions
 //   vemi_digest vemiAdd    those whose names begin so
