@@ -166,3 +166,10 @@ TEST(Threshold, LargeImages) {
   expectCall(*membersOf("vemiThreshold_LTVal", "32f_C3R").front(), {size, Rows::contiguous}, thresholded);
   expectCall(*membersOf("vemiThreshold_LTValGTVal", "32f_C3R").front(), {size, Rows::odd}, thresholded);
 }
+
+// The same of four channels, with rows that begin anywhere in a line, and of rows that are shorter than one.
+TEST(Threshold, LargeImagesOfFourChannels) {
+  const Export& function = *membersOf("vemiThreshold_LTVal", "32f_C4R").front();
+  expectCall(function, {{1283, 500}, Rows::padded}, thresholded);
+  expectCall(function, {{2, 300000}, Rows::padded}, thresholded);
+}

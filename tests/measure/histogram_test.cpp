@@ -80,6 +80,27 @@ TEST(Histogram, LargerRegions) {
   }
 }
 
+/// More equal pixels than a counter of 16 bits holds, in one row and in many, contiguous and not.
+TEST(Histogram, MoreEqualPixelsThanShortCountersHold) {
+  for (const int channels : {1, 3}) {
+    const std::vector<Vemi8u> pixels(static_cast<size_t>(channels) * 300000, 7);
+    const std::vector<Vemi32s> levels = {0, 7, 8, 256};
+    const Vemi32s* const lists[] = {levels.data(), levels.data(), levels.data()};
+    const int nLevels[] = {4, 4, 4};
+    for (const VemiSize size : {VemiSize{300000, 1}, VemiSize{65536, 1}, VemiSize{500, 600}, VemiSize{499, 600}}) {
+      std::vector<Vemi32s> counts(9, -1);
+      Vemi32s* const histograms[] = {&counts[0], &counts[3], &counts[6]};
+      const int step = channels * (size.width + size.width % 2);
+      EXPECT_EQ(channels == 1 ? vemiHistogramRange_8u_C1R(pixels.data(), step, size, counts.data(), levels.data(), 4)
+                              : vemiHistogramRange_8u_C3R(pixels.data(), step, size, histograms, lists, nLevels),
+                vemiOk);
+      for (int n = 0; n < 3 * channels; ++n) {
+        EXPECT_EQ(counts[static_cast<size_t>(n)], n % 3 == 1 ? size.width * size.height : 0) << channels << " channels";
+      }
+    }
+  }
+}
+
 /// A C1 call of 16s, straight.
 std::vector<Vemi32s> countsOf(const std::vector<Vemi16s>& pixels, const std::vector<Vemi32s>& levels, int width) {
   std::vector<Vemi32s> counts(levels.size() - 1, -1);
