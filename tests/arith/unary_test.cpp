@@ -69,7 +69,7 @@ VemiStatus lnWarning(int64_t x) { return x == 0 ? vemiWarnLnZero : x < 0 ? vemiW
 
 /// The view of a family that rounds steps down to whole elements.
 View wholeElements(View view) {
-  view.step -= view.step % bytesOf(view.element);
+  for (ptrdiff_t& step : view.step) step -= step % bytesOf(view.element);
   return view;
 }
 View asItIs(View view) { return view; }

@@ -42,10 +42,11 @@ void expectNone(const std::string& failure) {
 
 // ---- Arguments ----
 
-Scenario randomScenario(const Exceptions& exceptions, Random& random) {
+Scenario randomScenario(const Export& function, Random& random) {
   Scenario scenario;
   scenario.roiSize = {1 + random.below(90), 1 + random.below(6)};
-  scenario.rows = exceptions.suited(allRows[random.below(std::size(allRows))]);
+  scenario.rows = familyOf(function).exceptions.suited(allRows[random.below(std::size(allRows))]);
+  scenario.mixture = static_cast<unsigned>(random.below(1 << function.steps()));
   scenario.edge = random.below(2) == 0 ? Edge::front : Edge::back;
   scenario.seed = static_cast<unsigned>(random.next());
   scenario.scaleFactor = random.below(4) == 0 ? random.below(81) - 40 : random.below(9) - 2;
@@ -62,7 +63,7 @@ void driveArguments(const Functions& functions) {
     Random random(1);
     std::string failure;
     for (int n = 0; n < callsEach && failure.empty(); ++n, ++calls) {
-      Call call(*function, randomScenario(familyOf(*function).exceptions, random));
+      Call call(*function, randomScenario(*function, random));
       failure = tryCall(call).failure;
     }
     expectNone(failure);

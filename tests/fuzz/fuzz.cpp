@@ -42,10 +42,11 @@ const std::vector<const Export*>& callable() {
   return functions;
 }
 
-Scenario scenarioFrom(Input& input, const Exceptions& exceptions) {
+Scenario scenarioFrom(Input& input, const Export& function) {
   Scenario scenario;
   scenario.roiSize = {1 + input.below(300), 1 + input.below(9)};
-  scenario.rows = exceptions.suited(allRows[input.below(std::size(allRows))]);
+  scenario.rows = familyOf(function).exceptions.suited(allRows[input.below(std::size(allRows))]);
+  scenario.mixture = static_cast<unsigned>(input.below(1 << function.steps()));
   scenario.edge = input.below(2) == 0 ? Edge::front : Edge::back;
   scenario.scaleFactor = input.below(101) - 50;
   return scenario;
@@ -62,7 +63,7 @@ void expectNone(const std::string& failure, const Call& call) {
 extern "C" int LLVMFuzzerTestOneInput(const std::byte* data, size_t size) {
   Input input({data, size});
   const Export& function = *callable()[static_cast<size_t>(input.below(static_cast<int>(callable().size())))];
-  Scenario scenario = scenarioFrom(input, familyOf(function).exceptions);
+  Scenario scenario = scenarioFrom(input, function);
   const int choice = input.below(4), one = input.below(1 << 15), other = input.below(1 << 15);
   scenario.numbers = input.rest();
   Call good(function, scenario);

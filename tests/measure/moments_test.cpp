@@ -23,7 +23,7 @@ VemiMomentState stateOf(int tag, int hint) { return {tag, hint, -1, 0, {}}; }
 /// Expects the call's state to become `state`; or the call to be refused where rows do not fit the step.
 void expectState(Call& call, const VemiMomentState& state) {
   const View image = call.source();
-  if (image.pixelBytes * image.size.width > image.step) {
+  if (image.pixelBytes * image.size.width > image.step[0]) {
     call.expectedStatus = vemiErrStride;
   } else {
     std::memcpy(call.array("pState").at(0, 0), &state, sizeof state);

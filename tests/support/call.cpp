@@ -52,14 +52,6 @@ uint64_t hashOf(const std::string& text) {
   return hash;
 }
 
-int stepFor(const Image& image, Rows rows, int64_t rowBytes, int index) {
-  const int elementBytes = bytesOf(image.element);
-  if (rows == Rows::overlapping && !image.written) return 3;
-  const bool gaps = rows != Rows::contiguous && (rows != Rows::mixed || image.written);
-  const int64_t gap = rows == Rows::odd ? elementBytes * index + 1 : elementBytes * (index + 1);
-  return static_cast<int>(rowBytes + (gaps ? gap : 0));
-}
-
 /// Whether one float will do for another.
 template <class T>
 bool isAccepted(const std::byte* expected, const std::byte* actual, bool anyNaN, double tolerance) {
@@ -72,10 +64,23 @@ bool isAccepted(const std::byte* expected, const std::byte* actual, bool anyNaN,
 const Export& partnerOf(const Export& function, const std::string& word, const std::string& otherWord) {
   std::string name = function.name;
   name.replace(name.find(word), word.size(), otherWord);
+  return exportNamed(name);
+}
+
+bool makes(const Export& function, const void* recordType) {
+  return std::any_of(function.parameters.begin(), function.parameters.end(), [=](const Parameter& parameter) {
+    return parameter.role == Role::newRecord && parameter.recordType == recordType;
+  });
+}
+
+const Export& onlyMakerOf(const Export& function, const Parameter& parameter) {
+  std::vector<const Export*> makers;
   for (const Export& each : exports()) {
-    if (each.name == name) return each;
+    if (makes(each, parameter.recordType)) makers.push_back(&each);
   }
-  throw std::logic_error("no function " + name);
+  if (makers.size() == 1) return *makers[0];
+  throw std::logic_error(function.name + ": " + std::to_string(makers.size()) + " functions make " + parameter.name +
+                         ", so that its family's shape must name one");
 }
 
 }  // namespace
@@ -83,23 +88,26 @@ const Export& partnerOf(const Export& function, const std::string& word, const s
 std::string Scenario::text() const {
   static const char* const rowNames[] = {"contiguous", "padded", "odd", "mixed", "overlapping"};
   return std::to_string(roiSize.width) + "x" + std::to_string(roiSize.height) + ", " +
-         rowNames[static_cast<int>(rows)] + " rows, " + (edge == Edge::front ? "front" : "back") + " guard, seed " +
-         std::to_string(seed) + ", scaleFactor " + std::to_string(scaleFactor);
+         rowNames[static_cast<int>(rows)] + " rows (" + std::to_string(mixture) + "), " +
+         (edge == Edge::front ? "front" : "back") + " guard, seed " + std::to_string(seed) + ", scaleFactor " +
+         std::to_string(scaleFactor);
 }
 
 std::string Call::text() const { return function.name + " (" + scenario.text() + ")"; }
 
 View Image::view(std::vector<std::byte> Plane::*bytes) {
   View view = {};
-  view.step = step;
   view.pixelBytes = bytesOf(element) * (layout.planar ? 1 : layout.elements);
   view.element = element;
   view.channels = layout.channels;
   view.size = size;
   for (int channel = 0; channel < layout.channels; ++channel) {
-    Plane& plane = planes[static_cast<size_t>(layout.planar ? channel : 0)];
+    const size_t n = layout.planar ? static_cast<size_t>(channel) : 0;
+    Plane& plane = planes[n];
     view.origin[channel] =
         (plane.*bytes).data() + (plane.first - plane.memory.begin()) + (layout.planar ? 0 : channel * bytesOf(element));
+    view.step[channel] = plane.step;
+    view.sizes[channel] = sizeOf(n);
   }
   return view;
 }
@@ -115,6 +123,9 @@ Call::Call(const Export& called, const Scenario& how)
   for (size_t n = 0; n < function.parameters.size(); ++n) addArgument(function.parameters[n], static_cast<int>(n));
   const Family& family = familyOf(function);
   if (family.shape != nullptr) family.shape(*this);
+  for (const Parameter& parameter : function.parameters) {
+    if (parameter.role == Role::record && undecided_.count(parameter.name) != 0) record(parameter.name);
+  }
   if (!undecided_.empty()) {
     throw std::logic_error(function.name + ": its family's shape must set " + *undecided_.begin());
   }
@@ -148,7 +159,11 @@ void Call::addArgument(const Parameter& parameter, int index) {
       fillRead(parameter.element, slot.bytes);
       break;
     case Role::step:
-      images.back().stepParameter = index;
+    case Role::steps:
+      for (Image& each : images) {
+        if (!each.isArray() && each.stepParameter < 0) each.stepParameter = index;
+      }
+      if (parameter.role == Role::steps) addImage(parameter, index);
       break;
     case Role::number:
       slot.put(parameter.name == "scaleFactor" ? scenario.scaleFactor : 0);
@@ -156,38 +171,45 @@ void Call::addArgument(const Parameter& parameter, int index) {
       break;
     case Role::image:
     case Role::mask:
-    case Role::array: {
-      Image added;
-      added.parameter = index;
-      added.role = parameter.role;
-      added.element = parameter.element;
-      added.written = !parameter.isConst;
-      if (parameter.role == Role::image) added.layout = added.written ? function.destination : function.source;
-      if (parameter.role != Role::array) added.size = scenario.roiSize;
-      images.push_back(std::move(added));
-      // A result without bounds is a single one; the lengths of other arrays are the family's to say.
-      if (parameter.role != Role::array) break;
-      if (parameter.isPlanes) {
-        undecided_.insert(parameter.name);
-      } else if (parameter.bound > 0 || images.back().written) {
-        setLengths(parameter.name, {std::max(parameter.bound, 1)});
-      } else {
-        undecided_.insert(parameter.name);
-      }
+    case Role::array:
+    case Role::buffer:
+      addImage(parameter, index);
       break;
-    }
     case Role::newRecord:
       slot.put(&newRecord_);
       break;
-    case Role::freedRecord: {
-      maker_ = std::make_unique<Call>(partnerOf(function, "Free", "InitAlloc"), scenario);
-      maker_->invoke();
-      slot.put(maker_->record_.get());
+    case Role::freedRecord:
+      record(parameter.name, partnerOf(function, "Free", "InitAlloc").name);
       break;
-    }
+    case Role::rect:
+    case Role::point:
+    case Role::record:
     case Role::other:
       undecided_.insert(parameter.name);
       break;
+  }
+}
+
+void Call::addImage(const Parameter& parameter, int index) {
+  const bool hasStep = parameter.role == Role::image || parameter.role == Role::mask;
+  Image added;
+  added.parameter = index;
+  added.role = parameter.role;
+  added.element = parameter.element;
+  added.written = !parameter.isConst && parameter.role != Role::steps;
+  if (parameter.role == Role::image) {
+    added.layout = added.written ? function.destination : function.source;
+    // A plane that is an argument by itself.
+    if (added.layout.planar && !parameter.isPlanes) added.layout = {1, 1, false};
+  }
+  if (hasStep) added.size = scenario.roiSize;
+  images.push_back(std::move(added));
+  if (hasStep) return;
+  // A result without bounds is a single one; the lengths of other arrays are the family's to say.
+  if (!parameter.isPlanes && parameter.role != Role::buffer && (parameter.bound > 0 || images.back().written)) {
+    setLengths(parameter.name, {std::max(parameter.bound, 1)});
+  } else {
+    undecided_.insert(parameter.name);
   }
 }
 
@@ -224,12 +246,43 @@ void Call::setLengths(const std::string& parameter, const std::vector<int>& leng
   undecided_.erase(parameter);
 }
 
+Call& Call::record(const std::string& parameter, const std::string& constructor) {
+  std::unique_ptr<Call>& maker = makers_[parameter];
+  if (maker == nullptr) {
+    const Parameter& described = function.parameters.at(static_cast<size_t>(function.indexOf(parameter)));
+    maker = std::make_unique<Call>(constructor.empty() ? onlyMakerOf(function, described) : exportNamed(constructor),
+                                   scenario);
+    if (maker->invoke() < vemiOk) throw std::logic_error(function.name + " needs a record from " + maker->text());
+    set(parameter, maker->record_.get());
+  }
+  return *maker;
+}
+
+int Call::sizeBy(const std::string& query, const std::string& record) {
+  const Export& asked = exportNamed(query);
+  int bytes = -1;
+  Slot slots[2];
+  slots[0].put(get<void*>(record));
+  slots[1].put(&bytes);
+  if (asked.parameters.size() != 2 || asked.call(asked.function, slots) != vemiOk) {
+    throw std::logic_error(query + " does not tell the size for " + function.name);
+  }
+  return bytes;
+}
+
+void Call::setBuffer(const std::string& parameter, int bytes, bool mayBeNull) {
+  setLengths(parameter, {bytes});
+  image(parameter).mayBeNull = mayBeNull;
+}
+
 void Call::setNumber(const std::string& parameter, double number, int index) {
   const int at = function.indexOf(parameter);
   const Parameter& described = function.parameters.at(static_cast<size_t>(at));
   undecided_.erase(parameter);
-  if (described.role != Role::array) {
-    storeNumber(described.element, arguments[static_cast<size_t>(at)].bytes, number);
+  if (described.role != Role::array && described.role != Role::steps) {
+    const bool hasFields = described.element == Element::none;
+    const Element element = hasFields ? Element::s32 : described.element;
+    storeNumber(element, arguments[static_cast<size_t>(at)].bytes + index * bytesOf(element), number);
     return;
   }
   Image::Plane& plane = image(parameter).planes.at(0);
@@ -238,27 +291,61 @@ void Call::setNumber(const std::string& parameter, double number, int index) {
   storeNumber(described.element, plane.expected.data() + offset, number);
 }
 
-/// What the call may touch, from the first byte to the last, lies against a guard page.
-void Call::layOut(Image& image) {
-  if (image.size.width < 1) {
-    throw std::logic_error(function.name + ": its family's shape must give a size to " +
-                           function.parameters[static_cast<size_t>(image.parameter)].name);
+int Call::stepFor(const Image& image, int64_t rowBytes, size_t plane) const {
+  if (scenario.rows == Rows::overlapping && !image.written) return 3;
+  // Its number among all steps, and the last of the images that share it.
+  unsigned number = static_cast<unsigned>(plane);
+  for (int n = 0; n < image.stepParameter; ++n) {
+    const Parameter& before = function.parameters[static_cast<size_t>(n)];
+    number += before.role == Role::step ? 1 : before.role == Role::steps ? static_cast<unsigned>(before.bound) : 0;
   }
+  int index = image.parameter;
+  for (const Image& each : images) {
+    if (each.stepParameter == image.stepParameter && image.stepParameter >= 0) index = each.parameter;
+  }
+  index += static_cast<int>(plane);
+  const int elementBytes = bytesOf(image.element);
+  const bool inMixture = scenario.mixture == 0 ? image.written : (scenario.mixture >> number & 1) != 0;
+  const bool gaps = scenario.rows != Rows::contiguous && (scenario.rows != Rows::mixed || inMixture);
+  const int64_t gap = scenario.rows == Rows::odd ? elementBytes * index + 1 : elementBytes * (index + 1);
+  return static_cast<int>(rowBytes + (gaps ? gap : 0));
+}
+
+/// What the call may touch, from the first byte to the last, lies against a guard page; a buffer begins at an odd
+/// address.
+void Call::layOut(Image& image) {
+  const Parameter& parameter = function.parameters[static_cast<size_t>(image.parameter)];
+  const bool isBuffer = image.role == Role::buffer;
+  if (image.size.width < (isBuffer ? 0 : 1)) {
+    throw std::logic_error(function.name + ": its family's shape must give a size to " + parameter.name);
+  }
+  const bool hasSteps =
+      image.stepParameter >= 0 && function.parameters[static_cast<size_t>(image.stepParameter)].role == Role::steps;
   const Margin& margin = image.margin;
   const int64_t elementBytes = bytesOf(image.element);
   const int64_t pixelBytes = elementBytes * (image.layout.planar ? 1 : image.layout.elements);
   // Of a channel of interest the call may touch its own elements only; an alpha channel belongs to the last pixel.
   const int64_t lastBytes = image.layout.channels == 1 ? elementBytes : pixelBytes;
-  const int64_t height = margin.top + image.size.height + margin.bottom;
   const int planeCount = image.layout.planar ? image.layout.elements : 1;
-  for (int n = 0; n < planeCount; ++n) {
-    const int64_t width = margin.left + image.widthOf(static_cast<size_t>(n)) + margin.right;
-    image.step = stepFor(image, scenario.rows, width * pixelBytes, image.parameter);
-    const int64_t extent = (height - 1) * image.step + (width - 1) * pixelBytes + lastBytes;
-    const int64_t first = margin.top * int64_t{image.step} + margin.left * pixelBytes;
-    GuardedMemory memory(static_cast<size_t>(extent));
-    std::byte* const begin = scenario.edge == Edge::front ? memory.begin() : memory.end() - extent;
-    image.planes.push_back({std::move(memory), begin + first, {}, {}});
+  for (size_t n = 0; n < static_cast<size_t>(planeCount); ++n) {
+    const int64_t width = margin.left + image.sizeOf(n).width + margin.right;
+    const int64_t height = margin.top + image.sizeOf(n).height + margin.bottom;
+    const int step = stepFor(image, width * pixelBytes, hasSteps ? n : 0);
+    const int64_t extent = (height - 1) * step + (width - 1) * pixelBytes + lastBytes;
+    const int64_t first = margin.top * int64_t{step} + margin.left * pixelBytes;
+    GuardedMemory memory(static_cast<size_t>(extent + (isBuffer ? 1 : 0)));
+    std::byte* begin = scenario.edge == Edge::front ? memory.begin() : memory.end() - extent;
+    if (isBuffer && reinterpret_cast<uintptr_t>(begin) % 2 == 0) begin += scenario.edge == Edge::front ? 1 : -1;
+    image.planes.push_back({std::move(memory), begin + first, step, {}, {}});
+  }
+  if (parameter.role == Role::steps) {
+    std::vector<int> steps;
+    for (const Image& each : images) {
+      if (each.stepParameter != image.parameter) continue;
+      for (const Image::Plane& plane : each.planes) steps.push_back(plane.step);
+    }
+    const auto* const bytes = reinterpret_cast<const std::byte*>(steps.data());
+    image.contents = {{bytes, bytes + steps.size() * sizeof(int)}};
   }
 }
 
@@ -278,7 +365,8 @@ void Call::fill(Image& image) {
   for (int y = -margin.top; isRead && image.contents.empty() && y < image.size.height + margin.bottom; ++y) {
     for (int x = -margin.left; x < image.size.width + margin.right; ++x) {
       for (int channel = 0; channel < view.channels; ++channel) {
-        if (image.isArray() && x >= image.widthOf(static_cast<size_t>(channel))) continue;
+        const VemiSize size = view.sizes[channel];
+        if (x >= size.width + margin.right || y >= size.height + margin.bottom) continue;
         fillRead(image.element, view.at(x, y, channel));
       }
     }
@@ -305,9 +393,13 @@ void Call::pass(Image& image) {
     for (const Image::Plane& plane : image.planes) image.pointers.push_back(plane.first);
     pointer.put(image.pointers.data());
   } else {
-    pointer.put(image.planes.front().first);
+    const bool isNull = image.mayBeNull && random.below(3) == 0;
+    pointer.put(isNull ? nullptr : image.planes.front().first);
   }
-  if (image.stepParameter >= 0) arguments[static_cast<size_t>(image.stepParameter)].put(image.step);
+  if (image.stepParameter < 0) return;
+  if (function.parameters[static_cast<size_t>(image.stepParameter)].role == Role::step) {
+    arguments[static_cast<size_t>(image.stepParameter)].put(image.planes.front().step);
+  }
 }
 
 // ---- What references read and write ----
@@ -353,25 +445,30 @@ VemiStatus Call::invoke() {
                  destructor.call(destructor.function, &argument);
                }};
   }
-  if (maker_ != nullptr && status == vemiOk) maker_->record_.release();
+  for (const Parameter& parameter : function.parameters) {
+    if (parameter.role == Role::freedRecord && status == vemiOk) makers_[parameter.name]->record_.release();
+  }
   return status;
 }
 
 void Call::acceptWritten() {
   for (Image& image : images) {
-    if (!image.written) continue;
-    const View view = image.view(&Image::Plane::expected);
-    const Margin& margin = image.margin;
-    for (int channel = 0; channel < view.channels; ++channel) {
-      const size_t plane = image.layout.planar ? static_cast<size_t>(channel) : 0;
-      const std::byte* const memory = image.planes[plane].memory.begin();
-      const ptrdiff_t bytes = bytesOf(image.element);
-      for (int y = -margin.top; y < image.size.height + margin.bottom; ++y) {
-        for (int x = -margin.left; x < image.widthOf(plane) + margin.right; ++x) {
-          std::byte* const expected = view.at(x, y, channel);
-          const std::byte* const actual = memory + (expected - image.planes[plane].expected.data());
-          std::copy(actual, actual + bytes, expected);
-        }
+    if (image.written) accept(image);
+  }
+}
+
+void Call::accept(Image& image) {
+  const View view = image.view(&Image::Plane::expected);
+  const Margin& margin = image.margin;
+  for (int channel = 0; channel < view.channels; ++channel) {
+    const VemiSize size = view.sizes[channel];
+    const Image::Plane& plane = image.planes[image.layout.planar ? static_cast<size_t>(channel) : 0];
+    const ptrdiff_t bytes = bytesOf(image.element);
+    for (int y = -margin.top; y < size.height + margin.bottom; ++y) {
+      for (int x = -margin.left; x < size.width + margin.right; ++x) {
+        std::byte* const expected = view.at(x, y, channel);
+        const std::byte* const actual = plane.memory.begin() + (expected - plane.expected.data());
+        std::copy(actual, actual + bytes, expected);
       }
     }
   }
@@ -396,10 +493,10 @@ void Call::acceptFloats(Image& image) {
   const View view = image.view(&Image::Plane::expected);
   const Element part = partOf(view.element);
   const int parts = partsIn(view.element), bytes = bytesOf(part);
-  for (int y = 0; y < image.size.height; ++y) {
-    for (int n = 0; n < view.channels * parts; ++n) {
-      Image::Plane& plane = image.planes[image.layout.planar ? static_cast<size_t>(n / parts) : 0];
-      for (int x = 0; x < image.widthOf(image.layout.planar ? static_cast<size_t>(n / parts) : 0); ++x) {
+  for (int n = 0; n < view.channels * parts; ++n) {
+    Image::Plane& plane = image.planes[image.layout.planar ? static_cast<size_t>(n / parts) : 0];
+    for (int y = 0; y < view.sizes[n / parts].height; ++y) {
+      for (int x = 0; x < view.sizes[n / parts].width; ++x) {
         std::byte* const expected = view.at(x, y, n / parts) + n % parts * bytes;
         const std::byte* const actual = plane.memory.begin() + (expected - plane.expected.data());
         const bool accepted = part == Element::f32 ? isAccepted<float>(expected, actual, anyNaN, tolerance)
@@ -412,6 +509,7 @@ void Call::acceptFloats(Image& image) {
 
 std::string Call::difference() {
   for (Image& image : images) {
+    if (image.role == Role::buffer) accept(image);
     const std::string name = function.parameters[static_cast<size_t>(image.parameter)].name;
     for (size_t n = 0; n < image.planes.size(); ++n) {
       Image::Plane& plane = image.planes[n];
@@ -426,9 +524,9 @@ std::string Call::difference() {
       const auto at = std::mismatch(plane.expected.begin(), plane.expected.end(), plane.memory.begin()).first -
                       plane.expected.begin();
       const ptrdiff_t offset = at - (plane.first - plane.memory.begin());
-      const ptrdiff_t row = image.step > 0 ? offset / image.step : 0;
+      const ptrdiff_t row = plane.step > 0 ? offset / plane.step : 0;
       return text() + ": " + name + (image.layout.planar ? " plane " + std::to_string(n) : "") + ", byte " +
-             std::to_string(offset - row * image.step) + " of row " + std::to_string(row) + " is " +
+             std::to_string(offset - row * plane.step) + " of row " + std::to_string(row) + " is " +
              std::to_string(static_cast<int>(plane.memory.begin()[at])) + ", not " +
              std::to_string(static_cast<int>(plane.expected[static_cast<size_t>(at)]));
     }

@@ -7,6 +7,7 @@
 #pragma once
 
 #include <functional>
+#include <map>
 #include <memory>
 #include <optional>
 #include <set>
@@ -23,7 +24,7 @@ enum class Rows {
   contiguous,   // all images without gaps
   padded,       // a gap of whole elements, different in each image
   odd,          // a step that is no multiple of the element, so that rows are misaligned
-  mixed,        // gaps in what is written only
+  mixed,        // gaps in some images
   overlapping,  // rows of sources that lie over each other, three bytes apart
 };
 inline constexpr Rows allRows[] = {Rows::contiguous, Rows::padded, Rows::odd, Rows::mixed, Rows::overlapping};
@@ -37,6 +38,7 @@ struct Scenario {
   Edge edge = Edge::back;
   unsigned seed = 1;
   int scaleFactor = 0;
+  unsigned mixture = 0;                     // of mixed rows: a bit for each step with gaps; 0: what is written has them
   bool oneNaN = false;                      // all NaNs that are read have the same bits
   std::span<const std::byte> numbers = {};  // what the random numbers begin with
 
@@ -45,13 +47,16 @@ struct Scenario {
 
 /// Addresses of an image's elements. Coordinates outside of the size are legal where the image has a margin.
 struct View {
-  std::byte* origin[4];  // of each channel
-  ptrdiff_t step, pixelBytes;
+  // Of each channel; sizes differ where planes do.
+  std::byte* origin[4];
+  ptrdiff_t step[4];
+  VemiSize sizes[4];
+  ptrdiff_t pixelBytes;
   Element element;
   int channels;
   VemiSize size;
 
-  std::byte* at(int x, int y, int channel = 0) const { return origin[channel] + y * step + x * pixelBytes; }
+  std::byte* at(int x, int y, int channel = 0) const { return origin[channel] + y * step[channel] + x * pixelBytes; }
 };
 
 /// Pixels around the region that belong to the image too.
@@ -67,8 +72,9 @@ struct Image {
   Layout layout;
   bool written = false;
   VemiSize size = {0, 0};
+  std::vector<VemiSize> planeSizes;  // where planes differ from the first one, which has `size`
   Margin margin;
-  int step = 0;
+  bool mayBeNull = false;  // of a buffer
   /// Of an array: its length; of an array of arrays: the length of each.
   std::vector<int> lengths;
   /// What the family's shape puts into the arrays, one after the other; filled at random where it is empty.
@@ -76,15 +82,18 @@ struct Image {
 
   struct Plane {
     GuardedMemory memory;
-    std::byte* first;                         // where the caller's pointer points
+    std::byte* first;  // where the caller's pointer points
+    int step;
     std::vector<std::byte> before, expected;  // all bytes of the memory, before and after the call
   };
   std::vector<Plane> planes;
   std::vector<void*> pointers;  // the array of plane pointers
 
   bool isArray() const { return !lengths.empty(); }
-  /// Elements in a row of a plane.
-  int widthOf(size_t plane) const { return isArray() ? lengths[plane] : size.width; }
+  VemiSize sizeOf(size_t plane) const {
+    if (isArray()) return {lengths[plane], 1};
+    return plane < planeSizes.size() ? planeSizes[plane] : size;
+  }
   View view(std::vector<std::byte> Plane::*bytes);
 };
 
@@ -130,8 +139,16 @@ class Call {
   }
   /// The same with random elements, or for results.
   void setLengths(const std::string& parameter, const std::vector<int>& lengths);
-  /// Gives a number to an argument by value, or to an element of an array, in its own type.
+  /// Gives a number to an argument by value, to an element of an array, or to a field of a point, size or rectangle.
   void setNumber(const std::string& parameter, double number, int index = 0);
+  /// Makes a record by its constructor, as that one's own family shapes the call, and passes it; it lives as long as
+  /// this call does. The constructor's call tells what the record was made of. Without a name, the only function that
+  /// makes records of this type; a shape that does not ask gets such a record too.
+  Call& record(const std::string& parameter, const std::string& constructor = "");
+  /// What a function of a record and a result, such as vemiFFTGetBufSize_R_32f, says of a record.
+  int sizeBy(const std::string& query, const std::string& record);
+  /// Working memory of just so many bytes, at an odd address; where it may be null, it sometimes is.
+  void setBuffer(const std::string& parameter, int bytes, bool mayBeNull);
 
   // For a reference. An image that is source and destination counts as the last source.
   View source(int index = 0);
@@ -150,7 +167,9 @@ class Call {
     for (int y = 0; y < written.size.height; ++y) {
       for (int x = 0; x < written.size.width; ++x) {
         if (!isSelected(x, y)) continue;
-        for (int channel = 0; channel < written.channels; ++channel) f(x, y, channel);
+        for (int channel = 0; channel < written.channels; ++channel) {
+          if (x < written.sizes[channel].width && y < written.sizes[channel].height) f(x, y, channel);
+        }
       }
     }
   }
@@ -173,17 +192,20 @@ class Call {
  private:
   void fillRead(Element element, std::byte* place);
   void addArgument(const Parameter& parameter, int index);
+  void addImage(const Parameter& parameter, int index);
+  int stepFor(const Image& image, int64_t rowBytes, size_t plane) const;
   void layOut(Image& image);
   void fill(Image& image);
   void settle(Image& image);
   void pass(Image& image);
   Image& arrayOf(const std::string& parameter);
+  void accept(Image& image);
   void acceptFloats(Image& image);
 
   std::vector<Slot> goodArguments_;
   void* newRecord_ = nullptr;                                 // where the function stores a record that it makes
   std::unique_ptr<void, std::function<void(void*)>> record_;  // which is freed with the call
-  std::unique_ptr<Call> maker_;                               // the call that made the record which this one frees
+  std::map<std::string, std::unique_ptr<Call>> makers_;       // the calls that made the records of this one
   std::set<std::string> undecided_;                           // parameters that the family's shape must still set
   std::optional<View> mask_;
   const std::byte* constants_ = nullptr;

@@ -7,75 +7,11 @@
 #include <cstdlib>
 #include <sstream>
 #include <stdexcept>
-#include <type_traits>
-#include <utility>
+
+#include "support/signatures.h"
 
 namespace vemi::test {
 namespace {
-
-// ---- From types: which element, how to pass it ----
-
-template <class T>
-Parameter parameterOf() {
-  Parameter result;
-  if constexpr (std::is_same_v<T, VemiSize>) {
-    result.role = Role::size;
-  } else if constexpr (std::is_pointer_v<T>) {
-    using Pointee = std::remove_pointer_t<T>;
-    result.isPlanes = std::is_pointer_v<Pointee>;
-    using Target = std::conditional_t<std::is_pointer_v<Pointee>, std::remove_pointer_t<Pointee>, Pointee>;
-    result.element = elementOf<std::remove_const_t<Target>>;
-    result.isConst = std::is_const_v<Target>;
-    result.role = result.element == Element::none ? Role::other : Role::array;
-  } else if constexpr (elementOf<T> != Element::none) {
-    result.element = elementOf<T>;
-    result.role = Role::constant;
-  }
-  return result;
-}
-
-/// What the compiler knows of a function. A plain record, made by calls that are not inlined: there are hundreds of
-/// signatures and thousands of functions, all of them in one list.
-struct Entry {
-  const char* name;
-  const char* prototype;
-  AnyFunction function;
-  Parameter (*const* parameters)();  // one after the other, then null
-  decltype(Export::call) call = nullptr;
-  decltype(Export::allocate) allocate = nullptr;
-};
-
-template <class... A>
-constexpr Parameter (*parametersOf[])() = {parameterOf<A>..., nullptr};
-
-template <class... A>
-VemiStatus callWith(AnyFunction function, const Slot* arguments) {
-  return [&]<size_t... n>(std::index_sequence<n...>) {
-    return reinterpret_cast<VemiStatus (*)(A...)>(function)(arguments[n].template get<A>()...);
-  }
-  (std::index_sequence_for<A...>());
-}
-
-template <class... A>
-[[gnu::noinline]] Entry entryOf(const char* name, const char* prototype, VemiStatus (*function)(A...)) {
-  return {name, prototype, reinterpret_cast<AnyFunction>(function), parametersOf<A...>, callWith<A...>};
-}
-
-template <class T>
-void* allocateBy(AnyFunction function, VemiSize size, int* pStep) {
-  return reinterpret_cast<T* (*)(VemiSize, int*)>(function)(size, pStep);
-}
-
-template <class T>
-[[gnu::noinline]] Entry entryOf(const char* name, const char* prototype, T* (*function)(VemiSize, int*)) {
-  return {name,    prototype,    reinterpret_cast<AnyFunction>(function), parametersOf<VemiSize, int*>,
-          nullptr, allocateBy<T>};
-}
-
-template <class R, class... A>
-[[gnu::noinline]] Entry entryOf(const char* name, const char* prototype, R (*function)(A...)) {
-  return {name, prototype, reinterpret_cast<AnyFunction>(function), parametersOf<A...>};
-}
 
 // ---- From the prototype's text: parameter names, and the roles that they settle ----
 
@@ -84,13 +20,22 @@ struct Spelling {
   int bound = 0;
 };
 
+/// The product of the bounds in [3] or [2][3].
+int boundOf(const std::string& brackets) {
+  int bound = brackets.empty() ? 0 : 1;
+  for (size_t at = brackets.find('['); at != std::string::npos; at = brackets.find('[', at + 1)) {
+    bound *= std::atoi(brackets.c_str() + at + 1);
+  }
+  return bound;
+}
+
 /// The last word of each parameter, and the bound of an array.
 std::vector<Spelling> spellingsOf(const std::string& prototype) {
   std::vector<Spelling> spellings;
   std::istringstream parameters(prototype == "void" ? "" : prototype);
   for (std::string parameter; std::getline(parameters, parameter, ',');) {
     const size_t bracket = std::min(parameter.find('['), parameter.size());
-    const int bound = std::atoi(parameter.substr(std::min(bracket + 1, parameter.size())).c_str());
+    const int bound = boundOf(parameter.substr(bracket));
     parameter.erase(bracket);
     spellings.push_back({parameter.substr(parameter.find_last_of(" *") + 1), bound});
   }
@@ -101,19 +46,31 @@ bool endsWith(const std::string& text, const std::string& end) {
   return text.size() >= end.size() && text.compare(text.size() - end.size(), end.size(), end) == 0;
 }
 
+bool isStep(const Parameter& parameter) {
+  return parameter.element == Element::s32 && endsWith(parameter.name, "Step") &&
+         (parameter.role == Role::constant || (parameter.role == Role::array && !parameter.isPlanes));
+}
+
+/// Of pSrcMagn, pSrcPhase, srcStep both pointers.
+bool shareStep(const Parameter& first, const Parameter& second) {
+  return first.role == Role::array && first.bound == 0 && first.name.rfind("pSrc", 0) == 0 &&
+         second.name.rfind("pSrc", 0) == 0;
+}
+
 void settleRoles(Export& function) {
   Parameter* pointer = nullptr;
   for (Parameter& parameter : function.parameters) {
-    if (parameter.role == Role::array) pointer = &parameter;
-    if (parameter.role == Role::other && parameter.isPlanes) parameter.role = Role::newRecord;
-    if (parameter.role == Role::other && function.name.find("Free_") != std::string::npos) {
+    if (parameter.name == "pBuffer") parameter.role = Role::buffer;
+    if (parameter.role == Role::record && function.name.find("Free_") != std::string::npos) {
       parameter.role = Role::freedRecord;
     }
-    if (parameter.element != Element::s32 || parameter.role != Role::constant) continue;
-    if (endsWith(parameter.name, "Step") && pointer != nullptr) {
-      parameter.role = Role::step;
+    if (pointer != nullptr && isStep(parameter)) {
+      parameter.role = parameter.role == Role::array ? Role::steps : Role::step;
       pointer->role = pointer->name == "pMask" ? Role::mask : Role::image;
-    } else if (parameter.name != "value") {
+      if (pointer != function.parameters.data() && shareStep(pointer[-1], *pointer)) pointer[-1].role = Role::image;
+    } else if (parameter.role == Role::array) {
+      pointer = &parameter;
+    } else if (parameter.role == Role::constant && parameter.element == Element::s32 && parameter.name != "value") {
       parameter.role = Role::number;
     }
   }
@@ -171,6 +128,8 @@ void parseName(Export& function) {
   }
 }
 
+}  // namespace
+
 Export exportOf(const Entry& entry) {
   Export described;
   for (auto parameter = entry.parameters; *parameter != nullptr; ++parameter) {
@@ -193,22 +152,42 @@ Export exportOf(const Entry& entry) {
   return described;
 }
 
-}  // namespace
-
 // The build writes exports.inc from the public headers: VEMI_EXPORT(name, parameters as the header spells them).
 #define VEMI_EXPORT(name, ...) entryOf(#name, "" #__VA_ARGS__, &name),
 
-const std::vector<Export>& exports() {
-  static const std::vector<Export> all = [] {
+namespace {
+
+/// Has room for more, so that no export moves.
+std::vector<Export>& allExports() {
+  static std::vector<Export> all = [] {
     const Entry entries[] = {
 #include "exports.inc"
     };
     std::vector<Export> list;
+    list.reserve(std::size(entries) + 64);
     for (const Entry& entry : entries) list.push_back(exportOf(entry));
     return list;
   }();
   return all;
 }
+
+}  // namespace
+
+const std::vector<Export>& exports() { return allExports(); }
+
+const Export& exportNamed(const std::string& name) {
+  for (const Export& each : exports()) {
+    if (each.name == name) return each;
+  }
+  throw std::logic_error("no function " + name);
+}
+
+MoreExports::MoreExports(const std::vector<Export>& functions) : before_(exports().size()) {
+  if (before_ + functions.size() > exports().capacity()) throw std::length_error("more exports than there is room for");
+  allExports().insert(allExports().end(), functions.begin(), functions.end());
+}
+
+MoreExports::~MoreExports() { allExports().resize(before_); }
 
 bool matches(const std::string& text, const std::string& pattern) {
   regex_t expression;
@@ -225,6 +204,14 @@ int Export::indexOf(const std::string& parameter) const {
     if (parameters[n].name == parameter) return static_cast<int>(n);
   }
   return -1;
+}
+
+int Export::steps() const {
+  int count = 0;
+  for (const Parameter& parameter : parameters) {
+    count += parameter.role == Role::step ? 1 : parameter.role == Role::steps ? parameter.bound : 0;
+  }
+  return count;
 }
 
 std::vector<const Export*> membersOf(const std::string& operation, const std::string& pattern) {

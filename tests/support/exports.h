@@ -36,12 +36,17 @@ struct Slot {
 enum class Role {
   image,        // a pointer, or an array of plane pointers, that a step belongs to
   mask,         // pMask: an image of bytes
-  array,        // a pointer without a step: constants, tables, results
-  step,         // the step of the last pointer in front of it
+  array,        // a pointer without a step: constants, matrices, tables, results
+  buffer,       // pBuffer: working memory
+  step,         // the step of the last pointer in front of it, and of a pSrc in front of that which has none
+  steps,        // an array of steps, one for each plane of the pointers in front of it
   size,         // a VemiSize
+  rect,         // a VemiRect
+  point,        // a VemiPoint
   constant,     // an element by value
   number,       // any other integer
   newRecord,    // of an InitAlloc function: where it stores the address of the record that it makes
+  record,       // a pointer to such a record
   freedRecord,  // of a Free function: such a record
   other
 };
@@ -49,13 +54,16 @@ enum class Role {
 struct Parameter {
   std::string name;
   Role role = Role::other;
-  Element element = Element::none;  // of the value, or of what is pointed at
-  bool isConst = false;             // what is pointed at
-  bool isPlanes = false;            // an array of pointers
-  int bound = 0;                    // of an array, where the prototype says it
+  Element element = Element::none;   // of the value, or of what is pointed at
+  bool isConst = false;              // what is pointed at
+  bool isPlanes = false;             // an array of pointers
+  int bound = 0;                     // of an array, where the prototype says it; of a matrix, all of its elements
+  const void* recordType = nullptr;  // the same for all parameters that lead to records of one type
 };
 
 using AnyFunction = void (*)();
+
+struct Family;
 
 struct Export {
   std::string name;
@@ -69,11 +77,28 @@ struct Export {
   AnyFunction function = nullptr;
   VemiStatus (*call)(AnyFunction, const Slot* arguments) = nullptr;     // null where no status is returned
   void* (*allocate)(AnyFunction, VemiSize size, int* pStep) = nullptr;  // vemiMalloc alone
+  const Family* family = nullptr;                                       // of a function that no header declares
 
   int indexOf(const std::string& parameter) const;  // -1 where there is none
+  int steps() const;                                // how many it takes, each of an array by itself
 };
 
 const std::vector<Export>& exports();
+
+/// Throws where there is none.
+const Export& exportNamed(const std::string& name);
+
+/// Puts functions that no header declares behind the exports while it lives: for tests of the tests.
+class MoreExports {
+ public:
+  explicit MoreExports(const std::vector<Export>& functions);
+  ~MoreExports();
+  MoreExports(const MoreExports&) = delete;
+  MoreExports& operator=(const MoreExports&) = delete;
+
+ private:
+  size_t before_;
+};
 
 /// Whether the whole text matches an extended regular expression.
 bool matches(const std::string& text, const std::string& pattern);

@@ -30,6 +30,7 @@ bool fits(const Family& family, const Export& function) {
 }  // namespace
 
 const Family& familyOf(const Export& function) {
+  if (function.family != nullptr) return *function.family;
   static const std::map<std::string, const Family*> found = [] {
     std::map<std::string, const Family*> first;
     for (const Export& each : exports()) {

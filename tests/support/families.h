@@ -33,9 +33,10 @@ struct Family {
   const char* operations;  // names up to the type, separated by blanks
   const char* members;     // regular expression over type and descriptor
   /// The stages of the argument checks, first to last. Null pointers are found at `null`, those of arrays without a
-  /// step at `arrays` where there is such a stage, sizes at `size` (a width at `width`), steps at `step`, the family's
-  /// own faults where they say. At `channels`, one channel after the other is tested: first its pointers in arrays of
-  /// pointers, then its elements in other arrays.
+  /// step at `arrays` and those in arrays of planes at `planes` where there are such stages, records of another kind at
+  /// `tag`, sizes and rectangles at `size` (a width at `width`), steps at `step`, the family's own faults where they
+  /// say. A stage with a parameter's name takes that parameter's faults from the stage of its kind. At `channels`, one
+  /// channel after the other is tested: first its pointers in arrays of pointers, then its elements in other arrays.
   const char* order;
   /// Sets the integers that are the family's own, and the sizes and margins of images that are not the region.
   void (*shape)(Call&) = nullptr;

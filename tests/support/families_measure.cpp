@@ -78,13 +78,6 @@ void momentGetter(Call& call) {
   call.set("nOrd", call.random.below(4 - mOrd));
 }
 
-/// The record of another kind of function, or one that was freed.
-bool otherRecord(Call& call) {
-  static int noRecord[128] = {};
-  if (call.get<void*>("pState") != nullptr) call.set<void*>("pState", noRecord);  // a null stays
-  return true;
-}
-
 bool shortStep(Call& call) {
   const View image = call.source();
   if (call.get<int>("srcStep") > 0) call.set("srcStep", static_cast<int>(image.pixelBytes) * image.size.width - 1);
@@ -202,18 +195,17 @@ std::vector<Family> measureFamilies() {
        [](Call& call) { setLimits<Vemi32f>(call, 10000); },
        {{"lower", 10001, "own", vemiErrRange}}},
       {"vemiMomentInitAlloc vemiMomentInit vemiMomentGetStateSize", ".*", "null", momentHint},
-      {"vemiMomentFree", ".*", "null tag", nullptr, {{"pState", 0, "tag", vemiErrContext, otherRecord}}},
+      {"vemiMomentFree", ".*", "null tag"},
       {"vemiMoments64f vemiMoments64s",
        ".*",
        "null tag step size own",
        setMomentState,
-       {{"pState", 0, "tag", vemiErrContext, otherRecord}, {"srcStep", 0, "own", vemiErrStride, shortStep}}},
+       {{"srcStep", 0, "own", vemiErrStride, shortStep}}},
       {"vemiGetSpatialMoment vemiGetNormalizedSpatialMoment vemiGetCentralMoment vemiGetNormalizedCentralMoment",
        ".*",
        "null tag order channel divisor",
        momentGetter,
-       {{"pState", 0, "tag", vemiErrContext, otherRecord},
-        {"mOrd", 4, "order", vemiErrSize},
+       {{"mOrd", 4, "order", vemiErrSize},
         {"mOrd", INT_MAX, "order", vemiErrSize},
         {"mOrd", -1, "order", vemiErrSize},
         {"nOrd", INT_MAX, "order", vemiErrSize},
@@ -225,8 +217,7 @@ std::vector<Family> measureFamilies() {
        ".*",
        "null tag channel divisor",
        momentGetter,
-       {{"pState", 0, "tag", vemiErrContext, otherRecord},
-        {"nChannel", 3, "channel", vemiErrChannelIndex},
+       {{"nChannel", 3, "channel", vemiErrChannelIndex},
         {"nChannel", INT_MIN, "channel", vemiErrChannelIndex},
         {"S(0, 0)", 0, "divisor", vemiErrMomentZero, noDivisor}}},
 

@@ -18,6 +18,17 @@ bool hasStage(const Family& family, const std::string& stage) {
   return std::find(Words(words), Words(), stage) != Words();
 }
 
+/// The parameter's own stage, or else the one of its kind.
+std::string stageOf(const Family& family, const std::string& parameter, const std::string& kind) {
+  return hasStage(family, parameter) ? parameter : kind;
+}
+
+auto imageOf(const Call& call, const std::string& parameter) {
+  const int index = call.function.indexOf(parameter);
+  return std::find_if(call.images.begin(), call.images.end(),
+                      [=](const Image& image) { return image.parameter == index; });
+}
+
 template <class T>
 Fault badValue(const std::string& parameter, const std::string& text, const std::string& stage, VemiStatus status,
                T value) {
@@ -26,39 +37,90 @@ Fault badValue(const std::string& parameter, const std::string& text, const std:
 
 void addNullFaults(const Call& call, const Family& family, std::vector<Fault>& faults) {
   for (const Parameter& parameter : call.function.parameters) {
-    if (parameter.role == Role::newRecord || parameter.role == Role::freedRecord) {
-      faults.push_back(badValue<void*>(parameter.name, "null", "null", vemiErrNullPtr, nullptr));
+    const bool isRecord = parameter.role == Role::record && call.images.end() == imageOf(call, parameter.name);
+    if (isRecord || parameter.role == Role::newRecord || parameter.role == Role::freedRecord) {
+      faults.push_back(
+          badValue<void*>(parameter.name, "null", stageOf(family, parameter.name, "null"), vemiErrNullPtr, nullptr));
     }
   }
   const bool byChannel = hasStage(family, "channels");
   for (size_t n = 0; n < call.images.size(); ++n) {
     const Image& image = call.images[n];
+    if (image.mayBeNull) continue;
     const std::string name = call.function.parameters[static_cast<size_t>(image.parameter)].name;
-    const std::string stage = image.isArray() && hasStage(family, "arrays") ? "arrays" : "null";
+    const std::string stage = stageOf(family, name, image.isArray() && hasStage(family, "arrays") ? "arrays" : "null");
     faults.push_back(badValue<void*>(name, "null", stage, vemiErrNullPtr, nullptr));
     for (size_t plane = 0; plane < image.pointers.size(); ++plane) {
-      faults.push_back({name + "[" + std::to_string(plane) + "] = null",
-                        byChannel && image.isArray() ? "channels" : stage, vemiErrNullPtr,
-                        [=](Call& spoiled) { spoiled.images[n].pointers[plane] = nullptr; }, static_cast<int>(plane)});
+      const bool isOfChannel = byChannel && image.isArray();
+      const std::string planeStage = isOfChannel ? "channels" : hasStage(family, "planes") ? "planes" : stage;
+      faults.push_back({name + "[" + std::to_string(plane) + "] = null", planeStage, vemiErrNullPtr,
+                        [=](Call& spoiled) { spoiled.images[n].pointers[plane] = nullptr; },
+                        isOfChannel ? static_cast<int>(plane) : 0});
     }
   }
 }
 
+/// What begins with another tag than a record of the wanted kind, unless it is null already.
+void addTagFaults(const Call& call, std::vector<Fault>& faults) {
+  for (const Parameter& parameter : call.function.parameters) {
+    if (parameter.role != Role::record && parameter.role != Role::freedRecord) continue;
+    faults.push_back(
+        {parameter.name + " = another record", "tag", vemiErrContext, [name = parameter.name](Call& spoiled) {
+           static int noRecord[256] = {};
+           if (spoiled.get<void*>(name) != nullptr) spoiled.set<void*>(name, noRecord);
+         }});
+  }
+}
+
 void addIntegerFaults(const Call& call, const Family& family, std::vector<Fault>& faults) {
+  const auto add = [&](const Parameter& parameter, int field, const std::string& fieldName, int bad,
+                       const std::string& kind) {
+    const bool isStep = parameter.role == Role::step || parameter.role == Role::steps;
+    faults.push_back({parameter.name + fieldName + " = " + std::to_string(bad), stageOf(family, parameter.name, kind),
+                      isStep ? vemiErrStep : vemiErrSize,
+                      [=, name = parameter.name](Call& spoiled) { spoiled.setNumber(name, bad, field); }});
+  };
   const char* const widthStage = hasStage(family, "width") ? "width" : "size";
   for (const Parameter& parameter : call.function.parameters) {
-    const std::string& name = parameter.name;
     for (const int bad : {0, -1, INT_MIN}) {
-      const std::string text = std::to_string(bad);
-      if (parameter.role == Role::step) faults.push_back(badValue(name, text, "step", vemiErrStep, bad));
-      if (parameter.role != Role::size) continue;
-      faults.push_back({name + ".width = " + text, widthStage, vemiErrSize, [=](Call& spoiled) {
-                          spoiled.set(name, VemiSize{bad, spoiled.get<VemiSize>(name).height});
-                        }});
-      faults.push_back({name + ".height = " + text, "size", vemiErrSize, [=](Call& spoiled) {
-                          spoiled.set(name, VemiSize{spoiled.get<VemiSize>(name).width, bad});
-                        }});
+      switch (parameter.role) {
+        case Role::step:
+          add(parameter, 0, "", bad, "step");
+          break;
+        case Role::steps:
+          for (int n = 0; n < parameter.bound; ++n) {
+            add(parameter, n, std::string("[").append(std::to_string(n)) + "]", bad, "step");
+          }
+          break;
+        case Role::size:
+          add(parameter, 0, ".width", bad, widthStage);
+          add(parameter, 1, ".height", bad, "size");
+          break;
+        case Role::rect:
+          if (bad != 0) add(parameter, 0, ".x", bad, "size");
+          if (bad != 0) add(parameter, 1, ".y", bad, "size");
+          add(parameter, 2, ".width", bad, "size");
+          add(parameter, 3, ".height", bad, "size");
+          break;
+        default:
+          break;
+      }
     }
+  }
+}
+
+/// How many numbers can be spoiled: the elements of an array, the fields of a point, size or rectangle.
+int partsOf(Call& call, const Parameter& parameter) {
+  switch (parameter.role) {
+    case Role::array:
+      return call.image(parameter.name).size.width;
+    case Role::point:
+    case Role::size:
+      return 2;
+    case Role::rect:
+      return 4;
+    default:
+      return 1;
   }
 }
 
@@ -72,14 +134,15 @@ void addOwnFaults(Call& call, const Family& family, std::vector<Fault>& faults) 
     }
     const int index = call.function.indexOf(own.argument);
     if (index < 0) throw std::logic_error(call.function.name + " has no argument " + own.argument);
-    const bool isArray = call.function.parameters[static_cast<size_t>(index)].role == Role::array;
-    const int count = isArray ? call.image(own.argument).size.width : 1;
+    const Parameter& parameter = call.function.parameters[static_cast<size_t>(index)];
+    const int count = partsOf(call, parameter);
     for (int n = 0; n < count; ++n) {
       std::string text = own.argument;
-      if (isArray) text.append("[").append(std::to_string(n)).append("]");
+      if (count > 1 || parameter.role == Role::array) text.append("[").append(std::to_string(n)).append("]");
       text.append(" = ").append(std::to_string(own.value));
-      faults.push_back(
-          {text, own.stage, own.status, [=](Call& spoiled) { spoiled.setNumber(own.argument, own.value, n); }, n});
+      faults.push_back({text, own.stage, own.status,
+                        [=](Call& spoiled) { spoiled.setNumber(own.argument, own.value, n); },
+                        parameter.role == Role::array ? n : 0});
     }
   }
 }
@@ -90,6 +153,7 @@ std::vector<Fault> faultsOf(Call& call) {
   const Family& family = familyOf(call.function);
   std::vector<Fault> all, ordered;
   addNullFaults(call, family, all);
+  addTagFaults(call, all);
   addIntegerFaults(call, family, all);
   addOwnFaults(call, family, all);
   std::stable_sort(all.begin(), all.end(), [](const Fault& a, const Fault& b) { return a.channel < b.channel; });
