@@ -177,7 +177,7 @@ VemiStatus turn(const Vemi32f* pSrc, int srcStep, Vemi32f* pDst, int dstStep, co
   if (pSpec->tag != 77 && !is(Defect::recordUnchecked)) return vemiErrContext;
   if (pSrc == nullptr || pDst == nullptr) return vemiErrNullPtr;
   if (srcStep < 1 || dstStep < 1) return vemiErrStep;
-  const int size = 1 << (pSpec->order - (is(Defect::sizeOfAnotherRecord) ? 1 : 0));
+  const int size = (1 << pSpec->order) / (is(Defect::sizeOfAnotherRecord) ? 2 : 1);
   std::vector<Vemi8u> own(pBuffer == nullptr ? static_cast<size_t>(4 * size + 16) : 0);
   Vemi8u* work = pBuffer == nullptr ? own.data() : pBuffer;
   if (!is(Defect::bufferMisaligned)) work += -reinterpret_cast<uintptr_t>(work) % 16;
