@@ -1,0 +1,307 @@
+// Filters on the floor for rows with neighbours, as a family would write them: what the tests hold against plain
+// definitions and the benchmark against other libraries.
+#pragma once
+
+#include <algorithm>
+#include <cstdint>
+#include <utility>
+#include <vector>
+
+#include "vemi/types.h"
+
+#include "core/image.h"
+#include "core/lane_width.h"
+#include "core/map_row.h"
+#include "core/rounding.h"
+#include "core/scratch.h"
+#include "core/windows.h"
+
+namespace vemi::test {
+
+/// A call: region, window and images. Each filter runs the windows of one band.
+template <class Src, class Dst = Src>
+struct FilterCall {
+  Image<const Src> src;
+  Image<Dst> dst;
+  VemiSize roiSize;
+  Window window;
+
+  bool inPlace() const { return isSameImage(src, dst); }
+};
+
+/// One block for all rings.
+template <class... Ring>
+Scratch placed(Ring&... ring) {
+  Pieces pieces;
+  return [&](auto... piece) {
+    Scratch scratch(pieces);
+    (ring.place(scratch[piece]), ...);
+    return scratch;
+  }(pieces.add<char>(ring.bytes())...);
+}
+
+// ---- Sums with weights 1 2 1 and 1 4 6 4 1 in both directions -----------------------------------------------------
+
+/// Of three or five vectors.
+template <class V>
+HWY_INLINE V binomial(V a, V b, V c) {
+  return hn::Add(hn::Add(a, c), hn::ShiftLeft<1>(b));
+}
+template <class V>
+HWY_INLINE V binomial(V a, V b, V c, V d, V e) {  // 4 (b + d) + 6 c = 4 (b + c + d) + 2 c
+  return hn::Add(hn::Add(hn::Add(a, e), hn::ShiftLeft<1>(c)), hn::ShiftLeft<2>(hn::Add(hn::Add(b, d), c)));
+}
+
+/// f(0), f(1), ... as arguments.
+template <int count, class F>
+HWY_INLINE auto binomialOf(const F& f) {
+  return [&]<int... j>(std::integer_sequence<int, j...>) HWY_ATTR {
+    return binomial(f(std::integral_constant<int, j>())...);
+  }
+  (std::make_integer_sequence<int, count>());
+}
+
+template <int taps>
+struct BinomialColumn {
+  const Vemi8u* row[taps];
+
+  explicit BinomialColumn(const Vemi8u* const* rows) { std::copy_n(rows, taps, row); }
+
+  template <class D>
+  HWY_INLINE auto operator()(D d, ptrdiff_t i) const {
+    return binomialOf<taps>([&](auto j) HWY_ATTR { return loadExtended(d, row[j] + i); });
+  }
+};
+
+/// Divides by the weights' sum, to nearest, ties to even.
+template <class L, int taps>
+struct BinomialRow {
+  const Vemi16u* row;
+
+  template <class D>
+  HWY_INLINE auto operator()(D d, ptrdiff_t i) const {
+    const Lanes<Vemi16u> dSum;
+    const Lanes<Vemi16s> dSigned;
+    constexpr int shift = 2 * (taps - 1);
+    return packEach<Vemi16u>(d, [&](auto k) HWY_ATTR {
+      const Vemi16u* const in = row + i + k * laneCount<Vemi16u>;
+      const auto sum = binomialOf<taps>([&](auto j) HWY_ATTR { return hn::LoadU(dSum, in + j * L::elements); });
+      const auto odd = hn::And(hn::ShiftRight<shift>(sum), hn::Set(dSum, 1));
+      const auto rounded = hn::Add(hn::Add(sum, hn::Set(dSum, (1 << (shift - 1)) - 1)), odd);
+      return hn::BitCast(dSigned, hn::ShiftRight<shift>(rounded));
+    });
+  }
+};
+
+template <class L, int taps>
+void binomialFilter(const FilterCall<Vemi8u>& call, ptrdiff_t first, ptrdiff_t count) {
+  const ptrdiff_t width = call.roiSize.width;
+  const Vemi64s elements = windowElements<L>(width, call.window);
+  const auto src = windowed<L>(call.src, call.window);
+  auto source = RowRing<Vemi8u>::ofSource<L>(call.window, width, call.inPlace());
+  RowRing<Vemi16u> sums(1, elements);
+  const Scratch scratch = placed(source, sums);
+  const auto enter = [&](ptrdiff_t y) { source.take(src.row(y)); };
+  const auto row = [&](ptrdiff_t y) {
+    Vemi16u* const sum = sums.turn();
+    mapPlaces(sums.elements(), eachPlace(BinomialColumn<taps>(source.rows())), sum);
+    mapPlaces<alphaOf<L>>(width * L::elements, eachPlace(BinomialRow<L, taps>{sum}), call.dst.row(y));
+  };
+  forWindows(call.window, first, count, enter, row);
+}
+
+// ---- The least element of three by three --------------------------------------------------------------------------
+
+/// Of three rows at a place, or of one row at three places.
+template <class T>
+struct LeastOfThree {
+  const T* row[3];
+
+  template <class D>
+  HWY_INLINE auto operator()(D d, ptrdiff_t i) const {
+    const auto at = [&](int j) HWY_ATTR { return hn::LoadU(d, row[j] + i); };
+    return lesser(lesser(at(0), at(1)), at(2));
+  }
+};
+
+template <class L, class T>
+void leastFilter(const FilterCall<T>& call, ptrdiff_t first, ptrdiff_t count) {
+  const ptrdiff_t width = call.roiSize.width;
+  const Vemi64s elements = windowElements<L>(width, call.window);
+  const auto src = windowed<L>(call.src, call.window);
+  auto source = RowRing<T>::template ofSource<L>(call.window, width, call.inPlace());
+  RowRing<T> leasts(1, elements);
+  const Scratch scratch = placed(source, leasts);
+  const auto enter = [&](ptrdiff_t y) { source.take(src.row(y)); };
+  const auto row = [&](ptrdiff_t y) {
+    const T* const* const rows = source.rows();
+    T* const least = leasts.turn();
+    const LeastOfThree<T> ofColumn = {{rows[0], rows[1], rows[2]}};
+    const LeastOfThree<T> ofRow = {{least, least + L::elements, least + 2 * L::elements}};
+    mapPlaces(leasts.elements(), eachPlace(ofColumn), least);
+    mapPlaces<alphaOf<L>>(width * L::elements, eachPlace(ofRow), call.dst.row(y));
+  };
+  forWindows(call.window, first, count, enter, row);
+}
+
+// ---- Kernels of floats --------------------------------------------------------------------------------------------
+
+/// Sums of float(pixel) * tap, in the order of the window's pixels; the last tap of the kernel meets the first of them.
+template <class L>
+struct FloatTaps {
+  static constexpr int vectors = 4;
+  const float* const* rows;
+  const float* kernel;
+  int width, height;
+
+  template <class D>
+  HWY_INLINE auto operator()(D d, ptrdiff_t i) const {
+    constexpr ptrdiff_t N = laneCount<float>;
+    Vectors<hn::Vec<D>, vectors> sum;
+    unrolled<vectors>([&](auto k) HWY_ATTR { sum.v[k] = hn::Zero(d); });
+    const float* tap = kernel + ptrdiff_t{width} * height;
+    for (int j = 0; j < height; ++j) {
+      const float* in = rows[j] + i;
+      for (int c = 0; c < width; ++c, in += L::elements) {
+        const auto weight = hn::Set(d, *--tap);
+        unrolled<vectors>([&](auto k)
+                              HWY_ATTR { sum.v[k] = hn::Add(sum.v[k], hn::Mul(hn::LoadU(d, in + k * N), weight)); });
+      }
+    }
+    return sum;
+  }
+};
+
+/// The same, to the nearest byte.
+template <class L>
+struct ByteTaps {
+  static constexpr int vectors = 1;
+  FloatTaps<L> taps;
+
+  template <class D>
+  HWY_INLINE auto operator()(D d, ptrdiff_t i) const {
+    const auto sum = taps(Lanes<float>(), i);
+    const auto integer = [&](auto k) HWY_ATTR { return nearestOf<Vemi8u>(Lanes<int32_t>(), sum.v[k]); };
+    return Vectors<hn::Vec<D>, 1>{packEach<int32_t>(d, integer)};
+  }
+};
+
+/// Bytes enter the ring as floats, once each.
+template <class L, class T>
+void floatFilter(const FilterCall<T>& call, const float* kernel, ptrdiff_t first, ptrdiff_t count) {
+  const ptrdiff_t width = call.roiSize.width;
+  const Vemi64s elements = windowElements<L>(width, call.window);
+  const auto src = windowed<L>(call.src, call.window);
+  constexpr bool converted = !std::is_same_v<T, float>;
+  auto source = converted ? RowRing<float>(call.window.height, elements)
+                          : RowRing<float>::ofSource<L>(call.window, width, call.inPlace());
+  const Scratch scratch = placed(source);
+  const auto enter = [&](ptrdiff_t y) {
+    if constexpr (converted) {
+      const auto extend = [](auto d, const T* in) HWY_ATTR { return loadExtended(d, in); };
+      mapElements<Alpha::none>(source.elements(), eachVector(extend), source.turn(), src.row(y));
+    } else {
+      source.take(src.row(y));
+    }
+  };
+  const auto row = [&](ptrdiff_t y) {
+    const FloatTaps<L> taps = {source.rows(), kernel, call.window.width, call.window.height};
+    if constexpr (converted) {
+      mapPlaces<alphaOf<L>>(width * L::elements, ByteTaps<L>{taps}, call.dst.row(y));
+    } else {
+      mapPlaces<alphaOf<L>>(width * L::elements, taps, call.dst.row(y));
+    }
+  };
+  forWindows(call.window, first, count, enter, row);
+}
+
+// ---- Sums over a rectangle of bytes -------------------------------------------------------------------------------
+
+/// Sums of columns move on by a row that enters and one that leaves.
+struct MovedOn {
+  template <class D, class V>
+  HWY_INLINE V operator()(D d, V sum, const Vemi8u* entering, const Vemi8u* leaving) const {
+    return hn::Sub(hn::Add(sum, loadExtended(d, entering)), loadExtended(d, leaving));
+  }
+};
+
+/// Sums of the columns from the row's beginning to each place of a layout; the last pixel of a row of sums is carried.
+template <class L>
+void prefixSums(ptrdiff_t elements, const uint32_t* columns, uint32_t* sums) {
+  const hn::FixedTag<uint32_t, 4> d;
+  if constexpr (L::elements == 1) {
+    auto total = hn::Zero(d);
+    for (ptrdiff_t i = 0; i < elements; i += 4) {
+      auto sum = hn::LoadU(d, columns + i);
+      sum = hn::Add(sum, hn::ShiftLeftLanes<1>(d, sum));
+      sum = hn::Add(sum, hn::ShiftLeftLanes<2>(d, sum));
+      total = hn::Add(total, sum);
+      hn::StoreU(total, d, sums + i);
+      total = hn::Broadcast<3>(total);
+    }
+  } else {  // the lane behind the last of three channels is written again by the next pixel
+    auto total = hn::Zero(d);
+    for (ptrdiff_t i = 0; i < elements; i += L::elements) {
+      total = hn::Add(total, hn::LoadU(d, columns + i));
+      hn::StoreU(total, d, sums + i);
+    }
+  }
+}
+
+/// Rounded down: the product of floats is off by one at most, and the remainder tells.
+struct Mean {
+  const uint32_t *before, *last;  // sums up to the pixel in front of the window, and up to its last one
+  uint32_t area;
+
+  template <class D>
+  HWY_INLINE auto operator()(D d, ptrdiff_t i) const {
+    const Lanes<int32_t> dSum;
+    const Lanes<float> dFloat;
+    return packEach<int32_t>(d, [&](auto k) HWY_ATTR {
+      const ptrdiff_t at = i + k * laneCount<int32_t>;
+      const auto sum = hn::BitCast(
+          dSum, hn::Sub(hn::LoadU(Lanes<uint32_t>(), last + at), hn::LoadU(Lanes<uint32_t>(), before + at)));
+      const auto quotient = hn::Mul(hn::ConvertTo(dFloat, sum), hn::Set(dFloat, 1.0f / static_cast<float>(area)));
+      const auto nearest = hn::ConvertTo(dSum, quotient);
+      const auto rest = hn::Sub(sum, hn::Mul(nearest, hn::Set(dSum, static_cast<int32_t>(area))));
+      const auto high = hn::VecFromMask(dSum, hn::Lt(rest, hn::Zero(dSum)));
+      const auto low = hn::VecFromMask(dSum, hn::Gt(rest, hn::Set(dSum, static_cast<int32_t>(area) - 1)));
+      return hn::Sub(hn::Add(nearest, high), low);
+    });
+  }
+};
+
+/// The sums of a band begin with its first window.
+template <class L>
+void boxFilter(const FilterCall<Vemi8u>& call, ptrdiff_t first, ptrdiff_t count) {
+  const ptrdiff_t width = call.roiSize.width;
+  const Vemi64s elements = windowElements<L>(width, call.window);
+  const auto src = windowed<L>(call.src, call.window);
+  // One row more than the window has: the row that leaves. In place the rows above are written to.
+  const Window withLeaving = {call.window.width, call.window.height + 1, 0, 0};
+  auto source = RowRing<Vemi8u>::ofSource<L>(withLeaving, width, call.inPlace());
+  RowRing<uint32_t> columns(1, elements), sums(1, elements + L::elements);
+  const Scratch scratch = placed(source, columns, sums);
+  uint32_t* const column = columns.turn();
+  uint32_t* const sum = sums.turn();
+  std::fill_n(column, columns.elements(), 0);
+  std::fill_n(sum, L::elements, 0);
+  const std::vector<Vemi8u> none(static_cast<size_t>(elements));
+  ptrdiff_t taken = 0;
+  const auto enter = [&](ptrdiff_t y) {
+    source.take(src.row(y));
+    const Vemi8u* const* const rows = source.rows();
+    const Vemi8u* const leaving = ++taken > call.window.height ? rows[0] : none.data();
+    mapElements<Alpha::none>(columns.elements(), eachVector(MovedOn()), column, static_cast<const uint32_t*>(column),
+                             rows[call.window.height], leaving);
+  };
+  const auto row = [&](ptrdiff_t y) {
+    prefixSums<L>(columns.elements(), column, sum + L::elements);
+    const auto area = static_cast<uint32_t>(call.window.width * call.window.height);
+    mapPlaces<alphaOf<L>>(width * L::elements, eachPlace<1>(Mean{sum, sum + call.window.width * L::elements, area}),
+                          call.dst.row(y));
+  };
+  forWindows(call.window, first, count, enter, row);
+}
+
+}  // namespace vemi::test
