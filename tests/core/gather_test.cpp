@@ -1,0 +1,150 @@
+// Fetches at computed places: every place of small images that end or begin at an unmapped page, an image beyond 2 GiB,
+// and linear fetches against the formula.
+
+#include "core/gather.h"
+
+#include <gtest/gtest.h>
+
+#include <sys/mman.h>
+
+#include <cmath>
+#include <cstring>
+#include <vector>
+
+#include "support/elements.h"
+#include "support/guarded_row.h"
+#include "warp_fetches.h"
+
+using namespace vemi;
+using namespace vemi::test;
+
+namespace {
+
+constexpr ptrdiff_t lanes = laneCount<int32_t>;
+
+/// Lane k of each row of words fetched at byte[k] of row y[k].
+template <int bytes, int rows>
+void expectWords(const PixelBytes& pixels, const char* first, ptrdiff_t step, const int32_t* byte, const int32_t* y) {
+  const Lanes<int32_t> d;
+  const auto words = pixels.words<bytes, rows>(hn::LoadU(d, byte), hn::LoadU(d, y));
+  for (int j = 0; j < rows; ++j) {
+    int32_t word[lanes];
+    hn::StoreU(words.v[j], d, word);
+    for (ptrdiff_t k = 0; k < lanes; ++k) {
+      const char* const expected = first + (y[k] + ptrdiff_t{j}) * step + byte[k];
+      ASSERT_EQ(std::memcmp(&word[k], expected, bytes), 0) << "byte " << byte[k] << " of row " << y[k] << " + " << j;
+    }
+  }
+}
+
+/// All places in turn, so that each place stands in each lane, beside near and far ones.
+template <int bytes, int rows>
+void expectAllWords(const PixelBytes& pixels, const char* first, ptrdiff_t step, ptrdiff_t rowBytes, int height) {
+  const ptrdiff_t columns = rowBytes - bytes + 1, places = columns * (height - rows + 1);
+  if (columns < 1 || height < rows) return;
+  for (ptrdiff_t place = 0; place < places; ++place) {
+    for (const ptrdiff_t stride : {ptrdiff_t{0}, ptrdiff_t{1}, columns + 1}) {
+      int32_t byte[lanes], y[lanes];
+      for (ptrdiff_t k = 0; k < lanes; ++k) {
+        const ptrdiff_t each = (place + k * stride) % places;
+        byte[k] = static_cast<int32_t>(each % columns);
+        y[k] = static_cast<int32_t>(each / columns);
+      }
+      expectWords<bytes, rows>(pixels, first, step, byte, y);
+      if (::testing::Test::HasFatalFailure()) return;
+    }
+  }
+}
+
+template <int bytes, ptrdiff_t size>
+void expectAllRuns(const PixelBytes& pixels, const char* first, ptrdiff_t step, ptrdiff_t rowBytes, int height) {
+  const hn::FixedTag<uint8_t, size> d;
+  for (int y = 0; y < height; ++y) {
+    for (ptrdiff_t byte = 0; byte + bytes <= rowBytes; ++byte) {
+      uint8_t run[size];
+      hn::StoreU(pixels.run<bytes>(d, byte, y), d, run);
+      ASSERT_EQ(std::memcmp(run, first + y * step + byte, bytes), 0) << "byte " << byte << " of row " << y;
+    }
+  }
+}
+
+TEST(Gather, NothingBesideTheImageIsRead) {
+  for (const VemiSize size : {VemiSize{1, 1}, VemiSize{2, 1}, VemiSize{1, 4}, VemiSize{5, 2}, VemiSize{9, 5}}) {
+    for (const int gap : {0, 3}) {
+      for (const Place place : places) {
+        const int rowBytes = 3 * size.width, step = rowBytes + gap;
+        const GuardedRow<Vemi8u> memory(step * (size.height - 1) + rowBytes, place);
+        const auto pixels = PixelBytes::of<C3>(Image<const Vemi8u>{memory.data(), step}, size);
+        const auto expectAll = [&](const auto& expect) {
+          expect(pixels, reinterpret_cast<const char*>(memory.data()), step, rowBytes, size.height);
+        };
+        expectAll(expectAllWords<1, 1>);
+        expectAll(expectAllWords<2, 2>);
+        expectAll(expectAllWords<3, 1>);
+        expectAll(expectAllWords<4, 4>);
+        expectAll(expectAllRuns<3, 4>);
+        expectAll(expectAllRuns<6, 8>);
+        expectAll(expectAllRuns<12, 16>);
+        expectAll(expectAllRuns<16, 16>);
+        ASSERT_FALSE(::testing::Test::HasFatalFailure()) << size.width << "x" << size.height << ", gap " << gap;
+      }
+    }
+  }
+}
+
+// Rows 0 and 3 of a sparse image, of which the last begins behind 2^32 bytes.
+TEST(Gather, ImagesBeyondTwoGibibytes) {
+  if (sizeof(void*) < 8) GTEST_SKIP() << "no room for the image";
+  constexpr int step = 1500000000, width = 50, height = 4;
+  const size_t bytes = size_t{step} * (height - 1) + width;
+  void* const block = mmap(nullptr, bytes, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS | MAP_NORESERVE, -1, 0);
+  ASSERT_NE(block, MAP_FAILED);
+  auto* const first = static_cast<Vemi8u*>(block);
+  Random random(1);
+  for (ptrdiff_t y = 0; y < height; ++y) random.fill(reinterpret_cast<std::byte*>(first + y * step), width);
+  const auto pixels = PixelBytes::of<C1>(Image<const Vemi8u>{first, step}, {width, height});
+  expectAllWords<2, 2>(pixels, static_cast<const char*>(block), step, width, height);
+  expectAllWords<4, 1>(pixels, static_cast<const char*>(block), step, width, height);
+  expectAllRuns<3, 8>(pixels, static_cast<const char*>(block), step, width, height);
+  munmap(block, bytes);
+}
+
+int interpolated(const Vemi8u* pixel, ptrdiff_t step, int channels, float across, float down) {
+  const int wx = static_cast<int>(std::nearbyint(across * 16384)), wy = static_cast<int>(std::nearbyint(down * 16384));
+  const auto inRow = [&](const Vemi8u* p) { return (p[0] * (16384 - wx) + p[channels] * wx) >> 8; };
+  return (inRow(pixel) * (16384 - wy) + inRow(pixel + step) * wy + 0x80000) >> 20;
+}
+
+TEST(Gather, LinearFetches) {
+  Random random(2);
+  for (const VemiSize size : {VemiSize{2, 2}, VemiSize{7, 3}, VemiSize{40, 30}}) {
+    for (const int channels : {1, 3, 4}) {
+      for (ptrdiff_t width = 1; width <= 70; ++width) {
+        const int step = size.width * channels;
+        const GuardedRow<Vemi8u> src(ptrdiff_t{step} * size.height, places[width % 2]);
+        const GuardedRow<Vemi8u> dst(width * channels, places[width % 3]);
+        std::vector<float> x, y;
+        for (ptrdiff_t i = 0; i < width; ++i) {  // first and last pixels among them
+          x.push_back(static_cast<float>(random.below(5) * (size.width - 1)) / 4 + (i % 7 == 3 ? -0.0f : 0.0f));
+          y.push_back(static_cast<float>(random.below(1001) * (size.height - 1)) / 1000);
+        }
+        const GuardedRow<float> xs(x, places[0]), ys(y, places[1]);
+        std::vector<Vemi8u> expected;
+        for (size_t i = 0; i < x.size(); ++i) {
+          const int column = std::min(static_cast<int>(x[i]), size.width - 2);
+          const int row = std::min(static_cast<int>(y[i]), size.height - 2);
+          for (int c = 0; c < channels; ++c) {
+            const Vemi8u* const pixel = src.data() + ptrdiff_t{row} * step + column * channels + c;
+            expected.push_back(static_cast<Vemi8u>(interpolated(
+                pixel, step, channels, x[i] - static_cast<float>(column), y[i] - static_cast<float>(row))));
+          }
+        }
+        const auto fetch = channels == 1 ? linearRow : channels == 3 ? linearPixels<C3> : linearPixels<C4>;
+        fetch(width, {src.data(), step}, size, xs.data(), ys.data(), dst.data());
+        ASSERT_TRUE(dst.holds(expected)) << channels << " channels, width " << width << ", image " << size.width;
+      }
+    }
+  }
+}
+
+}  // namespace
