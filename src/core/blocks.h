@@ -103,7 +103,7 @@ template <ptrdiff_t items, int period, class Kernel, class... S>
 HWY_FLATTEN HWY_NOINLINE void rowOnStack(ptrdiff_t count, Kernel kernel, S... strand) {
   if (count < 1) return;
   if (count >= items) __builtin_unreachable();  // bounds the copies for the compiler's warnings
-  constexpr bool byHalves = items % (2 * period) == 0;
+  constexpr bool byHalves = items % (ptrdiff_t{2} * period) == 0;
   [&](auto... block) HWY_ATTR {
     kernel(block.at()...);
     (block.writeBack(strand, count), ...);
