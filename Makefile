@@ -7,8 +7,9 @@
 #   make race                     calls all functions from many threads at once, under ThreadSanitizer
 #   make docs                     the reference, as build/docs/html/index.html
 #   make install [PREFIX=...]     installs the library for all 64-bit processor levels; root by sudo where it must
-# PRESET picks another build of CMakePresets.json for demo, test and bench; processors without AVX2 have theirs.
-PRESET ?= $(if $(shell grep -m 1 -w avx2 /proc/cpuinfo),x86-64-v3,x86-64-v2)
+# PRESET picks another build of CMakePresets.json for demo, test and bench; processors without AVX2, and ARM, have theirs.
+MACHINE := $(shell uname -m)
+PRESET ?= $(if $(filter aarch64,$(MACHINE)),armv8-a,$(if $(shell grep -m 1 -w avx2 /proc/cpuinfo),x86-64-v3,x86-64-v2))
 PREFIX ?= /usr/local
 IMAGE ?=
 SECONDS ?= 60
@@ -17,11 +18,15 @@ SEED ?= 0
 BUILD := build/$(PRESET)
 JOBS := $(shell nproc)
 BUILD_PACKAGES := g++ cmake ninja-build pkg-config libhwy-dev libpng-dev libgtest-dev
-IA32_PACKAGES := g++-multilib googletest
+IA32_PACKAGES := g++-12-multilib googletest
+ARM64_PACKAGES := g++-12-aarch64-linux-gnu qemu-user-static googletest
 CLANG_PACKAGES := clang libclang-rt-dev libomp-dev
 PEER_PACKAGES := libopencv-core-dev libopencv-imgproc-dev libyuv-dev libpixman-1-dev
 ifeq ($(PRESET),ia32)
 BUILD_PACKAGES += $(IA32_PACKAGES)
+endif
+ifeq ($(PRESET)/$(filter aarch64,$(MACHINE)),armv8-a/)
+BUILD_PACKAGES += $(ARM64_PACKAGES)
 endif
 
 .PHONY: all demo test fuzz race bench peers bench-build check docs install exports digests format build configure clean
@@ -37,6 +42,7 @@ build: configure
 	cmake --build $(BUILD) -j $(JOBS)
 
 demo: configure
+	@cmake -DVEMI_BUILD_EXAMPLES=ON $(BUILD) >/dev/null
 	cmake --build $(BUILD) -j $(JOBS) --target vemi_demo
 	$(BUILD)/examples/vemi_demo $(if $(IMAGE),"$(IMAGE)") --out build/demo
 

@@ -12,8 +12,10 @@ elseif(VEMI_LEVEL STREQUAL "x86-64-v4")
   set(lanes HWY_AVX3)
 elseif(VEMI_LEVEL STREQUAL "ia32")
   set(lanes HWY_SSSE3)
+elseif(VEMI_LEVEL STREQUAL "armv8-a")
+  set(lanes HWY_NEON)
 else()
-  message(FATAL_ERROR "VEMI_LEVEL is '${VEMI_LEVEL}'; it must be x86-64-v2, x86-64-v3, x86-64-v4 or ia32")
+  message(FATAL_ERROR "VEMI_LEVEL is '${VEMI_LEVEL}'; it must be x86-64-v2, x86-64-v3, x86-64-v4, ia32 or armv8-a")
 endif()
 if(NOT VEMI_LEVEL STREQUAL "ia32")  # ia32 has its flags from the toolchain file
   target_compile_options(vemi_flags INTERFACE -march=${VEMI_LEVEL})
@@ -23,6 +25,11 @@ endif()
 # silently fall back to 16-byte lanes. VEMI_LANES lets core/lanes.h assert the outcome. Highway's debug assertions live
 # in its own library, which is not linked.
 target_compile_definitions(vemi_flags INTERFACE HWY_DISABLE_PCLMUL_AES HWY_IS_DEBUG_BUILD=0 VEMI_LANES=${lanes})
+if(VEMI_LEVEL STREQUAL "armv8-a")
+  # Where Highway finds this header on ARM, it believes in dispatch at run time, and compiles its functions for
+  # processors with AES; ours, which are for all processors, could not inline them.
+  target_compile_definitions(vemi_flags INTERFACE TOOLCHAIN_MISS_SYS_AUXV_H)
+endif()
 target_include_directories(vemi_flags SYSTEM INTERFACE ${VEMI_HIGHWAY_INCLUDE_DIR})
 
 # Blocks of lanes are copied in whole vectors, and copies of a length that is bounded but unknown by the C library. GCC

@@ -8,7 +8,7 @@ library=$1 soname=$2
 dynamic=$(readelf -dW "$library")
 needed=$(sed -nE 's/.*\(NEEDED\).*\[(.*)\]/\1/p' <<<"$dynamic")
 echo "needs:" $needed
-if foreign=$(grep -vxE 'libc\.so\.6|libm\.so\.6|libgomp\.so\.1|ld-linux(-x86-64)?\.so\.2' <<<"$needed"); then
+if foreign=$(grep -vxE 'libc\.so\.6|libm\.so\.6|libgomp\.so\.1|ld-linux(-x86-64|-aarch64)?\.so\.[12]' <<<"$needed"); then
   echo "not allowed:" $foreign
   exit 1
 fi

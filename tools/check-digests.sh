@@ -1,11 +1,11 @@
 #!/bin/bash
 # What each export leaves has the digest that is committed: a change of bytes shows in review.
-# usage: check-digests.sh PROGRAM   (by an absolute path, or from the project's folder)
+# usage: check-digests.sh [EMULATOR...] PROGRAM   (by an absolute path, or from the project's folder)
 set -euo pipefail
 cd "$(dirname "$0")/.."
 committed=tests/digest/digests.txt
 
-if ! difference=$(diff "$committed" <("$1")); then
+if ! difference=$(diff "$committed" <("$@")); then
   echo "The committed digests (<) and those of this build (>) differ: if the change is meant, run 'make digests'"
   grep '^[<>]' <<<"$difference" | head -40
   exit 1

@@ -1,11 +1,13 @@
 #!/bin/bash
 # Installs a build and uses it as a stranger would: the headers as C99 to C++20, each by itself, the README's program by
 # the pkg-config file and by the README's CMake project, and a C++ program by both.
-# usage: check-install.sh BUILD_FOLDER WORK_FOLDER   (CC, CXX, CFLAGS, CXXFLAGS from the environment)
+# usage: check-install.sh BUILD_FOLDER WORK_FOLDER
+# From the environment: CC, CXX, CFLAGS, CXXFLAGS, and EMULATOR, by which programs of another processor run.
 set -euo pipefail
 root=$(cd "$(dirname "$0")/.." && pwd)
 build=$1 work=$2
 consumer=$root/tests/consumer
+emulator=${EMULATOR:-}
 warnings="-Wall -Wextra -Wpedantic -Wconversion -Wshadow -Werror"
 cc="${CC:-cc} ${CFLAGS:-} $warnings"
 cxx="${CXX:-c++} ${CXXFLAGS:-} $warnings"
@@ -31,7 +33,7 @@ try() {
   local program
   program=$work/programs/$1-$(basename "$3")
   $2 -std="$1" "${flags[@]}" "$3" -o "$program" "${libraries[@]}"
-  "$program" >>"$log"
+  $emulator "$program" >>"$log"
 }
 for standard in c99 c11; do
   try $standard "$cc" "$consumer/consumer.c"
@@ -50,7 +52,7 @@ unset LD_LIBRARY_PATH
 find_package() {
   cmake -S "$1" -B "$work/cmake-$2" -DCMAKE_PREFIX_PATH="$prefix" >>"$log"
   cmake --build "$work/cmake-$2" >>"$log"
-  "$work/cmake-$2/$2"
+  $emulator "$work/cmake-$2/$2"
 }
 mkdir "$work/readme"
 cp "$root/examples/quickstart.c" "$work/readme"

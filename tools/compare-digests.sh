@@ -15,10 +15,12 @@ for build in "$@"; do
     *)
       library=
       program=build/$build/tests/vemi_digest
+      emulator=
+      [ "$build/$(uname -m)" != armv8-a/x86_64 ] || emulator="qemu-aarch64-static -L /usr/aarch64-linux-gnu"
       ;;
   esac
   for threads in 1 2 3; do
     echo "$build, $threads threads:"
-    LD_LIBRARY_PATH=$library OMP_NUM_THREADS=$threads OMP_DYNAMIC=false tools/check-digests.sh "$program"
+    LD_LIBRARY_PATH=$library OMP_NUM_THREADS=$threads OMP_DYNAMIC=false tools/check-digests.sh $emulator "$program"
   done
 done

@@ -67,6 +67,15 @@ HWY_INLINE V saturatedSub(D d, V a, V b) {
   }
 }
 
+/// a[0] b[0] + a[1] b[1], a[2] b[2] + a[3] b[3], ... of signed 16-bit lanes.
+template <class V>
+HWY_INLINE auto pairsOfProducts(V a, V b) {
+  const hn::RepartitionToWide<hn::DFromV<V>> d;
+  auto rest = hn::Zero(d);
+  const auto sums = hn::ReorderWidenMulAccumulate(d, a, b, hn::Zero(d), rest);
+  return hn::RearrangeToOddPlusEven(sums, rest);
+}
+
 // ---- Scaling by a power of two ------------------------------------------------------------------------------------
 
 /// 2^exponent, where that is a normal number.

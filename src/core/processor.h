@@ -6,6 +6,7 @@
 //   truncated(di, v)             floats to integers of 32 bits, towards zero
 //   rounded(di, v)               the same by the rounding mode that is set
 //   lesser(a, b), greater(a, b)  a < b ? a : b, a > b ? a : b, also of NaNs and of zeros of both signs
+//   ExtendedFloat                numbers with a significand of 64 bits
 //   multipliesAndAddsAtOnce      whether the lanes' MulAdd and MulSub round once
 //   Rounding, FloatControl       the control of rounding and exceptions, a thread's own
 #pragma once
@@ -14,6 +15,8 @@
 
 #if HWY_ARCH_X86
 #include "core/processor_x86.h"
+#elif HWY_ARCH_ARM_A64
+#include "core/processor_arm64.h"
 #else
 #error "this processor's half is to be written"
 #endif

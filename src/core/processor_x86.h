@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <limits>
 #include <type_traits>
 
 #include "core/lanes.h"
@@ -80,6 +81,10 @@ template <class V>
 HWY_INLINE V greater(V a, V b) {
   return hn::Max(a, b);
 }
+
+/// Numbers with a significand of 64 bits.
+using ExtendedFloat = long double;
+static_assert(std::numeric_limits<ExtendedFloat>::digits == 64);
 
 /// Values are those of the field in MXCSR.
 enum class Rounding : unsigned {

@@ -8,6 +8,7 @@
 #include "core/blocks.h"
 #include "core/checks.h"
 #include "core/image.h"
+#include "core/numbers.h"
 #include "core/scratch.h"
 #include "vemi/map.h"
 
@@ -140,9 +141,7 @@ class DitheredRows {
   /// sum + weight v, for v of 16 bits.
   static HWY_INLINE V addWeighted(V sum, int weight, V v) {
     const hn::Repartition<int16_t, D> dHalves;
-    V none = hn::Zero(D());
-    const V weights = hn::Set(D(), weight);
-    return hn::ReorderWidenMulAccumulate(D(), hn::BitCast(dHalves, v), hn::BitCast(dHalves, weights), sum, none);
+    return hn::Add(sum, pairsOfProducts(hn::BitCast(dHalves, v), hn::BitCast(dHalves, hn::Set(D(), weight))));
   }
 
   /// The sums of step i around the columns that its lanes have arrived at, from `rows` rows above. Those of the first

@@ -9,6 +9,7 @@
 #include <limits>
 
 #include "core/lane_width.h"
+#include "core/numbers.h"
 #include "core/reduce_region.h"
 
 namespace vemi::measure {
@@ -29,18 +30,6 @@ struct ExactSums : Adding {
     Adding::addTerm(addTo, Term()(d, v...));
   }
 };
-
-namespace detail {
-
-/// a[0] b[0] + a[1] b[1], a[2] b[2] + a[3] b[3], ... of signed 16-bit lanes.
-template <class V>
-HWY_INLINE auto pairsOfProducts(V a, V b) {
-  const Lanes<int32_t> d;
-  auto none = hn::Zero(d);
-  return hn::ReorderWidenMulAccumulate(d, a, b, hn::Zero(d), none);
-}
-
-}  // namespace detail
 
 // ---- How terms are added up ---------------------------------------------------------------------------------------
 
@@ -76,7 +65,7 @@ struct AddSignedPairs {
   static constexpr ptrdiff_t capacity = capacityFor<Lane>(uint64_t{2} * 32768);
   template <class F, class V>
   HWY_INLINE static void addTerm(const F& addTo, V v) {
-    addTo(0, detail::pairsOfProducts(v, hn::Set(Lanes<int16_t>(), int16_t{1})));
+    addTo(0, pairsOfProducts(v, hn::Set(Lanes<int16_t>(), int16_t{1})));
   }
 };
 
@@ -103,7 +92,7 @@ struct AddSquaredBytes {
     const Lanes<int16_t> d;
     const auto [evenBits, oddBits] = evenAndOdd(bytes);
     const auto even = hn::BitCast(d, evenBits), odd = hn::BitCast(d, oddBits);
-    addTo(0, hn::Add(detail::pairsOfProducts(even, even), detail::pairsOfProducts(odd, odd)));
+    addTo(0, hn::Add(pairsOfProducts(even, even), pairsOfProducts(odd, odd)));
   }
 };
 

@@ -3,8 +3,8 @@
 #pragma once
 
 #include <cstring>
-#include <limits>
 
+#include "core/processor.h"
 #include "core/reduce_region.h"
 
 namespace vemi::measure {
@@ -28,11 +28,9 @@ struct FloatSums {
 
 namespace detail {
 
-/// The running totals have the 64-bit significand of the x87 format.
 template <class L, class A>
 struct ExtendedTotals {
-  static_assert(std::numeric_limits<long double>::digits == 64);
-  long double channel[L::elements] = {};
+  ExtendedFloat channel[L::elements] = {};
 
   /// Lanes are added by halves in double precision.
   void operator()(const EmptiedLanes<A>& lanes) {

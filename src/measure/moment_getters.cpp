@@ -8,6 +8,7 @@
 #include <limits>
 
 #include "core/checks.h"
+#include "core/processor.h"
 #include "core/rounding.h"
 #include "measure/moment_state.h"
 
@@ -84,13 +85,14 @@ double centralMoment(const Sums& S, int m, int n) {
 }
 
 /// What a moment of order m + n is multiplied by to become independent of the size: S(0, 0)^(-(order + 2) / 2), as pow
-/// defines it, but by operations whose bits do not depend on the C library. In the x87 format nothing overflows.
+/// defines it, but by operations whose bits do not depend on the C library. With the exponents of ExtendedFloat nothing
+/// overflows.
 double normalisation(const Sums& S, int order) {
-  static_assert(std::numeric_limits<long double>::digits == 64);
   const bool isHalfPower = order % 2 == 1;
   if (isHalfPower && S(0, 0) == -std::numeric_limits<double>::infinity()) return 0;  // where a root would give NaN
-  const long double s = S(0, 0), wholePower = order < 2 ? s : s * s;
-  return static_cast<double>(1 / (isHalfPower ? wholePower * std::sqrt(s) : wholePower));
+  using std::sqrt;
+  const ExtendedFloat s = S(0, 0), wholePower = order < 2 ? s : s * s;
+  return static_cast<double>(ExtendedFloat(1) / (isHalfPower ? wholePower * sqrt(s) : wholePower));
 }
 
 bool vanishes(const Sums& S) { return std::fabs(S(0, 0)) <= std::numeric_limits<double>::epsilon(); }

@@ -11,6 +11,7 @@
 #include <limits>
 #include <vector>
 
+#include "core/numbers.h"
 #include "support/for_types.h"
 
 using namespace vemi;
@@ -143,4 +144,18 @@ TEST(Processor, ControlOfRoundingAndExceptions) {
   EXPECT_TRUE(FloatControl::current() == callers);
   EXPECT_EQ(onePlus(0x1p-25f), 1 + 0x1p-23f);
   fesetenv(&former);
+}
+
+TEST(Processor, PairsOfProductsStandInOrder) {
+  const Lanes<int16_t> d;
+  const Lanes<int32_t> dWide;
+  constexpr int N = laneCount<int16_t>;
+  int16_t a[N], b[N];
+  int32_t sums[N / 2];
+  for (int i = 0; i < N; ++i) {
+    a[i] = static_cast<int16_t>(i % 3 == 0 ? 32767 : -32768 + i);
+    b[i] = static_cast<int16_t>(1009 * i - 16000);
+  }
+  hn::StoreU(pairsOfProducts(hn::LoadU(d, a), hn::LoadU(d, b)), dWide, sums);
+  for (int i = 0; i < N / 2; ++i) EXPECT_EQ(sums[i], a[2 * i] * b[2 * i] + a[2 * i + 1] * b[2 * i + 1]) << i;
 }

@@ -82,7 +82,7 @@ int64_t mapped(Curve curve, const Points<Vemi32s>& points, int v) {
   const double y = curve == Curve::lines || points.count() < 4
                        ? points.values[k] + 0.5 + slope * (static_cast<double>(v) - points.levels[k])
                        : cubicAt(points, k, v, 0.5);
-  return static_cast<int64_t>(std::clamp(std::trunc(y), -1e10, 1e10));
+  return std::isnan(y) ? INT64_MIN : static_cast<int64_t>(std::clamp(std::trunc(y), -1e10, 1e10));
 }
 
 float mapped(Curve curve, const Points<Vemi32f>& points, float v) {

@@ -488,23 +488,42 @@ void Call::restore() {
   }
 }
 
-/// Expects the float that is there wherever it will do.
-void Call::acceptFloats(Image& image) {
+/// Calls f(expected, actual, part) for each float of an image's region, or of a record.
+template <class F>
+void Call::forEachFloat(Image& image, const F& f) {
+  const bool isRecord = image.fields != Element::none;
+  const Element part = isRecord ? image.fields : partOf(image.element);
+  if (part != Element::f32 && part != Element::f64) return;
   const View view = image.view(&Image::Plane::expected);
-  const Element part = partOf(view.element);
-  const int parts = partsIn(view.element), bytes = bytesOf(part);
-  for (int n = 0; n < view.channels * parts; ++n) {
-    Image::Plane& plane = image.planes[image.layout.planar ? static_cast<size_t>(n / parts) : 0];
-    for (int y = 0; y < view.sizes[n / parts].height; ++y) {
-      for (int x = 0; x < view.sizes[n / parts].width; ++x) {
-        std::byte* const expected = view.at(x, y, n / parts) + n % parts * bytes;
-        const std::byte* const actual = plane.memory.begin() + (expected - plane.expected.data());
-        const bool accepted = part == Element::f32 ? isAccepted<float>(expected, actual, anyNaN, tolerance)
-                                                   : isAccepted<double>(expected, actual, anyNaN, tolerance);
-        if (accepted) std::copy(actual, actual + bytes, expected);
+  const int partBytes = bytesOf(part), elementBytes = std::max(bytesOf(image.element), partBytes);
+  for (int channel = 0; channel < view.channels; ++channel) {
+    Image::Plane& plane = image.planes[image.layout.planar ? static_cast<size_t>(channel) : 0];
+    const int width = view.sizes[channel].width * bytesOf(image.element) / elementBytes;
+    for (int y = 0; y < view.sizes[channel].height; ++y) {
+      for (int x = 0; x < width; ++x) {
+        for (int offset = 0; offset < elementBytes; offset += partBytes) {
+          std::byte* const expected = view.at(isRecord ? x * partBytes : x, y, channel) + offset;
+          f(expected, plane.memory.begin() + (expected - plane.expected.data()), part);
+        }
       }
     }
   }
+}
+
+void Call::unifyWrittenNaNs() {
+  for (Image& image : images) {
+    if (!image.written) continue;
+    forEachFloat(image, [](std::byte*, std::byte* actual, Element part) { unifyNaNs(part, actual); });
+  }
+}
+
+/// Expects the float that is there wherever it will do.
+void Call::acceptFloats(Image& image) {
+  forEachFloat(image, [&](std::byte* expected, const std::byte* actual, Element part) {
+    const bool accepted = part == Element::f32 ? isAccepted<float>(expected, actual, anyNaN, tolerance)
+                                               : isAccepted<double>(expected, actual, anyNaN, tolerance);
+    if (accepted) std::copy(actual, actual + bytesOf(part), expected);
+  });
 }
 
 std::string Call::difference() {
@@ -517,9 +536,7 @@ std::string Call::difference() {
         return std::equal(plane.expected.begin(), plane.expected.end(), plane.memory.begin());
       };
       if (isEqual()) continue;
-      const Element part = partOf(image.element);
-      const bool isFloat = part == Element::f32 || part == Element::f64;
-      if ((anyNaN || tolerance > 0) && image.written && isFloat) acceptFloats(image);
+      if ((anyNaN || tolerance > 0) && image.written) acceptFloats(image);
       if (isEqual()) continue;
       const auto at = std::mismatch(plane.expected.begin(), plane.expected.end(), plane.memory.begin()).first -
                       plane.expected.begin();

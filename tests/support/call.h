@@ -77,6 +77,8 @@ struct Image {
   bool mayBeNull = false;  // of a buffer
   /// Of an array: its length; of an array of arrays: the length of each.
   std::vector<int> lengths;
+  /// Of a record: the type of the floats that fill it, if it has floats.
+  Element fields = Element::none;
   /// What the family's shape puts into the arrays, one after the other; filled at random where it is empty.
   std::vector<std::vector<std::byte>> contents;
 
@@ -185,6 +187,8 @@ class Call {
   void restore();
   /// Expects the elements that were written as they are: for callers that do not know what is computed.
   void acceptWritten();
+  /// Gives all NaNs among the floats that were written the same bits: those of a NaN that it makes are the processor's.
+  void unifyWrittenNaNs();
   /// Where memory differs from what is expected, over all bytes of all images; empty where it does not.
   std::string difference();
   std::string text() const;
@@ -200,6 +204,8 @@ class Call {
   void pass(Image& image);
   Image& arrayOf(const std::string& parameter);
   void accept(Image& image);
+  template <class F>
+  void forEachFloat(Image& image, const F& f);
   void acceptFloats(Image& image);
 
   std::vector<Slot> goodArguments_;

@@ -75,7 +75,7 @@ class Random {
 /// Random bits, mixed with what arithmetic stumbles over: ends of the range, zeros of both signs, ones, infinities,
 /// NaNs and denormals. Floats are moderate numbers half of the time, and 32u elements, which count bits, mostly.
 void fillElement(Element element, std::byte* place, Random& random);
-/// Gives any NaN in the element the bits of the one that the processor itself makes.
+/// Gives any NaN in the element the same bits.
 void unifyNaNs(Element element, std::byte* place);
 
 }  // namespace vemi::test

@@ -88,6 +88,7 @@ void alike(Call& call) {
         std::memcpy(element, hasConstant ? call.constant(channel) : call.source(1).at(x, y, channel), bytes);
         if (hasTolerance && kind < 4) store(element, load<float>(element) + call.get<float>("eps"));
         if (hasTolerance && kind == 4) store(element, load<float>(element) - 1.5f * call.get<float>("eps"));
+        if (hasTolerance && call.scenario.oneNaN) unifyNaNs(first.element, element);  // of an infinite tolerance
       }
     }
   }

@@ -58,6 +58,7 @@ void setMomentState(Call& call) {
     }
   }
   call.setArray("pState", std::vector{state});
+  if (hasDoubles(call)) call.image("pState").fields = Element::f64;
 }
 
 void momentHint(Call& call) {
