@@ -4,6 +4,7 @@
 #include <cstdint>
 
 #include "core/lanes.h"
+#include "core/processor.h"
 
 namespace vemi::arith {
 
@@ -53,6 +54,22 @@ HWY_INLINE V product(D d, V x, Factor... factor) {
     ((even = timesOdd8(d, even, factor.even)), ...);
     ((x = timesOdd8(d, x, factor.odd)), ...);
     return hn::OddEven(x, hn::BitCast(d, hn::ShiftRight<8>(hn::BitCast(dWide, even))));
+  }
+}
+
+/// The product of two values that are each used once: nothing is made ready.
+template <class D, class V>
+HWY_INLINE V productOfTwo(D d, V x, V y) {
+  if constexpr (sizeof(hn::TFromD<D>) > 1) {
+    return fullScaleProduct16(x, y);
+  } else {
+    const hn::RepartitionToWide<D> dWide;
+    const V one = hn::Set(d, 1);
+    const auto lower = hn::MulHigh(hn::BitCast(dWide, hn::InterleaveLower(d, one, x)),
+                                   hn::BitCast(dWide, hn::InterleaveLower(d, y, y)));
+    const auto upper = hn::MulHigh(hn::BitCast(dWide, hn::InterleaveUpper(d, one, x)),
+                                   hn::BitCast(dWide, hn::InterleaveUpper(d, y, y)));
+    return packHalves(d, hn::ShiftRight<8>(lower), hn::ShiftRight<8>(upper));
   }
 }
 

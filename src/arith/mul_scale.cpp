@@ -15,7 +15,7 @@ namespace {
 struct FullScaleProduct {
   template <class D, class V>
   HWY_INLINE V operator()(D d, V a, V b) const {
-    return product(d, a, preparedFactor(d, b));
+    return productOfTwo(d, a, b);
   }
 };
 
