@@ -10,7 +10,6 @@
 
 #include "core/gather.h"
 #include "core/image.h"
-#include "core/interleave.h"
 #include "core/lane_width.h"
 #include "core/map_row.h"
 #include "core/processor.h"
@@ -40,6 +39,9 @@ HWY_INLINE auto sumsOfPairs(V values, V weights) {
   const auto even = hn::ReorderWidenMulAccumulate(d, values, weights, hn::Zero(d), odd);
   return hn::RearrangeToOddPlusEven(even, odd);
 }
+
+/// Three bytes of each word, close together.
+alignas(16) inline constexpr uint8_t withoutFourth[16] = {0, 1, 2, 4, 5, 6, 8, 9, 10, 12, 13, 14};
 
 /// Weights of a pixel and of the next one, as 16 bits each.
 template <class V>
@@ -128,9 +130,15 @@ struct LinearPixels {
     if constexpr (n == 4) {
       hn::StoreU(result, d8, out);
     } else {
-      alignas(laneAlignment) Vemi8u four[laneCount<Vemi8u>];
+      constexpr ptrdiff_t pixelsInBlock = 4, blocks = laneCount<Vemi8u> / 16;
+      const hn::FixedTag<uint8_t, 16> dPixels;
+      alignas(laneAlignment) Vemi8u four[laneCount<Vemi8u>], three[pixelsInBlock * n * blocks + pixelsInBlock];
       hn::Store(result, d8, four);
-      extractColourRow(laneCount<float>, four, out);
+      for (ptrdiff_t k = 0; k < blocks; ++k) {
+        const auto colours = hn::TableLookupBytes(hn::Load(dPixels, four + k * 16), hn::Load(dPixels, withoutFourth));
+        hn::StoreU(colours, dPixels, three + k * pixelsInBlock * n);
+      }
+      std::memcpy(out, three, pixelsInBlock * n * blocks);
     }
   }
 };
