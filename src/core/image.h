@@ -1,6 +1,7 @@
 // How a call describes its images: a pointer to the region's first pixel and a distance in bytes from row to row.
 #pragma once
 
+#include <algorithm>
 #include <cstddef>
 #include <type_traits>
 
@@ -31,6 +32,15 @@ struct Planes {
   Image<T> operator[](int index) const { return {plane[index], step}; }
 };
 
+/// Separate planes with a step each.
+template <class T, int planeCount>
+struct SteppedPlanes {
+  T* const* plane;
+  const int* step;
+
+  Image<T> operator[](int index) const { return {plane[index], step[index]}; }
+};
+
 /// The same image under a step that is rounded down to whole elements, for the families that read it so.
 template <class T>
 Image<T> wholeElements(Image<T> image) {
@@ -47,10 +57,46 @@ bool isContiguous(Image<T> image, VemiSize roiSize) {
   return image.step == roiSize.width * pixelBytes<T, L>;
 }
 
+template <class L, class T, int planeCount>
+bool isContiguous(Planes<T, planeCount> planes, VemiSize roiSize) {
+  return isContiguous<L>(planes[0], roiSize);
+}
+template <class L, class T, int planeCount>
+bool isContiguous(SteppedPlanes<T, planeCount> planes, VemiSize roiSize) {
+  bool all = true;
+  for (int n = 0; n < planeCount; ++n) all = all && isContiguous<L>(planes[n], roiSize);
+  return all;
+}
+
 template <class T, class U>
 bool isSameImage(Image<T> a, Image<U> b) {
   return static_cast<const void*>(a.first) == static_cast<const void*>(b.first);
 }
+
+/// The pixels of a rectangle of an image, as an image of their own.
+template <class L, class T>
+Image<T> imageOf(VemiRect rect, Image<T> image) {
+  return {image.row(rect.y) + ptrdiff_t{rect.x} * L::elements, image.step};
+}
+
+/// What of a rectangle lies within a size, where its first pixel does.
+inline VemiSize clippedSize(VemiRect rect, VemiSize size) {
+  return {std::min(rect.width, size.width - rect.x), std::min(rect.height, size.height - rect.y)};
+}
+
+/// How many pixels around a region are read with it.
+struct Margins {
+  Vemi64s left, top, right, bottom;
+};
+
+/// Of a window whose anchor counts from its top left pixel.
+inline Margins marginsOf(VemiSize window, VemiPoint anchor) {
+  const Vemi64s x = anchor.x, y = anchor.y;
+  return {x, y, window.width - 1 - x, window.height - 1 - y};
+}
+
+/// Of the window turned by half a turn, whose anchor counts from its bottom right pixel: that of a convolution.
+inline Margins turned(Margins margins) { return {margins.right, margins.bottom, margins.left, margins.top}; }
 
 /// The extent of a region in pixels, at pointer width, so that many rows can become one.
 struct Extent {
