@@ -3,11 +3,11 @@
 // Checks: null, size, step.
 
 #include "arith/alpha.h"
-#include "arith/whole_region.h"
 #include "core/checks.h"
 #include "core/exports.h"
 #include "core/map_region.h"
 #include "core/rows.h"
+#include "core/whole_region.h"
 #include "vemi/arith.h"
 
 namespace vemi::arith {

@@ -7,8 +7,8 @@
 // The second source is the left operand, and so is the image beside a constant. Checks: null, size, step.
 #pragma once
 
-#include "arith/complex.h"
 #include "core/checks.h"
+#include "core/complex.h"
 #include "core/map_region.h"
 
 namespace vemi::arith {

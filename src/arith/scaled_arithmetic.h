@@ -12,10 +12,10 @@
 #include <limits>
 #include <type_traits>
 
-#include "arith/whole_region.h"
 #include "core/checks.h"
 #include "core/image.h"
 #include "core/map_region.h"
+#include "core/whole_region.h"
 
 namespace vemi::arith {
 

@@ -4,11 +4,11 @@
 #include <algorithm>
 
 #include "arith/shifted.h"
-#include "arith/whole_region.h"
 #include "core/checks.h"
 #include "core/exports.h"
 #include "core/image.h"
 #include "core/map_region.h"
+#include "core/whole_region.h"
 #include "vemi/arith.h"
 
 namespace vemi::arith {

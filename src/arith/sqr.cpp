@@ -3,12 +3,12 @@
 #include <algorithm>
 #include <cmath>
 
-#include "arith/whole_region.h"
 #include "core/checks.h"
 #include "core/exports.h"
 #include "core/image.h"
 #include "core/lane_width.h"
 #include "core/map_region.h"
+#include "core/whole_region.h"
 #include "vemi/arith.h"
 
 namespace vemi::arith {

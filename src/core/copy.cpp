@@ -1,16 +1,13 @@
 // vemiCopy: regions copied whole, under a mask, channel by channel, and between pixels and planes.
 // Checks: null, size, step. Where the rows of all images are contiguous, the region is one long row.
 
-#include <type_traits>
-#include <utility>
-
 #include "core/checks.h"
 #include "core/exports.h"
 #include "core/image.h"
-#include "core/interleave.h"
 #include "core/map_row.h"
 #include "core/masked_row.h"
-#include "core/parallel.h"
+#include "core/pixel_region.h"
+#include "core/pixels.h"
 #include "core/rows.h"
 #include "core/streaming.h"
 #include "vemi/core.h"
@@ -53,14 +50,13 @@ VemiStatus copyMasked(Image<const T> src, Image<T> dst, VemiSize roiSize, Image<
   return vemiOk;
 }
 
-/// Moves a row of pixels of one layout into pixels of another.
+/// Moves one element of each pixel of a row.
 template <class T>
-using RowMove = void (*)(ptrdiff_t width, const T* src, T* dst);
+using ChannelMove = void (*)(ptrdiff_t width, const T* src, T* dst);
 
-/// The forms that change the layout or pick a channel. For a channel of interest, the one long row that contiguous rows
-/// are ends with the last pixel's element too.
-template <class T, class SL, class DL, RowMove<T> moveRow>
-VemiStatus copyRelaid(Image<const T> src, Image<T> dst, VemiSize roiSize) {
+/// The forms that pick a channel. Where contiguous rows are one long row, that ends with the last pixel's element too.
+template <class T, class SL, class DL, ChannelMove<T> moveRow>
+VemiStatus copyOneChannel(Image<const T> src, Image<T> dst, VemiSize roiSize) {
   if (const VemiStatus bad = firstOf(checkNull(src, dst), checkSize(roiSize), checkStep(src, dst))) return bad;
   const Extent extent = mergedExtent(roiSize, isContiguous<SL>(src, roiSize) && isContiguous<DL>(dst, roiSize));
   for (ptrdiff_t y = 0; y < extent.height; ++y) moveRow(extent.width, src.row(y), dst.row(y));
@@ -69,65 +65,40 @@ VemiStatus copyRelaid(Image<const T> src, Image<T> dst, VemiSize roiSize) {
 
 template <class T, class L>
 VemiStatus copyChannel(Image<const T> src, Image<T> dst, VemiSize roiSize) {
-  return copyRelaid<T, L, L, copyChannelRow<L::elements, L::elements, T>>(src, dst, roiSize);
+  return copyOneChannel<T, L, L, copyChannelRow<L::elements, L::elements, T>>(src, dst, roiSize);
 }
 
 template <class T, class L>
 VemiStatus extractChannel(Image<const T> src, Image<T> dst, VemiSize roiSize) {
-  return copyRelaid<T, L, C1, extractChannelRow<L::elements, T>>(src, dst, roiSize);
+  return copyOneChannel<T, L, C1, extractChannelRow<L::elements, T>>(src, dst, roiSize);
 }
 
 template <class T, class L>
 VemiStatus insertChannel(Image<const T> src, Image<T> dst, VemiSize roiSize) {
-  return copyRelaid<T, C1, L, copyChannelRow<1, L::elements, T>>(src, dst, roiSize);
+  return copyOneChannel<T, C1, L, copyChannelRow<1, L::elements, T>>(src, dst, roiSize);
 }
 
-template <class T>
-VemiStatus extractColour(Image<const T> src, Image<T> dst, VemiSize roiSize) {
-  return copyRelaid<T, C4, C3, extractColourRow<T>>(src, dst, roiSize);
-}
-
-template <class T>
-VemiStatus insertColour(Image<const T> src, Image<T> dst, VemiSize roiSize) {
-  return copyRelaid<T, C3, C4, insertColourRow<T>>(src, dst, roiSize);
-}
-
-/// Calls f(plane index as a constant...).
-template <int planes, class F>
-auto forPlanes(const F& f) {
-  return [&]<int... n>(std::integer_sequence<int, n...>) { return f(std::integral_constant<int, n>()...); }
-  (std::make_integer_sequence<int, planes>());
-}
-
-/// Runs row(width, pixels, plane...) over all rows, one of the images being the source and the other the destination.
-template <class PixelT, class PlaneT, int channels, class Row, class StreamedRow>
-VemiStatus copyPlanes(Image<PixelT> pixels, Planes<PlaneT, channels> planes, VemiSize roiSize, const Row& row,
-                      const StreamedRow& streamedRow) {
-  using L = Interleaved<channels>;
-  if (const VemiStatus bad = firstOf(checkNull(pixels, planes), checkSize(roiSize), checkStep(pixels, planes))) {
-    return bad;
-  }
-  const Extent extent = mergedExtent(roiSize, isContiguous<L>(pixels, roiSize) && isContiguous<C1>(planes[0], roiSize));
-  forPlanes<channels>([&](auto... n) {
-    runPlainOrStreamed(
-        CallerRows(), extent.height, trafficOf(extent, 2 * pixelBytes<PixelT, L>),
-        [&](ptrdiff_t y) { row(extent.width, pixels.row(y), planes[n].row(y)...); },
-        [&](ptrdiff_t y) { streamedRow(extent.width, pixels.row(y), planes[n].row(y)...); });
-  });
+/// The forms that change the layout.
+template <class Src, class Dst>
+VemiStatus relay(Src src, Dst dst, VemiSize roiSize) {
+  if (const VemiStatus bad = firstOf(checkNull(src, dst), checkSize(roiSize), checkStep(src, dst))) return bad;
+  mapPixelRegion(CallerRows(), roiSize, IdenticalChannels(), dst, src);
   return vemiOk;
+}
+
+template <class T, class SL, class DL>
+VemiStatus copyChannels(Image<const T> src, Image<T> dst, VemiSize roiSize) {
+  return relay(pixelsOf<SL>(src), pixelsOf<DL>(dst), roiSize);
 }
 
 template <class T, int channels>
 VemiStatus split(Image<const T> src, Planes<T, channels> dst, VemiSize roiSize) {
-  return copyPlanes(
-      src, dst, roiSize, [](auto... row) { splitRow(row...); }, [](auto... row) { splitRowStreamed(row...); });
+  return relay(pixelsOf<Interleaved<channels>>(src), pixelsOf(dst), roiSize);
 }
 
 template <class T, int channels>
 VemiStatus interleave(Planes<const T, channels> src, Image<T> dst, VemiSize roiSize) {
-  return copyPlanes(
-      dst, src, roiSize, [](auto... row) { interleaveRow(row...); },
-      [](auto... row) { interleaveRowStreamed(row...); });
+  return relay(pixelsOf(src), pixelsOf<Interleaved<channels>>(dst), roiSize);
 }
 
 }  // namespace
@@ -180,12 +151,12 @@ VEMI_DEFINE(vemiCopy_8u_C1C4R, VEMI_SRC_DST(Vemi8u), insertChannel<Vemi8u, C4>)
 VEMI_DEFINE(vemiCopy_16s_C1C4R, VEMI_SRC_DST(Vemi16s), insertChannel<Vemi16s, C4>)
 VEMI_DEFINE(vemiCopy_32f_C1C4R, VEMI_SRC_DST(Vemi32f), insertChannel<Vemi32f, C4>)
 
-VEMI_DEFINE(vemiCopy_8u_AC4C3R, VEMI_SRC_DST(Vemi8u), extractColour<Vemi8u>)
-VEMI_DEFINE(vemiCopy_16s_AC4C3R, VEMI_SRC_DST(Vemi16s), extractColour<Vemi16s>)
-VEMI_DEFINE(vemiCopy_32f_AC4C3R, VEMI_SRC_DST(Vemi32f), extractColour<Vemi32f>)
-VEMI_DEFINE(vemiCopy_8u_C3AC4R, VEMI_SRC_DST(Vemi8u), insertColour<Vemi8u>)
-VEMI_DEFINE(vemiCopy_16s_C3AC4R, VEMI_SRC_DST(Vemi16s), insertColour<Vemi16s>)
-VEMI_DEFINE(vemiCopy_32f_C3AC4R, VEMI_SRC_DST(Vemi32f), insertColour<Vemi32f>)
+VEMI_DEFINE(vemiCopy_8u_AC4C3R, VEMI_SRC_DST(Vemi8u), copyChannels<Vemi8u, AC4, C3>)
+VEMI_DEFINE(vemiCopy_16s_AC4C3R, VEMI_SRC_DST(Vemi16s), copyChannels<Vemi16s, AC4, C3>)
+VEMI_DEFINE(vemiCopy_32f_AC4C3R, VEMI_SRC_DST(Vemi32f), copyChannels<Vemi32f, AC4, C3>)
+VEMI_DEFINE(vemiCopy_8u_C3AC4R, VEMI_SRC_DST(Vemi8u), copyChannels<Vemi8u, C3, AC4>)
+VEMI_DEFINE(vemiCopy_16s_C3AC4R, VEMI_SRC_DST(Vemi16s), copyChannels<Vemi16s, C3, AC4>)
+VEMI_DEFINE(vemiCopy_32f_C3AC4R, VEMI_SRC_DST(Vemi32f), copyChannels<Vemi32f, C3, AC4>)
 
 VEMI_DEFINE(vemiCopy_8u_C3P3R, VEMI_SRC_PLANES(Vemi8u, 3), split<Vemi8u, 3>)
 VEMI_DEFINE(vemiCopy_16s_C3P3R, VEMI_SRC_PLANES(Vemi16s, 3), split<Vemi16s, 3>)

@@ -5,9 +5,9 @@
 #include <cstddef>
 #include <cstdint>
 
-#include "core/interleave.h"
 #include "core/lane_width.h"
 #include "core/lanes.h"
+#include "core/pixels.h"
 
 namespace vemi {
 
@@ -33,7 +33,7 @@ HWY_INLINE V allChannels(Vectors<V, elements> masks, [[maybe_unused]] uint32_t i
   if constexpr (elements == 3) {
     alignas(laneAlignment) uint8_t pixels[3 * laneCount<uint8_t>];
     unrolled<3>([&](auto k) HWY_ATTR { hn::Store(masks.v[k], d, pixels + k * laneCount<uint8_t>); });
-    return withChannels<3>(d, pixels, [](auto c0, auto c1, auto c2) HWY_ATTR { return hn::And(hn::And(c0, c1), c2); });
+    return loadChannels<3>(d, pixels, [](auto c0, auto c1, auto c2) HWY_ATTR { return hn::And(hn::And(c0, c1), c2); });
   }
   if constexpr (elements == 4) {
     const Lanes<uint32_t> dPixels;

@@ -10,9 +10,9 @@
 #include "core/checks.h"
 #include "core/exports.h"
 #include "core/float_control.h"
+#include "core/grey_row.h"
 #include "core/image.h"
 #include "core/rounding.h"
-#include "generate/grey_row.h"
 #include "signal/sine.h"
 #include "vemi/generate.h"
 

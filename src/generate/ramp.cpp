@@ -7,11 +7,11 @@
 
 #include "core/checks.h"
 #include "core/exports.h"
+#include "core/grey_row.h"
 #include "core/image.h"
 #include "core/map_row.h"
 #include "core/rounding.h"
 #include "core/scratch.h"
-#include "generate/grey_row.h"
 #include "vemi/generate.h"
 
 namespace vemi::generate {

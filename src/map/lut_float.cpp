@@ -3,7 +3,7 @@
 // Checks of C1: null, size, step, levels; of the others: null, each channel's levels, size, step.
 
 #include "core/lane_width.h"
-#include "core/map_channels.h"
+#include "core/pixel_region.h"
 #include "core/scratch.h"
 #include "map/level_search.h"
 #include "vemi/map.h"

@@ -9,7 +9,7 @@
 
 #include "core/image.h"
 #include "core/processor.h"
-#include "measure/row_pieces.h"
+#include "core/row_pieces.h"
 
 namespace vemi::measure {
 

@@ -15,9 +15,9 @@
 #include "core/checks.h"
 #include "core/image.h"
 #include "core/lanes.h"
+#include "core/row_pieces.h"
 #include "measure/exports.h"
 #include "measure/moment_state.h"
-#include "measure/row_pieces.h"
 
 namespace vemi::measure {
 namespace {

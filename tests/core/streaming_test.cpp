@@ -5,7 +5,6 @@
 
 #include <vector>
 
-#include "core/interleave.h"
 #include "core/map_region.h"
 #include "row_cases.h"
 

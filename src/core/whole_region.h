@@ -7,7 +7,7 @@
 #include "core/image.h"
 #include "vemi/core.h"
 
-namespace vemi::arith {
+namespace vemi {
 
 /// Copy and Set move bits, so one element type for each width serves all types of that width.
 template <class T>
@@ -64,4 +64,4 @@ VemiStatus copyRegion(Image<const T> src, Image<T> dst, VemiSize roiSize) {
   }
 }
 
-}  // namespace vemi::arith
+}  // namespace vemi

@@ -4,10 +4,10 @@
 #include <algorithm>
 #include <cstddef>
 
-#include "core/interleave.h"
 #include "core/layout.h"
+#include "core/pixels.h"
 
-namespace vemi::measure {
+namespace vemi {
 
 /// Calls f(channel, x, values, count) for each channel that is worked on, for pieces of at most `pieceLength` pixels:
 /// `values` are those of the channel from column x on.
@@ -19,12 +19,13 @@ void forEachPiece(const T* row, ptrdiff_t width, const F& f) {
     if constexpr (L::elements == 1) {
       f(0, x, pixels, count);
     } else {
-      alignas(laneAlignment) T plane[L::elements][pieceLength];
-      if constexpr (L::elements == 3) splitRow(count, pixels, plane[0], plane[1], plane[2]);
-      if constexpr (L::elements == 4) splitRow(count, pixels, plane[0], plane[1], plane[2], plane[3]);
+      alignas(laneAlignment) T plane[L::channels][pieceLength];
+      PlaneRow<T, L::channels> planes;
+      for (int channel = 0; channel < L::channels; ++channel) planes.first[channel] = plane[channel];
+      movePixels(count, planes, pixelRow<L>(pixels));
       for (int channel = 0; channel < L::channels; ++channel) f(channel, x, plane[channel], count);
     }
   }
 }
 
-}  // namespace vemi::measure
+}  // namespace vemi

@@ -7,7 +7,7 @@
 #include "core/image.h"
 #include "core/lanes.h"
 
-namespace vemi::arith {
+namespace vemi {
 
 template <class C>
 struct ComplexElement;
@@ -76,4 +76,4 @@ struct ComplexProduct {
   }
 };
 
-}  // namespace vemi::arith
+}  // namespace vemi
