@@ -67,7 +67,7 @@ struct Log {
     std::iota(expected.begin(), expected.end(), 0);
     EXPECT_EQ(rows, expected);
   }
-  void expectOwnSlices(ptrdiff_t bytes) const {
+  void expectOwnSlices(Vemi64s bytes) const {
     std::vector<char*> starts = slice;
     std::erase(starts, nullptr);  // of threads that had nothing to do
     std::sort(starts.begin(), starts.end());
