@@ -69,7 +69,9 @@ HWY_INLINE V productOfTwo(D d, V x, V y) {
                                    hn::BitCast(dWide, hn::InterleaveLower(d, y, y)));
     const auto upper = hn::MulHigh(hn::BitCast(dWide, hn::InterleaveUpper(d, one, x)),
                                    hn::BitCast(dWide, hn::InterleaveUpper(d, y, y)));
-    return packHalves(d, hn::ShiftRight<8>(lower), hn::ShiftRight<8>(upper));
+    const hn::RebindToSigned<decltype(dWide)> dSigned;
+    return packHalves(d, hn::BitCast(dSigned, hn::ShiftRight<8>(lower)),
+                      hn::BitCast(dSigned, hn::ShiftRight<8>(upper)));
   }
 }
 
