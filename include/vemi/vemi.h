@@ -16,7 +16,9 @@
 #define VEMI_VEMI_H
 
 #include "vemi/arith.h"
+#include "vemi/color.h"
 #include "vemi/core.h"
+#include "vemi/filter.h"
 #include "vemi/generate.h"
 #include "vemi/map.h"
 #include "vemi/measure.h"

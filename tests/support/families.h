@@ -50,6 +50,8 @@ struct Family {
 std::vector<Family> coreFamilies();
 std::vector<Family> arithFamilies();
 std::vector<Family> mapFamilies();
+std::vector<Family> colorFamilies();
+std::vector<Family> filterFamilies();
 std::vector<Family> measureFamilies();
 std::vector<Family> generateFamilies();
 
