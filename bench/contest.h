@@ -73,6 +73,7 @@ Family gammaFamily();
 Family countsFamily();
 Family noiseFamily();
 Family generatedFamily();
+Family colorTwistFamily();
 Family rowsFamily();
 
 }  // namespace bench

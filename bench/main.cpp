@@ -27,7 +27,7 @@ constexpr FamilyTable families[] = {
     divideScalingFamily, unaryFamily,   mulScaleFamily,   unaryScalingFamily, logicalFamily,
     shiftFamily,         alphaFamily,   reductionsFamily, normFamily,         hardReductionsFamily,
     thresholdFamily,     compareFamily, convertFamily,    bitImageFamily,     lutFamily,
-    gammaFamily,         countsFamily,  noiseFamily,      generatedFamily,    rowsFamily,
+    gammaFamily,         countsFamily,  noiseFamily,      generatedFamily,    colorTwistFamily,
     rowsFamily,
 };
 

@@ -1,11 +1,52 @@
 #include "support/families.h"
 
+#include <cmath>
+
 namespace vemi::test {
 namespace {
 
 // ---- Luma and chroma ----
 
 // ---- Perceptual and device spaces ----
+
+// ---- Matrices of the user's ----
+
+/// The gain of a mixture, sums that end in a half, any floats at all, and constants that bring a pixel's sum next to a
+/// half.
+void withTwist(Call& call) {
+  enum Kind { mixture, halves, any, beside };
+  Random& random = call.random;
+  const bool isSquare = call.function.members.find("C4R") != std::string::npos && call.function.source.channels == 4;
+  std::vector<Vemi32f> twist(isSquare ? 16 : 12);
+  const auto kind = static_cast<Kind>(random.below(4));
+  for (size_t k = 0; k < twist.size(); ++k) {
+    const bool isConstant = k % 4 == 3 && !isSquare;
+    const int size = isConstant ? 200 : 1;
+    if (kind == mixture || kind == beside) {
+      twist[k] = static_cast<Vemi32f>(random.below(3 << 20) - (1 << 20)) * 0x1p-21f * static_cast<Vemi32f>(size);
+    } else if (kind == halves) {
+      twist[k] = static_cast<Vemi32f>(random.below(33) - 16) * 0.125f * static_cast<Vemi32f>(size);
+    } else {
+      fillElement(Element::f32, reinterpret_cast<std::byte*>(&twist[k]), random);
+      if (call.scenario.oneNaN) unifyNaNs(Element::f32, reinterpret_cast<std::byte*>(&twist[k]));
+    }
+    if (kind == beside && isConstant) {
+      const double sum = 77.0 * twist[k - 3] + 128.0 * twist[k - 2] + 33.0 * twist[k - 1];
+      twist[k] = static_cast<Vemi32f>(std::floor(sum) + 0.5 - sum);
+    }
+  }
+  call.setArray("twist", twist);
+}
+
+/// Some pixels are the one whose sum lies next to a half.
+void withPixelBesideHalf(Call& call) {
+  const View source = call.source();
+  for (int x = 0; x < source.size.width && source.channels >= 3; x += 3) {
+    storeNumber(source.element, source.at(x, 0, 0), 77);
+    storeNumber(source.element, source.at(x, 0, 1), 128);
+    storeNumber(source.element, source.at(x, 0, 2), 33);
+  }
+}
 
 // ---- Video layouts ----
 
@@ -20,6 +61,7 @@ std::vector<Family> colorFamilies() {
       // Perceptual and device spaces
 
       // Matrices of the user's
+      {"vemiColorTwist vemiColorTwist32f", ".*", "null size step", withTwist, {}, withPixelBesideHalf},
 
       // Video layouts
 
