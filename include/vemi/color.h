@@ -23,6 +23,72 @@ extern "C" {
 
 /* ---- Perceptual and device spaces ---- */
 
+/**
+ * @defgroup vemi_hsv vemiRGBToHSV, vemiHSVToRGB: hue, saturation, value
+ *
+ * The hexcone model. With V = max(R, G, B) and d = V - min(R, G, B), and full = 255 (8u) or 65535 (16u):
+ *
+ *     S = full d / V
+ *     H = full / 6 * (G - B) / d          where R is the largest; full is added to a result below 0
+ *         full / 6 * (2 + (B - R) / d)    where G is
+ *         full / 6 * (4 + (R - G) / d)    where B is
+ *
+ * H runs once around the circle: 0 red, full / 3 green, 2 full / 3 blue. Of several largest channels B counts before G
+ * and G before R. A grey pixel (d = 0), black among them, has H = S = 0.
+ *
+ * Results are computed in single precision and rounded to nearest, ties to even. In place of a quotient stands a
+ * product with r, the approximate reciprocal of the divisor x to 12 bits (the middle one of the 2^-11 of its octave
+ * that it lies in, inverted and rounded to 13 significant bits), the same on every processor; in 16u after a Newton
+ * step, 2 r - x r r. So 8u results may be one off the exact quotient's.
+ *
+ *     RGB (255, 0, 0)       HSV   0 255 255
+ *     RGB (0, 255, 0)       HSV  85 255 255
+ *     RGB (255, 255, 0)     HSV  42 255 255       (42.49)
+ *     RGB (128, 128, 128)   HSV   0   0 128
+ *
+ * **Back.** With s = S / full, x = 6 H / full, i = floor(x) and f = x - i:
+ *
+ *     p = V - V s,   q = V - f V s,   t = p + f V s
+ *
+ *     i     0   1   2   3   4   5
+ *     R     V   q   p   p   t   V
+ *     G     t   V   V   q   p   p
+ *     B     p   p   t   V   V   q
+ *
+ * rounded to nearest, ties to even. The hue `full` acts as 0. Where S is 0, all three are V.
+ *
+ * AC4 forms convert the first three channels and leave the destination's fourth as it is.
+ *
+ * @param pSrc,srcStep    first pixel of the source, and the bytes between its rows
+ * @param pDst,dstStep    the same of the destination
+ * @param roiSize         size of the region in pixels
+ *
+ * **Overlap.** pDst does not overlap pSrc, unless it is the same image.
+ *
+ * **Statuses**, in the order of the tests: null, size, step (see status.h).
+ *
+ * **Threads.** Rows are shared out among an OpenMP team.
+ *
+ *     vemiRGBToHSV_8u_C3R(rgb, rgbStep, hsv, hsvStep, size);
+ * @{
+ */
+
+VEMI_API VemiStatus vemiRGBToHSV_8u_C3R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiRGBToHSV_8u_AC4R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiRGBToHSV_16u_C3R(const Vemi16u* pSrc, int srcStep, Vemi16u* pDst, int dstStep,
+                                         VemiSize roiSize);
+VEMI_API VemiStatus vemiRGBToHSV_16u_AC4R(const Vemi16u* pSrc, int srcStep, Vemi16u* pDst, int dstStep,
+                                          VemiSize roiSize);
+
+VEMI_API VemiStatus vemiHSVToRGB_8u_C3R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiHSVToRGB_8u_AC4R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiHSVToRGB_16u_C3R(const Vemi16u* pSrc, int srcStep, Vemi16u* pDst, int dstStep,
+                                         VemiSize roiSize);
+VEMI_API VemiStatus vemiHSVToRGB_16u_AC4R(const Vemi16u* pSrc, int srcStep, Vemi16u* pDst, int dstStep,
+                                          VemiSize roiSize);
+
+/** @} */
+
 /* ---- Matrices of the user's ---- */
 
 /**

@@ -9,6 +9,27 @@ namespace {
 
 // ---- Perceptual and device spaces ----
 
+/// Pixels with channels that are equal, all of them or two, of black and white, and of floats that are colours.
+void fewColours(Call& call) {
+  const View source = call.source();
+  const auto bytes = static_cast<size_t>(bytesOf(source.element));
+  const bool isFloat = source.element == Element::f32;
+  for (int y = 0; y < source.size.height; ++y) {
+    for (int x = 0; x < source.size.width; ++x) {
+      const int kind = call.random.below(12);
+      for (int channel = 0; channel < 3; ++channel) {
+        std::byte* const element = source.at(x, y, channel);
+        if (isFloat && kind < 9) store(element, static_cast<float>(call.random.below(1400) - 150) * 0x1p-10f);
+        if (kind == 0) std::memset(element, 0, bytes);
+        if (kind == 1 && !isFloat) std::memset(element, 0xff, bytes);
+      }
+      const auto copy = [&](int from, int to) { std::memcpy(source.at(x, y, to), source.at(x, y, from), bytes); };
+      if (kind >= 2 && kind <= 4) copy(kind - 2, (kind - 1) % 3);
+      if (kind == 2) copy(1, 2);
+    }
+  }
+}
+
 // ---- Matrices of the user's ----
 
 /// The gain of a mixture, sums that end in a half, any floats at all, and constants that bring a pixel's sum next to a
@@ -59,6 +80,7 @@ std::vector<Family> colorFamilies() {
       // Luma and chroma
 
       // Perceptual and device spaces
+      {"vemiRGBToHSV vemiHSVToRGB", ".*", "null size step", nullptr, {}, fewColours},
 
       // Matrices of the user's
       {"vemiColorTwist vemiColorTwist32f", ".*", "null size step", withTwist, {}, withPixelBesideHalf},
