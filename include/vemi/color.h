@@ -218,7 +218,375 @@ VEMI_API VemiStatus vemiColorTwist_32f_IP3R(Vemi32f* const pSrcDst[3], int srcDs
 
 /* ---- Video layouts ---- */
 
+/**
+ * @defgroup vemi_video_layouts Video layouts
+ *
+ * In video, neighbouring pixels share chroma: each pixel has a luma sample Y, and a block of pixels has one sample of
+ * Cb (U) and one of Cr (V). These functions move samples of 8 bits from one layout to another. But for the members
+ * whose names say `Filter`, nothing is computed: chroma of a lower rate drops samples, chroma of a higher rate repeats
+ * them.
+ *
+ *     format   pixels that share chroma   chroma of a region        the region is cut to multiples of
+ *     4:2:2    2 x 1                      width / 2 by height       2 x 1
+ *     4:2:0    2 x 2                      width / 2 by height / 2   2 x 2
+ *     4:1:1    4 x 1                      width / 4 by height       4 x 1
+ *
+ * **Layouts.** The name has the one of the source, then that of the destination:
+ *
+ *     P3   planes Y, Cb, Cr                        pSrc[3], srcStep[3]
+ *          YCrCb and YV: planes Y, Cr, Cb
+ *     P2   a plane Y and a plane of pairs          pSrcY, srcYStep, pSrcCbCr, srcCbCrStep
+ *          Cb, Cr, Cb, Cr, ...
+ *     C2   one plane, four bytes for two pixels    pSrc, srcStep
+ *          YCbCr, YU: Y0 Cb Y1 Cr;  YCrCb: Y0 Cr Y1 Cb;  CbYCr, UY: Cb Y0 Cr Y1
+ *
+ * A row of pairs is as many bytes wide as two chroma rows: width in 4:2:2 and 4:2:0, width / 2 in 4:1:1. A row of C2 is
+ * 2 * width bytes wide.
+ *
+ * @param pSrc,srcStep          first samples of the source's planes and the bytes between the rows of each; of C2 its
+ *                              first byte and its step
+ * @param pSrcY,srcYStep        first luma sample and the bytes between luma rows
+ * @param pSrcCbCr,srcCbCrStep  first byte of the pairs and the bytes between their rows
+ * @param pDst,dstStep,pDstY,dstYStep,pDstCbCr,dstCbCrStep  the same of the destination
+ * @param roiSize               size of the region in pixels
+ *
+ * **Odd sizes.** A width or a height that is no multiple of what both formats share is rounded down: of 5 x 5 pixels
+ * from 4:2:2 to 4:2:0, 4 x 4 are worked on. What lies beyond is neither read nor written.
+ *
+ * **Steps** are not looked at, with the exceptions told below: they may be negative, for images whose rows stand from
+ * the last one to the first, or any other number of bytes.
+ *
+ * **Overlap.** A plane that is copied as it is, luma as a rule, may be the same in source and destination. If such
+ * planes overlap in another way, their bytes move one after the other, from the first row's first one on. Other planes
+ * do not overlap, but for C2 to C2, which works in place.
+ *
+ * **Statuses**, in the order of the tests: null (planes among the pointers), then vemiErrSize where the width or the
+ * height is below the multiples to which it is cut.
+ *
+ * **Threads.** All members run in the calling thread.
+ * @{
+ */
+
+/**
+ * @defgroup vemi_video_422_420 4:2:2 to 4:2:0 and back
+ *
+ * Row k of 4:2:0 chroma is row 2 k of 4:2:2 chroma; odd rows are dropped. Back, row k becomes rows 2 k and 2 k + 1.
+ * Multiples of 2 x 2, at least these.
+ *
+ *     vemiYCbCr422ToYCbCr420_8u_C2P3R(frame, frameStep, planes, planeSteps, size);   // a camera's frame for an encoder
+ * @{
+ */
+
+VEMI_API VemiStatus vemiYCbCr422ToYCbCr420_8u_P3R(const Vemi8u* const pSrc[3], const int srcStep[3],
+                                                  Vemi8u* const pDst[3], const int dstStep[3], VemiSize roiSize);
+VEMI_API VemiStatus vemiYCbCr422ToYCbCr420_8u_P3P2R(const Vemi8u* const pSrc[3], const int srcStep[3], Vemi8u* pDstY,
+                                                    int dstYStep, Vemi8u* pDstCbCr, int dstCbCrStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiYCbCr422ToYCbCr420_8u_C2P3R(const Vemi8u* pSrc, int srcStep, Vemi8u* const pDst[3],
+                                                    const int dstStep[3], VemiSize roiSize);
+VEMI_API VemiStatus vemiYCrCb422ToYCbCr420_8u_C2P3R(const Vemi8u* pSrc, int srcStep, Vemi8u* const pDst[3],
+                                                    const int dstStep[3], VemiSize roiSize);
+VEMI_API VemiStatus vemiCbYCr422ToYCbCr420_8u_C2P3R(const Vemi8u* pSrc, int srcStep, Vemi8u* const pDst[3],
+                                                    const int dstStep[3], VemiSize roiSize);
+
+VEMI_API VemiStatus vemiYCbCr420ToYCbCr422_8u_P3R(const Vemi8u* const pSrc[3], const int srcStep[3],
+                                                  Vemi8u* const pDst[3], const int dstStep[3], VemiSize roiSize);
+VEMI_API VemiStatus vemiYCbCr420ToYCbCr422_8u_P2P3R(const Vemi8u* pSrcY, int srcYStep, const Vemi8u* pSrcCbCr,
+                                                    int srcCbCrStep, Vemi8u* const pDst[3], const int dstStep[3],
+                                                    VemiSize roiSize);
+VEMI_API VemiStatus vemiYCrCb420ToYCbCr422_8u_P3R(const Vemi8u* const pSrc[3], const int srcStep[3],
+                                                  Vemi8u* const pDst[3], const int dstStep[3], VemiSize roiSize);
+
+/** @} */
+
+/**
+ * @defgroup vemi_video_422_filter 4:2:0 to 4:2:2 with a filter
+ *
+ * The chroma rows that 4:2:0 lacks are interpolated from four, with c[k] the rows of a chroma plane, n of them:
+ *
+ *     row 2 k       c[k]
+ *     row 2 k + 1   (9 c[k] + 9 c[k + 1] - c[k - 1] - c[k + 2] + 8) >> 4, limited to 0..255
+ *
+ * Above the first row c[-1] counts as c[0]; below the last one c[n] and c[n + 1] count as c[n - 1]. A height is cut to
+ * a multiple of 8 and is 8 at least: 15 rows are 8, and 7 give vemiErrSize. Widths are multiples of 2.
+ * @{
+ */
+
+VEMI_API VemiStatus vemiYCbCr420ToYCbCr422Filter_8u_P3R(const Vemi8u* const pSrc[3], const int srcStep[3],
+                                                        Vemi8u* const pDst[3], const int dstStep[3], VemiSize roiSize);
+VEMI_API VemiStatus vemiYCbCr420ToYCbCr422Filter_8u_P2P3R(const Vemi8u* pSrcY, int srcYStep, const Vemi8u* pSrcCbCr,
+                                                          int srcCbCrStep, Vemi8u* const pDst[3], const int dstStep[3],
+                                                          VemiSize roiSize);
+VEMI_API VemiStatus vemiYCrCb420ToYCbCr422Filter_8u_P3R(const Vemi8u* const pSrc[3], const int srcStep[3],
+                                                        Vemi8u* const pDst[3], const int dstStep[3], VemiSize roiSize);
+
+/** @} */
+
+/**
+ * @defgroup vemi_video_422 Layouts of 4:2:2
+ *
+ * Multiples of 2 x 1, at least these.
+ * @{
+ */
+
+VEMI_API VemiStatus vemiYCbCr422ToYCbCr422_8u_C2P3R(const Vemi8u* pSrc, int srcStep, Vemi8u* const pDst[3],
+                                                    const int dstStep[3], VemiSize roiSize);
+VEMI_API VemiStatus vemiYCrCb422ToYCbCr422_8u_C2P3R(const Vemi8u* pSrc, int srcStep, Vemi8u* const pDst[3],
+                                                    const int dstStep[3], VemiSize roiSize);
+VEMI_API VemiStatus vemiCbYCr422ToYCbCr422_8u_C2P3R(const Vemi8u* pSrc, int srcStep, Vemi8u* const pDst[3],
+                                                    const int dstStep[3], VemiSize roiSize);
+VEMI_API VemiStatus vemiYCbCr422ToYCrCb422_8u_C2R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep,
+                                                  VemiSize roiSize);
+VEMI_API VemiStatus vemiYCbCr422ToYCrCb422_8u_P3C2R(const Vemi8u* const pSrc[3], const int srcStep[3], Vemi8u* pDst,
+                                                    int dstStep, VemiSize roiSize);
+
+/** @} */
+
+/**
+ * @defgroup vemi_video_422_411 4:2:2 to 4:1:1 and back
+ *
+ * Every second chroma sample of a row is kept, the first, third, ...; back, each sample is repeated for two pairs of
+ * pixels. Multiples of 4 x 1, at least these.
+ * @{
+ */
+
+VEMI_API VemiStatus vemiYCbCr422ToYCbCr411_8u_P3R(const Vemi8u* const pSrc[3], const int srcStep[3],
+                                                  Vemi8u* const pDst[3], const int dstStep[3], VemiSize roiSize);
+VEMI_API VemiStatus vemiYCbCr422ToYCbCr411_8u_P3P2R(const Vemi8u* const pSrc[3], const int srcStep[3], Vemi8u* pDstY,
+                                                    int dstYStep, Vemi8u* pDstCbCr, int dstCbCrStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiYCbCr422ToYCbCr411_8u_C2P3R(const Vemi8u* pSrc, int srcStep, Vemi8u* const pDst[3],
+                                                    const int dstStep[3], VemiSize roiSize);
+VEMI_API VemiStatus vemiYCbCr422ToYCbCr411_8u_C2P2R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDstY, int dstYStep,
+                                                    Vemi8u* pDstCbCr, int dstCbCrStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiYCrCb422ToYCbCr411_8u_C2P3R(const Vemi8u* pSrc, int srcStep, Vemi8u* const pDst[3],
+                                                    const int dstStep[3], VemiSize roiSize);
+VEMI_API VemiStatus vemiCbYCr422ToYCbCr411_8u_C2P3R(const Vemi8u* pSrc, int srcStep, Vemi8u* const pDst[3],
+                                                    const int dstStep[3], VemiSize roiSize);
+
+VEMI_API VemiStatus vemiYCbCr411ToYCbCr422_8u_P3R(const Vemi8u* const pSrc[3], const int srcStep[3],
+                                                  Vemi8u* const pDst[3], const int dstStep[3], VemiSize roiSize);
+VEMI_API VemiStatus vemiYCbCr411ToYCbCr422_8u_P2P3R(const Vemi8u* pSrcY, int srcYStep, const Vemi8u* pSrcCbCr,
+                                                    int srcCbCrStep, Vemi8u* const pDst[3], const int dstStep[3],
+                                                    VemiSize roiSize);
+VEMI_API VemiStatus vemiYCbCr411ToYCbCr422_8u_P3C2R(const Vemi8u* const pSrc[3], const int srcStep[3], Vemi8u* pDst,
+                                                    int dstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiYCbCr411ToYCbCr422_8u_P2C2R(const Vemi8u* pSrcY, int srcYStep, const Vemi8u* pSrcCbCr,
+                                                    int srcCbCrStep, Vemi8u* pDst, int dstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiYCbCr411ToYCrCb422_8u_P3R(const Vemi8u* const pSrc[3], const int srcStep[3],
+                                                  Vemi8u* const pDst[3], const int dstStep[3], VemiSize roiSize);
+VEMI_API VemiStatus vemiYCbCr411ToYCrCb422_8u_P3C2R(const Vemi8u* const pSrc[3], const int srcStep[3], Vemi8u* pDst,
+                                                    int dstStep, VemiSize roiSize);
+
+/** @} */
+
+/**
+ * @defgroup vemi_video_420_411 4:2:0 to 4:1:1 and back
+ *
+ * Both have a chroma sample for four pixels, and none is lost: they are arranged anew. Column x of rows 2 k and 2 k + 1
+ * of 4:1:1 are columns 2 x and 2 x + 1 of row k of 4:2:0. So 4:1:1 to 4:2:0 and back again is what it was. Multiples of
+ * 4 x 2, at least these.
+ * @{
+ */
+
+VEMI_API VemiStatus vemiYCbCr420ToYCbCr411_8u_P3P2R(const Vemi8u* const pSrc[3], const int srcStep[3], Vemi8u* pDstY,
+                                                    int dstYStep, Vemi8u* pDstCbCr, int dstCbCrStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiYCbCr420ToYCbCr411_8u_P2P3R(const Vemi8u* pSrcY, int srcYStep, const Vemi8u* pSrcCbCr,
+                                                    int srcCbCrStep, Vemi8u* const pDst[3], const int dstStep[3],
+                                                    VemiSize roiSize);
+VEMI_API VemiStatus vemiYCrCb420ToYCbCr411_8u_P3P2R(const Vemi8u* const pSrc[3], const int srcStep[3], Vemi8u* pDstY,
+                                                    int dstYStep, Vemi8u* pDstCbCr, int dstCbCrStep, VemiSize roiSize);
+
+VEMI_API VemiStatus vemiYCbCr411ToYCbCr420_8u_P3R(const Vemi8u* const pSrc[3], const int srcStep[3],
+                                                  Vemi8u* const pDst[3], const int dstStep[3], VemiSize roiSize);
+VEMI_API VemiStatus vemiYCbCr411ToYCbCr420_8u_P3P2R(const Vemi8u* const pSrc[3], const int srcStep[3], Vemi8u* pDstY,
+                                                    int dstYStep, Vemi8u* pDstCbCr, int dstCbCrStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiYCbCr411ToYCbCr420_8u_P2P3R(const Vemi8u* pSrcY, int srcYStep, const Vemi8u* pSrcCbCr,
+                                                    int srcCbCrStep, Vemi8u* const pDst[3], const int dstStep[3],
+                                                    VemiSize roiSize);
+VEMI_API VemiStatus vemiYCbCr411ToYCrCb420_8u_P2P3R(const Vemi8u* pSrcY, int srcYStep, const Vemi8u* pSrcCbCr,
+                                                    int srcCbCrStep, Vemi8u* const pDst[3], const int dstStep[3],
+                                                    VemiSize roiSize);
+
+/** @} */
+
+/**
+ * @defgroup vemi_video_planes Planes to pairs and back
+ *
+ * Multiples of 4 x 1 in 4:1:1 and of 2 x 2 in 4:2:0, at least these.
+ * @{
+ */
+
+VEMI_API VemiStatus vemiYCbCr411ToYCbCr411_8u_P3P2R(const Vemi8u* const pSrc[3], const int srcStep[3], Vemi8u* pDstY,
+                                                    int dstYStep, Vemi8u* pDstCbCr, int dstCbCrStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiYCbCr411ToYCbCr411_8u_P2P3R(const Vemi8u* pSrcY, int srcYStep, const Vemi8u* pSrcCbCr,
+                                                    int srcCbCrStep, Vemi8u* const pDst[3], const int dstStep[3],
+                                                    VemiSize roiSize);
+VEMI_API VemiStatus vemiYCbCr420ToYCbCr420_8u_P3P2R(const Vemi8u* const pSrc[3], const int srcStep[3], Vemi8u* pDstY,
+                                                    int dstYStep, Vemi8u* pDstCbCr, int dstCbCrStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiYCbCr420ToYCbCr420_8u_P2P3R(const Vemi8u* pSrcY, int srcYStep, const Vemi8u* pSrcCbCr,
+                                                    int srcCbCrStep, Vemi8u* const pDst[3], const int dstStep[3],
+                                                    VemiSize roiSize);
+
+/** @} */
+
+/**
+ * @defgroup vemi_video_join vemiJoin422, vemiSplit422, vemiJoin420, vemiSplit420
+ *
+ * vemiJoin422 packs three planes into bytes Y0 Cb Y1 Cr; vemiSplit422 is its inverse. vemiJoin420 packs the same bytes
+ * from luma and 4:2:0 pairs, each row of pairs serving two rows. vemiSplit420 splits the pairs into planes of 4:2:0.
+ *
+ * vemiJoin422 and vemiSplit422 cut to multiples of 2 x 1, the others to multiples of 2 x 2; these are the least sizes.
+ *
+ * **Statuses**, in the order of the tests: vemiJoin420 as all the others above. vemiSplit420: null (but for the planes
+ * in pDst), vemiErrSize for a width or a height below 1, null (these planes), vemiErrSize below 2. vemiJoin422 and
+ * vemiSplit422: null; vemiErrStep for any step below 1; vemiErrSize; vemiErrStride where a step is too short for the
+ * width that is worked on: a luma step below width, a chroma step below width / 2, a packed step below 2 * width.
+ * @{
+ */
+
+VEMI_API VemiStatus vemiJoin422_8u_P3C2R(const Vemi8u* const pSrc[3], const int srcStep[3], Vemi8u* pDst, int dstStep,
+                                         VemiSize roiSize);
+VEMI_API VemiStatus vemiSplit422_8u_C2P3R(const Vemi8u* pSrc, int srcStep, Vemi8u* const pDst[3], const int dstStep[3],
+                                          VemiSize roiSize);
+VEMI_API VemiStatus vemiJoin420_8u_P2C2R(const Vemi8u* pSrcY, int srcYStep, const Vemi8u* pSrcCbCr, int srcCbCrStep,
+                                         Vemi8u* pDst, int dstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiSplit420_8u_P2P3R(const Vemi8u* pSrcY, int srcYStep, const Vemi8u* pSrcCbCr, int srcCbCrStep,
+                                          Vemi8u* const pDst[3], const int dstStep[3], VemiSize roiSize);
+
+/** @} */
+
+/**
+ * @defgroup vemi_video_join_filter vemiJoin420_Filter, vemiSplit420_Filter: without the flicker of two fields
+ *
+ * The layouts of vemiJoin420 and vemiSplit420, with a vertical filter that mixes each luma row with its neighbours.
+ * With Y the rows of the frame from 0 to h - 1:
+ *
+ *     luma row y      (Y[y - 1] + 2 Y[y] + Y[y + 1] + 4) >> 2, at most 255
+ *     the first row   (3 Y[0] + Y[1] + 4) >> 2, at most 255
+ *     the last row    (3 Y[h - 1] + Y[h - 2] + 4) >> 2, at most 255
+ *
+ * Mind that the sums of luma are lifted by 4, not by 2: an area of one tone becomes a level lighter, 17 where it
+ * was 16.
+ *
+ * Chroma: vemiSplit420_Filter copies it. vemiJoin420_Filter makes of the rows c of the pairs, 0 to n - 1, one row for
+ * each two rows of the result:
+ *
+ *     the first two rows         (c[0] + c[1] + 2) >> 1, at most 255
+ *     rows 2 k and 2 k + 1       (c[k] + c[k + 1]) >> 1
+ *     the last two rows          (c[n - 2] + c[n - 1] + 2) >> 1, at most 255
+ *     a frame of height 2        c[0]
+ *
+ * @param layer  which part of a frame the call makes:
+ *
+ *     21   a whole frame; so does any number with the bits 1, 4 and 16 set, such as -1
+ *      1   the band at the top: rows 0 to height - 3, the first one by the rule of first rows
+ *      4   a band in the middle: height rows, beginning two rows above the pointers
+ *     16   the band at the bottom: height + 2 rows, beginning two rows above the pointers, the last one by the rule of
+ *          last rows
+ *     any other number: nothing is done, and the status is vemiOk
+ *
+ * So a frame that is worked through from top to bottom comes out as in one call, a band of it at a time: rows that wait
+ * for the next band's first ones are made with that band. The pointers of each call address the band's first row. A
+ * middle or a bottom band reads three rows of luma and one row of pairs above its pointers, and writes two rows of the
+ * result above its pointer (of a chroma plane one). They must be there; nothing tests that.
+ *
+ *     vemiJoin420_Filter_8u_P2C2R(y, yStep, uv, uvStep, yuyv, yuyvStep, size, 21);
+ *
+ * Multiples of 2 x 2, at least these.
+ * @{
+ */
+
+VEMI_API VemiStatus vemiJoin420_Filter_8u_P2C2R(const Vemi8u* pSrcY, int srcYStep, const Vemi8u* pSrcCbCr,
+                                                int srcCbCrStep, Vemi8u* pDst, int dstStep, VemiSize roiSize,
+                                                int layer);
+VEMI_API VemiStatus vemiSplit420_Filter_8u_P2P3R(const Vemi8u* pSrcY, int srcYStep, const Vemi8u* pSrcCbCr,
+                                                 int srcCbCrStep, Vemi8u* const pDst[3], const int dstStep[3],
+                                                 VemiSize roiSize, int layer);
+
+/** @} */
+
+/**
+ * @defgroup vemi_video_yu Members named after YU, YV and UY
+ *
+ * The same moves under the names of another tradition: U is Cb and V is Cr. `YU` is Y0 U Y1 V and, in P2, pairs U, V;
+ * `UY` is U Y0 V Y1; `YV` in P3 is the planes Y, V, U. From 4:2:0 to C2 each chroma row serves two rows.
+ *
+ * Those of 4:2:0, and those of 4:2:2 from C2 to planes or pairs, whose chroma has every row, cut to multiples of 2 x 2;
+ * those from C2 to C2 to multiples of 2 x 1. These are the least sizes.
+ * @{
+ */
+
+VEMI_API VemiStatus vemiYUToUY420_8u_P2C2R(const Vemi8u* pSrcY, int srcYStep, const Vemi8u* pSrcCbCr, int srcCbCrStep,
+                                           Vemi8u* pDst, int dstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiYVToYU420_8u_P3P2R(const Vemi8u* const pSrc[3], const int srcStep[3], Vemi8u* pDstY,
+                                           int dstYStep, Vemi8u* pDstCbCr, int dstCbCrStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiYVToYU420_8u_P3C2R(const Vemi8u* const pSrc[3], const int srcStep[3], Vemi8u* pDst, int dstStep,
+                                           VemiSize roiSize);
+VEMI_API VemiStatus vemiYVToUY420_8u_P3C2R(const Vemi8u* const pSrc[3], const int srcStep[3], Vemi8u* pDst, int dstStep,
+                                           VemiSize roiSize);
+
+VEMI_API VemiStatus vemiYUToUY422_8u_C2R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiUYToYU422_8u_C2R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiYUToYV422_8u_C2P3R(const Vemi8u* pSrc, int srcStep, Vemi8u* const pDst[3], const int dstStep[3],
+                                           VemiSize roiSize);
+VEMI_API VemiStatus vemiUYToYV422_8u_C2P3R(const Vemi8u* pSrc, int srcStep, Vemi8u* const pDst[3], const int dstStep[3],
+                                           VemiSize roiSize);
+VEMI_API VemiStatus vemiYUToYU422_8u_C2P2R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDstY, int dstYStep,
+                                           Vemi8u* pDstCbCr, int dstCbCrStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiUYToYU422_8u_C2P2R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDstY, int dstYStep,
+                                           Vemi8u* pDstCbCr, int dstCbCrStep, VemiSize roiSize);
+
+/** @} */
+
+/** @} */
+
 /* ---- Orders of channels ---- */
+
+/**
+ * @defgroup vemi_swap_channels vemiSwapChannels: channels in another order
+ *
+ *     pDst[i] = pSrc[dstOrder[i]]  for the channels i = 0, 1, 2 of each pixel
+ *
+ * Each entry of dstOrder is 0, 1 or 2; one may stand there twice, so that a channel is copied more than once: 2, 1, 0
+ * makes BGR of RGB, 0, 0, 0 a grey picture of the first channel. AC4 leaves the fourth channel of the destination as it
+ * is. Values pass through unchanged, bit for bit.
+ *
+ * @param pSrc,srcStep        first pixel of the source, and the bytes between its rows
+ * @param pDst,dstStep        the same of the destination
+ * @param pSrcDst,srcDstStep  (C3IR) the image that is both
+ * @param roiSize             size of the region in pixels
+ * @param dstOrder            which channel of the source each of the destination's is
+ *
+ * **Overlap.** pDst may be pSrc with the same step. Regions that overlap in any other way give undefined results.
+ *
+ * **Statuses**, in the order of the tests: null (dstOrder among the pointers), size, step, then vemiErrChannelOrder for
+ * an entry outside of 0 to 2.
+ *
+ * **Threads.** All members run in the calling thread.
+ *
+ *     const int reversed[3] = {2, 1, 0};
+ *     vemiSwapChannels_8u_C3IR(photo, photoStep, size, reversed);
+ * @{
+ */
+
+VEMI_API VemiStatus vemiSwapChannels_8u_C3R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep,
+                                            VemiSize roiSize, const int dstOrder[3]);
+VEMI_API VemiStatus vemiSwapChannels_8u_AC4R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep,
+                                             VemiSize roiSize, const int dstOrder[3]);
+VEMI_API VemiStatus vemiSwapChannels_8u_C3IR(Vemi8u* pSrcDst, int srcDstStep, VemiSize roiSize, const int dstOrder[3]);
+VEMI_API VemiStatus vemiSwapChannels_16u_C3R(const Vemi16u* pSrc, int srcStep, Vemi16u* pDst, int dstStep,
+                                             VemiSize roiSize, const int dstOrder[3]);
+VEMI_API VemiStatus vemiSwapChannels_16u_AC4R(const Vemi16u* pSrc, int srcStep, Vemi16u* pDst, int dstStep,
+                                              VemiSize roiSize, const int dstOrder[3]);
+VEMI_API VemiStatus vemiSwapChannels_32s_C3R(const Vemi32s* pSrc, int srcStep, Vemi32s* pDst, int dstStep,
+                                             VemiSize roiSize, const int dstOrder[3]);
+VEMI_API VemiStatus vemiSwapChannels_32s_AC4R(const Vemi32s* pSrc, int srcStep, Vemi32s* pDst, int dstStep,
+                                              VemiSize roiSize, const int dstOrder[3]);
+VEMI_API VemiStatus vemiSwapChannels_32f_C3R(const Vemi32f* pSrc, int srcStep, Vemi32f* pDst, int dstStep,
+                                             VemiSize roiSize, const int dstOrder[3]);
+VEMI_API VemiStatus vemiSwapChannels_32f_AC4R(const Vemi32f* pSrc, int srcStep, Vemi32f* pDst, int dstStep,
+                                              VemiSize roiSize, const int dstOrder[3]);
+
+/** @} */
 
 /* ---- Packed 16-bit pixels ---- */
 

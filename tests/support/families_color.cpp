@@ -1,5 +1,8 @@
 #include "support/families.h"
 
+#include <limits.h>
+
+#include <algorithm>
 #include <cmath>
 
 namespace vemi::test {
@@ -71,6 +74,93 @@ void withPixelBesideHalf(Call& call) {
 
 // ---- Video layouts ----
 
+/// Pixels that share chroma in a format of three digits.
+VemiSize sampling(const std::string& digits) { return {digits == "411" ? 4 : 2, digits == "420" ? 2 : 1}; }
+
+/// The formats of source and destination, and of how many columns and rows a region is a multiple.
+struct VideoFormats {
+  VemiSize source, destination, unit;
+};
+
+VideoFormats videoFormatsOf(const Export& function) {
+  const std::string& name = function.operation;
+  const VemiSize from = sampling(name.substr(name.find('4'), 3)), to = sampling(name.substr(name.rfind('4'), 3));
+  VemiSize unit = {std::max(from.width, to.width), std::max(from.height, to.height)};
+  const bool hasPairsOfRows = matches(function.name, "vemi(YUToYV|UYToYV|UYToYU|YUToYU)422_8u_C2P.R");
+  if (hasPairsOfRows) unit.height = 2;
+  if (matches(name, ".*422Filter")) unit.height = 8;
+  return {from, to, unit};
+}
+
+/// Regions of any size, images of just what is worked on.
+void asVideo(Call& call) {
+  const auto [from, to, unit] = videoFormatsOf(call.function);
+  VemiSize size = call.scenario.roiSize;
+  size.width = std::max(size.width, unit.width);
+  if (size.height < unit.height) size.height = unit.height + (unit.height - 1) * (size.height - 1);
+  call.set("roiSize", size);
+  size = {size.width / unit.width * unit.width, size.height / unit.height * unit.height};
+  for (Image& image : call.images) {
+    if (image.role != Role::image) continue;
+    const VemiSize shared = image.written ? to : from,
+                   chroma = {size.width / shared.width, size.height / shared.height};
+    const std::string& name = call.function.parameters[static_cast<size_t>(image.parameter)].name;
+    image.size = name.find("CbCr") != std::string::npos ? VemiSize{2 * chroma.width, chroma.height} : size;
+    if (image.layout.planar) image.planeSizes = {size, chroma, chroma};
+  }
+}
+
+/// All bands of a frame, whole frames and nothing. Around bands other than the first lie the rows of their neighbours.
+void withLayer(Call& call) {
+  asVideo(call);
+  const int layers[] = {1, 4, 16, 21, -1, 5, 0};
+  const int layer = layers[call.random.below(7)];
+  call.set("layer", layer);
+  if (layer != 4 && layer != 16) return;
+  for (Image& image : call.images) {
+    if (image.role != Role::image) continue;
+    const std::string& name = call.function.parameters[static_cast<size_t>(image.parameter)].name;
+    image.margin.top = name == "pSrcY" ? 3 : name == "pSrcCbCr" ? 1 : 2;
+  }
+}
+
+bool tooNarrow(Call& call) {
+  call.setNumber("roiSize", videoFormatsOf(call.function).unit.width - 1, 0);
+  return true;
+}
+
+bool tooLow(Call& call) {
+  const int least = videoFormatsOf(call.function).unit.height;
+  call.setNumber("roiSize", least - 1, 1);
+  return least > 1;
+}
+
+/// A step a byte shorter than its row, if it is not bad already: those of all planes, or the packed one.
+bool shorten(Call& call, bool isPacked, int plane) {
+  const int width = call.get<VemiSize>("roiSize").width / 2 * 2;
+  const int row = isPacked ? 2 * width : plane == 0 ? width : width / 2;
+  const std::string step = call.function.source.planar == isPacked ? "dstStep" : "srcStep";
+  const int former = isPacked ? call.get<int>(step) : load<int>(call.image(step).planes[0].first + plane * 4);
+  call.setNumber(step, std::min(former, std::max(row - 1, 1)), plane);
+  return true;
+}
+
+template <int plane>
+bool shortPlaneStep(Call& call) {
+  return shorten(call, false, plane);
+}
+
+bool shortPackedStep(Call& call) { return shorten(call, true, 0); }
+
+const std::vector<OwnFault> belowLeast = {{"width below its least", 0, "least", vemiErrSize, tooNarrow},
+                                          {"height below its least", 0, "least", vemiErrSize, tooLow}};
+
+// ---- Orders of channels ----
+
+void withOrder(Call& call) {
+  call.setArray<int>("dstOrder", {call.random.below(3), call.random.below(3), call.random.below(3)});
+}
+
 // ---- Packed 16-bit pixels ----
 
 }  // namespace
@@ -86,8 +176,34 @@ std::vector<Family> colorFamilies() {
       {"vemiColorTwist vemiColorTwist32f", ".*", "null size step", withTwist, {}, withPixelBesideHalf},
 
       // Video layouts
+      {"vemiJoin422 vemiSplit422",
+       ".*",
+       "null step size least own",
+       asVideo,
+       {{"width below its least", 0, "least", vemiErrSize, tooNarrow},
+        {"short luma step", 0, "own", vemiErrStride, shortPlaneStep<0>},
+        {"short Cb step", 0, "own", vemiErrStride, shortPlaneStep<1>},
+        {"short Cr step", 0, "own", vemiErrStride, shortPlaneStep<2>},
+        {"short packed step", 0, "own", vemiErrStride, shortPackedStep}}},
+      {"vemiSplit420", ".*", "null size planes least", asVideo, belowLeast},
+      {"vemiJoin420_Filter vemiSplit420_Filter", ".*", "null size least", withLayer, belowLeast},
+      {"vemiYCbCr422ToYCbCr420 vemiYCrCb422ToYCbCr420 vemiCbYCr422ToYCbCr420 vemiYCbCr420ToYCbCr422 "
+       "vemiYCrCb420ToYCbCr422 vemiYCbCr420ToYCbCr422Filter vemiYCrCb420ToYCbCr422Filter vemiYCbCr422ToYCbCr422 "
+       "vemiYCrCb422ToYCbCr422 vemiCbYCr422ToYCbCr422 vemiYCbCr422ToYCrCb422 vemiYCbCr422ToYCbCr411 "
+       "vemiCbYCr422ToYCbCr411 vemiYCrCb422ToYCbCr411 vemiYCbCr411ToYCbCr422 vemiYCbCr411ToYCrCb422 "
+       "vemiYCbCr411ToYCbCr411 vemiYCbCr420ToYCbCr411 vemiYCrCb420ToYCbCr411 vemiYCbCr411ToYCbCr420 "
+       "vemiYCbCr411ToYCrCb420 vemiYCbCr420ToYCbCr420 vemiJoin420 vemiYUToUY420 vemiYVToYU420 vemiYVToUY420 "
+       "vemiYUToUY422 vemiUYToYU422 vemiYUToYV422 vemiUYToYV422 vemiYUToYU422",
+       ".*", "null size least", asVideo, belowLeast},
 
       // Orders of channels
+      {"vemiSwapChannels",
+       ".*",
+       "null size step own",
+       withOrder,
+       {{"dstOrder", 3, "own", vemiErrChannelOrder},
+        {"dstOrder", -1, "own", vemiErrChannelOrder},
+        {"dstOrder", INT_MIN, "own", vemiErrChannelOrder}}},
 
       // Packed 16-bit pixels
 
