@@ -2,7 +2,7 @@
 // two others, and the members that take the flicker of two fields out of a 4:2:0 frame, luma by (1, 2, 1) / 4.
 // Checks: null, size; no steps.
 
-#include "color/exports.h"
+#include "color/video_exports.h"
 #include "color/video_frames.h"
 #include "core/lane_width.h"
 #include "core/rows.h"
@@ -51,8 +51,9 @@ auto fourRows(ptrdiff_t k, ptrdiff_t rows, const Row& row) {
 }
 
 template <Chroma first>
-void interpolateChroma(SteppedPlanes<const Vemi8u, 3> from, const Planar<2, 1>::Frame<Vemi8u>& dst, VemiSize size) {
-  const typename Planar<2, 2, first>::template Frame<const Vemi8u> src = {from};
+void interpolateChroma(SteppedPlanes<const Vemi8u, 3> from, const PlanarVideo<2, 1>::Frame<Vemi8u>& dst,
+                       VemiSize size) {
+  const typename PlanarVideo<2, 2, first>::template Frame<const Vemi8u> src = {from};
   const auto interpolate = [&](Image<const Vemi8u> plane, Image<Vemi8u> to) {
     const ptrdiff_t width = size.width / 2, rows = size.height / 2;
     for (ptrdiff_t k = 0; k < rows; ++k) {
@@ -66,7 +67,7 @@ void interpolateChroma(SteppedPlanes<const Vemi8u, 3> from, const Planar<2, 1>::
 }
 
 template <Chroma>
-void interpolateChroma(LumaAndPairs<const Vemi8u> from, const Planar<2, 1>::Frame<Vemi8u>& dst, VemiSize size) {
+void interpolateChroma(LumaAndPairs<const Vemi8u> from, const PlanarVideo<2, 1>::Frame<Vemi8u>& dst, VemiSize size) {
   const ptrdiff_t rows = size.height / 2;
   for (ptrdiff_t k = 0; k < rows; ++k) {
     movePixels(size.width / 2, dst.chroma(2 * k), pixelRow<C2>(from.pairs.row(k)));
@@ -84,8 +85,8 @@ VemiStatus interpolate(From from, SteppedPlanes<Vemi8u, 3> to, VemiSize roiSize)
   constexpr VemiSize least = {2, 8};
   if (const VemiStatus bad = firstOf(checkNull(from, to), checkLeast(roiSize, least))) return bad;
   const VemiSize size = wholeMultiples(roiSize, least);
-  const Planar<2, 1>::Frame<Vemi8u> dst = {to};
-  copyPlane<1, 1>(lumaOf(from), dst.luma(), size, bytesOf<Planar<2, 2>>(size) + bytesOf<Planar<2, 1>>(size));
+  const PlanarVideo<2, 1>::Frame<Vemi8u> dst = {to};
+  copyPlane<1, 1>(lumaOf(from), dst.luma(), size, bytesOf<PlanarVideo<2, 2>>(size) + bytesOf<PlanarVideo<2, 1>>(size));
   interpolateChroma<first>(from, dst, size);
   return vemiOk;
 }

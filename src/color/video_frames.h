@@ -40,7 +40,7 @@ bool isNull(LumaAndPairs<T> planes) {
 // Two samples of each chroma stand as Cb, Cb, Cr, Cr in planes and as Cb, Cr, Cb, Cr in pairs.
 
 template <int pixelsAcross, int pixelsDown, Chroma first = Chroma::cbFirst>
-struct Planar {
+struct PlanarVideo {
   static constexpr int across = pixelsAcross, down = pixelsDown;
   static constexpr bool isPlanar = true, isPacked = false, crFirst = false;  // the frame tells Cb from Cr
 
@@ -64,7 +64,7 @@ struct Planar {
 };
 
 template <int pixelsAcross, int pixelsDown>
-struct Pairs {
+struct PairVideo {
   static constexpr int across = pixelsAcross, down = pixelsDown;
   static constexpr bool isPlanar = false, isPacked = false, lumaFirst = true, crFirst = false;
 
@@ -85,7 +85,7 @@ struct Pairs {
 };
 
 template <Packed422 byteOrder, Chroma first = Chroma::cbFirst>
-struct Packed {
+struct PackedVideo {
   static constexpr int across = 2, down = 1;
   static constexpr bool isPlanar = false, isPacked = true;
   static constexpr bool lumaFirst = byteOrder == Packed422::lumaFirst, crFirst = first == Chroma::crFirst;

@@ -3,7 +3,7 @@
 // Checks: null, size; no steps. vemiJoin422, vemiSplit422: null, step, size, stride. vemiSplit420: null but for the
 // planes of the array, a size below 1, these planes, size.
 
-#include "color/exports.h"
+#include "color/video_exports.h"
 #include "color/video_frames.h"
 #include "core/map_region.h"
 #include "vemi/color.h"
@@ -200,7 +200,7 @@ VemiStatus relayPairsOfRows(From from, To to, VemiSize roiSize) {
 
 VemiStatus split420(LumaAndPairs<const Vemi8u> from, SteppedPlanes<Vemi8u, 3> to, VemiSize roiSize) {
   if (const VemiStatus bad = firstOf(checkNull(from), checkNullArray(to), checkSize(roiSize))) return bad;
-  return relay<Pairs<2, 2>, Planar<2, 2>>(from, to, roiSize);
+  return relay<PairVideo<2, 2>, PlanarVideo<2, 2>>(from, to, roiSize);
 }
 
 VemiStatus checkStrides(SteppedPlanes<const Vemi8u, 3> planes, int packedStep, VemiSize size) {
@@ -227,17 +227,17 @@ VemiStatus relayWithSteps(From from, To to, VemiSize roiSize) {
   return vemiOk;
 }
 
-using Planes422 = Planar<2, 1>;
-using Planes420 = Planar<2, 2>;
-using Planes411 = Planar<4, 1>;
-using Planes422CrFirst = Planar<2, 1, Chroma::crFirst>;
-using Planes420CrFirst = Planar<2, 2, Chroma::crFirst>;
-using Pairs422 = Pairs<2, 1>;
-using Pairs420 = Pairs<2, 2>;
-using Pairs411 = Pairs<4, 1>;
-using YCbYCr = Packed<Packed422::lumaFirst>;
-using YCrYCb = Packed<Packed422::lumaFirst, Chroma::crFirst>;
-using CbYCrY = Packed<Packed422::chromaFirst>;
+using Planes422 = PlanarVideo<2, 1>;
+using Planes420 = PlanarVideo<2, 2>;
+using Planes411 = PlanarVideo<4, 1>;
+using Planes422CrFirst = PlanarVideo<2, 1, Chroma::crFirst>;
+using Planes420CrFirst = PlanarVideo<2, 2, Chroma::crFirst>;
+using Pairs422 = PairVideo<2, 1>;
+using Pairs420 = PairVideo<2, 2>;
+using Pairs411 = PairVideo<4, 1>;
+using YCbYCr = PackedVideo<Packed422::lumaFirst>;
+using YCrYCb = PackedVideo<Packed422::lumaFirst, Chroma::crFirst>;
+using CbYCrY = PackedVideo<Packed422::chromaFirst>;
 
 }  // namespace
 }  // namespace vemi::color
