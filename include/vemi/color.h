@@ -19,7 +19,183 @@ extern "C" {
  * @{
  */
 
-/* ---- Luma and chroma ---- */
+/* ---- Luma and chroma --------------------------------------------------------------------------------------------- */
+
+/**
+ * @page vemi_luma_chroma Luma and chroma
+ *
+ * A pixel is brightness, luma Y, and two differences of colour, chroma, which are 128 where there is none. Two models:
+ *
+ *     YUV     Y = 0.299 R + 0.587 G + 0.114 B,  U = 0.492 (B - Y) + 128,  V = 0.877 (R - Y) + 128
+ *     YCbCr   of ITU-R BT.601: Y from 16 (black) to 235, Cb and Cr from 16 to 240
+ *
+ * The eye sees chroma less sharply than luma, so pixels may share it:
+ *
+ *     in the name   chroma samples            of a picture of w by h pixels, rounded up
+ *     (none)        one for each pixel        w     by h
+ *     422           one for two in a row      w / 2 by h
+ *     420           one for two by two        w / 2 by h / 2
+ *     411           one for four in a row     w / 4 by h
+ *
+ * and stand in memory as
+ *
+ *     C3, AC4       one image, three bytes a pixel, or four, the last of which is not looked at and stays
+ *     P3            three planes, by an array of three pointers; where pixels share chroma, with an array of three
+ * steps C2            one image, four bytes for two pixels: Y0 U Y1 V in YUV422 and YCbCr422, Cb Y0 Cr Y1 in CbYCr422
+ *
+ * No width or height needs to be even. A last column or row without a partner has chroma of its own; of the last pixel
+ * of an odd row of C2 there are two bytes, Y and the first chroma (Y U, or Cb Y), and when it is read, it takes the
+ * second chroma of the pair before it, or, in a row of one pixel, the first for both.
+ *
+ * Integers alone are computed with. x >> n is x / 2^n rounded down, mulhi(a, b) is (a b) >> 16, and every result is
+ * limited to 0..255. Columns are counted from the region's left edge; the whole groups of eight of a row are often
+ * worked by another rounding than the columns that are left over, so that the same colour may differ there by one.
+ *
+ * Members without R at the end have neither steps nor a region but a width and a height: rows follow each other without
+ * a gap, of 3 * width bytes (which must not exceed 2^31 - 1), of width in planes, of (width + 1) / 2 where two pixels
+ * share chroma. Of these, those of 422 with an even width count columns through the whole picture, as if it were one
+ * row.
+ */
+
+/**
+ * @defgroup vemi_yuv_to_rgb vemiYUVToRGB, vemiYUV422ToRGB, vemiYUV420ToRGB, vemiYUV420ToBGR
+ *
+ * From YUV to red, green and blue. See @ref vemi_luma_chroma for layouts and words. With u = 8 (U - 128), v = 8 (V -
+ * 128):
+ *
+ *     R = Y + mulhi(v, 9339)                                    R = Y + 1.140 (V - 128)
+ *     G = Y + mulhi(u, -3228) + mulhi(v, -4760)                 G = Y - 0.394 (U - 128) - 0.581 (V - 128)
+ *     B = Y + mulhi(u, 16646)                                   B = Y + 2.032 (U - 128)
+ *
+ * **Four off.** In the fourth and the eighth pixel of each whole group of eight columns, R gains mulhi(u, 4), which is
+ * -1 where U < 128, and G has -3232 in the place of -3228. So in vemiYUVToRGB but AC4R, and in 420 but P3AC4R.
+ *
+ * **Exact.** Some pixels are computed in one piece, with c = U - 128, d = V - 128:
+ *
+ *     R = (65536 Y + 74711 d) >> 16
+ *     G = (65536 Y - 25821 c - 38076 d) >> 16
+ *     B = (65536 Y + 133169 c) >> 16
+ *
+ * In 422 these are the columns beyond the whole groups of eight; in 420 the last column of an odd width and the last
+ * row of an odd height.
+ *
+ * **P3AC4R** has 9338, -3227 and -4759 in the place of 9339, -3228 and -4760, and writes 0 to the fourth channel.
+ *
+ * @param pSrc,srcStep     YUV: first pixel and bytes between rows; of P3, arrays of three pointers and, where pixels
+ *                         share chroma, of three steps, in the order Y, U, V
+ * @param pDst,dstStep     RGB, or BGR; of P3R, an array of three pointers and the step of all three
+ * @param roiSize          size of the region in pixels
+ * @param width,height     (without R) the same
+ *
+ * **Overlap.** vemiYUVToRGB of one layout on both sides may run in place (pDst equal to pSrc); else none.
+ *
+ * **Statuses**, in the order of the tests: vemiErrNullPtr (pSrc, pDst, an array of steps), vemiErrSize, vemiErrNullPtr
+ * (a plane), vemiErrStep.
+ *
+ * **Threads.** All members run in the calling thread.
+ *
+ *     const Vemi8u* const planes[3] = {y, u, v};
+ *     const int steps[3] = {yStep, uStep, vStep};
+ *     vemiYUV420ToRGB_8u_P3C3R(planes, steps, photo, photoStep, size);
+ * @{
+ */
+
+VEMI_API VemiStatus vemiYUVToRGB_8u_C3R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiYUVToRGB_8u_AC4R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiYUVToRGB_8u_P3R(const Vemi8u* const pSrc[3], int srcStep, Vemi8u* const pDst[3], int dstStep,
+                                        VemiSize roiSize);
+VEMI_API VemiStatus vemiYUVToRGB_8u_P3C3R(const Vemi8u* const pSrc[3], int srcStep, Vemi8u* pDst, int dstStep,
+                                          VemiSize roiSize);
+
+VEMI_API VemiStatus vemiYUV422ToRGB_8u_C2C3R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep,
+                                             VemiSize roiSize);
+VEMI_API VemiStatus vemiYUV422ToRGB_8u_P3C3R(const Vemi8u* const pSrc[3], const int srcStep[3], Vemi8u* pDst,
+                                             int dstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiYUV422ToRGB_8u_P3AC4R(const Vemi8u* const pSrc[3], const int srcStep[3], Vemi8u* pDst,
+                                              int dstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiYUV422ToRGB_8u_P3R(const Vemi8u* const pSrc[3], const int srcStep[3], Vemi8u* const pDst[3],
+                                           int dstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiYUV422ToRGB_8u_P3C3(const Vemi8u* const pSrc[3], Vemi8u* pDst, int width, int height);
+VEMI_API VemiStatus vemiYUV422ToRGB_8u_P3(const Vemi8u* const pSrc[3], Vemi8u* const pDst[3], int width, int height);
+
+VEMI_API VemiStatus vemiYUV420ToRGB_8u_P3C3R(const Vemi8u* const pSrc[3], const int srcStep[3], Vemi8u* pDst,
+                                             int dstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiYUV420ToRGB_8u_P3AC4R(const Vemi8u* const pSrc[3], const int srcStep[3], Vemi8u* pDst,
+                                              int dstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiYUV420ToRGB_8u_P3R(const Vemi8u* const pSrc[3], const int srcStep[3], Vemi8u* const pDst[3],
+                                           int dstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiYUV420ToRGB_8u_P3C3(const Vemi8u* const pSrc[3], Vemi8u* pDst, int width, int height);
+VEMI_API VemiStatus vemiYUV420ToRGB_8u_P3(const Vemi8u* const pSrc[3], Vemi8u* const pDst[3], int width, int height);
+
+VEMI_API VemiStatus vemiYUV420ToBGR_8u_P3C3R(const Vemi8u* const pSrc[3], const int srcStep[3], Vemi8u* pDst,
+                                             int dstStep, VemiSize roiSize);
+
+/** @} */
+
+/**
+ * @defgroup vemi_ycbcr_to_rgb vemiYCbCrToRGB, vemiYCbCr422ToRGB, vemiYCbCr420ToRGB, vemiYCbCr420ToBGR
+ *
+ * From YCbCr to red, green and blue. See @ref vemi_luma_chroma for layouts and words. With y = 76284 (Y - 16),
+ * c = Cb - 128, d = Cr - 128:
+ *
+ *     R = (y + 104595 d) >> 16                                  R = 1.164 (Y - 16) + 1.596 d
+ *     G = (y - 25690 c - 53281 d) >> 16                         G = 1.164 (Y - 16) - 0.392 c - 0.813 d
+ *     B = (y + 132186 c) >> 16                                  B = 1.164 (Y - 16) + 2.017 c
+ *
+ * **Groups of eight.** Where pixels share chroma, whole groups of eight columns are computed from products of 16 bits,
+ * with y = mulhi(128 (Y - 16), 9535), cb = 128 (Cb - 128), cr = 128 (Cr - 128):
+ *
+ *     R = (y + mulhi(cr, 13074) + 8) >> 4
+ *     G = (y - mulhi(cb, 3211) - mulhi(cr, 6660) + 8) >> 4
+ *     B = (y + mulhi(cb, 16523) + 8) >> 4
+ *
+ * but not in the last row of an odd height of 420.
+ *
+ * **vemiYCbCr422ToRGB_8u_C2C3R of width 1** has offsets of its own. With the one chroma byte C:
+ *
+ *     R = (76284 Y + 104595 C - 14608761) >> 16
+ *     G = (76284 Y - 78971 C + 8887730) >> 16
+ *     B = (76284 Y + 132186 C - 18140365) >> 16
+ *
+ * @param pSrc,srcStep     YCbCr: first pixel and bytes between rows; of P3, arrays of three pointers and, where pixels
+ *                         share chroma, of three steps, in the order Y, Cb, Cr
+ * @param pDst,dstStep     RGB, or BGR; of P3R, an array of three pointers and the step of all three
+ * @param roiSize          size of the region in pixels
+ *
+ * **Overlap.** vemiYCbCrToRGB of one layout on both sides may run in place (pDst equal to pSrc); else none.
+ *
+ * **Statuses**, in the order of the tests: vemiErrNullPtr (pSrc, pDst, an array of steps), vemiErrSize, vemiErrNullPtr
+ * (a plane), vemiErrStep.
+ *
+ * **Threads.** vemiYCbCr420ToRGB and vemiYCbCr420ToBGR share the pairs of rows among a team; all others run in the
+ * calling thread.
+ *
+ *     vemiYCbCr422ToRGB_8u_C2C3R(frame, frameStep, photo, photoStep, size);
+ * @{
+ */
+
+VEMI_API VemiStatus vemiYCbCrToRGB_8u_C3R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiYCbCrToRGB_8u_AC4R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep,
+                                           VemiSize roiSize);
+VEMI_API VemiStatus vemiYCbCrToRGB_8u_P3R(const Vemi8u* const pSrc[3], int srcStep, Vemi8u* const pDst[3], int dstStep,
+                                          VemiSize roiSize);
+VEMI_API VemiStatus vemiYCbCrToRGB_8u_P3C3R(const Vemi8u* const pSrc[3], int srcStep, Vemi8u* pDst, int dstStep,
+                                            VemiSize roiSize);
+
+VEMI_API VemiStatus vemiYCbCr422ToRGB_8u_C2C3R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep,
+                                               VemiSize roiSize);
+VEMI_API VemiStatus vemiYCbCr422ToRGB_8u_C2P3R(const Vemi8u* pSrc, int srcStep, Vemi8u* const pDst[3], int dstStep,
+                                               VemiSize roiSize);
+VEMI_API VemiStatus vemiYCbCr422ToRGB_8u_P3C3R(const Vemi8u* const pSrc[3], const int srcStep[3], Vemi8u* pDst,
+                                               int dstStep, VemiSize roiSize);
+
+VEMI_API VemiStatus vemiYCbCr420ToRGB_8u_P3C3R(const Vemi8u* const pSrc[3], const int srcStep[3], Vemi8u* pDst,
+                                               int dstStep, VemiSize roiSize);
+
+VEMI_API VemiStatus vemiYCbCr420ToBGR_8u_P3C3R(const Vemi8u* const pSrc[3], const int srcStep[3], Vemi8u* pDst,
+                                               int dstStep, VemiSize roiSize);
+
+/** @} */
 
 /* ---- Perceptual and device spaces ---- */
 

@@ -10,6 +10,50 @@ namespace {
 
 // ---- Luma and chroma ----
 
+/// Of planes with a step each, the second and the third are smaller.
+void sharePlanes(Call& call, int x, int y) {
+  const VemiSize size = call.scenario.roiSize, shared = {(size.width + x - 1) / x, (size.height + y - 1) / y};
+  const bool isSource = call.function.operation.rfind("vemiRGB", 0) != 0;
+  if (!(isSource ? call.function.source : call.function.destination).planar) return;
+  const std::string image = isSource ? "pSrc" : "pDst";
+  if (call.function.indexOf("roiSize") >= 0) {
+    call.image(image).planeSizes = {size, shared, shared};
+  } else {
+    const int chroma = shared.width * shared.height;
+    call.setLengths(image, {size.width * size.height, chroma, chroma});
+  }
+}
+
+/// Rows without a gap, and the size as two numbers.
+void withoutSteps(Call& call) {
+  const VemiSize size = call.scenario.roiSize;
+  if (call.function.indexOf("width") < 0) return;
+  const int pixels = size.width * size.height;
+  const bool toRgb = call.function.operation.rfind("vemiRGB", 0) != 0;
+  const bool planar = (toRgb ? call.function.destination : call.function.source).planar;
+  call.setLengths(toRgb ? "pDst" : "pSrc", planar ? std::vector{pixels, pixels, pixels} : std::vector{3 * pixels});
+  call.set("width", size.width);
+  call.set("height", size.height);
+}
+
+/// A fourth channel is written.
+void withFourth(Call& call) {
+  if (call.function.destination.elements == 4) call.image("pDst").layout = {4, 4, false};
+}
+
+/// Of forms whose size is two numbers.
+const std::vector<OwnFault> noSize = {{"width", 0, "size", vemiErrSize},
+                                      {"width", -1, "size", vemiErrSize},
+                                      {"height", 0, "size", vemiErrSize},
+                                      {"height", -2147483648.0, "size", vemiErrSize}};
+
+template <int x, int y>
+void shared(Call& call) {
+  sharePlanes(call, x, y);
+  withoutSteps(call);
+  withFourth(call);
+}
+
 // ---- Perceptual and device spaces ----
 
 /// Pixels with channels that are equal, all of them or two, of black and white, and of floats that are colours.
@@ -168,6 +212,12 @@ void withOrder(Call& call) {
 std::vector<Family> colorFamilies() {
   return {
       // Luma and chroma
+      {"vemiYUVToRGB vemiYCbCrToRGB", ".*", "null size planes step"},
+      {"vemiYUV422ToRGB vemiYCbCr422ToRGB", ".*R", "null size planes step", shared<2, 1>},
+      {"vemiYUV422ToRGB", ".*", "null size planes", shared<2, 1>, noSize},
+      {"vemiYUV420ToRGB vemiYUV420ToBGR vemiYCbCr420ToRGB vemiYCbCr420ToBGR", ".*R", "null size planes step",
+       shared<2, 2>},
+      {"vemiYUV420ToRGB", ".*", "null size planes", shared<2, 2>, noSize},
 
       // Perceptual and device spaces
       {"vemiRGBToHSV vemiHSVToRGB", ".*", "null size step", nullptr, {}, fewColours},

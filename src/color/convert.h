@@ -1,0 +1,52 @@
+// Whole calls of conversions that give each pixel from its own channels, and the checks of all colour conversions: null
+// pointers and arrays, size, null planes, step.
+#pragma once
+
+#include "core/checks.h"
+#include "core/pixel_region.h"
+
+namespace vemi::color {
+
+/// Without what an array of planes holds, which counts behind the size.
+template <class Pointer>
+bool isNullItself(Pointer pointer) {
+  if constexpr (requires { isNullArray(pointer); }) {
+    return isNullArray(pointer);
+  } else {
+    return isNull(pointer);
+  }
+}
+
+/// All but the steps, which some members do not look at.
+template <class Src, class Dst>
+VemiStatus checkImages(Src src, Dst dst, VemiSize roiSize) {
+  const VemiStatus null = isNullItself(src) || isNullItself(dst) ? vemiErrNullPtr : vemiOk;
+  return firstOf(null, checkSize(roiSize), checkNull(src, dst));
+}
+
+template <class Src, class Dst>
+VemiStatus checkConversion(Src src, Dst dst, VemiSize roiSize) {
+  return firstOf(checkImages(src, dst, roiSize), checkStep(src, dst));
+}
+
+/// In the place of a layout: planes, whose number their type says.
+struct Planar;
+
+template <class L, class Images>
+auto pixelsIn(Images images) {
+  if constexpr (std::is_same_v<L, Planar>) {
+    return pixelsOf(images);
+  } else {
+    return pixelsOf<L>(images);
+  }
+}
+
+/// dst = Op()(channels of src), in the calling thread.
+template <class SL, class DL, class Op, class Src, class Dst>
+VemiStatus convert(Src src, Dst dst, VemiSize roiSize) {
+  if (const VemiStatus bad = checkConversion(src, dst, roiSize)) return bad;
+  mapPixelRegion(CallerRows(), roiSize, Op(), pixelsIn<DL>(dst), pixelsIn<SL>(src));
+  return vemiOk;
+}
+
+}  // namespace vemi::color

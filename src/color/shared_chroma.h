@@ -1,0 +1,60 @@
+// Bytes of pixels in 16-bit lanes, apart by even and odd pixels: so the lanes of chroma that two pixels share are those
+// of either.
+#pragma once
+
+#include "core/lane_width.h"
+#include "core/lanes.h"
+
+namespace vemi::color {
+
+template <class D>
+using Words = hn::RebindToSigned<hn::RepartitionToWide<D>>;
+
+/// The bytes of a channel at the pixels of `d`: their own, or those that groups of two or of four pixels share.
+template <class D, class V>
+HWY_INLINE Widened<hn::Vec<Words<D>>> wordsOfPixels(D d, V channel) {
+  constexpr size_t shared = hn::MaxLanes(d) / hn::MaxLanes(hn::DFromV<V>());
+  static_assert(shared == 1 || shared == 2 || shared == 4);
+  const Words<D> dWords;
+  if constexpr (shared == 1) {
+    const auto words = evenAndOdd(channel);
+    return {hn::BitCast(dWords, words.lower), hn::BitCast(dWords, words.upper)};
+  } else if constexpr (shared == 2) {
+    const auto words = hn::PromoteTo(dWords, channel);
+    return {words, words};
+  } else {
+    const hn::Repartition<uint32_t, D> dGroups;
+    const auto groups = hn::PromoteTo(dGroups, channel);
+    const auto words = hn::BitCast(dWords, hn::Or(groups, hn::ShiftLeft<16>(groups)));
+    return {words, words};
+  }
+}
+
+namespace detail {
+
+alignas(16) inline constexpr uint8_t evenBesideOdd[16] = {0, 8, 1, 9, 2, 10, 3, 11, 4, 12, 5, 13, 6, 14, 7, 15};
+
+}  // namespace detail
+
+/// The inverse, limited to bytes.
+template <class D, class V>
+HWY_INLINE hn::Vec<D> bytesOfPixels(D d, V even, V odd) {
+  static_assert(hn::MaxLanes(d) >= 16, "whole vectors alone");
+  return hn::TableLookupBytes(packHalves(d, even, odd), hn::LoadDup128(d, detail::evenBesideOdd));
+}
+
+/// f(16-bit tag, words of even pixels...), the same of odd ones, each of which gives one vector for each of `results`
+/// channels; bytes of all pixels.
+template <class D, int results>
+struct PixelWords {
+  Vectors<hn::Vec<Words<D>>, results> even, odd;
+
+  HWY_INLINE auto bytes(D d) const {
+    return [&]<size_t... c>(std::index_sequence<c...>) HWY_ATTR {
+      return std::tuple(bytesOfPixels(d, even.v[c], odd.v[c])...);
+    }
+    (std::make_index_sequence<results>());
+  }
+};
+
+}  // namespace vemi::color

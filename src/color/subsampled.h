@@ -1,0 +1,169 @@
+// Regions whose chroma is shared by pixels, to a destination of whole pixels: 4:2:2, 4:2:0 and 4:1:1.
+//
+// The columns of a row have up to three arithmetics: whole groups of eight, the whole groups that share chroma behind
+// them, and single pixels at the row's end.
+#pragma once
+
+#include "color/convert.h"
+#include "color/to_rgb.h"
+#include "core/image.h"
+#include "core/map_region.h"
+#include "core/pixel_region.h"
+#include "core/regimes.h"
+
+namespace vemi::color {
+
+// A source row gives
+//   groups()   its pixels as core/pixels.h has them, up to the last whole group that shares chroma;
+//   pixel(x)   a single pixel with its chroma, at full rate.
+
+/// Luma and chroma in planes; `shared` pixels have one sample of chroma.
+template <int shared>
+struct PlanarChroma {
+  static constexpr int sharing = shared;
+  const uint8_t *y, *u, *v;
+
+  auto groups() const { return rowsBeside(planeRow(y), planeRow<shared>(u, v)); }
+  auto pixel(ptrdiff_t x) const { return planeRow(y + x, u + x / shared, v + x / shared); }
+};
+
+/// Pairs of pixels in one plane. Of the last pixel of an odd row there are two bytes, luma and the first chroma; it
+/// takes the other one from the pair before it, and where there is none, the first for both.
+template <Packed422 order>
+struct PackedChroma {
+  static constexpr int sharing = 2;
+  const uint8_t* first;
+
+  auto groups() const { return packedRow<order>(first); }
+  auto pixel(ptrdiff_t x) const {
+    const int luma = order == Packed422::lumaFirst ? 0 : 1;
+    const uint8_t* const y = first + 2 * x + luma;
+    const uint8_t* const u = first + 2 * x + 1 - luma;
+    return planeRow(y, u, x == 0 ? u : u - 2);
+  }
+};
+
+template <int shared>
+PlanarChroma<shared> chromaRow(SteppedPlanes<const uint8_t, 3> planes, ptrdiff_t y, ptrdiff_t chroma) {
+  return {planes[0].row(y), planes[1].row(chroma), planes[2].row(chroma)};
+}
+
+/// The operations of a row's columns, each of them op(d, Y, U, V).
+template <class Groups, class Rest, class Single>
+struct ColumnOps {
+  Groups groups;
+  Rest rest;
+  Single single;
+};
+
+/// One row. Streamed, its groups of eight are written past the caches.
+template <Stores how, class Ops, class Dst, class Src>
+void expandRow(ptrdiff_t width, const Ops& ops, Dst dst, Src src) {
+  const auto groups = [&](ptrdiff_t x, ptrdiff_t n) {
+    if constexpr (how == Stores::streamed) {
+      streamPixels<8>(n, ops.groups, dst.from(x), src.groups().from(x));
+    } else {
+      mapPixels(n, ops.groups, dst.from(x), src.groups().from(x));
+    }
+  };
+  const auto rest = [&](ptrdiff_t x, ptrdiff_t n) { mapPixels(n, ops.rest, dst.from(x), src.groups().from(x)); };
+  const auto singles = [&](ptrdiff_t x, ptrdiff_t n) {
+    for (ptrdiff_t i = x; i < x + n; ++i) mapPixels(1, ops.single, dst.from(i), src.pixel(i));
+  };
+  forRegimes<8, Src::sharing, 1>(width, groups, rest, singles);
+}
+
+/// Rows that have chroma of their own: srcRow(y) gives a source row.
+template <class Ops, class Dst, class SrcRow>
+void expandRows(Extent extent, const Ops& ops, Dst dst, const SrcRow& srcRow) {
+  const auto row = [&](ptrdiff_t y) { expandRow<Stores::cached>(extent.width, ops, dst.row(y), srcRow(y)); };
+  const auto streamed = [&](ptrdiff_t y) { expandRow<Stores::streamed>(extent.width, ops, dst.row(y), srcRow(y)); };
+  runPlainOrStreamed(CallerRows(), extent.height, trafficOf(extent, Dst::pixelSize + 2), row, streamed);
+}
+
+using ChromaPlanes = SteppedPlanes<const uint8_t, 3>;
+
+/// 4:2:2 and 4:1:1 in planes.
+template <int shared, class Ops, class Dst>
+void expandPlanes(Extent extent, const Ops& ops, Dst dst, ChromaPlanes src) {
+  expandRows(extent, ops, dst, [&](ptrdiff_t y) { return chromaRow<shared>(src, y, y); });
+}
+
+/// 4:2:2 in pairs of pixels.
+template <Packed422 order, class Ops, class Dst>
+void expandPacked(Extent extent, const Ops& ops, Dst dst, Image<const uint8_t> src) {
+  expandRows(extent, ops, dst, [&](ptrdiff_t y) { return PackedChroma<order>{src.row(y)}; });
+}
+
+/// 4:2:0: pairs of rows that share chroma, and an odd last row, whose pixels are all worked as single ones.
+template <class Rows, class Ops, class Dst>
+void expandRowPairs(const Rows& rows, Extent extent, const Ops& ops, Dst dst, ChromaPlanes src) {
+  const auto lastRow = [&](ptrdiff_t y, ptrdiff_t chroma) {
+    const ColumnOps singles = {ops.single, ops.single, ops.single};
+    expandRow<Stores::cached>(extent.width, singles, dst.row(y), chromaRow<2>(src, y, chroma));
+  };
+  const auto run = [&](auto how, const auto& finish) {
+    const auto pair = [&](ptrdiff_t y, ptrdiff_t chroma) {
+      expandRow<how>(extent.width, ops, dst.row(y), chromaRow<2>(src, y, chroma));
+      expandRow<how>(extent.width, ops, dst.row(y + 1), chromaRow<2>(src, y + 1, chroma));
+    };
+    forRowPairs(rows, extent.height, pair, lastRow, finish);
+  };
+  if (trafficOf(extent, Dst::pixelSize + 1) >= streamedTraffic) {
+    run(std::integral_constant<Stores, Stores::streamed>(), finishStreaming);
+  } else {
+    run(std::integral_constant<Stores, Stores::cached>(), NoFinish());
+  }
+}
+
+// ---- Whole calls ---------------------------------------------------------------------------------------------------
+
+template <const auto& ops, class DL, class Dst>
+VemiStatus from422(ChromaPlanes src, Dst dst, VemiSize roiSize) {
+  if (const VemiStatus bad = checkConversion(src, dst, roiSize)) return bad;
+  expandPlanes<2>(extentOf(roiSize), ops, pixelsIn<DL>(dst), src);
+  return vemiOk;
+}
+
+template <const auto& ops, Packed422 order, class DL, class Dst>
+VemiStatus fromPacked422(Image<const uint8_t> src, Dst dst, VemiSize roiSize) {
+  if (const VemiStatus bad = checkConversion(src, dst, roiSize)) return bad;
+  expandPacked<order>(extentOf(roiSize), ops, pixelsIn<DL>(dst), src);
+  return vemiOk;
+}
+
+template <const auto& ops, class Rows, class DL, class Dst>
+VemiStatus from420(ChromaPlanes src, Dst dst, VemiSize roiSize) {
+  if (const VemiStatus bad = checkConversion(src, dst, roiSize)) return bad;
+  expandRowPairs(Rows(), extentOf(roiSize), ops, pixelsIn<DL>(dst), src);
+  return vemiOk;
+}
+
+// ---- Rows without a gap --------------------------------------------------------------------------------------------
+
+/// The steps of forms that have none.
+struct ContiguousSteps {
+  int pixels, plane, chroma[3];  // of three channels, of a plane of all pixels, of luma and chroma
+
+  explicit ContiguousSteps(VemiSize size)
+      : pixels(static_cast<int>(3u * static_cast<unsigned>(size.width))),
+        plane(size.width),
+        chroma{size.width, half(size.width), half(size.width)} {}
+
+ private:
+  static int half(int width) { return width / 2 + width % 2; }
+};
+
+template <class T>
+Image<T> contiguousPixels(const ContiguousSteps& steps, T* first) {
+  return {first, steps.pixels};
+}
+template <class T>
+Planes<T, 3> contiguousPixels(const ContiguousSteps& steps, T* const* planes) {
+  return {planes, steps.plane};
+}
+
+/// Rows of 4:2:2 without a gap are one long row where no chroma is left over at their ends.
+inline Extent contiguousExtent(VemiSize size) { return mergedExtent(size, size.width % 2 == 0); }
+
+}  // namespace vemi::color
