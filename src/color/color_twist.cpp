@@ -1,6 +1,7 @@
 // vemiColorTwist, vemiColorTwist32f: a matrix of the user's on the channels of each pixel.
 // Checks: null, size, step. Everything runs in the calling thread.
 
+#include <algorithm>
 #include <cfenv>
 #include <cmath>
 #include <limits>
@@ -20,43 +21,45 @@ namespace {
 using Twist = const Vemi32f (*)[4];
 
 // ---- Integers: sums of doubles, by the caller's rounding ------------------------------------------------------------
-//
-// A product of a float and an element of at most 16 bits is exact as a double: MulAdd rounds as a product and a sum do.
 
-/// The elements in 32-bit lanes, element k of those that share one.
-template <int k, class D, class V>
-HWY_INLINE auto sharingLane(D, V v) {
-  using T = hn::TFromD<D>;
+/// The elements of a vector that share its lanes of 32 bits: element k of each, as an integer.
+template <int k, class T, class V>
+HWY_INLINE auto sharingLane(V v) {
   using Lane = std::conditional_t<std::is_signed_v<T>, int32_t, uint32_t>;
   constexpr int bits = 8 * sizeof(T), above = 32 - bits * (k + 1);
-  const hn::Repartition<Lane, D> dLanes;
-  const auto lanes = hn::ShiftRight<32 - bits>(hn::ShiftLeft<above>(hn::BitCast(dLanes, v)));
-  return hn::BitCast(hn::RebindToSigned<decltype(dLanes)>(), lanes);
+  const hn::Repartition<Lane, hn::DFromV<V>> d;
+  auto lanes = hn::BitCast(d, v);
+  if constexpr (above != 0) lanes = hn::ShiftLeft<above>(lanes);
+  return hn::BitCast(hn::RebindToSigned<decltype(d)>(), hn::ShiftRight<32 - bits>(lanes));
 }
 
-/// The vector that lane[k] are the elements k of: its inverse.
-template <class D, class V, int count>
-HWY_INLINE hn::Vec<D> joined(D d, const Vectors<V, count>& lane) {
-  const hn::DFromV<V> dLanes;
-  constexpr int bits = 8 * sizeof(hn::TFromD<D>);
-  const V element = hn::Set(dLanes, (1 << bits) - 1);
-  V all = hn::ShiftLeft<32 - bits>(lane.v[count - 1]);
-  unrolled<count - 1>([&](auto k)
-                          HWY_ATTR { all = hn::Or(all, hn::ShiftLeft<bits * k>(hn::And(lane.v[k], element))); });
-  return hn::BitCast(d, all);
+/// Elements k = 0 and 1, or 0 to 3, back at their places, saturated.
+template <class D, class V>
+HWY_INLINE hn::Vec<D> joined(D d, V v0, V v1) {
+  alignas(16) static constexpr uint8_t byTurns[16] = {0, 1, 8, 9, 2, 3, 10, 11, 4, 5, 12, 13, 6, 7, 14, 15};
+  return hn::TableLookupBytes(packHalves(d, v0, v1),
+                              hn::BitCast(d, hn::LoadDup128(hn::Repartition<uint8_t, D>(), byTurns)));
+}
+template <class D, class V>
+HWY_INLINE hn::Vec<D> joined(D d, V v0, V v1, V v2, V v3) {
+  alignas(16) static constexpr uint8_t byTurns[16] = {0, 4, 8, 12, 1, 5, 9, 13, 2, 6, 10, 14, 3, 7, 11, 15};
+  const hn::Repartition<int16_t, D> dHalf;
+  const auto packed = packHalves(d, packHalves(dHalf, v0, v1), packHalves(dHalf, v2, v3));
+  return hn::TableLookupBytes(packed, hn::BitCast(d, hn::LoadDup128(hn::Repartition<uint8_t, D>(), byTurns)));
 }
 
-/// op(vectors of 32-bit lanes, channel by channel) of each of the elements that share a lane.
-template <class D, class V, class Op>
-HWY_INLINE auto inLanesOf32(D d, const Op& op, V v0, V v1, V v2) {
-  constexpr int count = 4 / sizeof(hn::TFromD<D>);
-  using Lane = decltype(sharingLane<0>(d, v0));
-  Vectors<Lane, count> channel[3];
-  unrolled<count>([&](auto k) HWY_ATTR {
-    const auto results = op(sharingLane<k>(d, v0), sharingLane<k>(d, v1), sharingLane<k>(d, v2));
-    unrolled<3>([&](auto c) HWY_ATTR { channel[c].v[k] = std::get<c>(results); });
-  });
-  return std::tuple(joined(d, channel[0]), joined(d, channel[1]), joined(d, channel[2]));
+/// Channel c of op(three channels of 32-bit lanes), of all elements.
+template <int c, class D, class Op, class V>
+HWY_INLINE hn::Vec<D> channelOf(D d, const Op& op, V v0, V v1, V v2) {
+  using T = hn::TFromD<D>;
+  return [&]<int... k>(std::integer_sequence<int, k...>) HWY_ATTR {
+    return joined(d, op.template channel<c>(sharingLane<k, T>(v0), sharingLane<k, T>(v1), sharingLane<k, T>(v2))...);
+  }
+  (std::make_integer_sequence<int, 4 / sizeof(T)>());
+}
+template <class D, class Op, class V>
+HWY_INLINE auto channelsOf(D d, const Op& op, V v0, V v1, V v2) {
+  return std::tuple(channelOf<0>(d, op, v0, v1, v2), channelOf<1>(d, op, v0, v1, v2), channelOf<2>(d, op, v0, v1, v2));
 }
 
 /// A sum that is no number counts as zero. Whole by the rounding that is set; beyond 2^52, beyond any element, about
@@ -69,7 +72,8 @@ HWY_INLINE V wholeByMode(V sum) {
   return hn::Sub(hn::Add(number, large), large);
 }
 
-/// Of any twist, by the rounding that is set.
+/// Of any twist, by the rounding that is set. A product of a float and an element of at most 16 bits is exact as a
+/// double: MulAdd rounds as a product and a sum do.
 template <class T>
 struct ExactTwist {
   double factor[3][4];
@@ -82,99 +86,103 @@ struct ExactTwist {
 
   template <class D, class V>
   HWY_INLINE auto operator()(D d, V v0, V v1, V v2) const {
-    return inLanesOf32(
-        d, [&](auto x0, auto x1, auto x2) HWY_ATTR { return ofLanes(x0, x1, x2); }, v0, v1, v2);
+    return channelsOf(d, *this, v0, v1, v2);
+  }
+
+  template <int c, class V>
+  HWY_INLINE V channel(V x0, V x1, V x2) const {
+    const hn::DFromV<V> di;
+    const hn::Half<decltype(di)> dHalf;
+    const auto lower = sum<c>(hn::LowerHalf(x0), hn::LowerHalf(x1), hn::LowerHalf(x2));
+    const auto upper = sum<c>(hn::UpperHalf(dHalf, x0), hn::UpperHalf(dHalf, x1), hn::UpperHalf(dHalf, x2));
+    // From 0 on all modes add to a large number as they round; of less than that nothing is left.
+    if constexpr (std::is_unsigned_v<T>) return nearestOf<T>(di, lower, upper);
+    if constexpr (std::is_signed_v<T>) return nearestOf<T>(di, wholeByMode(lower), wholeByMode(upper));
   }
 
  private:
-  template <class V>
-  HWY_INLINE auto ofLanes(V x0, V x1, V x2) const {
-    const hn::DFromV<V> di;
-    const hn::Half<decltype(di)> dHalf;
-    const auto channel = [&](const double(&f)[4]) HWY_ATTR {
-      const auto lower = sum(f, hn::LowerHalf(x0), hn::LowerHalf(x1), hn::LowerHalf(x2));
-      const auto upper = sum(f, hn::UpperHalf(dHalf, x0), hn::UpperHalf(dHalf, x1), hn::UpperHalf(dHalf, x2));
-      // From 0 on all modes add to a large number as they round; of less than that nothing is left.
-      if constexpr (std::is_unsigned_v<T>) return nearestOf<T>(di, lower, upper);
-      if constexpr (std::is_signed_v<T>) return nearestOf<T>(di, wholeByMode(lower), wholeByMode(upper));
-    };
-    return std::tuple(channel(factor[0]), channel(factor[1]), channel(factor[2]));
-  }
-
-  template <class V>
-  HWY_INLINE static auto sum(const double (&f)[4], V x0, V x1, V x2) {
+  template <int c, class V>
+  HWY_INLINE auto sum(V x0, V x1, V x2) const {
     const hn::Rebind<double, hn::DFromV<V>> d;
+    const double(&f)[4] = factor[c];
     const auto first = hn::Mul(hn::Set(d, f[0]), hn::PromoteTo(d, x0));
     const auto two = hn::MulAdd(hn::Set(d, f[1]), hn::PromoteTo(d, x1), first);
     return hn::Add(hn::MulAdd(hn::Set(d, f[2]), hn::PromoteTo(d, x2), two), hn::Set(d, f[3]));
   }
 };
 
-/// Of bytes, to nearest. Sums of floats bound the exact one on either side: nearly always both bounds round to the same
-/// element.
+/// Of bytes, to nearest, where sums of floats are near enough to the exact ones: 16 bits behind the point, of a sum and
+/// a half, which is then only rounded down. It is made too large, by at most `window`: were it less beyond an integer
+/// than that, the exact sum would decide.
 template <class T>
-struct BoundedTwist {
+struct NearTwist {
   ExactTwist<T> exact;
-  float factor[3][3], least[3], spread[3];
+  float factor[3][4];
+  uint16_t window;
 
-  explicit BoundedTwist(Twist twist) : exact(twist) {
+  explicit NearTwist(Twist twist) : exact(twist), window(0) {
+    double error = 0;
+    for (int c = 0; c < 3; ++c) error = std::max(error, errorOf(twist[c]));
+    window = static_cast<uint16_t>(2 * error + 2);
     for (int c = 0; c < 3; ++c) {
-      const double error = errorOf(twist[c]);
-      for (int k = 0; k < 3; ++k) factor[c][k] = twist[c][k];
-      least[c] = static_cast<float>(twist[c][3] - error);
-      spread[c] = static_cast<float>(2 * error);
+      for (int k = 0; k < 3; ++k) factor[c][k] = twist[c][k] * 0x1p16f;
+      factor[c][3] = static_cast<float>((double{twist[c][3]} + 0.5) * 0x1p16 + error + 1);
     }
   }
 
-  /// False where the bounds would be too far apart, and where the twist has no bounds.
+  /// False also where the twist has no bounds.
   static bool pays(Twist twist) {
     bool all = true;
-    for (int c = 0; c < 3; ++c) all = all && errorOf(twist[c]) < 0x1p-10;
+    for (int c = 0; c < 3; ++c) all = all && errorOf(twist[c]) < 128;
     return all;
   }
 
   template <class D, class V>
   HWY_INLINE auto operator()(D d, V v0, V v1, V v2) const {
-    const hn::Repartition<int32_t, D> di;
-    auto different = hn::Zero(di);
-    const auto results = inLanesOf32(
-        d,
-        [&](auto x0, auto x1, auto x2) HWY_ATTR {
-          const hn::Repartition<float, D> df;
-          const auto s0 = hn::ConvertTo(df, x0), s1 = hn::ConvertTo(df, x1), s2 = hn::ConvertTo(df, x2);
-          const auto channel = [&](int c) HWY_ATTR {
-            auto sum = hn::MulAdd(hn::Set(df, factor[c][0]), s0, hn::Set(df, least[c]));
-            sum = hn::MulAdd(hn::Set(df, factor[c][1]), s1, sum);
-            sum = hn::MulAdd(hn::Set(df, factor[c][2]), s2, sum);
-            const auto lower = rounded(di, sum), upper = rounded(di, hn::Add(sum, hn::Set(df, spread[c])));
-            different = hn::Or(different, hn::Xor(lower, upper));
-            return hn::Min(hn::Max(lower, hn::Set(di, std::numeric_limits<T>::min())),
-                           hn::Set(di, std::numeric_limits<T>::max()));
-          };
-          return std::tuple(channel(0), channel(1), channel(2));
-        },
-        v0, v1, v2);
-    if (HWY_LIKELY(hn::AllTrue(di, hn::Eq(different, hn::Zero(di))))) return results;
+    Sums<D> sums(*this);
+    const auto results = channelsOf(d, sums, v0, v1, v2);
+    if (HWY_LIKELY(sums.areBeyondWindow())) return results;
     return exact(d, v0, v1, v2);
   }
 
  private:
-  /// How far a bound lies from the sum, so that no rounding on the way takes it to the other side: each is wrong by at
-  /// most 2^-24 of what it rounds. Nothing is rounded where all terms are multiples of a power of two that 24 bits
-  /// reach down to.
+  template <class D>
+  struct Sums {
+    const NearTwist& twist;
+    hn::Repartition<float, D> df;
+    hn::Repartition<int32_t, D> di;
+    hn::Repartition<uint16_t, D> dHalves;
+    mutable hn::Vec<hn::Repartition<uint16_t, D>> least;  // of the lower halves; in the upper ones, anything
+
+    HWY_INLINE explicit Sums(const NearTwist& of) : twist(of), least(hn::Set(dHalves, 0xffff)) {}
+
+    template <int c, class V>
+    HWY_INLINE V channel(V x0, V x1, V x2) const {
+      const float(&f)[4] = twist.factor[c];
+      auto sum = hn::MulAdd(hn::Set(df, f[0]), hn::ConvertTo(df, x0), hn::Set(df, f[3]));
+      sum = hn::MulAdd(hn::Set(df, f[1]), hn::ConvertTo(df, x1), sum);
+      sum = hn::MulAdd(hn::Set(df, f[2]), hn::ConvertTo(df, x2), sum);
+      const V fixed = rounded(di, sum);
+      least = hn::Min(least, hn::BitCast(dHalves, fixed));
+      return hn::ShiftRight<16>(fixed);
+    }
+
+    HWY_INLINE bool areBeyondWindow() const {
+      const auto fraction = hn::And(hn::BitCast(di, least), hn::Set(di, 0xffff));
+      return hn::AllTrue(di, hn::Gt(fraction, hn::Set(di, twist.window)));
+    }
+  };
+
+  /// How far a sum may be off, in units of 2^-16: each operation is wrong by at most 2^-24 of what it rounds.
   static double errorOf(const float (&row)[4]) {
-    constexpr double largest = sizeof(T) == 1 && std::is_signed_v<T> ? 128 : 255;
-    double size = std::fabs(double{row[3]}), rounded = size;
+    constexpr double largest = std::is_signed_v<T> ? 128 : 255;
+    double size = std::fabs(double{row[3]}) + 1, rounded = size;
     for (int k = 0; k < 3; ++k) {
       const double product = largest * std::fabs(double{row[k]});
       size += product;
       rounded += product + size;
     }
-    if (!(size < 0x1p20)) return std::numeric_limits<double>::infinity();
-    const double unit = std::ldexp(1, std::ilogb(size + 1) - 22);
-    bool isExact = true;
-    for (const float each : row) isExact = isExact && std::fmod(each, unit) == 0;
-    return isExact ? 0 : 0x1.04p-24 * (rounded + size + 1);
+    return size < 0x1p14 ? 0x1.02p-8 * rounded : std::numeric_limits<double>::infinity();
   }
 };
 
@@ -211,7 +219,7 @@ VemiStatus twistIntegers(Src src, Dst dst, VemiSize roiSize, Twist twist) {
       return vemiOk;
     };
     if constexpr (sizeof(T) == 1) {
-      if (FloatControl::current().roundsToNearest() && BoundedTwist<T>::pays(twist)) return run(BoundedTwist<T>(twist));
+      if (FloatControl::current().roundsToNearest() && NearTwist<T>::pays(twist)) return run(NearTwist<T>(twist));
     }
     return run(ExactTwist<T>(twist));
   });
