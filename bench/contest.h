@@ -75,5 +75,6 @@ Family noiseFamily();
 Family generatedFamily();
 Family colorTwistFamily();
 Family rowsFamily();
+Family boxFamily();
 
 }  // namespace bench

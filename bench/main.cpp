@@ -28,7 +28,7 @@ constexpr FamilyTable families[] = {
     shiftFamily,         alphaFamily,   reductionsFamily, normFamily,         hardReductionsFamily,
     thresholdFamily,     compareFamily, convertFamily,    bitImageFamily,     lutFamily,
     gammaFamily,         countsFamily,  noiseFamily,      generatedFamily,    colorTwistFamily,
-    rowsFamily,
+    boxFamily,           rowsFamily,
 };
 
 constexpr const char* usage =

@@ -67,13 +67,6 @@ Contest floatKernel(VemiSize size) {
   return filtering<L, T>(size, {taps, taps}, ours, peer);
 }
 
-template <class L, int taps>
-Contest box(VemiSize size) {
-  const auto ours = [](const auto& call) { boxFilter<L>(call, 0, call.roiSize.height); };
-  const auto peer = [](const cv::Mat& from, cv::Mat& to) { cv::boxFilter(from, to, -1, {taps, taps}); };
-  return filtering<L, Vemi8u>(size, {taps, taps}, ours, peer);
-}
-
 /// An image turned by 0.7 and doubled, so that no pixel falls outside; ours computes its coordinates too.
 template <class L, auto rowOf>
 Contest warp(VemiSize size) {
@@ -113,8 +106,6 @@ const std::vector<bench::Row> rows = {
     {"Float kernel 5x5 8u C3", "filter2D", floatKernel<C3, Vemi8u, 5>},
     {"Float kernel 5x5 32f C1", "filter2D", floatKernel<C1, Vemi32f, 5>},
     {"Float kernel 15x15 32f C1", "filter2D", floatKernel<C1, Vemi32f, 15>},
-    {"Box 15x15 8u C1", "boxFilter", box<C1, 15>},
-    {"Box 15x15 8u C3", "boxFilter", box<C3, 15>},
     {"Affine linear 8u C1", "warpAffine", warp<C1, linearRow>},
     {"Affine linear 8u C3", "warpAffine", warp<C3, linearPixels<C3>>},
     {"Affine linear 8u C4", "warpAffine", warp<C4, linearPixels<C4>>},

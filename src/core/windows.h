@@ -72,17 +72,17 @@ template <class T>
 class RowRing {
  public:
   /// A ring without elements has no rows of its own.
-  RowRing(int count, Vemi64s elements)
+  RowRing(Vemi64s count, Vemi64s elements)
       : count_(count),
         elements_(elements),
         pitch_(elements == 0 ? 0 : oddLines(arrayBytes<T>(limitedSum(elements, slackElements)))) {}
 
-  /// For the rows that `width` pixels read: copies where the rows are written to before the last window has read them,
-  /// and of rows that a block would read beyond.
+  /// For the rows that `width` pixels read, and as many that have `left` the window: copies where the rows are written
+  /// to before the last window has read them, and of rows that a block would read beyond.
   template <class L>
-  static RowRing ofSource(const Window& window, ptrdiff_t width, bool inPlace) {
+  static RowRing ofSource(const Window& window, ptrdiff_t width, bool inPlace, int left = 0) {
     const bool copied = inPlace || Vemi64s{width} * L::elements < slackElements;
-    return {window.height, copied ? windowElements<L>(width, window) : 0};
+    return {Vemi64s{window.height} + left, copied ? windowElements<L>(width, window) : 0};
   }
 
   Vemi64s bytes() const { return limitedSum(limitedProduct(count_, pitch_), tableBytes()); }
@@ -90,7 +90,7 @@ class RowRing {
   void place(void* memory) {
     table_ = static_cast<const T**>(memory);
     own_ = static_cast<char*>(memory) + tableBytes();
-    for (int i = 0; i < count_ && pitch_ != 0; ++i) std::fill_n(room(i) + elements(), slackElements, T());
+    for (ptrdiff_t i = 0; i < count_ && pitch_ != 0; ++i) std::fill_n(room(i) + elements(), slackElements, T());
     oldest_ = 0;
   }
 
@@ -109,7 +109,8 @@ class RowRing {
 
   /// A row that stays where it is.
   void enter(const T* row) {
-    table_[oldest_] = table_[oldest_ + count_] = row;  // twice, so that the rows stand in order from any place on
+    table_[oldest_] = table_[oldest_ + static_cast<ptrdiff_t>(count_)] =
+        row;  // twice, so that the rows stand in order from any place on
     oldest_ = oldest_ + 1 == count_ ? 0 : oldest_ + 1;
   }
 
@@ -120,8 +121,8 @@ class RowRing {
   }
 
  private:
-  int count_;
-  int oldest_ = 0;
+  Vemi64s count_;
+  ptrdiff_t oldest_ = 0;
   Vemi64s elements_, pitch_;
   const T** table_ = nullptr;
   char* own_ = nullptr;
@@ -131,7 +132,7 @@ class RowRing {
 
   Vemi64s tableBytes() const { return roundedUp(2 * arrayBytes<T*>(count_), laneAlignment); }
 
-  T* room(int index) const { return reinterpret_cast<T*>(own_ + index * static_cast<ptrdiff_t>(pitch_)); }
+  T* room(ptrdiff_t index) const { return reinterpret_cast<T*>(own_ + index * static_cast<ptrdiff_t>(pitch_)); }
 };
 
 // ---- Stages -------------------------------------------------------------------------------------------------------

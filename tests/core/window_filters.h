@@ -5,7 +5,6 @@
 #include <algorithm>
 #include <cstdint>
 #include <utility>
-#include <vector>
 
 #include "vemi/types.h"
 
@@ -211,95 +210,6 @@ void floatFilter(const FilterCall<T>& call, const float* kernel, ptrdiff_t first
     } else {
       mapPlaces<alphaOf<L>>(width * L::elements, taps, call.dst.row(y));
     }
-  };
-  forWindows(call.window, first, count, enter, row);
-}
-
-// ---- Sums over a rectangle of bytes -------------------------------------------------------------------------------
-
-/// Sums of columns move on by a row that enters and one that leaves.
-struct MovedOn {
-  template <class D, class V>
-  HWY_INLINE V operator()(D d, V sum, const Vemi8u* entering, const Vemi8u* leaving) const {
-    return hn::Sub(hn::Add(sum, loadExtended(d, entering)), loadExtended(d, leaving));
-  }
-};
-
-/// Sums of the columns from the row's beginning to each place of a layout; the last pixel of a row of sums is carried.
-template <class L>
-void prefixSums(ptrdiff_t elements, const uint32_t* columns, uint32_t* sums) {
-  const hn::FixedTag<uint32_t, 4> d;
-  if constexpr (L::elements == 1) {
-    auto total = hn::Zero(d);
-    for (ptrdiff_t i = 0; i < elements; i += 4) {
-      auto sum = hn::LoadU(d, columns + i);
-      sum = hn::Add(sum, hn::ShiftLeftLanes<1>(d, sum));
-      sum = hn::Add(sum, hn::ShiftLeftLanes<2>(d, sum));
-      total = hn::Add(total, sum);
-      hn::StoreU(total, d, sums + i);
-      total = hn::Broadcast<3>(total);
-    }
-  } else {  // the lane behind the last of three channels is written again by the next pixel
-    auto total = hn::Zero(d);
-    for (ptrdiff_t i = 0; i < elements; i += L::elements) {
-      total = hn::Add(total, hn::LoadU(d, columns + i));
-      hn::StoreU(total, d, sums + i);
-    }
-  }
-}
-
-/// Rounded down: the product of floats is off by one at most, and the remainder tells.
-struct Mean {
-  const uint32_t *before, *last;  // sums up to the pixel in front of the window, and up to its last one
-  uint32_t area;
-
-  template <class D>
-  HWY_INLINE auto operator()(D d, ptrdiff_t i) const {
-    const Lanes<int32_t> dSum;
-    const Lanes<float> dFloat;
-    return packEach<int32_t>(d, [&](auto k) HWY_ATTR {
-      const ptrdiff_t at = i + k * laneCount<int32_t>;
-      const auto sum = hn::BitCast(
-          dSum, hn::Sub(hn::LoadU(Lanes<uint32_t>(), last + at), hn::LoadU(Lanes<uint32_t>(), before + at)));
-      const auto quotient = hn::Mul(hn::ConvertTo(dFloat, sum), hn::Set(dFloat, 1.0f / static_cast<float>(area)));
-      const auto nearest = hn::ConvertTo(dSum, quotient);
-      const auto rest = hn::Sub(sum, hn::Mul(nearest, hn::Set(dSum, static_cast<int32_t>(area))));
-      const auto high = hn::VecFromMask(dSum, hn::Lt(rest, hn::Zero(dSum)));
-      const auto low = hn::VecFromMask(dSum, hn::Gt(rest, hn::Set(dSum, static_cast<int32_t>(area) - 1)));
-      return hn::Sub(hn::Add(nearest, high), low);
-    });
-  }
-};
-
-/// The sums of a band begin with its first window.
-template <class L>
-void boxFilter(const FilterCall<Vemi8u>& call, ptrdiff_t first, ptrdiff_t count) {
-  const ptrdiff_t width = call.roiSize.width;
-  const Vemi64s elements = windowElements<L>(width, call.window);
-  const auto src = windowed<L>(call.src, call.window);
-  // One row more than the window has: the row that leaves. In place the rows above are written to.
-  const Window withLeaving = {call.window.width, call.window.height + 1, 0, 0};
-  auto source = RowRing<Vemi8u>::ofSource<L>(withLeaving, width, call.inPlace());
-  RowRing<uint32_t> columns(1, elements), sums(1, elements + L::elements);
-  const Scratch scratch = placed(source, columns, sums);
-  uint32_t* const column = columns.turn();
-  uint32_t* const sum = sums.turn();
-  std::fill_n(column, columns.elements(), 0);
-  std::fill_n(sum, L::elements, 0);
-  const std::vector<Vemi8u> none(static_cast<size_t>(elements));
-  ptrdiff_t taken = 0;
-  const auto enter = [&](ptrdiff_t y) {
-    source.take(src.row(y));
-    const Vemi8u* const* const rows = source.rows();
-    const Vemi8u* const leaving = ++taken > call.window.height ? rows[0] : none.data();
-    mapElements<Alpha::none>(columns.elements(), eachVector(MovedOn()), column, static_cast<const uint32_t*>(column),
-                             rows[call.window.height], leaving);
-  };
-  const auto row = [&](ptrdiff_t y) {
-    prefixSums<L>(columns.elements(), column, sum + L::elements);
-    const auto area = static_cast<uint32_t>(call.window.width * call.window.height);
-    mapPlaces<alphaOf<L>>(width * L::elements, eachPlace<1>(Mean{sum, sum + call.window.width * L::elements, area}),
-                          call.dst.row(y));
   };
   forWindows(call.window, first, count, enter, row);
 }

@@ -194,22 +194,6 @@ TEST(Windows, FloatKernelsAddInTheOrderOfTheWindow) {
   });
 }
 
-TEST(Windows, RunningSums) {
-  forAllLayouts([](auto layout) {
-    using L = decltype(layout);
-    for (const VemiSize size : {VemiSize{2, 2}, VemiSize{7, 4}, VemiSize{1, 9}}) {
-      const auto mean = [size](const std::function<Vemi8u(int, int)>& pixelAt) {
-        int sum = 0;
-        for (int j = 0; j < size.height; ++j) {
-          for (int i = 0; i < size.width; ++i) sum += pixelAt(i, j);
-        }
-        return static_cast<Vemi8u>(sum / (size.width * size.height));
-      };
-      expectFilter<L, Vemi8u>(size, boxFilter<L>, mean);
-    }
-  });
-}
-
 TEST(RowRing, RowsStandInOrderWhetherOwnOrNot) {
   constexpr int rows = 3;
   constexpr ptrdiff_t elements = 5;
