@@ -1393,6 +1393,165 @@ VEMI_API VemiStatus vemiGammaInv_32f_IP3R(Vemi32f* const pSrcDst[3], int srcDstS
 
 /** @} */
 
+/**
+ * @defgroup vemi_reduce_bits vemiReduceBits: a few levels, with or without a dither
+ *
+ *     pDst = the level that stands for pSrc, one of `levels` values that are spread evenly over the range of the type
+ *
+ * Few values make bands where a picture changes slowly. A dither makes them alternate, so that the mean of a few pixels
+ * is that of the source: by a pattern, by noise, or by handing what a pixel lost to its neighbours.
+ *
+ * The type in the name is the source's, then the destination's, or one for both. Each channel is an image of its own:
+ * channel c of C3, C4 and AC4 becomes what the C1 form makes of it, so that grey stays grey. AC4 forms treat the first
+ * three and leave the destination's fourth as it is.
+ *
+ * All is computed in integers; floor is towards minus infinity, shifts (>>) keep the sign, N = levels - 1.
+ *
+ * **Levels.** Level k = 0..N is low + floor((2 k F + N) / (2 N)), with F = 255 and low = 0 in 8u, F = 65535 and low = 0
+ * in 16u, low = -32768 in 16s. Four levels of 8u are 0, 85, 170, 255; five of them 0, 64, 128, 191, 255.
+ *
+ * **Sources** come on a scale of 0 to 65535: s = 257 v from 8u, v from 16u, v + 32768 from 16s. From 32f, the range of
+ * which is 0..1, s is the single-precision product 65535 v, rounded to nearest, ties to even; v is limited to 0..1
+ * first, and a NaN is white like 1. Then t = s N, on which level k lies at 65535 k, and no pixel in the middle of two.
+ *
+ * **Noise.** n(x, y) = (A (r >> 16)) >> 16 with A = floor(65534 noise / 100), so that |n| is at most 32767, which is
+ * half a step between levels: noise is a percentage of the whole step from end to end. r, a signed integer of 32 bits,
+ * is the result of step x + 1 of the generator behind the noise functions (vemiAddRandUniform_Direct), begun anew in
+ * each row with the seed h = y + 1; h ^= h >> 16; h *= 0x85ebca6b; h ^= h >> 13; h *= 0xc2b2ae35; h ^= h >> 16, in 32
+ * bits without a sign. x and y count from the region's first pixel. The channels of a pixel have the same noise, and a
+ * noise of 0 is none.
+ *
+ * **Dithers**, by ditherType:
+ *
+ *     vemiDitherNone               k = floor((t + n + 32767) / 65535): the nearest level. With a noise of 100 the mean
+ *                                  is that of the source, at the price of much grain.
+ *     vemiDitherBayer              the same with w in the place of n: w = d + n, where d = ((63 - 2 B) 65535) >> 7 and
+ * B is the matrix of 8 x 8 at [y mod 8][x mod 8] that grows from (0) by B -> (4 B, 4 B + 2; 4 B + 3, 4 B + 1): its
+ * first row is 0 32 8 40 2 34 10 42. Where w is above 32767 it is 65535 less, below -32767 as much more.
+ *     vemiDitherFloydSteinberg     error diffusion, in rows from the top, each from the left:
+ *     vemiDitherJarvisJudiceNinke      u = t + floor((S + W / 2) / W)
+ *     vemiDitherStucki                 k = floor((u + n + 32767) / 65535), limited to 0..N
+ *                                      e = u - 65535 k
+ *                                  S is the sum of the errors e around, each times its weight, and W the sum of all
+ *                                  weights; beyond the region's edges errors are 0. Noise moves the decision, and the
+ *                                  error keeps account of it: tones stay, but worms and other patterns break up.
+ *
+ *                                               to the left    row above, columns    two rows above    W
+ *                                  columns        -2  -1         -2 -1  0  1  2       -2 -1  0  1  2
+ *     Floyd, Steinberg 1976                        .   7          .  1  5  3  .        .  .  .  .  .   16
+ *     Jarvis, Judice, Ninke 1976                   5   7          3  5  7  5  3        1  3  5  3  1   48
+ *     Stucki 1981                                  4   8          2  4  8  4  2        1  2  4  2  1   42
+ *
+ * Black and white stay what they are, with any dither and noise. 256 levels from 8u without noise are a copy, and from
+ * 16u to 8u without a dither v / 257, rounded.
+ *
+ *     8u, 2 levels, Floyd-Steinberg    100 100 100 100 100 100   ->  0 255 0 0 255 0
+ *     8u, 2 levels, Bayer              128 128 128 128           ->  255 0 255 0, in the next row 0 255 0 255
+ *     32f16s, 4 levels, none           0 0.25 0.5 0.75 1         ->  -32768 -10923 10922 10922 32767
+ *
+ * @param pSrc,srcStep   first pixel of the source, and the bytes between its rows
+ * @param pDst,dstStep   the same of the destination
+ * @param roiSize        size of the region in pixels
+ * @param noise          0 to 100, in percent of the step between two levels
+ * @param ditherType     a vemiDitherType; any other number acts as vemiDitherNone
+ * @param levels         2 to 256 values in each channel
+ *
+ * **Overlap.** pDst may be pSrc, with the same step, in the forms of one type. Otherwise the two do not overlap.
+ *
+ * **Statuses**, in the order of the tests: null, size, step (see status.h), vemiErrNoiseRange, vemiErrDitherLevels;
+ * vemiErrMemAlloc where the rows of errors of a diffusing dither cannot be had, before anything is written.
+ *
+ * **Threads.** Without diffusion all forms share the rows among a team. Diffusion runs in the calling thread, several
+ * rows at a time. Results do not depend on it.
+ *
+ *     vemiReduceBits_8u_C3R(photo, photoStep, poster, posterStep, size, 0, vemiDitherFloydSteinberg, 4);
+ * @{
+ */
+
+/** How vemiReduceBits finds the level of a pixel. Any other number acts as vemiDitherNone. */
+typedef int vemiDitherType;
+enum {
+  vemiDitherNone = 0,              /**< the nearest level */
+  vemiDitherFloydSteinberg = 1,    /**< error diffusion to 4 neighbours */
+  vemiDitherJarvisJudiceNinke = 2, /**< error diffusion to 12 neighbours */
+  vemiDitherStucki = 3,            /**< the same with other weights, those of vemiConvert_8u1u */
+  vemiDitherBayer = 4              /**< ordered dither with a matrix of 8 x 8 */
+};
+
+VEMI_API VemiStatus vemiReduceBits_8u_C1R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep, VemiSize roiSize,
+                                          int noise, vemiDitherType ditherType, int levels);
+VEMI_API VemiStatus vemiReduceBits_8u_C3R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep, VemiSize roiSize,
+                                          int noise, vemiDitherType ditherType, int levels);
+VEMI_API VemiStatus vemiReduceBits_8u_C4R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep, VemiSize roiSize,
+                                          int noise, vemiDitherType ditherType, int levels);
+VEMI_API VemiStatus vemiReduceBits_8u_AC4R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep, VemiSize roiSize,
+                                           int noise, vemiDitherType ditherType, int levels);
+
+VEMI_API VemiStatus vemiReduceBits_16u_C1R(const Vemi16u* pSrc, int srcStep, Vemi16u* pDst, int dstStep,
+                                           VemiSize roiSize, int noise, vemiDitherType ditherType, int levels);
+VEMI_API VemiStatus vemiReduceBits_16u_C3R(const Vemi16u* pSrc, int srcStep, Vemi16u* pDst, int dstStep,
+                                           VemiSize roiSize, int noise, vemiDitherType ditherType, int levels);
+VEMI_API VemiStatus vemiReduceBits_16u_C4R(const Vemi16u* pSrc, int srcStep, Vemi16u* pDst, int dstStep,
+                                           VemiSize roiSize, int noise, vemiDitherType ditherType, int levels);
+VEMI_API VemiStatus vemiReduceBits_16u_AC4R(const Vemi16u* pSrc, int srcStep, Vemi16u* pDst, int dstStep,
+                                            VemiSize roiSize, int noise, vemiDitherType ditherType, int levels);
+
+VEMI_API VemiStatus vemiReduceBits_16s_C1R(const Vemi16s* pSrc, int srcStep, Vemi16s* pDst, int dstStep,
+                                           VemiSize roiSize, int noise, vemiDitherType ditherType, int levels);
+VEMI_API VemiStatus vemiReduceBits_16s_C3R(const Vemi16s* pSrc, int srcStep, Vemi16s* pDst, int dstStep,
+                                           VemiSize roiSize, int noise, vemiDitherType ditherType, int levels);
+VEMI_API VemiStatus vemiReduceBits_16s_C4R(const Vemi16s* pSrc, int srcStep, Vemi16s* pDst, int dstStep,
+                                           VemiSize roiSize, int noise, vemiDitherType ditherType, int levels);
+VEMI_API VemiStatus vemiReduceBits_16s_AC4R(const Vemi16s* pSrc, int srcStep, Vemi16s* pDst, int dstStep,
+                                            VemiSize roiSize, int noise, vemiDitherType ditherType, int levels);
+
+VEMI_API VemiStatus vemiReduceBits_16u8u_C1R(const Vemi16u* pSrc, int srcStep, Vemi8u* pDst, int dstStep,
+                                             VemiSize roiSize, int noise, vemiDitherType ditherType, int levels);
+VEMI_API VemiStatus vemiReduceBits_16u8u_C3R(const Vemi16u* pSrc, int srcStep, Vemi8u* pDst, int dstStep,
+                                             VemiSize roiSize, int noise, vemiDitherType ditherType, int levels);
+VEMI_API VemiStatus vemiReduceBits_16u8u_C4R(const Vemi16u* pSrc, int srcStep, Vemi8u* pDst, int dstStep,
+                                             VemiSize roiSize, int noise, vemiDitherType ditherType, int levels);
+VEMI_API VemiStatus vemiReduceBits_16u8u_AC4R(const Vemi16u* pSrc, int srcStep, Vemi8u* pDst, int dstStep,
+                                              VemiSize roiSize, int noise, vemiDitherType ditherType, int levels);
+
+VEMI_API VemiStatus vemiReduceBits_16s8u_C1R(const Vemi16s* pSrc, int srcStep, Vemi8u* pDst, int dstStep,
+                                             VemiSize roiSize, int noise, vemiDitherType ditherType, int levels);
+VEMI_API VemiStatus vemiReduceBits_16s8u_C3R(const Vemi16s* pSrc, int srcStep, Vemi8u* pDst, int dstStep,
+                                             VemiSize roiSize, int noise, vemiDitherType ditherType, int levels);
+VEMI_API VemiStatus vemiReduceBits_16s8u_C4R(const Vemi16s* pSrc, int srcStep, Vemi8u* pDst, int dstStep,
+                                             VemiSize roiSize, int noise, vemiDitherType ditherType, int levels);
+VEMI_API VemiStatus vemiReduceBits_16s8u_AC4R(const Vemi16s* pSrc, int srcStep, Vemi8u* pDst, int dstStep,
+                                              VemiSize roiSize, int noise, vemiDitherType ditherType, int levels);
+
+VEMI_API VemiStatus vemiReduceBits_32f8u_C1R(const Vemi32f* pSrc, int srcStep, Vemi8u* pDst, int dstStep,
+                                             VemiSize roiSize, int noise, vemiDitherType ditherType, int levels);
+VEMI_API VemiStatus vemiReduceBits_32f8u_C3R(const Vemi32f* pSrc, int srcStep, Vemi8u* pDst, int dstStep,
+                                             VemiSize roiSize, int noise, vemiDitherType ditherType, int levels);
+VEMI_API VemiStatus vemiReduceBits_32f8u_C4R(const Vemi32f* pSrc, int srcStep, Vemi8u* pDst, int dstStep,
+                                             VemiSize roiSize, int noise, vemiDitherType ditherType, int levels);
+VEMI_API VemiStatus vemiReduceBits_32f8u_AC4R(const Vemi32f* pSrc, int srcStep, Vemi8u* pDst, int dstStep,
+                                              VemiSize roiSize, int noise, vemiDitherType ditherType, int levels);
+
+VEMI_API VemiStatus vemiReduceBits_32f16u_C1R(const Vemi32f* pSrc, int srcStep, Vemi16u* pDst, int dstStep,
+                                              VemiSize roiSize, int noise, vemiDitherType ditherType, int levels);
+VEMI_API VemiStatus vemiReduceBits_32f16u_C3R(const Vemi32f* pSrc, int srcStep, Vemi16u* pDst, int dstStep,
+                                              VemiSize roiSize, int noise, vemiDitherType ditherType, int levels);
+VEMI_API VemiStatus vemiReduceBits_32f16u_C4R(const Vemi32f* pSrc, int srcStep, Vemi16u* pDst, int dstStep,
+                                              VemiSize roiSize, int noise, vemiDitherType ditherType, int levels);
+VEMI_API VemiStatus vemiReduceBits_32f16u_AC4R(const Vemi32f* pSrc, int srcStep, Vemi16u* pDst, int dstStep,
+                                               VemiSize roiSize, int noise, vemiDitherType ditherType, int levels);
+
+VEMI_API VemiStatus vemiReduceBits_32f16s_C1R(const Vemi32f* pSrc, int srcStep, Vemi16s* pDst, int dstStep,
+                                              VemiSize roiSize, int noise, vemiDitherType ditherType, int levels);
+VEMI_API VemiStatus vemiReduceBits_32f16s_C3R(const Vemi32f* pSrc, int srcStep, Vemi16s* pDst, int dstStep,
+                                              VemiSize roiSize, int noise, vemiDitherType ditherType, int levels);
+VEMI_API VemiStatus vemiReduceBits_32f16s_C4R(const Vemi32f* pSrc, int srcStep, Vemi16s* pDst, int dstStep,
+                                              VemiSize roiSize, int noise, vemiDitherType ditherType, int levels);
+VEMI_API VemiStatus vemiReduceBits_32f16s_AC4R(const Vemi32f* pSrc, int srcStep, Vemi16s* pDst, int dstStep,
+                                               VemiSize roiSize, int noise, vemiDitherType ditherType, int levels);
+
+/** @} */
+
 /** @} */
 
 #ifdef __cplusplus

@@ -15,8 +15,8 @@
 #include "core/image.h"
 #include "core/map_row.h"
 #include "core/rounding.h"
-#include "generate/random.h"
 #include "signal/ln.h"
+#include "signal/random.h"
 #include "vemi/generate.h"
 
 namespace vemi::generate {
@@ -27,12 +27,12 @@ using NoiseFor = std::conditional_t<std::is_integral_v<T>, int32_t, double>;
 
 /// Steps of a block, and of the chunks in which it is drawn: x of a chunk is drawn while lanes work on the one before.
 /// Whole vectors and whole pixels of three channels.
-constexpr ptrdiff_t blockSteps = 384, chunkSteps = BorrowingSequence::steps;
+constexpr ptrdiff_t blockSteps = 384, chunkSteps = signal::BorrowingSequence::steps;
 
 /// Calls onChunk(its first step) for all chunks of a block, with x of the chunk drawn.
 template <class OnChunk>
-HWY_INLINE void drawBlock(BorrowingSequence& sequence, uint32_t* x, const OnChunk& onChunk) {
-  BorrowingSequence local = sequence;  // whose lanes no store can change
+HWY_INLINE void drawBlock(signal::BorrowingSequence& sequence, uint32_t* x, const OnChunk& onChunk) {
+  signal::BorrowingSequence local = sequence;  // whose lanes no store can change
   local.draw(x);
   for (ptrdiff_t i = 0; i < blockSteps; i += chunkSteps) {
     if (i + chunkSteps < blockSteps) local.draw(x + i + chunkSteps);
@@ -82,7 +82,7 @@ class UniformSource {
     const Lanes<double> d;
     const auto scale = hn::Set(d, scale_), middle = hn::Set(d, middle_);
     const auto value = [&](auto r) HWY_ATTR { return hn::Add(hn::Mul(hn::PromoteTo(d, r), scale), middle); };
-    CongruentialSequence g = g_;
+    signal::CongruentialSequence g = g_;
     drawBlock(x_, drawn_, [&](ptrdiff_t chunk) HWY_ATTR {
       for (ptrdiff_t i = chunk; i < chunk + chunkSteps; i += laneCount<int32_t>) {
         const auto r = hn::BitCast(dInt, hn::Add(hn::Load(Lanes<uint32_t>(), drawn_ + i), g.next()));
@@ -98,8 +98,8 @@ class UniformSource {
 
  private:
   double scale_, middle_;
-  BorrowingSequence x_;
-  CongruentialSequence g_;
+  signal::BorrowingSequence x_;
+  signal::CongruentialSequence g_;
   alignas(laneAlignment) uint32_t drawn_[blockSteps];
 };
 
@@ -137,8 +137,8 @@ class GaussSource {
   static constexpr ptrdiff_t N = laneCount<double>;
 
   double mean_, stDev_;
-  BorrowingSequence x_;
-  CongruentialSequence g_;
+  signal::BorrowingSequence x_;
+  signal::CongruentialSequence g_;
   alignas(laneAlignment) uint32_t drawn_[blockSteps];
   // Of the points inside: coordinates, squared distance, and place of the second step in the block. A vector of points
   // may be read behind the last one.
@@ -147,7 +147,7 @@ class GaussSource {
 
   /// The number of points of a block that lie inside.
   ptrdiff_t drawPoints() {
-    CongruentialSequence g = g_;
+    signal::CongruentialSequence g = g_;
     ptrdiff_t count = 0;
     drawBlock(x_, drawn_, [&](ptrdiff_t chunk) HWY_ATTR {
       for (ptrdiff_t i = chunk; i < chunk + chunkSteps; i += laneCount<uint32_t>) count = collect(i, g.next(), count);
@@ -157,7 +157,7 @@ class GaussSource {
   }
 
   /// Adds the points inside, out of a vector of steps, to the `count` ones that there are.
-  HWY_INLINE ptrdiff_t collect(ptrdiff_t step, CongruentialSequence::V g, ptrdiff_t count) {
+  HWY_INLINE ptrdiff_t collect(ptrdiff_t step, signal::CongruentialSequence::V g, ptrdiff_t count) {
     const Lanes<double> d;
     const Lanes<uint64_t> dBits;
     const auto steps = hn::BitCast(dBits, hn::Add(hn::Load(Lanes<uint32_t>(), drawn_ + step), g));

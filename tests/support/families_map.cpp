@@ -214,6 +214,29 @@ void withGammaRange(Call& call) {
   call.set("vMax", range[1]);
 }
 
+/// All dithers and numbers that are none, with the levels that lie at the ends of what lanes hold, and any others.
+void withLevelCount(Call& call) {
+  const int noises[] = {0, 0, 0, 1, 37, 50, 51, 100}, counts[] = {2, 2, 3, 4, 8, 17, 129, 182, 183, 255, 256};
+  Random& random = call.random;
+  call.set("noise", noises[random.below(8)]);
+  call.set("ditherType", random.below(7) - 1);
+  call.set("levels", random.below(2) == 0 ? 2 + random.below(255) : counts[random.below(11)]);
+}
+
+/// Most floats lie in the range that counts, 0 to 1, or just beside it.
+void aroundUnit(Call& call) {
+  const View source = call.source();
+  if (source.element != Element::f32) return;
+  for (int y = 0; y < source.size.height; ++y) {
+    for (int x = 0; x < source.size.width; ++x) {
+      for (int channel = 0; channel < source.channels; ++channel) {
+        const float value = static_cast<float>(call.random.below(1 << 20)) / 950000 - 0.05f;
+        if (call.random.below(8) != 0) store(source.at(x, y, channel), value);
+      }
+    }
+  }
+}
+
 }  // namespace
 
 std::vector<Family> mapFamilies() {
@@ -309,6 +332,17 @@ std::vector<Family> mapFamilies() {
         {"vMin", NAN, "own", vemiErrGammaRange},
         {"vMin", 1e6, "own", vemiErrGammaRange}}},
       {"vemiGammaFwd vemiGammaInv", ".*", "null size step"},
+      {"vemiReduceBits",
+       ".*",
+       "null size step noise levels",
+       withLevelCount,
+       {{"noise", -1, "noise", vemiErrNoiseRange},
+        {"noise", 101, "noise", vemiErrNoiseRange},
+        {"noise", INT_MIN, "noise", vemiErrNoiseRange},
+        {"levels", 1, "levels", vemiErrDitherLevels},
+        {"levels", 257, "levels", vemiErrDitherLevels},
+        {"levels", INT_MIN, "levels", vemiErrDitherLevels}},
+       aroundUnit},
   };
 }
 

@@ -1,4 +1,4 @@
-// The generator behind the noise. Its result r is the sum, modulo 2^32, of two sequences: x, which subtracts with
+// The generator behind all noise. Its result r is the sum, modulo 2^32, of two sequences: x, which subtracts with
 // borrow, and g, which is linear congruential. Both are drawn in lanes.
 #pragma once
 
@@ -7,7 +7,7 @@
 
 #include "core/lanes.h"
 
-namespace vemi::generate {
+namespace vemi::signal {
 
 constexpr uint32_t nextCongruential(uint32_t g) { return g * 69069 + 1013904243; }
 
@@ -204,4 +204,4 @@ class CongruentialSequence {
   V next_, factor_, offset_;
 };
 
-}  // namespace vemi::generate
+}  // namespace vemi::signal
