@@ -265,6 +265,131 @@ VEMI_API VemiStatus vemiHSVToRGB_16u_AC4R(const Vemi16u* pSrc, int srcStep, Vemi
 
 /** @} */
 
+/**
+ * @defgroup vemi_hls vemiRGBToHLS, vemiHLSToRGB, vemiBGRToHLS, vemiHLSToBGR: hue, lightness, saturation
+ *
+ * The double hexcone. With M = max(R, G, B), m = min(R, G, B) and d = M - m, of channels from 0 to 1:
+ *
+ *     L = (M + m) / 2
+ *     S = d / (M + m)        up to L = 1/2
+ *         d / (2 - M - m)    above
+ *     H = 60 (G - B) / d            where R is the largest; 360 is added to a result below 0
+ *         60 (B - R) / d + 120      where G is
+ *         60 (R - G) / d + 240      where B is
+ *
+ * in degrees. Of several largest channels R counts before G and G before B. A grey pixel (d = 0) has H = S = 0.
+ *
+ * **Back.** Where S is 0, all three are L. Otherwise
+ *
+ *     m2 = L (1 + S)      up to L = 1/2
+ *          L + S - L S    above
+ *     m1 = 2 L - m2
+ *     g(x) = m1 + (m2 - m1) x / 60 below 60, m2 below 180, m1 + (m2 - m1) (240 - x) / 60 below 240, m1 from there on
+ *     R = g(H + 120),   G = g(H),   B = g(H - 120)
+ *
+ * where 360 is taken off H + 120 above 360, and added to H - 120 below 0.
+ *
+ * **32f.** In single precision as written, from left to right; H is divided by 360, so that all three run from 0 to 1,
+ * and multiplied with 360 on the way back. d up to 2^-23 counts as grey. Nothing is limited: colours beyond 0 to 1
+ * follow the same formulas, and NaNs and infinities those of IEEE 754.
+ *
+ * **8u, 16u.** full is 255 or 65535: H full / 360, L full and S full, each cut off. L is (M + m) / 2 of the integers.
+ * Quotients are products with the approximate reciprocal that vemiRGBToHSV describes: in S the plain one, in H the one
+ * after a Newton step. Back, H 360 / full, L / full and S / full go through the ramps in single precision, with
+ * 0.01666667 for 1 / 60, and the results times `full` are cut off. Where S is 0, L is copied.
+ *
+ *     8u    RGB (255, 0, 0)      HLS   0 127 254        (d / (M + m) is 0.9998 to 12 bits)
+ *           RGB (0, 0, 255)      HLS 169 127 254        (169.99999)
+ *           RGB (128, 128, 128)  HLS   0 128   0
+ *
+ * **16s.** The 16u conversion of the elements plus 32768, less 32768.
+ *
+ * **vemiBGRToHLS, vemiHLSToBGR.** Bytes, with the channels in the order B, G, R and H, L, S, in many layouts. The same
+ * formulas with true quotients, in single precision: channels are divided by 255, results multiplied with 255 (H with
+ * 255 / 360), 1e-07 is added in double precision, and the sum is cut off. Of source and destination,
+ *
+ *     C3P3    interleaved pixels to three planes        AC4P4    four channels to four planes
+ *     P3C3    three planes to interleaved pixels        AP4C4    four planes to four channels
+ *     P3      planes to planes                          AP4      four planes to four planes
+ *
+ * The forms of four channels or planes copy the fourth. AC4 alone (vemiBGRToHLS_8u_AC4R, and all AC4 forms of
+ * vemiRGBToHLS and vemiHLSToRGB) leaves the destination's fourth channel as it is.
+ *
+ * @param pSrc,srcStep    first pixel of the source, and the bytes between its rows; of planes, an array of their first
+ *                        pixels, and the one step of all
+ * @param pDst,dstStep    the same of the destination
+ * @param roiSize         size of the region in pixels
+ *
+ * **Overlap.** The destination does not overlap the source, unless it is the same image in the same layout.
+ *
+ * **Statuses**, in the order of the tests: null (with all plane pointers), size, step (see status.h).
+ *
+ * **Threads.** Rows are shared out among an OpenMP team.
+ *
+ *     vemiRGBToHLS_8u_C3R(rgb, rgbStep, hls, hlsStep, size);
+ *     vemiBGRToHLS_8u_C3P3R(bgr, bgrStep, hueLightnessSaturation, planeStep, size);
+ * @{
+ */
+
+VEMI_API VemiStatus vemiRGBToHLS_8u_C3R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiRGBToHLS_8u_AC4R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiRGBToHLS_16u_C3R(const Vemi16u* pSrc, int srcStep, Vemi16u* pDst, int dstStep,
+                                         VemiSize roiSize);
+VEMI_API VemiStatus vemiRGBToHLS_16u_AC4R(const Vemi16u* pSrc, int srcStep, Vemi16u* pDst, int dstStep,
+                                          VemiSize roiSize);
+VEMI_API VemiStatus vemiRGBToHLS_16s_C3R(const Vemi16s* pSrc, int srcStep, Vemi16s* pDst, int dstStep,
+                                         VemiSize roiSize);
+VEMI_API VemiStatus vemiRGBToHLS_16s_AC4R(const Vemi16s* pSrc, int srcStep, Vemi16s* pDst, int dstStep,
+                                          VemiSize roiSize);
+VEMI_API VemiStatus vemiRGBToHLS_32f_C3R(const Vemi32f* pSrc, int srcStep, Vemi32f* pDst, int dstStep,
+                                         VemiSize roiSize);
+VEMI_API VemiStatus vemiRGBToHLS_32f_AC4R(const Vemi32f* pSrc, int srcStep, Vemi32f* pDst, int dstStep,
+                                          VemiSize roiSize);
+
+VEMI_API VemiStatus vemiHLSToRGB_8u_C3R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiHLSToRGB_8u_AC4R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiHLSToRGB_16u_C3R(const Vemi16u* pSrc, int srcStep, Vemi16u* pDst, int dstStep,
+                                         VemiSize roiSize);
+VEMI_API VemiStatus vemiHLSToRGB_16u_AC4R(const Vemi16u* pSrc, int srcStep, Vemi16u* pDst, int dstStep,
+                                          VemiSize roiSize);
+VEMI_API VemiStatus vemiHLSToRGB_16s_C3R(const Vemi16s* pSrc, int srcStep, Vemi16s* pDst, int dstStep,
+                                         VemiSize roiSize);
+VEMI_API VemiStatus vemiHLSToRGB_16s_AC4R(const Vemi16s* pSrc, int srcStep, Vemi16s* pDst, int dstStep,
+                                          VemiSize roiSize);
+VEMI_API VemiStatus vemiHLSToRGB_32f_C3R(const Vemi32f* pSrc, int srcStep, Vemi32f* pDst, int dstStep,
+                                         VemiSize roiSize);
+VEMI_API VemiStatus vemiHLSToRGB_32f_AC4R(const Vemi32f* pSrc, int srcStep, Vemi32f* pDst, int dstStep,
+                                          VemiSize roiSize);
+
+VEMI_API VemiStatus vemiBGRToHLS_8u_AC4R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiBGRToHLS_8u_AC4P4R(const Vemi8u* pSrc, int srcStep, Vemi8u* const pDst[4], int dstStep,
+                                           VemiSize roiSize);
+VEMI_API VemiStatus vemiBGRToHLS_8u_AP4C4R(const Vemi8u* const pSrc[4], int srcStep, Vemi8u* pDst, int dstStep,
+                                           VemiSize roiSize);
+VEMI_API VemiStatus vemiBGRToHLS_8u_AP4R(const Vemi8u* const pSrc[4], int srcStep, Vemi8u* const pDst[4], int dstStep,
+                                         VemiSize roiSize);
+VEMI_API VemiStatus vemiBGRToHLS_8u_C3P3R(const Vemi8u* pSrc, int srcStep, Vemi8u* const pDst[3], int dstStep,
+                                          VemiSize roiSize);
+VEMI_API VemiStatus vemiBGRToHLS_8u_P3C3R(const Vemi8u* const pSrc[3], int srcStep, Vemi8u* pDst, int dstStep,
+                                          VemiSize roiSize);
+VEMI_API VemiStatus vemiBGRToHLS_8u_P3R(const Vemi8u* const pSrc[3], int srcStep, Vemi8u* const pDst[3], int dstStep,
+                                        VemiSize roiSize);
+
+VEMI_API VemiStatus vemiHLSToBGR_8u_AC4P4R(const Vemi8u* pSrc, int srcStep, Vemi8u* const pDst[4], int dstStep,
+                                           VemiSize roiSize);
+VEMI_API VemiStatus vemiHLSToBGR_8u_AP4C4R(const Vemi8u* const pSrc[4], int srcStep, Vemi8u* pDst, int dstStep,
+                                           VemiSize roiSize);
+VEMI_API VemiStatus vemiHLSToBGR_8u_AP4R(const Vemi8u* const pSrc[4], int srcStep, Vemi8u* const pDst[4], int dstStep,
+                                         VemiSize roiSize);
+VEMI_API VemiStatus vemiHLSToBGR_8u_C3P3R(const Vemi8u* pSrc, int srcStep, Vemi8u* const pDst[3], int dstStep,
+                                          VemiSize roiSize);
+VEMI_API VemiStatus vemiHLSToBGR_8u_P3C3R(const Vemi8u* const pSrc[3], int srcStep, Vemi8u* pDst, int dstStep,
+                                          VemiSize roiSize);
+VEMI_API VemiStatus vemiHLSToBGR_8u_P3R(const Vemi8u* const pSrc[3], int srcStep, Vemi8u* const pDst[3], int dstStep,
+                                        VemiSize roiSize);
+
+/** @} */
+
 /* ---- Matrices of the user's ---- */
 
 /**

@@ -80,4 +80,16 @@ HWY_INLINE auto inParts(D d, const F& f) {
   }
 }
 
+/// The operation of 16u on elements of 16s that count from -32768.
+template <class Op>
+struct OfSigned {
+  template <class D, class... V>
+  HWY_INLINE auto operator()(D d, V... v) const {
+    const hn::RebindToUnsigned<D> du;
+    const auto sign = hn::Set(du, 0x8000);
+    const auto results = Op()(du, hn::Xor(hn::BitCast(du, v), sign)...);
+    return std::apply([&](auto... u) HWY_ATTR { return std::tuple(hn::BitCast(d, hn::Xor(u, sign))...); }, results);
+  }
+};
+
 }  // namespace vemi::color

@@ -56,6 +56,12 @@ void shared(Call& call) {
 
 // ---- Perceptual and device spaces ----
 
+/// Between layouts of four channels with planes among them the fourth is copied.
+void withCopiedAlpha(Call& call) {
+  if (!call.function.source.planar && !call.function.destination.planar) return;
+  for (Image& image : call.images) image.layout.channels = image.layout.elements;
+}
+
 /// Pixels with channels that are equal, all of them or two, of black and white, and of floats that are colours.
 void fewColours(Call& call) {
   const View source = call.source();
@@ -220,7 +226,12 @@ std::vector<Family> colorFamilies() {
       {"vemiYUV420ToRGB", ".*", "null size planes", shared<2, 2>, noSize},
 
       // Perceptual and device spaces
-      {"vemiRGBToHSV vemiHSVToRGB", ".*", "null size step", nullptr, {}, fewColours},
+      {"vemiRGBToHSV vemiHSVToRGB vemiRGBToHLS vemiHLSToRGB vemiBGRToHLS vemiHLSToBGR",
+       ".*",
+       "null size step",
+       withCopiedAlpha,
+       {},
+       fewColours},
 
       // Matrices of the user's
       {"vemiColorTwist vemiColorTwist32f", ".*", "null size step", withTwist, {}, withPixelBesideHalf},
