@@ -197,6 +197,169 @@ VEMI_API VemiStatus vemiYCbCr420ToBGR_8u_P3C3R(const Vemi8u* const pSrc[3], cons
 
 /** @} */
 
+/**
+ * @defgroup vemi_ycc vemiRGBToYCC, vemiYCCToRGB: the photographic model YCC
+ *
+ * Luma and two chroma values of a photograph, scaled so that light beyond white still fits. With values from 0 to 1:
+ *
+ *     l  = 0.299 R + 0.587 G + 0.114 B         y = 1.3584 Y
+ *     Y  = 0.7132668 l                         c = 2.2179 (C1 - K1),  d = 1.8215 (C2 - K2)
+ *     C1 = 0.43686 (B - l) + K1                R = y + d
+ *     C2 = 0.53192 (R - l) + K2                G = y - 0.194 c - 0.509 d
+ *                                              B = y + c
+ *
+ * White is Y = 0.713; grey has C1 = K1 and C2 = K2, on the scale of the type:
+ *
+ *     type  K1         K2         results
+ *     8u    156        137        of integers, see below
+ *     16u   40092      35209      truncated towards zero, limited to 0..65535
+ *     16s   40092      35209      as 16u of values 32768 higher: added before, subtracted from the float afterwards,
+ * which is then truncated towards zero and limited to -32768..32767 32f   0.6117647  0.5372549  YCC as it is; RGB
+ * limited to 0..1, a NaN becomes 0
+ *
+ * 16u, 16s and 32f are computed in single precision, sums from left to right as written.
+ *
+ * **8u** has two arithmetics: one for whole groups of eight columns from the row's left end, one for the columns that
+ * are left, so that the same colour may differ there by one. x >> n is x / 2^n rounded down, mulhi(a, b) = (a b) >> 16.
+ *
+ *     groups      l = mulhi(2^8 R, 4898) + mulhi(2^8 G, 9617) + mulhi(2^8 B, 1867)
+ *                 Y  = mulhi(l, 2921) >> 2
+ *                 C1 = (mulhi(2^6 B - l, 1789) + 624) >> 2
+ *                 C2 = (mulhi(2^6 R - l, 2178) + 548) >> 2
+ *     the rest    L = 4898 R + 9617 G + 1867 B
+ *                 Y  = ((L >> 10) 2921) >> 16
+ *                 C1 = (((2^14 B - L) >> 10) 1789 >> 16) + 156
+ *                 C2 = (((2^14 R - L) >> 10) 2178 >> 16) + 137
+ *
+ *     groups      y = mulhi(2^8 Y, 5563), c = mulhi(2^7 (C1 - 156), 18168), d = mulhi(2^7 (C2 - 137), 14921)
+ *                 R = (y + d) >> 4, B = (y + c) >> 4
+ *                 G = ((y >> 1) + mulhi(c, -6357) + mulhi(d, -16679)) >> 3
+ *     the rest    a = 5564 Y, c = 9084 (C1 - 156), d = 7460 (C2 - 137)
+ *                 R = (a + d) >> 12, B = (a + c) >> 12
+ *                 G = (2^4 a - 794 (c >> 8) - 2084 (d >> 8)) >> 16;  all limited to 0..255
+ *
+ * @param pSrc,srcStep  first pixel of the source, and the bytes between its rows; channels R, G, B or Y, C1, C2
+ * @param pDst,dstStep  the same of the destination; AC4 leaves its fourth channel as it is
+ * @param roiSize       size of the region in pixels
+ *
+ * **Overlap.** pDst may be pSrc with the same step. Regions that overlap in any other way give undefined results.
+ *
+ * **Statuses**, in the order of the tests: null, size, step (see status.h).
+ *
+ * **Threads.** Rows are shared among the threads of a team, in one parallel region.
+ *
+ *     vemiRGBToYCC_8u_C3R(photo, photoStep, ycc, yccStep, size);
+ * @{
+ */
+
+VEMI_API VemiStatus vemiRGBToYCC_8u_C3R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiRGBToYCC_8u_AC4R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiRGBToYCC_16u_C3R(const Vemi16u* pSrc, int srcStep, Vemi16u* pDst, int dstStep,
+                                         VemiSize roiSize);
+VEMI_API VemiStatus vemiRGBToYCC_16u_AC4R(const Vemi16u* pSrc, int srcStep, Vemi16u* pDst, int dstStep,
+                                          VemiSize roiSize);
+VEMI_API VemiStatus vemiRGBToYCC_16s_C3R(const Vemi16s* pSrc, int srcStep, Vemi16s* pDst, int dstStep,
+                                         VemiSize roiSize);
+VEMI_API VemiStatus vemiRGBToYCC_16s_AC4R(const Vemi16s* pSrc, int srcStep, Vemi16s* pDst, int dstStep,
+                                          VemiSize roiSize);
+VEMI_API VemiStatus vemiRGBToYCC_32f_C3R(const Vemi32f* pSrc, int srcStep, Vemi32f* pDst, int dstStep,
+                                         VemiSize roiSize);
+VEMI_API VemiStatus vemiRGBToYCC_32f_AC4R(const Vemi32f* pSrc, int srcStep, Vemi32f* pDst, int dstStep,
+                                          VemiSize roiSize);
+
+VEMI_API VemiStatus vemiYCCToRGB_8u_C3R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiYCCToRGB_8u_AC4R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiYCCToRGB_16u_C3R(const Vemi16u* pSrc, int srcStep, Vemi16u* pDst, int dstStep,
+                                         VemiSize roiSize);
+VEMI_API VemiStatus vemiYCCToRGB_16u_AC4R(const Vemi16u* pSrc, int srcStep, Vemi16u* pDst, int dstStep,
+                                          VemiSize roiSize);
+VEMI_API VemiStatus vemiYCCToRGB_16s_C3R(const Vemi16s* pSrc, int srcStep, Vemi16s* pDst, int dstStep,
+                                         VemiSize roiSize);
+VEMI_API VemiStatus vemiYCCToRGB_16s_AC4R(const Vemi16s* pSrc, int srcStep, Vemi16s* pDst, int dstStep,
+                                          VemiSize roiSize);
+VEMI_API VemiStatus vemiYCCToRGB_32f_C3R(const Vemi32f* pSrc, int srcStep, Vemi32f* pDst, int dstStep,
+                                         VemiSize roiSize);
+VEMI_API VemiStatus vemiYCCToRGB_32f_AC4R(const Vemi32f* pSrc, int srcStep, Vemi32f* pDst, int dstStep,
+                                          VemiSize roiSize);
+
+/** @} */
+
+/**
+ * @defgroup vemi_gray vemiRGBToGray, vemiColorToGray: one channel out of three
+ *
+ *     pDst = w0 R + w1 G + w2 B
+ *
+ * with the weights 0.299, 0.587, 0.114 (vemiRGBToGray) or those of the caller (vemiColorToGray: any channels, any
+ * weights). C3C1 and AC4C1 tell the source's layout; the fourth channel of AC4 is not looked at.
+ *
+ * **8u**: integers with 12 bits behind the point. A caller's weight c becomes w = c * 4096 + 0.5, truncated, or -2^31
+ * where that does not fit in 32 bits; the fixed ones are 1225, 2404 and 467. Whole groups of eight columns from the
+ * row's left end are worked by another arithmetic than the columns that are left; x >> n is x / 2^n rounded down:
+ *
+ *     groups     s = (2^8 R w0 >> 16) + (2^8 G w1 >> 16) + (2^8 B w2 >> 16), with the lower 16 bits of each weight, as
+ * a number without sign, and sums limited to 65535; s >> 4, limited to 255 the rest   (w0 R + w1 G + w2 B) >> 12, of
+ * which the lower 8 bits are stored
+ *
+ * So white is 254 in groups and 255 in the rest, by the fixed weights.
+ *
+ * **16u, 16s, 32f**: in single precision, sums from left to right; 32f as it comes. 16u is truncated towards zero, and
+ * the lower 16 bits of the integer are stored. 16s is computed with channels 32768 higher, and 32768 is subtracted from
+ * the float before it is truncated towards zero: of whole groups of four columns the integer is limited to
+ * -32768..32767, of the columns that are left its lower 16 bits are stored. What no 32-bit integer holds, and a NaN, is
+ * -2^31.
+ *
+ * @param pSrc,srcStep  first pixel of the source, and the bytes between its rows
+ * @param pDst,dstStep  first pixel of the destination, one channel, and the bytes between its rows
+ * @param roiSize       size of the region in pixels
+ * @param coeffs        (vemiColorToGray) weights of the three channels
+ *
+ * **Overlap.** pDst does not overlap pSrc.
+ *
+ * **Statuses**, in the order of the tests: null (coeffs among the pointers), size, step (see status.h).
+ *
+ * **Threads.** All members run in the calling thread.
+ *
+ *     const Vemi32f luminance[3] = {0.2126f, 0.7152f, 0.0722f};   // ITU-R BT.709
+ *     vemiColorToGray_8u_C3C1R(photo, photoStep, grey, greyStep, size, luminance);
+ * @{
+ */
+
+VEMI_API VemiStatus vemiRGBToGray_8u_C3C1R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep,
+                                           VemiSize roiSize);
+VEMI_API VemiStatus vemiRGBToGray_8u_AC4C1R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep,
+                                            VemiSize roiSize);
+VEMI_API VemiStatus vemiRGBToGray_16u_C3C1R(const Vemi16u* pSrc, int srcStep, Vemi16u* pDst, int dstStep,
+                                            VemiSize roiSize);
+VEMI_API VemiStatus vemiRGBToGray_16u_AC4C1R(const Vemi16u* pSrc, int srcStep, Vemi16u* pDst, int dstStep,
+                                             VemiSize roiSize);
+VEMI_API VemiStatus vemiRGBToGray_16s_C3C1R(const Vemi16s* pSrc, int srcStep, Vemi16s* pDst, int dstStep,
+                                            VemiSize roiSize);
+VEMI_API VemiStatus vemiRGBToGray_16s_AC4C1R(const Vemi16s* pSrc, int srcStep, Vemi16s* pDst, int dstStep,
+                                             VemiSize roiSize);
+VEMI_API VemiStatus vemiRGBToGray_32f_C3C1R(const Vemi32f* pSrc, int srcStep, Vemi32f* pDst, int dstStep,
+                                            VemiSize roiSize);
+VEMI_API VemiStatus vemiRGBToGray_32f_AC4C1R(const Vemi32f* pSrc, int srcStep, Vemi32f* pDst, int dstStep,
+                                             VemiSize roiSize);
+
+VEMI_API VemiStatus vemiColorToGray_8u_C3C1R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep,
+                                             VemiSize roiSize, const Vemi32f coeffs[3]);
+VEMI_API VemiStatus vemiColorToGray_8u_AC4C1R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep,
+                                              VemiSize roiSize, const Vemi32f coeffs[3]);
+VEMI_API VemiStatus vemiColorToGray_16u_C3C1R(const Vemi16u* pSrc, int srcStep, Vemi16u* pDst, int dstStep,
+                                              VemiSize roiSize, const Vemi32f coeffs[3]);
+VEMI_API VemiStatus vemiColorToGray_16u_AC4C1R(const Vemi16u* pSrc, int srcStep, Vemi16u* pDst, int dstStep,
+                                               VemiSize roiSize, const Vemi32f coeffs[3]);
+VEMI_API VemiStatus vemiColorToGray_16s_C3C1R(const Vemi16s* pSrc, int srcStep, Vemi16s* pDst, int dstStep,
+                                              VemiSize roiSize, const Vemi32f coeffs[3]);
+VEMI_API VemiStatus vemiColorToGray_16s_AC4C1R(const Vemi16s* pSrc, int srcStep, Vemi16s* pDst, int dstStep,
+                                               VemiSize roiSize, const Vemi32f coeffs[3]);
+VEMI_API VemiStatus vemiColorToGray_32f_C3C1R(const Vemi32f* pSrc, int srcStep, Vemi32f* pDst, int dstStep,
+                                              VemiSize roiSize, const Vemi32f coeffs[3]);
+VEMI_API VemiStatus vemiColorToGray_32f_AC4C1R(const Vemi32f* pSrc, int srcStep, Vemi32f* pDst, int dstStep,
+                                               VemiSize roiSize, const Vemi32f coeffs[3]);
+
+/** @} */
+
 /* ---- Perceptual and device spaces ---- */
 
 /**

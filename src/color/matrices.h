@@ -2,6 +2,7 @@
 //
 //   AffineMatrix      each result is a weighted sum of the three channels and an offset, exact to the shift
 //   LumaChromaMatrix  to red, green and blue by products in 16-bit lanes, each of them rounded down
+//   YccMatrix         to and from the photographic model, whose luma and chroma are scaled
 //
 // Weights are the real numbers of the model, times 2^16 in an AffineMatrix; results are limited to a byte.
 #pragma once
@@ -83,5 +84,48 @@ inline constexpr AffineMatrix ycbcrToRgbExact = {{fromDifferences(76284, 0, 1045
 /// channel does not count.
 inline constexpr AffineMatrix ycbcrToRgbOfWidth1 = {
     {{{76284, 104595, 0}, -14608761}, {{76284, -53281 - 25690, 0}, 8887730}, {{76284, 132186, 0}, -18140365}}};
+
+// ---- YCC: luma l of red, green and blue; Y = l / 1.402, C1 and C2 multiples of B - l and R - l from zero points on
+// ------
+
+/// Forward: l = sum of weight times channel; Y = luma l, C1 = c1 (B - l) + zero1, C2 = c2 (R - l) + zero2.
+template <class T>
+struct YccMatrix {
+  T weight[3];
+  T luma, c1, c2;
+};
+
+/// Inverse: y = luma Y, c = c1 (C1 - zero1), d = c2 (C2 - zero2); R = y + d, G = y - green1 c - green2 d, B = y + c.
+template <class T>
+struct YccInverse {
+  T luma, c1, c2, green1, green2;
+};
+
+/// The values of no chroma.
+template <class T>
+struct YccZeros {
+  T c1, c2;
+};
+
+inline constexpr YccMatrix<float> rgbToYcc = {{0.299f, 0.587f, 0.114f}, 0.7132668f, 0.43686f, 0.53192f};
+inline constexpr YccInverse<float> yccToRgb = {1.3584f, 2.2179f, 1.8215f, 0.194f, 0.509f};
+
+/// Weights of light times 2^14, the others times 2^12; both regimes.
+inline constexpr YccMatrix<int> rgbToYcc8u = {{4898, 9617, 1867}, 2921, 1789, 2178};
+/// Whole groups: luma times 2^12, chroma times 2^13, green times 2^15.
+inline constexpr YccInverse<int> yccToRgb8u = {5563, 18168, 14921, 6357, 16679};
+/// Columns that are left: all times 2^12.
+inline constexpr YccInverse<int> yccToRgb8uRest = {5564, 9084, 7460, 794, 2084};
+
+inline constexpr YccZeros<int> yccZeros8u = {156, 137};
+/// Of 16u, and of 16s once 32768 is added.
+inline constexpr YccZeros<float> yccZeros16u = {40092, 35209};
+inline constexpr YccZeros<float> yccZeros32f = {0.6117647f, 0.5372549f};
+
+// ---- Grey -----------------------------------------------------------------------------------------------------------
+
+inline constexpr float greyWeights[3] = {0.299f, 0.587f, 0.114f};
+/// The same times 2^12.
+inline constexpr int greyWeights8u[3] = {1225, 2404, 467};
 
 }  // namespace vemi::color

@@ -54,6 +54,22 @@ void shared(Call& call) {
   withFourth(call);
 }
 
+/// Weights that add up to one, that leave the range, that are negative, and any floats.
+void withWeights(Call& call) {
+  const auto share = [&] { return static_cast<float>(call.random.below(1000)) / 1000; };
+  const float w = share(), v = share() * (1 - w);
+  switch (call.random.below(4)) {
+    case 0:
+      return call.setArray<float>("coeffs", {w, v, 1 - w - v});
+    case 1:
+      return call.setArray<float>("coeffs", {9 * w, 0.5f, 7 * v});
+    case 2:
+      return call.setArray<float>("coeffs", {1 + w, -w, v - 1});
+    default:
+      return;
+  }
+}
+
 // ---- Perceptual and device spaces ----
 
 /// Between layouts of four channels with planes among them the fourth is copied.
@@ -224,6 +240,8 @@ std::vector<Family> colorFamilies() {
       {"vemiYUV420ToRGB vemiYUV420ToBGR vemiYCbCr420ToRGB vemiYCbCr420ToBGR", ".*R", "null size planes step",
        shared<2, 2>},
       {"vemiYUV420ToRGB", ".*", "null size planes", shared<2, 2>, noSize},
+      {"vemiRGBToYCC vemiYCCToRGB vemiRGBToGray", ".*", "null size step"},
+      {"vemiColorToGray", ".*", "null size step", withWeights},
 
       // Perceptual and device spaces
       {"vemiRGBToHSV vemiHSVToRGB vemiRGBToHLS vemiHLSToRGB vemiBGRToHLS vemiHLSToBGR",
