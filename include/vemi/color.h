@@ -1054,6 +1054,244 @@ VEMI_API VemiStatus vemiSwapChannels_32f_AC4R(const Vemi32f* pSrc, int srcStep, 
 
 /* ---- Packed 16-bit pixels ---- */
 
+/**
+ * @defgroup vemi_color_packed vemiYCbCrToRGB565 and its kin: 16 bits a pixel
+ *
+ * From YCbCr or YUV to red, green and blue of 4, 5 or 6 bits each in one word of 16 bits, for displays. Bits, counted
+ * from the lowest:
+ *
+ * | Word | To...RGB... | To...BGR... |
+ * |---|---|---|
+ * | 565 | R 0..4, G 5..10, B 11..15 | B 0..4, G 5..10, R 11..15 |
+ * | 555 | R 0..4, G 5..9, B 10..14  | B 0..4, G 5..9, R 10..14  |
+ * | 444 | R 0..3, G 4..7, B 8..11   | B 0..3, G 4..7, R 8..11   |
+ *
+ * So the letter that comes first lies in the lowest bits. Bits above the format are 0.
+ *
+ * | Source | Member | Planes, or bytes |
+ * |---|---|---|
+ * | vemiYCbCr... | C3R | Y, Cb, Cr of each pixel |
+ * | | P3C3R | planes of Y, Cb and Cr, all of them of the region's size |
+ * | vemiYCbCr422... | C2C3R | Y0, Cb, Y1, Cr of each two pixels; two bytes, Y and Cb, of the last one of an odd width |
+ * | | P3C3R | planes; those of chroma have (width + 1) / 2 columns |
+ * | vemiYCbCr420..., vemiYUV420... | P3C3R | planes; those of chroma have (width + 1) / 2 columns and (height + 1) / 2
+ * rows |
+ *
+ * The last pixel of an odd width of C2C3R takes the Cr of the pair before it; where the width is 1, its Cb for both.
+ *
+ * **YCbCr** has luma from 16 to 235 and chroma from 16 to 240 (ITU-R BT.601). With >> rounding down, mulhi(a, b) =
+ * (a * b) >> 16, y = mulhi((Y - 16) * 128, 9535), u = (Cb - 128) * 128, v = (Cr - 128) * 128, limited to 0..255:
+ *
+ *     R = (y + mulhi(v, 13074) + h) >> 4
+ *     G = (y - mulhi(u, 3211) - mulhi(v, 6660) + h) >> 4
+ *     B = (y + mulhi(u, 16523) + h) >> 4
+ *
+ * where h is 8 in whole groups of four columns, counted from the left, and 0 in the columns that are left, in the last
+ * row of an odd height of 4:2:0, and everywhere in Dither members. In plain C3R members, where both images are without
+ * gaps between rows (srcStep = 3 * width, dstStep = 2 * width), groups go on from row to row, and what is left is at
+ * the region's end.
+ *
+ * **YUV** is that of vemiYUVToRGB: whole groups of four columns by its products in 16 bits, those of each fourth column
+ * with its two other weights; the columns and the row that are left, and everything in Dither members, by its exact
+ * sums (vemiYUV420ToRGB, single columns).
+ *
+ * **Plain members** keep the upper bits of each channel: R >> 3, G >> 2, B >> 3 for 565, all >> 3 for 555 and >> 4 for
+ * 444.
+ *
+ * **Dither members** spread what is cut off over 4 x 4 pixels, so that a slow ramp shows no bands. With n = 2^bits - 1
+ * and v a channel, its level is (v * n) >> 8, and one more where 256 v - s * level exceeds the threshold t of the
+ * pixel's place:
+ *
+ *     bits  s     t
+ *     4     4352  of the second table
+ *     5     2105  of the first table
+ *     6     1036  half of the first table's, rounded down
+ *
+ *     first table, row y % 4, column x % 4    second table
+ *        0  1118   279  1398                     0  2312   578  2890
+ *     1678   559  1957   839                  3468  1156  4046  1734
+ *      419  1538   139  1258                   867  3179   289  2601
+ *     2097   978  1817   699                  4335  2023  3757  1445
+ *
+ * x and y count from the region's first pixel, so regions that are dithered apart meet without a seam only where they
+ * begin at multiples of four. White is all ones but for G of 565 in column 0 of each fourth row, which is 62.
+ *
+ * @param pSrc,srcStep  first pixel of the source and the bytes between its rows, or arrays of three planes and of their
+ *                      steps
+ * @param pDst,dstStep  first word of the destination, and the bytes between its rows
+ * @param roiSize       size of the region in pixels; any width and height, odd ones too
+ *
+ * Source and destination do not overlap.
+ *
+ * **Statuses**, in the order of the tests: null (pSrc, pDst, srcStep of planes), size, null planes; step in the plain
+ * C3R members alone. In all others steps may be negative, for images that stand upside down (see status.h).
+ *
+ * **Threads.** All members run in the calling thread.
+ *
+ *     const Vemi8u* const planes[3] = {y, cb, cr};
+ *     const int steps[3] = {yStep, cStep, cStep};
+ *     vemiYCbCr420ToBGR565Dither_8u16u_P3C3R(planes, steps, screen, screenStep, size);   // red in the upper bits
+ * @{
+ */
+
+VEMI_API VemiStatus vemiYCbCrToRGB565_8u16u_C3R(const Vemi8u* pSrc, int srcStep, Vemi16u* pDst, int dstStep,
+                                                VemiSize roiSize);
+VEMI_API VemiStatus vemiYCbCrToBGR565_8u16u_C3R(const Vemi8u* pSrc, int srcStep, Vemi16u* pDst, int dstStep,
+                                                VemiSize roiSize);
+VEMI_API VemiStatus vemiYCbCrToRGB555_8u16u_C3R(const Vemi8u* pSrc, int srcStep, Vemi16u* pDst, int dstStep,
+                                                VemiSize roiSize);
+VEMI_API VemiStatus vemiYCbCrToBGR555_8u16u_C3R(const Vemi8u* pSrc, int srcStep, Vemi16u* pDst, int dstStep,
+                                                VemiSize roiSize);
+VEMI_API VemiStatus vemiYCbCrToRGB444_8u16u_C3R(const Vemi8u* pSrc, int srcStep, Vemi16u* pDst, int dstStep,
+                                                VemiSize roiSize);
+VEMI_API VemiStatus vemiYCbCrToBGR444_8u16u_C3R(const Vemi8u* pSrc, int srcStep, Vemi16u* pDst, int dstStep,
+                                                VemiSize roiSize);
+
+VEMI_API VemiStatus vemiYCbCrToRGB565Dither_8u16u_C3R(const Vemi8u* pSrc, int srcStep, Vemi16u* pDst, int dstStep,
+                                                      VemiSize roiSize);
+VEMI_API VemiStatus vemiYCbCrToBGR565Dither_8u16u_C3R(const Vemi8u* pSrc, int srcStep, Vemi16u* pDst, int dstStep,
+                                                      VemiSize roiSize);
+VEMI_API VemiStatus vemiYCbCrToRGB555Dither_8u16u_C3R(const Vemi8u* pSrc, int srcStep, Vemi16u* pDst, int dstStep,
+                                                      VemiSize roiSize);
+VEMI_API VemiStatus vemiYCbCrToBGR555Dither_8u16u_C3R(const Vemi8u* pSrc, int srcStep, Vemi16u* pDst, int dstStep,
+                                                      VemiSize roiSize);
+VEMI_API VemiStatus vemiYCbCrToRGB444Dither_8u16u_C3R(const Vemi8u* pSrc, int srcStep, Vemi16u* pDst, int dstStep,
+                                                      VemiSize roiSize);
+VEMI_API VemiStatus vemiYCbCrToBGR444Dither_8u16u_C3R(const Vemi8u* pSrc, int srcStep, Vemi16u* pDst, int dstStep,
+                                                      VemiSize roiSize);
+
+VEMI_API VemiStatus vemiYCbCrToRGB565_8u16u_P3C3R(const Vemi8u* const pSrc[3], const int srcStep[3], Vemi16u* pDst,
+                                                  int dstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiYCbCrToBGR565_8u16u_P3C3R(const Vemi8u* const pSrc[3], const int srcStep[3], Vemi16u* pDst,
+                                                  int dstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiYCbCrToRGB555_8u16u_P3C3R(const Vemi8u* const pSrc[3], const int srcStep[3], Vemi16u* pDst,
+                                                  int dstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiYCbCrToBGR555_8u16u_P3C3R(const Vemi8u* const pSrc[3], const int srcStep[3], Vemi16u* pDst,
+                                                  int dstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiYCbCrToRGB444_8u16u_P3C3R(const Vemi8u* const pSrc[3], const int srcStep[3], Vemi16u* pDst,
+                                                  int dstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiYCbCrToBGR444_8u16u_P3C3R(const Vemi8u* const pSrc[3], const int srcStep[3], Vemi16u* pDst,
+                                                  int dstStep, VemiSize roiSize);
+
+VEMI_API VemiStatus vemiYCbCrToRGB565Dither_8u16u_P3C3R(const Vemi8u* const pSrc[3], const int srcStep[3],
+                                                        Vemi16u* pDst, int dstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiYCbCrToBGR565Dither_8u16u_P3C3R(const Vemi8u* const pSrc[3], const int srcStep[3],
+                                                        Vemi16u* pDst, int dstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiYCbCrToRGB555Dither_8u16u_P3C3R(const Vemi8u* const pSrc[3], const int srcStep[3],
+                                                        Vemi16u* pDst, int dstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiYCbCrToBGR555Dither_8u16u_P3C3R(const Vemi8u* const pSrc[3], const int srcStep[3],
+                                                        Vemi16u* pDst, int dstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiYCbCrToRGB444Dither_8u16u_P3C3R(const Vemi8u* const pSrc[3], const int srcStep[3],
+                                                        Vemi16u* pDst, int dstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiYCbCrToBGR444Dither_8u16u_P3C3R(const Vemi8u* const pSrc[3], const int srcStep[3],
+                                                        Vemi16u* pDst, int dstStep, VemiSize roiSize);
+
+VEMI_API VemiStatus vemiYCbCr422ToRGB565_8u16u_C2C3R(const Vemi8u* pSrc, int srcStep, Vemi16u* pDst, int dstStep,
+                                                     VemiSize roiSize);
+VEMI_API VemiStatus vemiYCbCr422ToBGR565_8u16u_C2C3R(const Vemi8u* pSrc, int srcStep, Vemi16u* pDst, int dstStep,
+                                                     VemiSize roiSize);
+VEMI_API VemiStatus vemiYCbCr422ToRGB555_8u16u_C2C3R(const Vemi8u* pSrc, int srcStep, Vemi16u* pDst, int dstStep,
+                                                     VemiSize roiSize);
+VEMI_API VemiStatus vemiYCbCr422ToBGR555_8u16u_C2C3R(const Vemi8u* pSrc, int srcStep, Vemi16u* pDst, int dstStep,
+                                                     VemiSize roiSize);
+VEMI_API VemiStatus vemiYCbCr422ToRGB444_8u16u_C2C3R(const Vemi8u* pSrc, int srcStep, Vemi16u* pDst, int dstStep,
+                                                     VemiSize roiSize);
+VEMI_API VemiStatus vemiYCbCr422ToBGR444_8u16u_C2C3R(const Vemi8u* pSrc, int srcStep, Vemi16u* pDst, int dstStep,
+                                                     VemiSize roiSize);
+
+VEMI_API VemiStatus vemiYCbCr422ToRGB565Dither_8u16u_C2C3R(const Vemi8u* pSrc, int srcStep, Vemi16u* pDst, int dstStep,
+                                                           VemiSize roiSize);
+VEMI_API VemiStatus vemiYCbCr422ToBGR565Dither_8u16u_C2C3R(const Vemi8u* pSrc, int srcStep, Vemi16u* pDst, int dstStep,
+                                                           VemiSize roiSize);
+VEMI_API VemiStatus vemiYCbCr422ToRGB555Dither_8u16u_C2C3R(const Vemi8u* pSrc, int srcStep, Vemi16u* pDst, int dstStep,
+                                                           VemiSize roiSize);
+VEMI_API VemiStatus vemiYCbCr422ToBGR555Dither_8u16u_C2C3R(const Vemi8u* pSrc, int srcStep, Vemi16u* pDst, int dstStep,
+                                                           VemiSize roiSize);
+VEMI_API VemiStatus vemiYCbCr422ToRGB444Dither_8u16u_C2C3R(const Vemi8u* pSrc, int srcStep, Vemi16u* pDst, int dstStep,
+                                                           VemiSize roiSize);
+VEMI_API VemiStatus vemiYCbCr422ToBGR444Dither_8u16u_C2C3R(const Vemi8u* pSrc, int srcStep, Vemi16u* pDst, int dstStep,
+                                                           VemiSize roiSize);
+
+VEMI_API VemiStatus vemiYCbCr422ToRGB565_8u16u_P3C3R(const Vemi8u* const pSrc[3], const int srcStep[3], Vemi16u* pDst,
+                                                     int dstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiYCbCr422ToBGR565_8u16u_P3C3R(const Vemi8u* const pSrc[3], const int srcStep[3], Vemi16u* pDst,
+                                                     int dstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiYCbCr422ToRGB555_8u16u_P3C3R(const Vemi8u* const pSrc[3], const int srcStep[3], Vemi16u* pDst,
+                                                     int dstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiYCbCr422ToBGR555_8u16u_P3C3R(const Vemi8u* const pSrc[3], const int srcStep[3], Vemi16u* pDst,
+                                                     int dstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiYCbCr422ToRGB444_8u16u_P3C3R(const Vemi8u* const pSrc[3], const int srcStep[3], Vemi16u* pDst,
+                                                     int dstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiYCbCr422ToBGR444_8u16u_P3C3R(const Vemi8u* const pSrc[3], const int srcStep[3], Vemi16u* pDst,
+                                                     int dstStep, VemiSize roiSize);
+
+VEMI_API VemiStatus vemiYCbCr422ToRGB565Dither_8u16u_P3C3R(const Vemi8u* const pSrc[3], const int srcStep[3],
+                                                           Vemi16u* pDst, int dstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiYCbCr422ToBGR565Dither_8u16u_P3C3R(const Vemi8u* const pSrc[3], const int srcStep[3],
+                                                           Vemi16u* pDst, int dstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiYCbCr422ToRGB555Dither_8u16u_P3C3R(const Vemi8u* const pSrc[3], const int srcStep[3],
+                                                           Vemi16u* pDst, int dstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiYCbCr422ToBGR555Dither_8u16u_P3C3R(const Vemi8u* const pSrc[3], const int srcStep[3],
+                                                           Vemi16u* pDst, int dstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiYCbCr422ToRGB444Dither_8u16u_P3C3R(const Vemi8u* const pSrc[3], const int srcStep[3],
+                                                           Vemi16u* pDst, int dstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiYCbCr422ToBGR444Dither_8u16u_P3C3R(const Vemi8u* const pSrc[3], const int srcStep[3],
+                                                           Vemi16u* pDst, int dstStep, VemiSize roiSize);
+
+VEMI_API VemiStatus vemiYCbCr420ToRGB565_8u16u_P3C3R(const Vemi8u* const pSrc[3], const int srcStep[3], Vemi16u* pDst,
+                                                     int dstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiYCbCr420ToBGR565_8u16u_P3C3R(const Vemi8u* const pSrc[3], const int srcStep[3], Vemi16u* pDst,
+                                                     int dstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiYCbCr420ToRGB555_8u16u_P3C3R(const Vemi8u* const pSrc[3], const int srcStep[3], Vemi16u* pDst,
+                                                     int dstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiYCbCr420ToBGR555_8u16u_P3C3R(const Vemi8u* const pSrc[3], const int srcStep[3], Vemi16u* pDst,
+                                                     int dstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiYCbCr420ToRGB444_8u16u_P3C3R(const Vemi8u* const pSrc[3], const int srcStep[3], Vemi16u* pDst,
+                                                     int dstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiYCbCr420ToBGR444_8u16u_P3C3R(const Vemi8u* const pSrc[3], const int srcStep[3], Vemi16u* pDst,
+                                                     int dstStep, VemiSize roiSize);
+
+VEMI_API VemiStatus vemiYCbCr420ToRGB565Dither_8u16u_P3C3R(const Vemi8u* const pSrc[3], const int srcStep[3],
+                                                           Vemi16u* pDst, int dstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiYCbCr420ToBGR565Dither_8u16u_P3C3R(const Vemi8u* const pSrc[3], const int srcStep[3],
+                                                           Vemi16u* pDst, int dstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiYCbCr420ToRGB555Dither_8u16u_P3C3R(const Vemi8u* const pSrc[3], const int srcStep[3],
+                                                           Vemi16u* pDst, int dstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiYCbCr420ToBGR555Dither_8u16u_P3C3R(const Vemi8u* const pSrc[3], const int srcStep[3],
+                                                           Vemi16u* pDst, int dstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiYCbCr420ToRGB444Dither_8u16u_P3C3R(const Vemi8u* const pSrc[3], const int srcStep[3],
+                                                           Vemi16u* pDst, int dstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiYCbCr420ToBGR444Dither_8u16u_P3C3R(const Vemi8u* const pSrc[3], const int srcStep[3],
+                                                           Vemi16u* pDst, int dstStep, VemiSize roiSize);
+
+VEMI_API VemiStatus vemiYUV420ToRGB565_8u16u_P3C3R(const Vemi8u* const pSrc[3], const int srcStep[3], Vemi16u* pDst,
+                                                   int dstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiYUV420ToBGR565_8u16u_P3C3R(const Vemi8u* const pSrc[3], const int srcStep[3], Vemi16u* pDst,
+                                                   int dstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiYUV420ToRGB555_8u16u_P3C3R(const Vemi8u* const pSrc[3], const int srcStep[3], Vemi16u* pDst,
+                                                   int dstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiYUV420ToBGR555_8u16u_P3C3R(const Vemi8u* const pSrc[3], const int srcStep[3], Vemi16u* pDst,
+                                                   int dstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiYUV420ToRGB444_8u16u_P3C3R(const Vemi8u* const pSrc[3], const int srcStep[3], Vemi16u* pDst,
+                                                   int dstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiYUV420ToBGR444_8u16u_P3C3R(const Vemi8u* const pSrc[3], const int srcStep[3], Vemi16u* pDst,
+                                                   int dstStep, VemiSize roiSize);
+
+VEMI_API VemiStatus vemiYUV420ToRGB565Dither_8u16u_P3C3R(const Vemi8u* const pSrc[3], const int srcStep[3],
+                                                         Vemi16u* pDst, int dstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiYUV420ToBGR565Dither_8u16u_P3C3R(const Vemi8u* const pSrc[3], const int srcStep[3],
+                                                         Vemi16u* pDst, int dstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiYUV420ToRGB555Dither_8u16u_P3C3R(const Vemi8u* const pSrc[3], const int srcStep[3],
+                                                         Vemi16u* pDst, int dstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiYUV420ToBGR555Dither_8u16u_P3C3R(const Vemi8u* const pSrc[3], const int srcStep[3],
+                                                         Vemi16u* pDst, int dstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiYUV420ToRGB444Dither_8u16u_P3C3R(const Vemi8u* const pSrc[3], const int srcStep[3],
+                                                         Vemi16u* pDst, int dstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiYUV420ToBGR444Dither_8u16u_P3C3R(const Vemi8u* const pSrc[3], const int srcStep[3],
+                                                         Vemi16u* pDst, int dstStep, VemiSize roiSize);
+
+/** @} */
+
 /** @} */
 
 #ifdef __cplusplus

@@ -229,6 +229,17 @@ void withOrder(Call& call) {
 
 // ---- Packed 16-bit pixels ----
 
+/// A destination pixel is one word, whatever its channels.
+template <int x, int y>
+void asWords(Call& call) {
+  sharePlanes(call, x, y);
+  call.image("pDst").layout = {1, 1, false};
+}
+
+#define ALL_WORDS(source, suffix)                                                                                 \
+  source "ToRGB565" suffix " " source "ToBGR565" suffix " " source "ToRGB555" suffix " " source "ToBGR555" suffix \
+         " " source "ToRGB444" suffix " " source "ToBGR444" suffix
+
 }  // namespace
 
 std::vector<Family> colorFamilies() {
@@ -285,7 +296,11 @@ std::vector<Family> colorFamilies() {
         {"dstOrder", INT_MIN, "own", vemiErrChannelOrder}}},
 
       // Packed 16-bit pixels
-
+      {ALL_WORDS("vemiYCbCr", ""), ".*_C3R", "null size step", asWords<1, 1>},
+      {ALL_WORDS("vemiYCbCr", "") " " ALL_WORDS("vemiYCbCr", "Dither"), ".*", "null size planes", asWords<1, 1>},
+      {ALL_WORDS("vemiYCbCr422", "") " " ALL_WORDS("vemiYCbCr422", "Dither"), ".*", "null size planes", asWords<2, 1>},
+      {ALL_WORDS("vemiYCbCr420", "") " " ALL_WORDS("vemiYCbCr420", "Dither"), ".*", "null size planes", asWords<2, 2>},
+      {ALL_WORDS("vemiYUV420", "") " " ALL_WORDS("vemiYUV420", "Dither"), ".*", "null size planes", asWords<2, 2>},
   };
 }
 
