@@ -971,6 +971,80 @@ VEMI_API VemiStatus vemiHistogramEven_16s_AC4R(const Vemi16s* pSrc, int srcStep,
 
 /** @} */
 
+/**
+ * @defgroup vemi_quality_index vemiQualityIndex: how much two images look alike
+ *
+ * The universal image quality index of Wang and Bovik (IEEE Signal Processing Letters 9(3), 2002), the mean over all
+ * windows of 8 x 8 pixels of
+ *
+ *     q = 4 cov(a, b) m(a) m(b) / ((var(a) + var(b)) (m(a)^2 + m(b)^2))
+ *
+ * for a in pSrc1 and b in pSrc2, with m their means in the window. It is the product of how far pixels go along with
+ * each other, how like their contrast is, and how like their brightness. 1 is for equal images, 0 for images that have
+ * nothing to do with each other, -1 for an image and its reverse. It says more about what an eye would find wrong than
+ * a mean difference does.
+ *
+ * Each channel has an index of its own:
+ *
+ *     C1          one value, through a plain pointer
+ *     C3, AC4     an array of three values, for the channels 0, 1 and 2; the fourth element of an AC4 pixel does not
+ *                 take part, but must be readable memory
+ *
+ * **Windows** have w = min(8, width) columns and h = min(8, height) rows, n = w h pixels; there is one at each place
+ * where it lies in the region, M = (width - w + 1) (height - h + 1) of them. A region of one pixel is enough.
+ *
+ * **In numbers**, all of them doubles: S1 and S2 are the sums of a window's pixels in the first and in the second
+ * image, Sq that of a a + b b, S12 that of a b. Sums are made down each column first, then across the columns, each
+ * time as ((v0 + v1) + (v2 + v3)) + ((v4 + v5) + (v6 + v7)), without what a smaller window lacks. (Bytes are exact in
+ * any order.) With each operation rounded,
+ *
+ *     R = S1 S1 + S2 S2,  P = S1 S2,  V = n Sq - R,  C = n S12 - P
+ *     q = (2 C * 2 P) / (V * R)
+ *
+ * where 2 C and V both are 1 if V <= n Sq 2^-46, and 2 P and R both are 1 if R is 0. The first means that both images
+ * are flat there: that all that deviates from their means is about 2^-23 of their size, the last place of a float,
+ * which sums cannot tell from their own rounding. In 8u it means that V is 0. q is rounded to a multiple of 2^-30, ties
+ * to even. The sum of these is exact; divided by M in double, it is rounded to single. So the result is the same for
+ * any order of the work, the images may change places, equal images of finite pixels give exactly 1, and both types
+ * give the same for the same numbers. A NaN or an infinity among the pixels of a channel makes its result a NaN.
+ *
+ *     8u   all 10 and all 20       ->  0.8          brightness alone
+ *     8u   1 2 3 and 1 2 4         ->  0.88941175   one window of 3 x 1
+ *     8u   3 and 4                 ->  0.96
+ *
+ * @param pSrc1,src1Step  first pixel of the first image, and the bytes between its rows
+ * @param pSrc2,src2Step  the same of the second image
+ * @param roiSize         size of the region in pixels
+ * @param pQualityIndex   one float for each channel
+ *
+ * **Overlap.** The sources may be the same or overlap in any way; results lie outside of them.
+ *
+ * **Statuses**, in the order of the tests: null, size, step; vemiErrMemAlloc where working memory cannot be had.
+ * Nothing is written then.
+ *
+ * **Threads.** All forms share tiles of the image among a team. Results do not depend on it.
+ *
+ *     float index[3];
+ *     vemiQualityIndex_8u32f_C3R(photo, photoStep, copy, copyStep, size, index);
+ * @{
+ */
+
+VEMI_API VemiStatus vemiQualityIndex_8u32f_C1R(const Vemi8u* pSrc1, int src1Step, const Vemi8u* pSrc2, int src2Step,
+                                               VemiSize roiSize, Vemi32f* pQualityIndex);
+VEMI_API VemiStatus vemiQualityIndex_8u32f_C3R(const Vemi8u* pSrc1, int src1Step, const Vemi8u* pSrc2, int src2Step,
+                                               VemiSize roiSize, Vemi32f pQualityIndex[3]);
+VEMI_API VemiStatus vemiQualityIndex_8u32f_AC4R(const Vemi8u* pSrc1, int src1Step, const Vemi8u* pSrc2, int src2Step,
+                                                VemiSize roiSize, Vemi32f pQualityIndex[3]);
+
+VEMI_API VemiStatus vemiQualityIndex_32f_C1R(const Vemi32f* pSrc1, int src1Step, const Vemi32f* pSrc2, int src2Step,
+                                             VemiSize roiSize, Vemi32f* pQualityIndex);
+VEMI_API VemiStatus vemiQualityIndex_32f_C3R(const Vemi32f* pSrc1, int src1Step, const Vemi32f* pSrc2, int src2Step,
+                                             VemiSize roiSize, Vemi32f pQualityIndex[3]);
+VEMI_API VemiStatus vemiQualityIndex_32f_AC4R(const Vemi32f* pSrc1, int src1Step, const Vemi32f* pSrc2, int src2Step,
+                                              VemiSize roiSize, Vemi32f pQualityIndex[3]);
+
+/** @} */
+
 /** @} */
 
 #ifdef __cplusplus

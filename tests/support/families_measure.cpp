@@ -178,6 +178,30 @@ void setHistograms(Call& call) {
   }
 }
 
+/// Images that are alike, with flat parts in one of them or in both. Most floats are numbers that go together.
+void alikeImages(Call& call) {
+  const View first = call.source(0), second = call.source(1);
+  const bool anyFloats = call.random.below(8) == 0;
+  const int flatFrom = call.random.below(2 * first.size.height);
+  const int flatImages = call.random.below(4);
+  const auto bytes = static_cast<size_t>(bytesOf(first.element));
+  for (int y = 0; y < first.size.height; ++y) {
+    for (int x = 0; x < first.size.width; ++x) {
+      for (int channel = 0; channel < first.channels; ++channel) {
+        std::byte* const a = first.at(x, y, channel);
+        std::byte* const b = second.at(x, y, channel);
+        if (first.element == Element::f32 && !anyFloats) {
+          store(a, static_cast<float>(call.random.below(4000)) / 7 - 20);
+          store(b, static_cast<float>(call.random.below(4000)) / 7 - 20);
+        }
+        if (call.random.below(4) != 0) std::memcpy(b, a, bytes);
+        if (y >= flatFrom && flatImages % 2 == 1) storeNumber(first.element, a, 7 * channel);
+        if (y >= flatFrom && flatImages / 2 == 1) storeNumber(first.element, b, 9 * channel);
+      }
+    }
+  }
+}
+
 }  // namespace
 
 std::vector<Family> measureFamilies() {
@@ -185,6 +209,7 @@ std::vector<Family> measureFamilies() {
       {"vemiSum vemiMean vemiMin vemiMax vemiMinMax vemiMinIndx vemiMaxIndx vemiNorm_Inf vemiNorm_L1 vemiNorm_L2 "
        "vemiNormDiff_Inf vemiNormDiff_L1 vemiNormDiff_L2 vemiNormRel_Inf vemiNormRel_L1 vemiNormRel_L2",
        ".*", "null size step", setHint},
+      {"vemiQualityIndex", ".*", "null size step", nullptr, {}, alikeImages},
       {"vemiCountInRange",
        "8u.*",
        "null step size own",
