@@ -58,6 +58,83 @@ extern "C" {
  */
 
 /**
+ * @defgroup vemi_rgb_to_yuv vemiRGBToYUV, vemiRGBToYUV422, vemiRGBToYUV420
+ *
+ * From red, green and blue to YUV. See @ref vemi_luma_chroma for layouts and words.
+ *
+ * **vemiRGBToYUV**, whole groups of eight columns:
+ *
+ *     Y = (9798 R + 19235 G + 3736 B) >> 15                     Y = 0.299 R + 0.587 G + 0.114 B
+ *     U = ((-4817 R - 9470 G + 14287 B) >> 15) + 128            U = 0.492 (B - Y) + 128
+ *     V = ((20152 R - 16876 G - 3277 B) >> 15) + 128            V = 0.877 (R - Y) + 128
+ *
+ * and the columns beyond them, from twice the luma:
+ *
+ *     Y2 = ((9798 R + 19235 G) >> 14) + ((3736 B) >> 14),  Y = Y2 >> 1
+ *     U = mulhi(2 B - Y2, 16121) + 128
+ *     V = mulhi(2 R - Y2, 28737) + 128
+ *
+ * **vemiRGBToYUV422**: Y and Y2 of each pixel as these; with S = (sum of both Y2) >> 1, a pair has
+ *
+ *     U = mulhi(sum of both B - S, 16121) + 128
+ *     V = mulhi(sum of both R - S, 28737) + 128
+ *
+ * The last pixel of an odd row counts as both pixels of its pair; of C3C2R, its Y and U are written.
+ *
+ * **vemiRGBToYUV420**: Y and Y2 of each pixel as these; with S = (sum of the four Y2) >> 2, two by two pixels have
+ *
+ *     U = mulhi(((sum of the four B) >> 1) - S, 16121) + 128
+ *     V = mulhi(((sum of the four R) >> 1) - S, 28737) + 128
+ *
+ * In the last column of an odd width and the last row of an odd height, one or two pixels share chroma. For n of them,
+ * with L = 19595 R + 38470 G + 7471 B of each and the sums over all of them:
+ *
+ *     Y = L >> 16
+ *     U = (((65536 sum of B - sum of L) >> 16) * 32244 >> (15 + n)) + 128
+ *     V = (((65536 sum of R - sum of L) >> 16) * 57475 >> (15 + n)) + 128
+ *
+ * @param pSrc,srcStep     RGB: first pixel and bytes between rows; of P3R, an array of three pointers and the step of
+ * all three
+ * @param pDst,dstStep     YUV; of P3, arrays of three pointers and, where pixels share chroma, of three steps, in the
+ *                         order Y, U, V
+ * @param roiSize          size of the region in pixels
+ * @param width,height     (without R) the same
+ *
+ * **Overlap.** vemiRGBToYUV of one layout on both sides may run in place (pDst equal to pSrc); else none.
+ *
+ * **Statuses**, in the order of the tests: vemiErrNullPtr (pSrc, pDst, an array of steps), vemiErrSize, vemiErrNullPtr
+ * (a plane), vemiErrStep.
+ *
+ * **Threads.** All members run in the calling thread.
+ *
+ *     Vemi8u* const planes[3] = {y, u, v};
+ *     vemiRGBToYUV420_8u_C3P3(photo, planes, width, height);
+ * @{
+ */
+
+VEMI_API VemiStatus vemiRGBToYUV_8u_C3R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiRGBToYUV_8u_AC4R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiRGBToYUV_8u_P3R(const Vemi8u* const pSrc[3], int srcStep, Vemi8u* const pDst[3], int dstStep,
+                                        VemiSize roiSize);
+VEMI_API VemiStatus vemiRGBToYUV_8u_C3P3R(const Vemi8u* pSrc, int srcStep, Vemi8u* const pDst[3], int dstStep,
+                                          VemiSize roiSize);
+VEMI_API VemiStatus vemiRGBToYUV422_8u_C3C2R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep,
+                                             VemiSize roiSize);
+VEMI_API VemiStatus vemiRGBToYUV422_8u_C3P3R(const Vemi8u* pSrc, int srcStep, Vemi8u* const pDst[3],
+                                             const int dstStep[3], VemiSize roiSize);
+VEMI_API VemiStatus vemiRGBToYUV422_8u_P3R(const Vemi8u* const pSrc[3], int srcStep, Vemi8u* const pDst[3],
+                                           const int dstStep[3], VemiSize roiSize);
+VEMI_API VemiStatus vemiRGBToYUV422_8u_C3P3(const Vemi8u* pSrc, Vemi8u* const pDst[3], int width, int height);
+VEMI_API VemiStatus vemiRGBToYUV422_8u_P3(const Vemi8u* const pSrc[3], Vemi8u* const pDst[3], int width, int height);
+VEMI_API VemiStatus vemiRGBToYUV420_8u_C3P3R(const Vemi8u* pSrc, int srcStep, Vemi8u* const pDst[3],
+                                             const int dstStep[3], VemiSize roiSize);
+VEMI_API VemiStatus vemiRGBToYUV420_8u_P3R(const Vemi8u* const pSrc[3], int srcStep, Vemi8u* const pDst[3],
+                                           const int dstStep[3], VemiSize roiSize);
+VEMI_API VemiStatus vemiRGBToYUV420_8u_C3P3(const Vemi8u* pSrc, Vemi8u* const pDst[3], int width, int height);
+VEMI_API VemiStatus vemiRGBToYUV420_8u_P3(const Vemi8u* const pSrc[3], Vemi8u* const pDst[3], int width, int height);
+/** @} */
+
+/**
  * @defgroup vemi_yuv_to_rgb vemiYUVToRGB, vemiYUV422ToRGB, vemiYUV420ToRGB, vemiYUV420ToBGR
  *
  * From YUV to red, green and blue. See @ref vemi_luma_chroma for layouts and words. With u = 8 (U - 128), v = 8 (V -
@@ -133,7 +210,81 @@ VEMI_API VemiStatus vemiYUV420ToBGR_8u_P3C3R(const Vemi8u* const pSrc[3], const 
 /** @} */
 
 /**
- * @defgroup vemi_ycbcr_to_rgb vemiYCbCrToRGB, vemiYCbCr422ToRGB, vemiYCbCr420ToRGB, vemiYCbCr420ToBGR
+ * @defgroup vemi_rgb_to_ycbcr vemiRGBToYCbCr, vemiRGBToYCbCr422, vemiRGBToYCbCr420
+ *
+ * From red, green and blue to YCbCr. See @ref vemi_luma_chroma for layouts and words. Rounded to nearest:
+ *
+ *     Y  = (16843 R + 33030 G + 6423 B + 0x108000) >> 16        Y  = 0.257 R + 0.504 G + 0.098 B + 16
+ *     Cb = (-9699 R - 19071 G + 28770 B + 0x808000) >> 16       Cb = -0.148 R - 0.291 G + 0.439 B + 128
+ *     Cr = (28770 R - 24117 G - 4653 B + 0x808000) >> 16        Cr = 0.439 R - 0.368 G - 0.071 B + 128
+ *
+ * **vemiRGBToYCbCr** AC4R is this; C3R and P3R in the columns beyond whole groups of eight, which have
+ *
+ *     Y  = ((((8421 R + 16515 G) >> 11) + ((3211 B) >> 11)) >> 4) + 16
+ *     Cb = ((((-4850 R - 9535 G) >> 11) + ((14385 B) >> 11)) >> 4) + 128
+ *     Cr = ((((14385 R - 12059 G) >> 11) + ((-2327 B) >> 11)) >> 4) + 128
+ *
+ * **vemiRGBToYCbCr422**, whole groups of four columns: Y as in these groups of eight; with the sums R, G, B of a pair's
+ * two pixels
+ *
+ *     Cb = ((-4850 R - 9535 G + 14385 B) >> 16) + 128
+ *     Cr = ((14385 R - 12059 G - 2327 B) >> 16) + 128
+ *
+ * A pair that is left over has
+ *
+ *     Y  = (16843 R + 33030 G + 6423 B + 0x100000) >> 16        of each pixel
+ *     Cb = (-9699 R - 19071 G + 28770 B + 0x1010000) >> 17      of the sums
+ *     Cr = (28770 R - 24117 G - 4653 B + 0x1010000) >> 17
+ *
+ * and the last pixel of an odd row, of which two bytes are written:
+ *
+ *     Y  = (16842 R + 33030 G + 6422 B + 0x100000) >> 16
+ *     Cb = (-9699 R - 19070 G + 28770 B + 0x800000) >> 16
+ *
+ * **vemiRGBToYCbCr420**, with the sums R, G, B of two by two pixels for chroma:
+ *
+ *     Y  = (mulhi(128 R, 1052) + mulhi(128 G, 2064) + mulhi(128 B, 401) + 132) >> 3       of each pixel
+ *     Cb = (mulhi(32 R, -607) + mulhi(32 G, -1192) + mulhi(32 B, 1798) + 1028) >> 3       of the sums
+ *     Cr = (mulhi(32 R, 1798) + mulhi(32 G, -1508) + mulhi(32 B, -291) + 1028) >> 3
+ *
+ * In the last column of an odd width and the last row of an odd height, Y is rounded to nearest, and so are Cb and Cr
+ * of the corner's one pixel; of two pixels they come from the sums, as in the pair above but with 0x1004000 for
+ * 0x1010000.
+ *
+ * @param pSrc,srcStep     RGB: first pixel and bytes between rows; of P3, an array of three pointers and the step of
+ * all three
+ * @param pDst,dstStep     YCbCr; of P3R, an array of three pointers and the step of all three; in 420, of C3P3R, arrays
+ *                         of three pointers and of three steps, in the order Y, Cb, Cr
+ * @param roiSize          size of the region in pixels
+ *
+ * **Overlap.** vemiRGBToYCbCr of one layout on both sides may run in place (pDst equal to pSrc); else none.
+ *
+ * **Statuses**, in the order of the tests: vemiErrNullPtr (pSrc, pDst, an array of steps), vemiErrSize, vemiErrNullPtr
+ * (a plane), vemiErrStep.
+ *
+ * **Threads.** All members run in the calling thread.
+ *
+ *     vemiRGBToYCbCr422_8u_C3C2R(photo, photoStep, frame, 2 * size.width, size);
+ * @{
+ */
+
+VEMI_API VemiStatus vemiRGBToYCbCr_8u_C3R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiRGBToYCbCr_8u_AC4R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep,
+                                           VemiSize roiSize);
+VEMI_API VemiStatus vemiRGBToYCbCr_8u_P3R(const Vemi8u* const pSrc[3], int srcStep, Vemi8u* const pDst[3], int dstStep,
+                                          VemiSize roiSize);
+VEMI_API VemiStatus vemiRGBToYCbCr422_8u_C3C2R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep,
+                                               VemiSize roiSize);
+VEMI_API VemiStatus vemiRGBToYCbCr422_8u_P3C2R(const Vemi8u* const pSrc[3], int srcStep, Vemi8u* pDst, int dstStep,
+                                               VemiSize roiSize);
+VEMI_API VemiStatus vemiRGBToYCbCr420_8u_C3P3R(const Vemi8u* pSrc, int srcStep, Vemi8u* const pDst[3],
+                                               const int dstStep[3], VemiSize roiSize);
+
+/** @} */
+
+/**
+ * @defgroup vemi_ycbcr_to_rgb vemiYCbCrToRGB, vemiYCbCr422ToRGB, vemiYCbCr420ToRGB, vemiYCbCr420ToBGR,
+ * vemiYCbCr411ToBGR
  *
  * From YCbCr to red, green and blue. See @ref vemi_luma_chroma for layouts and words. With y = 76284 (Y - 16),
  * c = Cb - 128, d = Cr - 128:
@@ -149,7 +300,12 @@ VEMI_API VemiStatus vemiYUV420ToBGR_8u_P3C3R(const Vemi8u* const pSrc[3], const 
  *     G = (y - mulhi(cb, 3211) - mulhi(cr, 6660) + 8) >> 4
  *     B = (y + mulhi(cb, 16523) + 8) >> 4
  *
- * but not in the last row of an odd height of 420.
+ * but not in the last row of an odd height of 420. 411 has numbers of its own, y = 76294 (Y - 16) and 25625 in the
+ * place of 25690, and in whole groups of eight, with y = mulhi(128 (Y - 16), 9536),
+ *
+ *     R = (y + mulhi(cr, 13074)) >> 4
+ *     G = (y + mulhi(cb, -3203) + mulhi(cr, -6660)) >> 4
+ *     B = (y + mulhi(cb, 16523)) >> 4
  *
  * **vemiYCbCr422ToRGB_8u_C2C3R of width 1** has offsets of its own. With the one chroma byte C:
  *
@@ -161,11 +317,13 @@ VEMI_API VemiStatus vemiYUV420ToBGR_8u_P3C3R(const Vemi8u* const pSrc[3], const 
  *                         share chroma, of three steps, in the order Y, Cb, Cr
  * @param pDst,dstStep     RGB, or BGR; of P3R, an array of three pointers and the step of all three
  * @param roiSize          size of the region in pixels
+ * @param alpha            (P3C4R) the fourth channel of all pixels
  *
  * **Overlap.** vemiYCbCrToRGB of one layout on both sides may run in place (pDst equal to pSrc); else none.
  *
  * **Statuses**, in the order of the tests: vemiErrNullPtr (pSrc, pDst, an array of steps), vemiErrSize, vemiErrNullPtr
- * (a plane), vemiErrStep.
+ * (a plane), vemiErrStep. vemiYCbCr411ToBGR does not look at the steps, which may be negative: such an image begins
+ * with the row at the highest address.
  *
  * **Threads.** vemiYCbCr420ToRGB and vemiYCbCr420ToBGR share the pairs of rows among a team; all others run in the
  * calling thread.
@@ -194,6 +352,95 @@ VEMI_API VemiStatus vemiYCbCr420ToRGB_8u_P3C3R(const Vemi8u* const pSrc[3], cons
 
 VEMI_API VemiStatus vemiYCbCr420ToBGR_8u_P3C3R(const Vemi8u* const pSrc[3], const int srcStep[3], Vemi8u* pDst,
                                                int dstStep, VemiSize roiSize);
+
+VEMI_API VemiStatus vemiYCbCr411ToBGR_8u_P3C3R(const Vemi8u* const pSrc[3], const int srcStep[3], Vemi8u* pDst,
+                                               int dstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiYCbCr411ToBGR_8u_P3C4R(const Vemi8u* const pSrc[3], const int srcStep[3], Vemi8u* pDst,
+                                               int dstStep, VemiSize roiSize, Vemi8u alpha);
+/** @} */
+
+/**
+ * @defgroup vemi_rgb_to_cbycr vemiRGBToCbYCr422, vemiRGBToCbYCr422Gamma, vemiBGRToCbYCr422
+ *
+ * From red, green and blue to pairs of pixels in the order Cb Y0 Cr Y1. See @ref vemi_luma_chroma for words. Of each
+ * pixel, and of the sums of chroma weights in the next lines:
+ *
+ *     Y = (16843 R + 33030 G + 6423 B + 0x108000) >> 16
+ *     cb = -9699 R - 19071 G + 28770 B
+ *     cr = 28770 R - 24117 G - 4653 B
+ *
+ * **vemiRGBToCbYCr422** filters chroma along the row, by weights of 1/4, 1/2, 1/4 around the first pixel x of a pair:
+ *
+ *     Cb = ((cb(x - 1) >> 2) + (cb(x) >> 1) + (cb(x + 1) >> 2) + 0x807fff) >> 16,  Cr alike
+ *
+ * In front of the row there is nothing, so that the first pair of a row is less saturated than the others.
+ *
+ * **vemiRGBToCbYCr422Gamma** does the same with signals in the place of light: R, G and B go through the transfer curve
+ * of ITU-R BT.709 first, as in vemiGammaFwd_8u_C3R.
+ *
+ * **vemiBGRToCbYCr422** has pixels B, G, R, alpha, whose alpha is not looked at, and averages chroma, with the sums of
+ * a pair's cb and cr:
+ *
+ *     Cb = (cb + 0x1010000) >> 17
+ *     Cr = (cr + 0x100fffe) >> 17
+ *
+ * Of the last pixel of an odd row, Cb = (cb + 0x808000) >> 16 and Y are written, and no Cr.
+ *
+ * @param pSrc,srcStep     first pixel and bytes between rows
+ * @param pDst,dstStep     the same of the pairs, two bytes a pixel
+ * @param roiSize          size of the region in pixels
+ *
+ * **Overlap.** pDst does not overlap pSrc.
+ *
+ * **Statuses**, in the order of the tests: null, size, step (see status.h). vemiBGRToCbYCr422 does not look at the
+ * steps, which may be negative: such an image begins with the row at the highest address.
+ *
+ * **Threads.** All members run in the calling thread.
+ *
+ *     vemiBGRToCbYCr422_8u_AC4C2R(screen, screenStep, frame, frameStep, size);
+ * @{
+ */
+
+VEMI_API VemiStatus vemiRGBToCbYCr422_8u_C3C2R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep,
+                                               VemiSize roiSize);
+VEMI_API VemiStatus vemiRGBToCbYCr422Gamma_8u_C3C2R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep,
+                                                    VemiSize roiSize);
+VEMI_API VemiStatus vemiBGRToCbYCr422_8u_AC4C2R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep,
+                                                VemiSize roiSize);
+
+/** @} */
+
+/**
+ * @defgroup vemi_cbycr_to_rgb vemiCbYCr422ToRGB, vemiCbYCr422ToBGR
+ *
+ * From pairs of pixels in the order Cb Y0 Cr Y1 to red, green and blue. See @ref vemi_luma_chroma for words, and for
+ * the last pixel of an odd row. With y = 76282 Y - 1187744, which is 1.164 (Y - 16) rounded to nearest, c = Cb - 128,
+ * d = Cr - 128:
+ *
+ *     R = (y + 104593 d) >> 16
+ *     G = (y - 25689 c - 53279 d) >> 16
+ *     B = (y + 132184 c) >> 16
+ *
+ * @param pSrc,srcStep     first pair and bytes between rows
+ * @param pDst,dstStep     first pixel and bytes between rows: R, G, B, or B, G, R and alpha
+ * @param roiSize          size of the region in pixels
+ * @param alpha            (C2C4R) the fourth channel of all pixels
+ *
+ * **Overlap.** pDst does not overlap pSrc.
+ *
+ * **Statuses**, in the order of the tests: null, size (see status.h). Steps are not looked at and may be negative: such
+ * an image begins with the row at the highest address.
+ *
+ * **Threads.** All members run in the calling thread.
+ *
+ *     vemiCbYCr422ToBGR_8u_C2C4R(frame, frameStep, screen, screenStep, size, 255);
+ * @{
+ */
+
+VEMI_API VemiStatus vemiCbYCr422ToRGB_8u_C2C3R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep,
+                                               VemiSize roiSize);
+VEMI_API VemiStatus vemiCbYCr422ToBGR_8u_C2C4R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep,
+                                               VemiSize roiSize, Vemi8u alpha);
 
 /** @} */
 

@@ -24,3 +24,6 @@
   ((const T* pSrc, T* const pDst[3], int width, int height), (pSrc, pDst, VemiSize{width, height}))
 #define VEMI_CONTIGUOUS(T) \
   ((const T* const pSrc[3], T* const pDst[3], int width, int height), (pSrc, pDst, VemiSize{width, height}))
+
+// What becomes of the fourth channel.
+#define VEMI_ALPHA ((Vemi8u alpha), (alpha))

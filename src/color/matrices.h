@@ -1,10 +1,13 @@
 // The numbers of the conversions between colour models, one record each, for the kernels that run on them.
 //
-//   AffineMatrix      each result is a weighted sum of the three channels and an offset, exact to the shift
-//   LumaChromaMatrix  to red, green and blue by products in 16-bit lanes, each of them rounded down
-//   YccMatrix         to and from the photographic model, whose luma and chroma are scaled
+//   AffineMatrix       each result is a weighted sum of the three channels and an offset, exact to the shift
+//   PartwiseMatrix     the same of two parts, each of them rounded down by itself
+//   HighProductMatrix  the same of three products in 16-bit lanes, each of them rounded down by itself
+//   DifferenceMatrix   luma, and chroma as fractions of the differences between channels and luma
+//   LumaChromaMatrix   from luma and chroma by products in 16-bit lanes
+//   YccMatrix          to and from the photographic model, whose luma and chroma are scaled
 //
-// Weights are the real numbers of the model, times 2^16 in an AffineMatrix; results are limited to a byte.
+// x >> n is x / 2^n rounded down, mulhi(a, b) = (a b) >> 16, and all results are limited to bytes.
 #pragma once
 
 #include <cstdint>
@@ -17,13 +20,44 @@ struct AffineRow {
   int offset;
   int shift = 16;
 
-  constexpr int operator()(int a, int b, int c) const {
-    return (weight[0] * a + weight[1] * b + weight[2] * c + offset) >> shift;
-  }
+  constexpr int sum(int a, int b, int c) const { return weight[0] * a + weight[1] * b + weight[2] * c + offset; }
+  constexpr int operator()(int a, int b, int c) const { return sum(a, b, c) >> shift; }
 };
 
+template <int rows>
 struct AffineMatrix {
-  AffineRow row[3];
+  AffineRow row[rows];
+};
+
+/// (((weight[0] a + weight[1] b) >> 11) + ((weight[2] c) >> 11) >> 4) + offset
+struct PartwiseRow {
+  int16_t weight[3];
+  int16_t offset;
+};
+
+/// Of pixels; the rows of chroma may be given the sums of four pixels.
+struct PartwiseMatrix {
+  PartwiseRow row[3];
+};
+
+/// (mulhi(a << shift, weight[0]) + mulhi(b << shift, weight[1]) + mulhi(c << shift, weight[2]) + offset) >> 3
+struct HighProductRow {
+  int16_t weight[3];
+  int16_t offset;
+  int shift;
+};
+
+struct HighProductMatrix {
+  HighProductRow row[3];
+};
+
+/// Twice luma is Y2 = ((red R + green G) >> 14) + ((blue B) >> 14), and
+///   Y = Y2 >> 1
+///   U = mulhi(2 B - Y2, blueToU) + 128
+///   V = mulhi(2 R - Y2, redToV) + 128
+struct DifferenceMatrix {
+  int16_t red, green, blue;
+  int16_t blueToU, redToV;
 };
 
 /// A row from luma and the differences of chroma to 128, with the luma of black.
@@ -31,7 +65,7 @@ constexpr AffineRow fromDifferences(int luma, int cb, int cr, int black) {
   return {{luma, cb, cr}, -black - 128 * (cb + cr)};
 }
 
-/// With mulhi(a, b) = (a b) >> 16, u = (U - 128) << chromaShift, v alike:
+/// With u = (U - 128) << chromaShift, v alike:
 ///   y = Y, or mulhi((Y - black) << 7, luma) where a weight of luma is given
 ///   R = (y + mulhi(v, redV) + rounding) >> shift
 ///   G = (y + mulhi(u, greenU) + mulhi(v, greenV) + rounding) >> shift
@@ -49,6 +83,18 @@ struct LumaChromaMatrix {
 // ---- YUV: Y = 0.299 R + 0.587 G + 0.114 B, U = 0.492 (B - Y), V = 0.877 (R - Y)
 // --------------------------------------
 
+/// Whole groups of eight.
+inline constexpr AffineMatrix<3> rgbToYuv = {
+    {{{9798, 19235, 3736}, 0, 15}, {{-4817, -9470, 14287}, 128 << 15, 15}, {{20152, -16876, -3277}, 128 << 15, 15}}};
+
+/// What is left over, and the subsampled forms.
+inline constexpr DifferenceMatrix rgbToYuvByDifferences = {
+    .red = 9798, .green = 19235, .blue = 3736, .blueToU = 16121, .redToV = 28737};
+
+/// The last column and row of 4:2:0 where they have no partner: luma, and the weights of differences of one pixel.
+inline constexpr AffineRow yuvEdgeLuma = {{19595, 38470, 7471}, 0};
+inline constexpr int yuvEdgeBlueToU = 32244, yuvEdgeRedToV = 57475;
+
 inline constexpr LumaChromaMatrix yuvToRgb = {
     .chromaShift = 3, .redV = 9339, .greenU = -3228, .greenV = -4760, .blueU = 16646};
 
@@ -57,12 +103,41 @@ inline constexpr LumaChromaMatrix yuvToRgba = {
     .chromaShift = 3, .redV = 9338, .greenU = -3227, .greenV = -4759, .blueU = 16646};
 
 /// Columns beyond the whole groups of the subsampled forms.
-inline constexpr AffineMatrix yuvToRgbExact = {{fromDifferences(65536, 0, 74711, 0),
-                                                fromDifferences(65536, -25821, -38076, 0),
-                                                fromDifferences(65536, 133169, 0, 0)}};
+inline constexpr AffineMatrix<3> yuvToRgbExact = {{fromDifferences(65536, 0, 74711, 0),
+                                                   fromDifferences(65536, -25821, -38076, 0),
+                                                   fromDifferences(65536, 133169, 0, 0)}};
 
 // ---- YCbCr of ITU-R BT.601: luma from 16 to 235, chroma from 16 to 240
 // -----------------------------------------------
+
+inline constexpr AffineMatrix<3> rgbToYCbCr = {
+    {{{16843, 33030, 6423}, 0x108000}, {{-9699, -19071, 28770}, 0x808000}, {{28770, -24117, -4653}, 0x808000}}};
+
+/// Whole groups of eight, and the luma of whole groups of four of 4:2:2.
+inline constexpr PartwiseMatrix rgbToYCbCrPartwise = {
+    {{{8421, 16515, 3211}, 16}, {{-4850, -9535, 14385}, 128}, {{14385, -12059, -2327}, 128}}};
+
+/// Chroma of whole groups of four of 4:2:2, from the sums of two pixels.
+inline constexpr AffineMatrix<2> rgbToChroma422 = {
+    {{{-4850, -9535, 14385}, 128 << 16}, {{14385, -12059, -2327}, 128 << 16}}};
+
+/// A pair behind these groups: its luma is not rounded to nearest, its chroma is that of sums.
+inline constexpr AffineMatrix<1> rgbToLumaOfLastPair = {{{{16843, 33030, 6423}, 0x100000}}};
+inline constexpr AffineMatrix<2> rgbToChromaOfLastPair = {
+    {{{-9699, -19071, 28770}, 0x1010000, 17}, {{28770, -24117, -4653}, 0x1010000, 17}}};
+
+/// The last pixel of an odd row of 4:2:2: luma and the first chroma. Two of its weights are one less than elsewhere,
+/// and nothing is rounded to nearest.
+inline constexpr AffineMatrix<2> rgbToYCbOfLastPixel = {
+    {{{16842, 33030, 6422}, 0x100000}, {{-9699, -19070, 28770}, 0x800000}}};
+
+/// 4:2:0, chroma from the sums of four pixels.
+inline constexpr HighProductMatrix rgbToYCbCr420 = {
+    {{{1052, 2064, 401}, 132, 7}, {{-607, -1192, 1798}, 1028, 5}, {{1798, -1508, -291}, 1028, 5}}};
+
+/// Chroma of two pixels beside or below each other at the edges of 4:2:0, from their sums.
+inline constexpr AffineMatrix<2> rgbToChromaOfEdge = {
+    {{{-9699, -19071, 28770}, 0x1004000, 17}, {{28770, -24117, -4653}, 0x1004000, 17}}};
 
 /// Whole groups of the subsampled forms.
 inline constexpr LumaChromaMatrix ycbcrToRgb = {.black = 16,
@@ -76,13 +151,36 @@ inline constexpr LumaChromaMatrix ycbcrToRgb = {.black = 16,
                                                 .rounding = 8,
                                                 .shift = 4};
 
-inline constexpr AffineMatrix ycbcrToRgbExact = {{fromDifferences(76284, 0, 104595, 1220544),
-                                                  fromDifferences(76284, -25690, -53281, 1220544),
-                                                  fromDifferences(76284, 132186, 0, 1220544)}};
+inline constexpr AffineMatrix<3> ycbcrToRgbExact = {{fromDifferences(76284, 0, 104595, 1220544),
+                                                     fromDifferences(76284, -25690, -53281, 1220544),
+                                                     fromDifferences(76284, 132186, 0, 1220544)}};
+
+/// 4:1:1, whole groups of eight.
+inline constexpr LumaChromaMatrix ycbcr411ToRgb = {.black = 16,
+                                                   .luma = 9536,
+                                                   .chromaShift = 7,
+                                                   .redV = 13074,
+                                                   .greenU = -3203,
+                                                   .greenV = -6660,
+                                                   .blueU = 16523,
+                                                   .shift = 4};
+
+inline constexpr AffineMatrix<3> ycbcr411ToRgbExact = {{fromDifferences(76294, 0, 104595, 1220704),
+                                                        fromDifferences(76294, -25625, -53281, 1220704),
+                                                        fromDifferences(76294, 132186, 0, 1220704)}};
+
+/// Pairs whose chroma comes first.
+inline constexpr AffineMatrix<3> cbycrToRgb = {{fromDifferences(76282, 0, 104593, 1187744),
+                                                fromDifferences(76282, -25689, -53279, 1187744),
+                                                fromDifferences(76282, 132184, 0, 1187744)}};
+
+/// The same from the sums of two pixels that have an alpha. Exact halves go up in Cb and down in Cr.
+inline constexpr AffineMatrix<2> bgraToChroma422 = {
+    {{{-9699, -19071, 28770}, 0x1010000, 17}, {{28770, -24117, -4653}, 0x100fffe, 17}}};
 
 /// Of rows of one pixel Y, Cb: the offsets are fixed numbers beside those that the weights would give, and the third
 /// channel does not count.
-inline constexpr AffineMatrix ycbcrToRgbOfWidth1 = {
+inline constexpr AffineMatrix<3> ycbcrToRgbOfWidth1 = {
     {{{76284, 104595, 0}, -14608761}, {{76284, -53281 - 25690, 0}, 8887730}, {{76284, 132186, 0}, -18140365}}};
 
 // ---- YCC: luma l of red, green and blue; Y = l / 1.402, C1 and C2 multiples of B - l and R - l from zero points on

@@ -43,18 +43,23 @@ HWY_INLINE hn::Vec<D> bytesOfPixels(D d, V even, V odd) {
   return hn::TableLookupBytes(packHalves(d, even, odd), hn::LoadDup128(d, detail::evenBesideOdd));
 }
 
-/// f(16-bit tag, words of even pixels...), the same of odd ones, each of which gives one vector for each of `results`
-/// channels; bytes of all pixels.
-template <class D, int results>
+/// The bytes of several channels, of which words are given.
+template <class D, int channels>
 struct PixelWords {
-  Vectors<hn::Vec<Words<D>>, results> even, odd;
+  Vectors<hn::Vec<Words<D>>, channels> even, odd;
 
   HWY_INLINE auto bytes(D d) const {
     return [&]<size_t... c>(std::index_sequence<c...>) HWY_ATTR {
       return std::tuple(bytesOfPixels(d, even.v[c], odd.v[c])...);
     }
-    (std::make_index_sequence<results>());
+    (std::make_index_sequence<channels>());
   }
 };
+
+/// Words of chroma that two pixels share, as bytes.
+template <class D, class V>
+HWY_INLINE auto chromaBytes(D, V words) {
+  return hn::DemoteTo(hn::Half<D>(), words);
+}
 
 }  // namespace vemi::color

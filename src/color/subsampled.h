@@ -18,33 +18,37 @@ namespace vemi::color {
 //   pixel(x)   a single pixel with its chroma, at full rate.
 
 /// Luma and chroma in planes; `shared` pixels have one sample of chroma.
-template <int shared>
+template <int shared, class T = const uint8_t>
 struct PlanarChroma {
   static constexpr int sharing = shared;
-  const uint8_t *y, *u, *v;
+  T *y, *u, *v;
 
   auto groups() const { return rowsBeside(planeRow(y), planeRow<shared>(u, v)); }
   auto pixel(ptrdiff_t x) const { return planeRow(y + x, u + x / shared, v + x / shared); }
 };
 
 /// Pairs of pixels in one plane. Of the last pixel of an odd row there are two bytes, luma and the first chroma; it
-/// takes the other one from the pair before it, and where there is none, the first for both.
-template <Packed422 order>
+/// takes the other one from the pair before it, and where there is none, the first for both. A destination has these
+/// two channels alone.
+template <Packed422 order, class T = const uint8_t>
 struct PackedChroma {
   static constexpr int sharing = 2;
-  const uint8_t* first;
+  T* first;
 
   auto groups() const { return packedRow<order>(first); }
   auto pixel(ptrdiff_t x) const {
-    const int luma = order == Packed422::lumaFirst ? 0 : 1;
-    const uint8_t* const y = first + 2 * x + luma;
-    const uint8_t* const u = first + 2 * x + 1 - luma;
-    return planeRow(y, u, x == 0 ? u : u - 2);
+    constexpr int luma = order == Packed422::lumaFirst ? 0 : 1;
+    T *const y = first + 2 * x + luma, *const u = first + 2 * x + 1 - luma;
+    if constexpr (std::is_const_v<T>) {
+      return planeRow(y, u, x == 0 ? u : u - 2);
+    } else {
+      return planeRow(y, u);
+    }
   }
 };
 
-template <int shared>
-PlanarChroma<shared> chromaRow(SteppedPlanes<const uint8_t, 3> planes, ptrdiff_t y, ptrdiff_t chroma) {
+template <int shared, class T>
+PlanarChroma<shared, T> chromaRow(SteppedPlanes<T, 3> planes, ptrdiff_t y, ptrdiff_t chroma) {
   return {planes[0].row(y), planes[1].row(chroma), planes[2].row(chroma)};
 }
 

@@ -5,23 +5,12 @@
 #include <cstdint>
 #include <tuple>
 
+#include "color/affine.h"
 #include "color/matrices.h"
 #include "color/shared_chroma.h"
 #include "core/pixels.h"
 
 namespace vemi::color {
-
-namespace detail {
-
-/// Of each two 16-bit lanes.
-template <class D>
-HWY_INLINE hn::Vec<D> alternating(D d, int16_t first, int16_t second) {
-  const hn::RepartitionToWide<D> dPairs;
-  const uint32_t pair = static_cast<uint16_t>(first) | static_cast<uint32_t>(static_cast<uint16_t>(second)) << 16;
-  return hn::BitCast(d, hn::Set(dPairs, static_cast<int32_t>(pair)));
-}
-
-}  // namespace detail
 
 /// The weights of the odd pixels of a row.
 enum class OddPixels {
@@ -55,8 +44,8 @@ struct ToRgb {
     V red = high(v, m.redV), greenOfU = high(u, m.greenU), blue = high(u, m.blueU);
     const V greenOfV = high(v, m.greenV);
     if constexpr (fourOff) {
-      greenOfU = hn::MulHigh(u, detail::alternating(d, m.greenU, m.greenU - 4));
-      red = hn::Add(red, hn::MulHigh(u, detail::alternating(d, 0, 4)));
+      greenOfU = hn::MulHigh(u, detail::weightsOfPairs(d, m.greenU, m.greenU - 4));
+      red = hn::Add(red, hn::MulHigh(u, detail::weightsOfPairs(d, 0, 4)));
     }
     V green = hn::Add(greenOfU, greenOfV);
     if constexpr (m.subtractsGreen) green = hn::Neg(green);

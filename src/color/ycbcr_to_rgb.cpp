@@ -1,5 +1,5 @@
-// vemiYCbCrToRGB, vemiYCbCr422ToRGB, vemiYCbCr420ToRGB, vemiYCbCr420ToBGR.
-// Checks: null, size, null planes, step.
+// vemiYCbCrToRGB, vemiYCbCr422ToRGB, vemiYCbCr420ToRGB, vemiYCbCr420ToBGR, vemiYCbCr411ToBGR.
+// Checks: null, size, null planes, step; vemiYCbCr411ToBGR does not look at steps.
 
 #include "color/affine.h"
 #include "color/exports.h"
@@ -25,6 +25,26 @@ VemiStatus fromPairsToPixels(Image<const Vemi8u> src, Image<Vemi8u> dst, VemiSiz
   return fromPacked422<columns, Packed422::lumaFirst, C3>(src, dst, roiSize);
 }
 
+template <class After>
+void from411(ChromaPlanes src, Image<Vemi8u> dst, VemiSize roiSize, After after) {
+  const Then<Affine<ycbcr411ToRgbExact>, After> exact = {{}, after};
+  const ColumnOps ops = {Then<ToRgb<ycbcr411ToRgb>, After>{{}, after}, exact, exact};
+  using DL = std::conditional_t<std::is_same_v<After, Reversed>, C3, C4>;
+  expandPlanes<4>(extentOf(roiSize), ops, pixelsOf<DL>(dst), src);
+}
+
+VemiStatus from411ToBgr(ChromaPlanes src, Image<Vemi8u> dst, VemiSize roiSize) {
+  if (const VemiStatus bad = checkImages(src, dst, roiSize)) return bad;
+  from411(src, dst, roiSize, Reversed());
+  return vemiOk;
+}
+
+VemiStatus from411ToBgra(ChromaPlanes src, Image<Vemi8u> dst, VemiSize roiSize, Vemi8u alpha) {
+  if (const VemiStatus bad = checkImages(src, dst, roiSize)) return bad;
+  from411(src, dst, roiSize, ReversedWithFourth{alpha});
+  return vemiOk;
+}
+
 }  // namespace
 }  // namespace vemi::color
 
@@ -43,3 +63,6 @@ VEMI_DEFINE(vemiYCbCr422ToRGB_8u_P3C3R, VEMI_STEPPED_DST(Vemi8u), from422<column
 
 VEMI_DEFINE(vemiYCbCr420ToRGB_8u_P3C3R, VEMI_STEPPED_DST(Vemi8u), from420<columns, TeamRows, C3>)
 VEMI_DEFINE(vemiYCbCr420ToBGR_8u_P3C3R, VEMI_STEPPED_DST(Vemi8u), from420<columnsToBgr, TeamRows, C3>)
+
+VEMI_DEFINE(vemiYCbCr411ToBGR_8u_P3C3R, VEMI_STEPPED_DST(Vemi8u), from411ToBgr)
+VEMI_DEFINE(vemiYCbCr411ToBGR_8u_P3C4R, VEMI_STEPPED_DST(Vemi8u, VEMI_ALPHA), from411ToBgra)

@@ -44,14 +44,45 @@ inline Channels channelsOf(Call& call, bool ofSource, bool sharesChroma) {
   return all;
 }
 
-/// Luma and both chroma of a pixel, of planes or of pairs Y0 U Y1 V. The last pixel of an odd row of pairs has no
-/// second chroma: it takes that of the pair before, or else the first for both.
-inline std::array<int, 3> lumaChromaOf(const Call& call, const Channels& in, int x, int y, int shareX, int shareY) {
-  const bool isPacked = call.function.source.elements == 2;
-  if (!isPacked) return {in[0].get(x, y), in[1].get(x / shareX, y / shareY), in[2].get(x / shareX, y / shareY)};
+using Pixel = std::array<int, 3>;
+
+inline Pixel pixelOf(const Channels& in, int x, int y) { return {in[0].get(x, y), in[1].get(x, y), in[2].get(x, y)}; }
+
+/// How many pixels of a row and of a column share chroma, as the operation's name says.
+inline std::array<int, 2> sharingOf(const Call& call) {
+  const auto is = [&](const char* ratio) { return call.function.operation.find(ratio) != std::string::npos; };
+  return {is("411") ? 4 : is("422") || is("420") ? 2 : 1, is("420") ? 2 : 1};
+}
+
+/// In pairs, bytes of chroma stand beside luma: behind it, or, in CbYCr, ahead of it.
+inline size_t lumaChannel(const Call& call) {
+  return call.function.operation.find("CbYCr") != std::string::npos ? 1 : 0;
+}
+
+/// Luma and both chroma of a pixel, of planes or of pairs. The last pixel of an odd row of pairs has no second chroma:
+/// it takes that of the pair before, or else the first for both.
+inline Pixel lumaChromaOf(const Call& call, const Channels& in, int x, int y) {
+  if (call.function.source.elements != 2) {
+    const auto [shareX, shareY] = sharingOf(call);
+    return {in[0].get(x, y), in[1].get(x / shareX, y / shareY), in[2].get(x / shareX, y / shareY)};
+  }
+  const size_t luma = lumaChannel(call);
   const bool isLast = x == call.scenario.roiSize.width - 1 && x % 2 == 0;
-  const int first = x / 2 * 2;
-  return {in[0].get(x, y), in[1].get(first, y), in[1].get(isLast ? std::max(x - 1, 0) : first + 1, y)};
+  const int first = x / 2 * 2, second = isLast ? std::max(x - 1, 0) : first + 1;
+  return {in[luma].get(x, y), in[1 - luma].get(first, y), in[1 - luma].get(second, y)};
+}
+
+/// Chroma of the group of pixels that begins here. Of the last pixel of an odd row of pairs the second has no room.
+inline void setChroma(const Call& call, const Channels& out, int x, int y, int first, int second) {
+  if (call.function.destination.elements != 2) {
+    const auto [shareX, shareY] = sharingOf(call);
+    out[1].set(x / shareX, y / shareY, first);
+    out[2].set(x / shareX, y / shareY, second);
+    return;
+  }
+  const Channel chroma = out[1 - lumaChannel(call)];
+  chroma.set(x, y, first);
+  if (x + 1 < call.scenario.roiSize.width) chroma.set(x + 1, y, second);
 }
 
 inline int clip(int v) { return std::clamp(v, 0, 255); }

@@ -87,7 +87,7 @@ void packed(Call& call) {
                       call.get<int>("dstStep") == 2 * width;
   for (int y = 0; y < height; ++y) {
     for (int x = 0; x < width; ++x) {
-      const Pixel p = lumaChromaOf(call, in, x, y, words.shareX, words.shareY);
+      const Pixel p = lumaChromaOf(call, in, x, y);
       const int place = isLong ? y * width + x : x, columns = isLong ? width * height : width;
       const bool hasGroups = words.shareY == 1 || y < height / 2 * 2;
       const bool inGroup = !words.dithers && hasGroups && place < columns / 4 * 4;

@@ -8,8 +8,6 @@ using namespace vemi::test;
 
 namespace {
 
-using Pixel = std::array<int, 3>;
-
 Pixel lanes(Pixel p, int redV, int greenU, int greenV) {
   const int u = (p[1] - 128) * 8, v = (p[2] - 128) * 8;
   return {p[0] + mulhi(v, redV), p[0] + mulhi(u, greenU) + mulhi(v, greenV), p[0] + mulhi(u, 16646)};
@@ -28,18 +26,17 @@ Pixel exact(Pixel p) {
 
 void toRgb(Call& call) {
   const auto [width, height] = call.scenario.roiSize;
-  const std::string& operation = call.function.operation;
-  const bool is422 = operation.find("422") != std::string::npos, is420 = operation.find("420") != std::string::npos;
-  const bool isBgr = operation.find("BGR") != std::string::npos;
+  const auto [shareX, shareY] = sharingOf(call);
+  const bool is422 = shareX == 2 && shareY == 1, is420 = shareY == 2;
+  const bool isBgr = call.function.operation.find("BGR") != std::string::npos;
   const bool isFour = call.function.destination.elements == 4;
   const Channels in = channelsOf(call, true, true), out = channelsOf(call, false, false);
   const bool oneRow = is422 && !hasSteps(call) && width % 2 == 0;
-  const int shareX = is422 || is420 ? 2 : 1, shareY = is420 ? 2 : 1;
   for (int y = 0; y < height; ++y) {
     for (int x = 0; x < width; ++x) {
       const int row = oneRow ? width * height : width, column = oneRow ? y * width + x : x;
       const bool inGroup = column < row / 8 * 8, isLast = x == width - 1 && x % 2 == 0;
-      const Pixel p = lumaChromaOf(call, in, x, y, shareX, shareY);
+      const Pixel p = lumaChromaOf(call, in, x, y);
       Pixel rgb;
       if (is422) {
         rgb = !inGroup ? exact(p) : isFour ? ofFour(p) : plain(p);
@@ -56,10 +53,80 @@ void toRgb(Call& call) {
   }
 }
 
+// ---- From RGB ----
+
+Pixel inBlock(Pixel p) {
+  const auto [r, g, b] = p;
+  return {(9798 * r + 19235 * g + 3736 * b) >> 15, ((-4817 * r - 9470 * g + 14287 * b) >> 15) + 128,
+          ((20152 * r - 16876 * g - 3277 * b) >> 15) + 128};
+}
+int twiceLuma(Pixel p) { return ((9798 * p[0] + 19235 * p[1]) >> 14) + ((3736 * p[2]) >> 14); }
+int uOf(int difference) { return ((difference * 16121) >> 16) + 128; }
+int vOf(int difference) { return ((difference * 28737) >> 16) + 128; }
+
+void fromRgb444(Call& call) {
+  const auto [width, height] = call.scenario.roiSize;
+  const Channels in = channelsOf(call, true, false), out = channelsOf(call, false, false);
+  for (int y = 0; y < height; ++y) {
+    for (int x = 0; x < width; ++x) {
+      const Pixel p = pixelOf(in, x, y);
+      const int luma = twiceLuma(p);
+      const Pixel yuv = x < width / 8 * 8 ? inBlock(p) : Pixel{luma >> 1, uOf(2 * p[2] - luma), vOf(2 * p[0] - luma)};
+      for (size_t c = 0; c < 3; ++c) out[c].set(x, y, clip(yuv[c]));
+    }
+  }
+}
+
+void fromRgb422(Call& call) {
+  const auto [width, height] = call.scenario.roiSize;
+  const Channels in = channelsOf(call, true, false), out = channelsOf(call, false, true);
+  for (int y = 0; y < height; ++y) {
+    for (int x = 0; x < width; ++x) out[0].set(x, y, clip(twiceLuma(pixelOf(in, x, y)) >> 1));
+    for (int x = 0; x < width; x += 2) {
+      const Pixel p = pixelOf(in, x, y), q = x + 1 < width ? pixelOf(in, x + 1, y) : p;
+      const int luma = (twiceLuma(p) + twiceLuma(q)) >> 1;
+      setChroma(call, out, x, y, clip(uOf(p[2] + q[2] - luma)), clip(vOf(p[0] + q[0] - luma)));
+    }
+  }
+}
+
+void fromRgb420(Call& call) {
+  const auto [width, height] = call.scenario.roiSize;
+  const Channels in = channelsOf(call, true, false), out = channelsOf(call, false, true);
+  const auto edgeLuma = [](Pixel p) { return 19595 * p[0] + 38470 * p[1] + 7471 * p[2]; };
+  for (int y = 0; y < height; y += 2) {
+    for (int x = 0; x < width; x += 2) {
+      const bool isEdge = x + 1 == width || y + 1 == height;
+      int red = 0, blue = 0, luma = 0, pixels = 0;
+      for (int j = y; j < std::min(y + 2, height); ++j) {
+        for (int i = x; i < std::min(x + 2, width); ++i, ++pixels) {
+          const Pixel p = pixelOf(in, i, j);
+          out[0].set(i, j, isEdge ? edgeLuma(p) >> 16 : clip(twiceLuma(p) >> 1));
+          luma += isEdge ? edgeLuma(p) : twiceLuma(p);
+          red += p[0];
+          blue += p[2];
+        }
+      }
+      const auto edge = [&](int sum, int weight) {
+        return (((((sum << 16) - luma) >> 16) * weight) >> (pixels == 1 ? 16 : 17)) + 128;
+      };
+      const int u = isEdge ? edge(blue, 32244) : uOf((blue >> 1) - (luma >> 2));
+      const int v = isEdge ? edge(red, 57475) : vOf((red >> 1) - (luma >> 2));
+      setChroma(call, out, x, y, clip(u), clip(v));
+    }
+  }
+}
+
 }  // namespace
 
 TEST(Yuv, EveryMemberToRgb) {
   for (const char* const operation : {"vemiYUVToRGB", "vemiYUV422ToRGB", "vemiYUV420ToRGB", "vemiYUV420ToBGR"}) {
     expectDefinition(membersOf(operation), toRgb);
   }
+}
+
+TEST(Yuv, EveryMemberFromRgb) {
+  expectDefinition(membersOf("vemiRGBToYUV"), fromRgb444);
+  expectDefinition(membersOf("vemiRGBToYUV422"), fromRgb422);
+  expectDefinition(membersOf("vemiRGBToYUV420"), fromRgb420);
 }

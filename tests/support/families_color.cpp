@@ -245,12 +245,15 @@ void asWords(Call& call) {
 std::vector<Family> colorFamilies() {
   return {
       // Luma and chroma
-      {"vemiYUVToRGB vemiYCbCrToRGB", ".*", "null size planes step"},
-      {"vemiYUV422ToRGB vemiYCbCr422ToRGB", ".*R", "null size planes step", shared<2, 1>},
-      {"vemiYUV422ToRGB", ".*", "null size planes", shared<2, 1>, noSize},
-      {"vemiYUV420ToRGB vemiYUV420ToBGR vemiYCbCr420ToRGB vemiYCbCr420ToBGR", ".*R", "null size planes step",
-       shared<2, 2>},
-      {"vemiYUV420ToRGB", ".*", "null size planes", shared<2, 2>, noSize},
+      {"vemiRGBToYUV vemiYUVToRGB vemiRGBToYCbCr vemiYCbCrToRGB", ".*", "null size planes step"},
+      {"vemiRGBToYUV422 vemiYUV422ToRGB vemiRGBToYCbCr422 vemiYCbCr422ToRGB vemiRGBToCbYCr422 vemiRGBToCbYCr422Gamma",
+       ".*R", "null size planes step", shared<2, 1>},
+      {"vemiRGBToYUV422 vemiYUV422ToRGB", ".*", "null size planes", shared<2, 1>, noSize},
+      {"vemiRGBToYUV420 vemiYUV420ToRGB vemiYUV420ToBGR vemiRGBToYCbCr420 vemiYCbCr420ToRGB vemiYCbCr420ToBGR", ".*R",
+       "null size planes step", shared<2, 2>},
+      {"vemiRGBToYUV420 vemiYUV420ToRGB", ".*", "null size planes", shared<2, 2>, noSize},
+      {"vemiYCbCr411ToBGR", ".*", "null size planes", shared<4, 1>},
+      {"vemiBGRToCbYCr422 vemiCbYCr422ToRGB vemiCbYCr422ToBGR", ".*", "null size"},
       {"vemiRGBToYCC vemiYCCToRGB vemiRGBToGray", ".*", "null size step"},
       {"vemiColorToGray", ".*", "null size step", withWeights},
 
