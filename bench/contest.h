@@ -76,5 +76,6 @@ Family generatedFamily();
 Family colorTwistFamily();
 Family rowsFamily();
 Family boxFamily();
+Family morphologyFamily();
 
 }  // namespace bench

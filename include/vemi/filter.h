@@ -131,6 +131,160 @@ VEMI_API VemiStatus vemiFilterBox_32f_AC4IR(Vemi32f* pSrcDst, int srcDstStep, Ve
 
 /** @} */
 
+/* ---- Morphology -------------------------------------------------------------------------------------------------- */
+
+/**
+ * @defgroup vemi_morphology vemiErode, vemiDilate: the least or the greatest pixel of a shape
+ *
+ *     vemiErode3x3:   pDst(x, y) = min of pSrc(x + i, y + j),  i = -1..1, j = -1..1
+ *     vemiDilate3x3:  pDst(x, y) = max of the same
+ *     vemiErode:      pDst(x, y) = min of pSrc(x + i - anchor.x, y + j - anchor.y)  where pMask[j * maskSize.width + i]
+ *     vemiDilate:     pDst(x, y) = max of the same                                  is not 0
+ *
+ * Bright shapes on black shrink by erosion and grow by dilation. The mask is taken as it stands, not turned, by both of
+ * them. Each channel by itself; AC4 forms leave the fourth channel of the destination as it is. Which of the values
+ * results where a NaN takes part, or zeros of both signs, is not said.
+ *
+ * The time for a full rectangle, which a mask may be, grows with the logarithm of its sides; that for any other mask
+ * with the number of its runs along the rows, or of its pixels, where these are few.
+ *
+ * **Pixels read around the region**: one on each side in the 3x3 forms; with a mask up to anchor.x columns to the left
+ * and maskSize.width - 1 - anchor.x to the right of it, anchor.y rows above and maskSize.height - 1 - anchor.y below
+ * it. They must exist. In-place forms read them too, and write the region alone.
+ *
+ * @param pSrc,srcStep        first pixel of the region in the source, and the bytes between its rows
+ * @param pDst,dstStep        the same of the destination, which shares no pixel with any that are read
+ * @param pSrcDst,srcDstStep  (in-place forms) the image that is both; all results come from its old pixels
+ * @param roiSize             size of the region in pixels
+ * @param pMask               maskSize.height rows of maskSize.width bytes without gaps: any byte but 0 selects its
+ * pixel
+ * @param maskSize            width and height of the mask, 1 or more each
+ * @param anchor              where in the mask the pixel lies: from (0, 0), its top left byte, to
+ *                            (maskSize.width - 1, maskSize.height - 1); the byte there need not be set
+ *
+ * **Statuses**, in the order of the tests: null (pMask among the pointers), step, size (see status.h); then
+ *
+ * - vemiErrMaskSize: (with a mask) a width or a height of it is below 1
+ * - vemiErrZeroMask: (with a mask) all of its bytes are 0
+ * - vemiErrAnchor: (with a mask) the anchor lies outside of it
+ * - vemiErrStride: the step of the source is shorter than roiSize.width + 2 pixels, or, with a mask, than
+ *   roiSize.width + maskSize.width - 1; or, out of place, that of the destination is shorter than roiSize.width pixels;
+ *   an AC4 pixel has four elements
+ * - vemiErrMemAlloc: no memory for rows
+ *
+ * **Threads.** All forms run in the calling thread.
+ *
+ *     const Vemi8u cross[9] = {0, 1, 0, 1, 1, 1, 0, 1, 0};
+ *     vemiErode_8u_C1R(shapes + step + 1, step, thin, thinStep, inner, cross, {3, 3}, {1, 1});
+ * @{
+ */
+
+VEMI_API VemiStatus vemiErode3x3_8u_C1R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiErode3x3_8u_C3R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiErode3x3_8u_C4R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiErode3x3_8u_AC4R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiErode3x3_8u_C1IR(Vemi8u* pSrcDst, int srcDstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiErode3x3_8u_C3IR(Vemi8u* pSrcDst, int srcDstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiErode3x3_8u_C4IR(Vemi8u* pSrcDst, int srcDstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiErode3x3_8u_AC4IR(Vemi8u* pSrcDst, int srcDstStep, VemiSize roiSize);
+
+VEMI_API VemiStatus vemiErode3x3_32f_C1R(const Vemi32f* pSrc, int srcStep, Vemi32f* pDst, int dstStep,
+                                         VemiSize roiSize);
+VEMI_API VemiStatus vemiErode3x3_32f_C3R(const Vemi32f* pSrc, int srcStep, Vemi32f* pDst, int dstStep,
+                                         VemiSize roiSize);
+VEMI_API VemiStatus vemiErode3x3_32f_C4R(const Vemi32f* pSrc, int srcStep, Vemi32f* pDst, int dstStep,
+                                         VemiSize roiSize);
+VEMI_API VemiStatus vemiErode3x3_32f_AC4R(const Vemi32f* pSrc, int srcStep, Vemi32f* pDst, int dstStep,
+                                          VemiSize roiSize);
+VEMI_API VemiStatus vemiErode3x3_32f_C1IR(Vemi32f* pSrcDst, int srcDstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiErode3x3_32f_C3IR(Vemi32f* pSrcDst, int srcDstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiErode3x3_32f_C4IR(Vemi32f* pSrcDst, int srcDstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiErode3x3_32f_AC4IR(Vemi32f* pSrcDst, int srcDstStep, VemiSize roiSize);
+
+VEMI_API VemiStatus vemiDilate3x3_8u_C1R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiDilate3x3_8u_C3R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiDilate3x3_8u_C4R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiDilate3x3_8u_AC4R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiDilate3x3_8u_C1IR(Vemi8u* pSrcDst, int srcDstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiDilate3x3_8u_C3IR(Vemi8u* pSrcDst, int srcDstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiDilate3x3_8u_C4IR(Vemi8u* pSrcDst, int srcDstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiDilate3x3_8u_AC4IR(Vemi8u* pSrcDst, int srcDstStep, VemiSize roiSize);
+
+VEMI_API VemiStatus vemiDilate3x3_32f_C1R(const Vemi32f* pSrc, int srcStep, Vemi32f* pDst, int dstStep,
+                                          VemiSize roiSize);
+VEMI_API VemiStatus vemiDilate3x3_32f_C3R(const Vemi32f* pSrc, int srcStep, Vemi32f* pDst, int dstStep,
+                                          VemiSize roiSize);
+VEMI_API VemiStatus vemiDilate3x3_32f_C4R(const Vemi32f* pSrc, int srcStep, Vemi32f* pDst, int dstStep,
+                                          VemiSize roiSize);
+VEMI_API VemiStatus vemiDilate3x3_32f_AC4R(const Vemi32f* pSrc, int srcStep, Vemi32f* pDst, int dstStep,
+                                           VemiSize roiSize);
+VEMI_API VemiStatus vemiDilate3x3_32f_C1IR(Vemi32f* pSrcDst, int srcDstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiDilate3x3_32f_C3IR(Vemi32f* pSrcDst, int srcDstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiDilate3x3_32f_C4IR(Vemi32f* pSrcDst, int srcDstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiDilate3x3_32f_AC4IR(Vemi32f* pSrcDst, int srcDstStep, VemiSize roiSize);
+
+VEMI_API VemiStatus vemiErode_8u_C1R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep, VemiSize roiSize,
+                                     const Vemi8u* pMask, VemiSize maskSize, VemiPoint anchor);
+VEMI_API VemiStatus vemiErode_8u_C3R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep, VemiSize roiSize,
+                                     const Vemi8u* pMask, VemiSize maskSize, VemiPoint anchor);
+VEMI_API VemiStatus vemiErode_8u_C4R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep, VemiSize roiSize,
+                                     const Vemi8u* pMask, VemiSize maskSize, VemiPoint anchor);
+VEMI_API VemiStatus vemiErode_8u_AC4R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep, VemiSize roiSize,
+                                      const Vemi8u* pMask, VemiSize maskSize, VemiPoint anchor);
+VEMI_API VemiStatus vemiErode_8u_C1IR(Vemi8u* pSrcDst, int srcDstStep, VemiSize roiSize, const Vemi8u* pMask,
+                                      VemiSize maskSize, VemiPoint anchor);
+VEMI_API VemiStatus vemiErode_8u_C3IR(Vemi8u* pSrcDst, int srcDstStep, VemiSize roiSize, const Vemi8u* pMask,
+                                      VemiSize maskSize, VemiPoint anchor);
+VEMI_API VemiStatus vemiErode_8u_AC4IR(Vemi8u* pSrcDst, int srcDstStep, VemiSize roiSize, const Vemi8u* pMask,
+                                       VemiSize maskSize, VemiPoint anchor);
+
+VEMI_API VemiStatus vemiErode_32f_C1R(const Vemi32f* pSrc, int srcStep, Vemi32f* pDst, int dstStep, VemiSize roiSize,
+                                      const Vemi8u* pMask, VemiSize maskSize, VemiPoint anchor);
+VEMI_API VemiStatus vemiErode_32f_C3R(const Vemi32f* pSrc, int srcStep, Vemi32f* pDst, int dstStep, VemiSize roiSize,
+                                      const Vemi8u* pMask, VemiSize maskSize, VemiPoint anchor);
+VEMI_API VemiStatus vemiErode_32f_C4R(const Vemi32f* pSrc, int srcStep, Vemi32f* pDst, int dstStep, VemiSize roiSize,
+                                      const Vemi8u* pMask, VemiSize maskSize, VemiPoint anchor);
+VEMI_API VemiStatus vemiErode_32f_AC4R(const Vemi32f* pSrc, int srcStep, Vemi32f* pDst, int dstStep, VemiSize roiSize,
+                                       const Vemi8u* pMask, VemiSize maskSize, VemiPoint anchor);
+VEMI_API VemiStatus vemiErode_32f_C1IR(Vemi32f* pSrcDst, int srcDstStep, VemiSize roiSize, const Vemi8u* pMask,
+                                       VemiSize maskSize, VemiPoint anchor);
+VEMI_API VemiStatus vemiErode_32f_C3IR(Vemi32f* pSrcDst, int srcDstStep, VemiSize roiSize, const Vemi8u* pMask,
+                                       VemiSize maskSize, VemiPoint anchor);
+VEMI_API VemiStatus vemiErode_32f_AC4IR(Vemi32f* pSrcDst, int srcDstStep, VemiSize roiSize, const Vemi8u* pMask,
+                                        VemiSize maskSize, VemiPoint anchor);
+
+VEMI_API VemiStatus vemiDilate_8u_C1R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep, VemiSize roiSize,
+                                      const Vemi8u* pMask, VemiSize maskSize, VemiPoint anchor);
+VEMI_API VemiStatus vemiDilate_8u_C3R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep, VemiSize roiSize,
+                                      const Vemi8u* pMask, VemiSize maskSize, VemiPoint anchor);
+VEMI_API VemiStatus vemiDilate_8u_C4R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep, VemiSize roiSize,
+                                      const Vemi8u* pMask, VemiSize maskSize, VemiPoint anchor);
+VEMI_API VemiStatus vemiDilate_8u_AC4R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep, VemiSize roiSize,
+                                       const Vemi8u* pMask, VemiSize maskSize, VemiPoint anchor);
+VEMI_API VemiStatus vemiDilate_8u_C1IR(Vemi8u* pSrcDst, int srcDstStep, VemiSize roiSize, const Vemi8u* pMask,
+                                       VemiSize maskSize, VemiPoint anchor);
+VEMI_API VemiStatus vemiDilate_8u_C3IR(Vemi8u* pSrcDst, int srcDstStep, VemiSize roiSize, const Vemi8u* pMask,
+                                       VemiSize maskSize, VemiPoint anchor);
+VEMI_API VemiStatus vemiDilate_8u_AC4IR(Vemi8u* pSrcDst, int srcDstStep, VemiSize roiSize, const Vemi8u* pMask,
+                                        VemiSize maskSize, VemiPoint anchor);
+
+VEMI_API VemiStatus vemiDilate_32f_C1R(const Vemi32f* pSrc, int srcStep, Vemi32f* pDst, int dstStep, VemiSize roiSize,
+                                       const Vemi8u* pMask, VemiSize maskSize, VemiPoint anchor);
+VEMI_API VemiStatus vemiDilate_32f_C3R(const Vemi32f* pSrc, int srcStep, Vemi32f* pDst, int dstStep, VemiSize roiSize,
+                                       const Vemi8u* pMask, VemiSize maskSize, VemiPoint anchor);
+VEMI_API VemiStatus vemiDilate_32f_C4R(const Vemi32f* pSrc, int srcStep, Vemi32f* pDst, int dstStep, VemiSize roiSize,
+                                       const Vemi8u* pMask, VemiSize maskSize, VemiPoint anchor);
+VEMI_API VemiStatus vemiDilate_32f_AC4R(const Vemi32f* pSrc, int srcStep, Vemi32f* pDst, int dstStep, VemiSize roiSize,
+                                        const Vemi8u* pMask, VemiSize maskSize, VemiPoint anchor);
+VEMI_API VemiStatus vemiDilate_32f_C1IR(Vemi32f* pSrcDst, int srcDstStep, VemiSize roiSize, const Vemi8u* pMask,
+                                        VemiSize maskSize, VemiPoint anchor);
+VEMI_API VemiStatus vemiDilate_32f_C3IR(Vemi32f* pSrcDst, int srcDstStep, VemiSize roiSize, const Vemi8u* pMask,
+                                        VemiSize maskSize, VemiPoint anchor);
+VEMI_API VemiStatus vemiDilate_32f_AC4IR(Vemi32f* pSrcDst, int srcDstStep, VemiSize roiSize, const Vemi8u* pMask,
+                                         VemiSize maskSize, VemiPoint anchor);
+
+/** @} */
+
 /** @} */
 
 #ifdef __cplusplus

@@ -72,17 +72,18 @@ template <class T>
 class RowRing {
  public:
   /// A ring without elements has no rows of its own.
-  RowRing(Vemi64s count, Vemi64s elements)
+  explicit RowRing(Vemi64s count = 0, Vemi64s elements = 0)
       : count_(count),
         elements_(elements),
         pitch_(elements == 0 ? 0 : oddLines(arrayBytes<T>(limitedSum(elements, slackElements)))) {}
 
-  /// For the rows that `width` pixels read, and as many that have `left` the window: copies where the rows are written
-  /// to before the last window has read them, and of rows that a block would read beyond.
+  /// For the rows that `width` pixels read, and `more` beside the window: copies where the rows are written to before
+  /// the last window has read them, and of rows that a block would read beyond.
   template <class L>
-  static RowRing ofSource(const Window& window, ptrdiff_t width, bool inPlace, int left = 0) {
-    const bool copied = inPlace || Vemi64s{width} * L::elements < slackElements;
-    return {Vemi64s{window.height} + left, copied ? windowElements<L>(width, window) : 0};
+  static RowRing ofSource(const Window& window, ptrdiff_t width, bool inPlace, int more = 0,
+                          ptrdiff_t blockElements = slackElements) {
+    const bool copied = inPlace || Vemi64s{width} * L::elements < blockElements;
+    return RowRing(Vemi64s{window.height} + more, copied ? windowElements<L>(width, window) : 0);
   }
 
   Vemi64s bytes() const { return limitedSum(limitedProduct(count_, pitch_), tableBytes()); }
@@ -100,6 +101,9 @@ class RowRing {
   /// rows()[0] to rows()[count - 1], until a row is entered.
   const T* const* rows() const { return table_ + oldest_; }
 
+  /// The newest row, or the one that came so many before it.
+  const T* newest(ptrdiff_t back = 0) const { return rows()[static_cast<ptrdiff_t>(count_) - 1 - back]; }
+
   /// The oldest row's room, to be written: it is the newest row.
   T* turn() {
     T* const row = room(oldest_);
@@ -109,8 +113,8 @@ class RowRing {
 
   /// A row that stays where it is.
   void enter(const T* row) {
-    table_[oldest_] = table_[oldest_ + static_cast<ptrdiff_t>(count_)] =
-        row;  // twice, so that the rows stand in order from any place on
+    // Twice, so that the rows stand in order from any place on.
+    table_[oldest_] = table_[oldest_ + static_cast<ptrdiff_t>(count_)] = row;
     oldest_ = oldest_ + 1 == count_ ? 0 : oldest_ + 1;
   }
 
@@ -173,11 +177,10 @@ EachPlace<vectors, Op> eachPlace(Op op) {
   return {op};
 }
 
-/// A row of `count` elements: stage(d, place) gives the Vectors of a block from a place on. The stage holds the rows
-/// that it reads, none of which may be the destination.
-template <Alpha alpha = Alpha::none, class T, class Stage>
-HWY_NOINLINE void mapPlaces(ptrdiff_t count, const Stage& stageOfCaller, T* dst) {
-  const Stage stage = stageOfCaller;  // a local, which no store to the destination can change
+namespace detail {
+
+template <Alpha alpha, class T, class Stage>
+HWY_INLINE void mapPlacesHere(ptrdiff_t count, const Stage& stage, T* dst) {
   const Lanes<T> d;
   constexpr ptrdiff_t N = laneCount<T>;
   constexpr int vectors = Stage::vectors;
@@ -202,6 +205,23 @@ HWY_NOINLINE void mapPlaces(ptrdiff_t count, const Stage& stageOfCaller, T* dst)
     const auto inAll = [&](T* out, ptrdiff_t i) HWY_ATTR { kernel(out, nullptr, i); };
     forWholeBlocks<items>(count, inAll, Strand<T>{dst}, Places());
   }
+}
+
+}  // namespace detail
+
+/// A row of `count` elements: stage(d, place) gives the Vectors of a block from a place on. The stage holds the rows
+/// that it reads, none of which may be the destination.
+template <Alpha alpha = Alpha::none, class T, class Stage>
+HWY_NOINLINE void mapPlaces(ptrdiff_t count, const Stage& stageOfCaller, T* dst) {
+  const Stage stage = stageOfCaller;  // a local, which no store to the destination can change
+  detail::mapPlacesHere<alpha>(count, stage, dst);
+}
+
+/// The same for a stage that is made of pointers and numbers: stageOf(argument...). They arrive in registers; a stage
+/// in memory that was written just before is waited for.
+template <Alpha alpha, class StageOf, class T, class... Argument>
+HWY_NOINLINE void mapPlacesOf(ptrdiff_t count, T* dst, Argument... argument) {
+  detail::mapPlacesHere<alpha>(count, StageOf()(argument...), dst);
 }
 
 }  // namespace vemi

@@ -2,6 +2,9 @@
 
 #include <limits.h>
 
+#include <algorithm>
+#include <cmath>
+
 namespace vemi::test {
 namespace {
 
@@ -14,18 +17,24 @@ void setMask(Call& call, VemiSize mask) {
   margin = {anchor.x, anchor.y, mask.width - 1 - anchor.x, mask.height - 1 - anchor.y};
 }
 
-/// A not-a-number would hide all that its windows share with it: mostly there is none, nor any huge number.
-void tameFloats(Call& call) {
+/// Numbers of moderate size, or infinities, in place of all floats; no two zeros differ.
+void takeNumbers(Call& call) {
   const View source = call.source();
-  if (source.element != Element::f32 || call.random.below(4) == 0) return;
+  if (source.element != Element::f32) return;
   const Margin margin = call.image(call.function.inPlace ? "pSrcDst" : "pSrc").margin;
   for (int y = -margin.top; y < source.size.height + margin.bottom; ++y) {
     for (int x = -margin.left; x < source.size.width + margin.right; ++x) {
       for (int channel = 0; channel < source.channels; ++channel) {
-        store(source.at(x, y, channel), static_cast<float>(call.random.below(4001) - 2000) / 7);
+        const int value = call.random.below(4001) - 2000;
+        store(source.at(x, y, channel), value == 2000 ? HUGE_VALF : static_cast<float>(value) / 7);
       }
     }
   }
+}
+
+/// A not-a-number would hide all that its windows share with it: mostly there is none.
+void tameFloats(Call& call) {
+  if (call.random.below(4) != 0) takeNumbers(call);
 }
 
 /// Small masks mostly; now and then one whose sums exceed 16 bits, or bytes' path of integers.
@@ -37,6 +46,57 @@ void drawBox(Call& call) {
                 : kind < 250 ? VemiSize{upTo(2, 70), upTo(8, 20)}
                 : kind < 255 ? VemiSize{upTo(60, 130), upTo(70, 130)}
                              : VemiSize{upTo(290, 320), upTo(230, 260)});
+}
+
+/// Full rectangles, lines, single bytes and anything.
+void drawShape(Call& call) {
+  const int large = call.random.below(16) == 0 ? 30 : 7;
+  const VemiSize size = {1 + call.random.below(large), 1 + call.random.below(large)};
+  setMask(call, size);
+  std::vector<Vemi8u> mask(static_cast<size_t>(size.width * size.height));
+  const int kind = call.random.below(5), row = call.random.below(size.height), column = call.random.below(size.width);
+  for (int y = 0; y < size.height; ++y) {
+    for (int x = 0; x < size.width; ++x) {
+      const bool selected = kind == 0   ? true
+                            : kind == 1 ? call.random.below(8) != 0
+                            : kind == 2 ? call.random.below(3) == 0
+                            : kind == 3 ? y == row
+                                        : y <= row && x >= column;
+      const bool always = y == row && x == column;
+      const auto byte = static_cast<Vemi8u>(1 + call.random.below(255));
+      mask[static_cast<size_t>(y * size.width + x)] = selected || always ? byte : Vemi8u{0};
+    }
+  }
+  call.setArray("pMask", mask);
+}
+
+/// One pixel beside the region on all sides.
+void surround3x3(Call& call) { call.image(call.function.inPlace ? "pSrcDst" : "pSrc").margin = {1, 1, 1, 1}; }
+
+bool selectNothing(Call& call) {
+  for (Image::Plane& plane : call.image("pMask").planes) {
+    const auto length = static_cast<size_t>(call.image("pMask").size.width);
+    std::fill_n(plane.first, length, std::byte{0});
+    std::fill_n(plane.expected.begin() + (plane.first - plane.memory.begin()), length, std::byte{0});
+  }
+  return true;
+}
+
+/// A byte less than the row that is read.
+bool shortSource(Call& call) {
+  const char* const image = call.function.inPlace ? "pSrcDst" : "pSrc";
+  const char* const step = call.function.inPlace ? "srcDstStep" : "srcStep";
+  const Margin margin = call.image(image).margin;
+  const int pixels = call.scenario.roiSize.width + margin.left + margin.right;
+  if (call.get<int>(step) > 0) call.set(step, pixels * static_cast<int>(call.source().pixelBytes) - 1);
+  return true;
+}
+
+bool shortDestination(Call& call) {
+  if (call.function.inPlace) return false;
+  const int bytes = call.scenario.roiSize.width * static_cast<int>(call.destination().pixelBytes);
+  if (call.get<int>("dstStep") > 0) call.set("dstStep", bytes - 1);
+  return true;
 }
 
 }  // namespace
@@ -54,6 +114,26 @@ std::vector<Family> filterFamilies() {
         {"anchor", 1000, "anchor", vemiErrAnchor},
         {"anchor", INT_MAX, "anchor", vemiErrAnchor}},
        tameFloats},
+      {"vemiErode3x3 vemiDilate3x3",
+       ".*",
+       "null step size stride",
+       surround3x3,
+       {{"step of the source", 0, "stride", vemiErrStride, shortSource},
+        {"step of the destination", 0, "stride", vemiErrStride, shortDestination}},
+       takeNumbers},
+      {"vemiErode vemiDilate",
+       ".*",
+       "null step size mask zero anchor stride",
+       drawShape,
+       {{"maskSize", 0, "mask", vemiErrMaskSize},
+        {"maskSize", INT_MIN, "mask", vemiErrMaskSize},
+        {"pMask of zeros", 0, "zero", vemiErrZeroMask, selectNothing},
+        {"anchor", -1, "anchor", vemiErrAnchor},
+        {"anchor", 1000, "anchor", vemiErrAnchor},
+        {"anchor", INT_MAX, "anchor", vemiErrAnchor},
+        {"step of the source", 0, "stride", vemiErrStride, shortSource},
+        {"step of the destination", 0, "stride", vemiErrStride, shortDestination}},
+       takeNumbers},
   };
 }
 
