@@ -81,6 +81,12 @@ constexpr Section sections[] = {
      "Images out of numbers: ramps and a chirp to test with, noise that a seed repeats to the bit, and windows that "
      "let a picture fade towards its rim.",
      demoGenerate},
+    {"Box blurs",
+     "The mean of a rectangle around each pixel, in the same time for any rectangle. Filters extend no image: the "
+     "source has a border, made by vemiCopyReplicateBorder.",
+     demoBox},
+    {"Erosion and dilation",
+     "The least or the greatest pixel of a shape around each pixel, which a mask of bytes selects.", demoMorphology},
 };
 
 Options optionsFrom(int argc, char** argv) {

@@ -30,5 +30,7 @@ void demoTables(const Demo& demo);
 void demoStatistics(const Demo& demo);
 void demoCounts(const Demo& demo);
 void demoGenerate(const Demo& demo);
+void demoBox(const Demo& demo);
+void demoMorphology(const Demo& demo);
 
 }  // namespace demo
