@@ -74,6 +74,7 @@ Family countsFamily();
 Family noiseFamily();
 Family generatedFamily();
 Family colorTwistFamily();
+Family packedPixelsFamily();
 Family rowsFamily();
 Family boxFamily();
 Family morphologyFamily();
