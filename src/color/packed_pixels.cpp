@@ -74,48 +74,53 @@ struct PairsImage {
 
 // ---- From a source to words -----------------------------------------------------------------------------------------
 
-/// Columns of a row, whole groups of four but for its end.
+/// Columns of a row, whole groups of four but for its end. The channel of the lowest bits comes first.
 struct Piece {
   static constexpr ptrdiff_t most = 1024;
   alignas(laneAlignment) Vemi8u channel[3][most];
-
-  PlaneRow<Vemi8u, 3> rgb() { return {{channel[0], channel[1], channel[2]}}; }
 };
 
+enum class Order { rgb, bgr };
+
 template <class Groups, class Rest, class Src>
-HWY_NOINLINE void expandPiece(ptrdiff_t first, ptrdiff_t columns, Src src, PlaneRow<Vemi8u, 3> rgb) {
-  const auto map = [&](ptrdiff_t x, ptrdiff_t n, const auto& op, auto from) { mapPixels(n, op, rgb.from(x), from); };
-  forRegimes<4, Src::sharing, 1>(
-      columns, [&](ptrdiff_t x, ptrdiff_t n) { map(x, n, Groups(), src.groups().from(first + x)); },
-      [&](ptrdiff_t x, ptrdiff_t n) { map(x, n, Rest(), src.groups().from(first + x)); },
-      [&](ptrdiff_t x, ptrdiff_t n) { map(x, n, Rest(), src.pixel(first + x)); });
+HWY_NOINLINE void expandPiece(ptrdiff_t first, ptrdiff_t columns, const Src& src, ptrdiff_t y, Order order,
+                              Piece& piece) {
+  const auto row = src.row(y);
+  const int red = order == Order::rgb ? 0 : 2;
+  const auto map = [&](ptrdiff_t x, ptrdiff_t n, const auto& op, auto from) {
+    mapPixels(n, op, planeRow(piece.channel[red] + x, piece.channel[1] + x, piece.channel[2 - red] + x), from);
+  };
+  forRegimes<4, decltype(row)::sharing, 1>(
+      columns, [&](ptrdiff_t x, ptrdiff_t n) { map(x, n, Groups(), row.groups().from(first + x)); },
+      [&](ptrdiff_t x, ptrdiff_t n) { map(x, n, Rest(), row.groups().from(first + x)); },
+      [&](ptrdiff_t x, ptrdiff_t n) { map(x, n, Rest(), row.pixel(first + x)); });
 }
 
-using LowToHigh = PlaneRow<const Vemi8u, 3>;
-using ToWords = void(ptrdiff_t columns, LowToHigh channels, ptrdiff_t y, WordRow words, bool streamed);
+using ToWords = void(ptrdiff_t columns, const Piece& piece, ptrdiff_t y, WordRow words, bool streamed);
 
+/// Of columns from `first` on; their places count within groups of four.
 template <class Op>
-void runWords(ptrdiff_t columns, const Op& op, LowToHigh channels, WordRow words, bool streamed) {
+void runWords(ptrdiff_t first, ptrdiff_t columns, const Op& op, const Piece& piece, WordRow words, bool streamed) {
+  const auto channels = planeRow(piece.channel[0] + first, piece.channel[1] + first, piece.channel[2] + first);
   if (streamed) {
-    streamPixels(columns, op, words, channels);
+    streamPixels<4>(columns, op, words.from(first), channels);
   } else {
-    mapPixels(columns, op, words, channels);
+    mapPixels(columns, op, words.from(first), channels);
   }
 }
 
 template <class Format>
-void cut(ptrdiff_t columns, LowToHigh channels, ptrdiff_t, WordRow words, bool streamed) {
-  runWords(columns, UpperBits<Format>(), channels, words, streamed);
+void cut(ptrdiff_t columns, const Piece& piece, ptrdiff_t, WordRow words, bool streamed) {
+  runWords(0, columns, UpperBits<Format>(), piece, words, streamed);
 }
 
-/// Vectors begin at columns whose thresholds are known.
+/// Vectors end with a group too, so that they begin with one.
 template <class Format>
-void dither(ptrdiff_t columns, LowToHigh channels, ptrdiff_t y, WordRow words, bool streamed) {
-  const DitheredLevels<Format> op = {y};
-  runWords(columns, regimes<4>(op, op), channels, words, streamed);
+void dither(ptrdiff_t columns, const Piece& piece, ptrdiff_t y, WordRow words, bool streamed) {
+  const DitheredLevels<Format> op = {y % 4};
+  const auto run = [&](ptrdiff_t x, ptrdiff_t n) { runWords(x, n, op, piece, words, streamed); };
+  forRegimes<4, 1>(columns, run, run);
 }
-
-enum class Order { rgb, bgr };
 
 /// The words of a member: what becomes of bytes, and which channel lies in the lower bits.
 struct Packing {
@@ -128,17 +133,12 @@ template <class Groups, class Rest, class Src>
 void packRows(Extent extent, Src src, Image<Vemi16u> dst, const Packing& packing) {
   const ptrdiff_t rowsWithGroups = Src::rowsWithGroups(extent.height);
   const auto packRow = [&](ptrdiff_t y, bool streamed) {
-    const auto row = src.row(y);
-    const auto expand = y < rowsWithGroups ? expandPiece<Groups, Rest, decltype(src.row(y))>
-                                           : expandPiece<Rest, Rest, decltype(src.row(y))>;
+    const auto expand = y < rowsWithGroups ? expandPiece<Groups, Rest, Src> : expandPiece<Rest, Rest, Src>;
     Piece piece;
-    const PlaneRow<Vemi8u, 3> rgb = piece.rgb();
-    const auto [r, g, b] = rgb.first;
-    const LowToHigh channels = packing.order == Order::rgb ? LowToHigh{{r, g, b}} : LowToHigh{{b, g, r}};
     for (ptrdiff_t x = 0; x < extent.width; x += Piece::most) {
       const ptrdiff_t columns = std::min(Piece::most, extent.width - x);
-      expand(x, columns, row, rgb);
-      packing.toWords(columns, channels, y, {dst.row(y) + x}, streamed);
+      expand(x, columns, src, y, packing.order, piece);
+      packing.toWords(columns, piece, y, {dst.row(y) + x}, streamed);
     }
   };
   runPlainOrStreamed(
