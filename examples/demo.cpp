@@ -81,6 +81,14 @@ constexpr Section sections[] = {
      "Images out of numbers: ramps and a chirp to test with, noise that a seed repeats to the bit, and windows that "
      "let a picture fade towards its rim.",
      demoGenerate},
+    {"Colour twists",
+     "Each channel of the result is a weighted sum of all three and a constant: a matrix of your own, on integers or "
+     "floats.",
+     demoTwist},
+    {"Sixteen bits a pixel",
+     "Video frames as words of 565, 555 or 444 bits for displays. Fewer levels show as bands; ordered dither breaks "
+     "them up.",
+     demoPacked},
     {"Box blurs",
      "The mean of a rectangle around each pixel, in the same time for any rectangle. Filters extend no image: the "
      "source has a border, made by vemiCopyReplicateBorder.",

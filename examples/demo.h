@@ -30,6 +30,8 @@ void demoTables(const Demo& demo);
 void demoStatistics(const Demo& demo);
 void demoCounts(const Demo& demo);
 void demoGenerate(const Demo& demo);
+void demoTwist(const Demo& demo);
+void demoPacked(const Demo& demo);
 void demoBox(const Demo& demo);
 void demoMorphology(const Demo& demo);
 

@@ -20,6 +20,9 @@ template <>
 inline constexpr Malloc<Vemi8u> mallocOf<Vemi8u>[4] = {vemiMalloc_8u_C1, vemiMalloc_8u_C2, vemiMalloc_8u_C3,
                                                        vemiMalloc_8u_C4};
 template <>
+inline constexpr Malloc<Vemi16u> mallocOf<Vemi16u>[4] = {vemiMalloc_16u_C1, vemiMalloc_16u_C2, vemiMalloc_16u_C3,
+                                                         vemiMalloc_16u_C4};
+template <>
 inline constexpr Malloc<Vemi16s> mallocOf<Vemi16s>[4] = {vemiMalloc_16s_C1, vemiMalloc_16s_C2, vemiMalloc_16s_C3,
                                                          vemiMalloc_16s_C4};
 template <>
