@@ -346,7 +346,7 @@ VemiStatus boxOfFloats(const BoxCall<T>& call, const MeanOf& meanOf) {
   const auto ofSource = slice.add<char>(source.bytes());
   const auto ofColumns = slice.add<char>(columns.bytes());
   const auto ofSums = slice.add<char>(sums.bytes());
-  const auto stretches = static_cast<int>((height + stretch - 1) / stretch);
+  const auto stretches = static_cast<int>((height - 1) / stretch + 1);
   return forBands(call.who(), stretches, {.slice = slice}, [=](int firstStretch, int count, Memory own) {
     auto ownSource = source;
     auto ownColumns = columns;
@@ -356,8 +356,8 @@ VemiStatus boxOfFloats(const BoxCall<T>& call, const MeanOf& meanOf) {
     ownSums.place(own[ofSums]);
     float* sum[rowsAtOnce];
     for (float*& row : sum) row = ownSums.turn();
-    const ptrdiff_t first = firstStretch * stretch;
-    const RowRange band = {first, std::min(height, first + count * stretch)};
+    const int end = firstStretch + count;
+    const RowRange band = {firstStretch * stretch, end == stretches ? height : end * stretch};
     int waiting = 0;
     const auto row = [&](ptrdiff_t y, const float*) {
       if (++waiting < rowsAtOnce && y + 1 < band.end) return;

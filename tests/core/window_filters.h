@@ -109,40 +109,6 @@ void binomialFilter(const FilterCall<Vemi8u>& call, ptrdiff_t first, ptrdiff_t c
   forWindows(call.window, first, count, enter, row);
 }
 
-// ---- The least element of three by three --------------------------------------------------------------------------
-
-/// Of three rows at a place, or of one row at three places.
-template <class T>
-struct LeastOfThree {
-  const T* row[3];
-
-  template <class D>
-  HWY_INLINE auto operator()(D d, ptrdiff_t i) const {
-    const auto at = [&](int j) HWY_ATTR { return hn::LoadU(d, row[j] + i); };
-    return lesser(lesser(at(0), at(1)), at(2));
-  }
-};
-
-template <class L, class T>
-void leastFilter(const FilterCall<T>& call, ptrdiff_t first, ptrdiff_t count) {
-  const ptrdiff_t width = call.roiSize.width;
-  const Vemi64s elements = windowElements<L>(width, call.window);
-  const auto src = windowed<L>(call.src, call.window);
-  auto source = RowRing<T>::template ofSource<L>(call.window, width, call.inPlace());
-  RowRing<T> leasts(1, elements);
-  const Scratch scratch = placed(source, leasts);
-  const auto enter = [&](ptrdiff_t y) { source.take(src.row(y)); };
-  const auto row = [&](ptrdiff_t y) {
-    const T* const* const rows = source.rows();
-    T* const least = leasts.turn();
-    const LeastOfThree<T> ofColumn = {{rows[0], rows[1], rows[2]}};
-    const LeastOfThree<T> ofRow = {{least, least + L::elements, least + 2 * L::elements}};
-    mapPlaces(leasts.elements(), eachPlace(ofColumn), least);
-    mapPlaces<alphaOf<L>>(width * L::elements, eachPlace(ofRow), call.dst.row(y));
-  };
-  forWindows(call.window, first, count, enter, row);
-}
-
 // ---- Kernels of floats --------------------------------------------------------------------------------------------
 
 /// Sums of float(pixel) * tap, in the order of the window's pixels; the last tap of the kernel meets the first of them.

@@ -147,21 +147,6 @@ TEST(Windows, ColumnStageThenRowStage) {
   });
 }
 
-template <class T>
-T leastOfWindow(const std::function<T(int, int)>& pixelAt) {
-  T least = pixelAt(0, 0);
-  for (int i = 1; i < 9; ++i) least = std::min(least, pixelAt(i % 3, i / 3));
-  return least;
-}
-
-TEST(Windows, StagesOfOneElementType) {
-  forAllLayouts([](auto layout) {
-    using L = decltype(layout);
-    expectFilter<L, Vemi8u>({3, 3}, leastFilter<L, Vemi8u>, leastOfWindow<Vemi8u>);
-    expectFilter<L, Vemi32f>({3, 3}, leastFilter<L, Vemi32f>, leastOfWindow<Vemi32f>);
-  });
-}
-
 // Rows that enter as they are, and rows that are converted when they enter.
 TEST(Windows, FloatKernelsAddInTheOrderOfTheWindow) {
   forAllLayouts([](auto layout) {
