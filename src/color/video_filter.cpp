@@ -2,6 +2,7 @@
 // two others, and the members that take the flicker of two fields out of a 4:2:0 frame, luma by (1, 2, 1) / 4.
 // Checks: null, size; no steps.
 
+#include "color/shared_chroma.h"
 #include "color/video_exports.h"
 #include "color/video_frames.h"
 #include "core/lane_width.h"
@@ -25,10 +26,9 @@ HWY_INLINE auto betweenRows(V a, V b, V c, V d) {
 struct BetweenRows {
   template <class D, class V>
   HWY_INLINE V operator()(D d, V v0, V v1, V v2, V v3) const {
-    const auto [a, b, c, e] = std::tuple(widen(d, v0), widen(d, v1), widen(d, v2), widen(d, v3));
-    return narrow(
-        d, Widened<decltype(betweenRows(a.lower, b.lower, c.lower, e.lower))>{
-               betweenRows(a.lower, b.lower, c.lower, e.lower), betweenRows(a.upper, b.upper, c.upper, e.upper)});
+    const auto a = evenAndOdd(v0), b = evenAndOdd(v1), c = evenAndOdd(v2), e = evenAndOdd(v3);
+    return bytesOfPixels(d, betweenRows(a.lower, b.lower, c.lower, e.lower),
+                         betweenRows(a.upper, b.upper, c.upper, e.upper));
   }
 };
 
@@ -70,7 +70,7 @@ template <Chroma>
 void interpolateChroma(LumaAndPairs<const Vemi8u> from, const PlanarVideo<2, 1>::Frame<Vemi8u>& dst, VemiSize size) {
   const ptrdiff_t rows = size.height / 2;
   for (ptrdiff_t k = 0; k < rows; ++k) {
-    movePixels(size.width / 2, dst.chroma(2 * k), pixelRow<C2>(from.pairs.row(k)));
+    movePixels(size.width / 2, dst.chroma(2 * k), pairsOfBytes(from.pairs.row(k)));
     const auto between = planeRow<2>(dst.cb().row(2 * k + 1), dst.cr().row(2 * k + 1));
     mapPixels(size.width, BetweenRowsOfPairs(), between,
               fourRows(k, rows, [&](ptrdiff_t i) { return from.pairs.row(i); }));
@@ -173,7 +173,7 @@ struct Split {
     }
     for (ptrdiff_t k = 0; k < layer.rows / 2; ++k) {
       const ptrdiff_t row = k - layer.back / 2;
-      movePixels(width / 2, planeRow(planes[1].row(row), planes[2].row(row)), pixelRow<C2>(pairs.row(k)));
+      movePixels(width / 2, planeRow(planes[1].row(row), planes[2].row(row)), pairsOfBytes(pairs.row(k)));
     }
   }
 };

@@ -40,19 +40,19 @@ struct RepeatedForNeighbours {
 
 template <class Src, class Dst, class SrcFrame, class DstFrame>
 void moveChroma(SrcFrame src, DstFrame dst, VemiSize size, Vemi64s traffic) {
-  // Of both frames the rows and columns that one sample of the coarser one serves.
+  const bool contiguous = Src::down == Dst::down && src.hasContiguousChroma(size) && dst.hasContiguousChroma(size);
   const VemiSize samples = {size.width / Dst::across, size.height / Dst::down};
   if constexpr (Src::across == Dst::across && Src::isPlanar && Dst::isPlanar) {
     copyPlane<Dst::down, Src::down>(src.cb(), dst.cb(), samples, traffic);
     copyPlane<Dst::down, Src::down>(src.cr(), dst.cr(), samples, traffic);
   } else if constexpr (Src::across == Dst::across) {
     mapFrameRows(
-        extentOf(samples), traffic, IdenticalChannels(), [&](ptrdiff_t k) { return dst.chroma(k); },
+        mergedExtent(samples, contiguous), traffic, IdenticalChannels(), [&](ptrdiff_t k) { return dst.chroma(k); },
         [&](ptrdiff_t k) { return src.chroma(k * Dst::down / Src::down); });
   } else {
     const VemiSize coarse = {size.width / 4, size.height / std::max(Src::down, Dst::down)};
     const auto move = [&](const auto& op, const auto& dstRow, const auto& srcRow) {
-      mapFrameRows(extentOf(coarse), traffic, op, dstRow, srcRow);
+      mapFrameRows(mergedExtent(coarse, contiguous), traffic, op, dstRow, srcRow);
     };
     const auto chromaOf = [](const auto& frame) { return [&](ptrdiff_t k) { return frame.chroma(k); }; };
     const auto neighboursOf = [](const auto& frame) { return [&](ptrdiff_t k) { return frame.neighbours(k); }; };
@@ -108,10 +108,17 @@ struct WithChroma {
   }
 };
 
-struct LumaAlone {
+/// Two packed rows as a pair of 4:2:0, whose chroma is that of the first one, and back.
+template <bool crossed>
+struct WithSharedChroma {
   template <class D, class V, class C>
-  HWY_INLINE V operator()(D, V luma, C, C) const {
-    return luma;
+  HWY_INLINE auto operator()(D, V luma0, C c0, C c1, V luma1, C, C) const {
+    return std::tuple(luma0, luma1, crossed ? c1 : c0, crossed ? c0 : c1);
+  }
+  template <class D, class V, class C>
+  HWY_INLINE auto operator()(D, V luma0, V luma1, C cb, C cr) const {
+    const C c0 = crossed ? cr : cb, c1 = crossed ? cb : cr;
+    return std::tuple(luma0, c0, c1, luma1, c0, c1);
   }
 };
 
@@ -125,21 +132,21 @@ struct Crossed {
 
 template <class Src, class Dst, class SrcFrame, class DstFrame>
 void movePacked(SrcFrame src, DstFrame dst, VemiSize size, Vemi64s traffic) {
+  const bool contiguous = Src::down == Dst::down && src.isContiguous(size) && dst.isContiguous(size);
+  const Extent extent = mergedExtent(size, contiguous);
   if constexpr (Src::across == Dst::across && !Src::isPlanar && !Dst::isPlanar) {  // pairs are every other byte
     const std::conditional_t<Src::lumaFirst == Dst::lumaFirst, IdenticalChannels, Crossed> op;
     mapFrameRows(
-        extentOf(size), traffic, op, [&](ptrdiff_t y) { return dst.bytes(y); },
-        [&](ptrdiff_t y) { return src.bytes(y); });
-  } else if constexpr (Dst::down == 2) {
-    const WithChroma<Src::across, Dst::across, Src::crFirst != Dst::crFirst> op;
-    CallerRows().run(size.height / 2, [&](ptrdiff_t k) {
-      mapPixels(size.width, op, dst.row(2 * k), src.row(2 * k));
-      mapPixels(size.width, LumaAlone(), planeRow(dst.luma().row(2 * k + 1)), src.row(2 * k + 1));
-    });
+        extent, traffic, op, [&](ptrdiff_t y) { return dst.bytes(y); }, [&](ptrdiff_t y) { return src.bytes(y); });
+  } else if constexpr (Src::down == 2 || Dst::down == 2) {
+    const WithSharedChroma<Src::crFirst != Dst::crFirst> op;
+    mapFrameRows(
+        {size.width, size.height / 2}, traffic, op, [&](ptrdiff_t k) { return dst.pair(k); },
+        [&](ptrdiff_t k) { return src.pair(k); });
   } else {
     const WithChroma<Src::across, Dst::across, Src::crFirst != Dst::crFirst> op;
     mapFrameRows(
-        extentOf(size), traffic, op, [&](ptrdiff_t y) { return dst.row(y); }, [&](ptrdiff_t y) { return src.row(y); });
+        extent, traffic, op, [&](ptrdiff_t y) { return dst.row(y); }, [&](ptrdiff_t y) { return src.row(y); });
   }
 }
 
