@@ -8,6 +8,7 @@
 #include "core/checks.h"
 #include "core/exports.h"
 #include "core/float_control.h"
+#include "core/lane_width.h"
 #include "core/pixel_region.h"
 #include "vemi/color.h"
 
@@ -27,6 +28,19 @@ HWY_INLINE hn::Vec<D> lowBitsOfParts(D d, const F& f) {
   return hn::BitCast(d, all);
 }
 
+/// Blocks of 128 bits that stand `stride` elements apart.
+template <class D, class T>
+HWY_INLINE hn::Vec<D> loadBlocks(D d, const T* elements, ptrdiff_t stride) {
+  constexpr ptrdiff_t blocks = hn::MaxLanes(d) * sizeof(T) / 16;
+  if constexpr (blocks == 1) {
+    return hn::LoadU(d, elements);
+  } else {
+    const hn::Half<D> dHalf;
+    const auto upper = loadBlocks(dHalf, elements + blocks / 2 * stride, stride);
+    return hn::Combine(d, upper, loadBlocks(dHalf, elements, stride));
+  }
+}
+
 // ---- Bytes --------------------------------------------------------------------------------------------------------
 
 /// The sum of (channel 2^8 w) >> 16, each product rounded down by itself and the sum saturated, >> 4. A weight is the
@@ -37,18 +51,82 @@ struct GroupsOfBytes {
   template <class D, class V>
   HWY_INLINE V operator()(D d, V r, V g, V b) const {
     const hn::RepartitionToWide<D> dWords;
-    const auto sum = [&](auto r8, auto g8, auto b8) HWY_ATTR {
-      const auto product = [&](auto v, uint16_t w) HWY_ATTR { return hn::MulHigh(v, hn::Set(dWords, w)); };
-      const auto both = hn::SaturatedAdd(product(r8, weight[0]), product(g8, weight[1]));
-      const auto all = hn::ShiftRight<4>(hn::SaturatedAdd(both, product(b8, weight[2])));
-      return hn::Min(all, hn::Set(dWords, uint16_t{255}));
-    };
     const auto even = [&](V v) HWY_ATTR { return hn::ShiftLeft<8>(hn::BitCast(dWords, v)); };
     const auto odd = [&](V v) HWY_ATTR { return hn::And(hn::BitCast(dWords, v), hn::Set(dWords, uint16_t{0xff00})); };
-    const auto evens = sum(even(r), even(g), even(b)), odds = sum(odd(r), odd(g), odd(b));
+    const auto limited = [&](auto v) HWY_ATTR { return hn::Min(v, hn::Set(dWords, uint16_t{255})); };
+    const auto evens = limited(sum(even(r), even(g), even(b))), odds = limited(sum(odd(r), odd(g), odd(b)));
     return hn::BitCast(d, hn::Or(evens, hn::ShiftLeft<8>(odds)));
   }
+  template <class D, class W>
+  HWY_INLINE hn::Vec<D> operator()(D d, Widened<W> r, Widened<W> g, Widened<W> b) const {
+    const hn::RebindToSigned<hn::DFromV<W>> dSigned;
+    const auto lower = sum(r.lower, g.lower, b.lower), upper = sum(r.upper, g.upper, b.upper);
+    return packHalves(d, hn::BitCast(dSigned, lower), hn::BitCast(dSigned, upper));
+  }
+
+ private:
+  /// Of bytes times 2^8.
+  template <class W>
+  HWY_INLINE W sum(W r, W g, W b) const {
+    const hn::DFromV<W> d;
+    const auto product = [&](W v, uint16_t w) HWY_ATTR { return hn::MulHigh(v, hn::Set(d, w)); };
+    const W both = hn::SaturatedAdd(product(r, weight[0]), product(g, weight[1]));
+    return hn::ShiftRight<4>(hn::SaturatedAdd(both, product(b, weight[2])));
+  }
 };
+
+/// Lookups of eight pixels' bytes of one channel, as the upper bytes of words, in bytes 0 to 15 and 8 to 23.
+struct ThreeToWords {
+  alignas(16) uint8_t front[3][16], back[3][16];
+
+  constexpr ThreeToWords() : front(), back() {
+    constexpr uint8_t none = 0x80;
+    for (int i = 0; i < 3 * 16; ++i) {
+      const int channel = i / 16, byte = i % 16, place = 3 * (byte / 2) + channel;
+      front[channel][byte] = byte % 2 == 0 || place >= 16 ? none : static_cast<uint8_t>(place);
+      back[channel][byte] = byte % 2 == 0 || place < 16 ? none : static_cast<uint8_t>(place - 8);
+    }
+  }
+};
+
+constexpr ThreeToWords threeToWords;
+
+/// Interleaved pixels as words of bytes times 2^8. Block b of the lower words has pixels 16 b to 16 b + 7, that of the
+/// upper ones the next eight: packed within blocks, they are in order.
+struct ThreeInWordsRow {
+  using Element = uint8_t;
+  static constexpr int channels = 3, itemPixels = 1, streamedVectors = 0;
+  static constexpr ptrdiff_t blockPixels = laneCount<uint8_t>;
+
+  const uint8_t* first;
+
+  template <int pixels>
+  auto strands() const {
+    return std::tuple(Strand<const uint8_t, 3 * pixels>{first});
+  }
+  ThreeInWordsRow from(ptrdiff_t x) const { return {first + 3 * x}; }
+
+  template <ptrdiff_t pixels, class F>
+  HWY_INLINE auto load(const F& f) const {
+    const Lanes<uint8_t> d;
+    const Lanes<uint16_t> dWords;
+    const auto block = [&](ptrdiff_t byte) HWY_ATTR { return loadBlocks(d, first + byte, 48); };
+    const auto lower0 = block(0), lower8 = block(8), upper0 = block(24), upper8 = block(32);
+    const auto channel = [&](int c) HWY_ATTR {
+      const auto front = hn::LoadDup128(d, threeToWords.front[c]), back = hn::LoadDup128(d, threeToWords.back[c]);
+      const auto words = [&](auto v0, auto v8) HWY_ATTR {
+        return hn::BitCast(dWords, hn::Or(hn::TableLookupBytesOr0(v0, front), hn::TableLookupBytesOr0(v8, back)));
+      };
+      return Widened<hn::Vec<decltype(dWords)>>{words(lower0, lower8), words(upper0, upper8)};
+    };
+    return f(channel(0), channel(1), channel(2));
+  }
+};
+
+void mapPixels(ptrdiff_t width, const GroupsOfBytes& op, InterleavedRow<uint8_t, C1> dst,
+               InterleavedRow<const uint8_t, C3> src) {
+  vemi::mapPixels(width, op, dst, ThreeInWordsRow{src.first});
+}
 
 /// The lower byte of the sum >> 12.
 struct RestOfBytes {
@@ -91,6 +169,40 @@ struct Floats {
     return hn::Add(hn::Add(product(r, weight[0]), product(g, weight[1])), product(b, weight[2]));
   }
 };
+
+/// The colours of pixels with an alpha, four of which are transposed within blocks.
+struct FloatColoursRow {
+  using Element = float;
+  static constexpr int channels = 3, itemPixels = 1, streamedVectors = 0;
+  static constexpr ptrdiff_t blockPixels = laneCount<float>;
+
+  const float* first;
+
+  template <int pixels>
+  auto strands() const {
+    return std::tuple(Strand<const float, 4 * pixels>{first});
+  }
+  FloatColoursRow from(ptrdiff_t x) const { return {first + 4 * x}; }
+
+  template <ptrdiff_t pixels, class F>
+  HWY_INLINE auto load(const F& f) const {
+    const Lanes<float> d;
+    const Lanes<double> dPairs;
+    const auto pixel = [&](int n) HWY_ATTR { return loadBlocks(d, first + 4 * n, 16); };
+    const auto p0 = pixel(0), p1 = pixel(1), p2 = pixel(2), p3 = pixel(3);
+    const auto redGreen0 = hn::BitCast(dPairs, hn::InterleaveLower(d, p0, p1));
+    const auto redGreen2 = hn::BitCast(dPairs, hn::InterleaveLower(d, p2, p3));
+    const auto blue0 = hn::BitCast(dPairs, hn::InterleaveUpper(d, p0, p1));
+    const auto blue2 = hn::BitCast(dPairs, hn::InterleaveUpper(d, p2, p3));
+    return f(hn::BitCast(d, hn::InterleaveLower(dPairs, redGreen0, redGreen2)),
+             hn::BitCast(d, hn::InterleaveUpper(dPairs, redGreen0, redGreen2)),
+             hn::BitCast(d, hn::InterleaveLower(dPairs, blue0, blue2)));
+  }
+};
+
+void mapPixels(ptrdiff_t width, const Floats& op, InterleavedRow<float, C1> dst, InterleavedRow<const float, AC4> src) {
+  vemi::mapPixels(width, op, dst, FloatColoursRow{src.first});
+}
 
 /// Of 16 bits: truncated, the lower 16 bits of the integer or, of 16s, the nearest one of the type. Signed elements are
 /// those of 16u less 32768.
@@ -136,6 +248,9 @@ auto weighted(const float (&w)[3]) {
 
 template <class L, class T, class Op>
 VemiStatus mapToGray(Image<const T> src, Image<T> dst, VemiSize roiSize, const Op& op) {
+  if constexpr (hasRegimes<Op>) {  // contiguous rows of whole groups may be one
+    if (roiSize.width % Op::group == 0) return mapToGray<L>(src, dst, roiSize, op.block);
+  }
   const auto map = [&] {
     mapPixelRegion(CallerRows(), roiSize, op, pixelsOf<C1>(dst), pixelsOf<L>(src));
     return vemiOk;

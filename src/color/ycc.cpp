@@ -195,6 +195,9 @@ using WordsFromYcc = OfWords<FromYcc>;
 
 template <class Op, class L, class Src, class Dst>
 VemiStatus ycc(Src src, Dst dst, VemiSize roiSize) {
+  if constexpr (hasRegimes<Op>) {  // contiguous rows of whole groups may be one
+    if (roiSize.width % Op::group == 0) return ycc<decltype(Op::block), L>(src, dst, roiSize);
+  }
   return convertPixels<Op, L, L, Stores::streamed>(src, dst, roiSize);
 }
 
