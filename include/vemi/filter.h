@@ -19,6 +19,493 @@ extern "C" {
  * @{
  */
 
+/* ---- Fixed kernels ----------------------------------------------------------------------------------------------- */
+
+/**
+ * @defgroup vemi_filter_fixed Filters with fixed kernels: gradients, second derivatives, sharpening, means
+ *
+ *     pDst(x, y) = S / d,  S = sum of weight(i, j) * pSrc(x + i, y + j)
+ *
+ * over i, j = -1..1 for 3x3 kernels and -2..2 for 5x5 kernels. Kernels are shown as they lie over the image: the first
+ * row of a kernel is weighed with the row above the pixel (the second one above, for 5x5), the first column with the
+ * column to its left. d is 1 unless it is told. Each channel by itself; AC4 forms leave the fourth channel of the
+ * destination as it is.
+ *
+ * **Integers** (8u, 16s, 8u16s, 8s16s): S is exact. The quotient is the nearest integer, and the even one of two
+ * equally near; it is limited to 0..255 or -32768..32767. Negative gradients are thus 0 in 8u, and kept by 8u16s. The
+ * rounding mode of the calling thread does not matter.
+ *
+ * **Floats** (32f): every product, sum and difference is rounded by itself to single precision, and the last sum is
+ * multiplied by the float nearest to 1 / d. First the columns of the window are summed from top to bottom, then the
+ * columns' sums from left to right. Weights of 0 take no part, so that a NaN below them does not show. With the rows
+ * r0, r1, r2 (, r3, r4) of the window and the columns' sums t0, t1, t2 (, t3, t4):
+ *
+ *     filter                    column sum                           result
+ *     SobelHoriz 3x3            r2 - r0                              t0 + 2 t1 + t2
+ *     SobelHoriz 5x5            -r0 - 2 r1 + 2 r3 + r4               t0 + 4 t1 + 6 t2 + 4 t3 + t4
+ *     SobelVert 3x3             r0 + 2 r1 + r2                       t0 - t2
+ *     SobelVert 5x5             r0 + 4 r1 + 6 r2 + 4 r3 + r4         t0 + 2 t1 - 2 t3 - t4
+ *     SobelHorizSecond 3x3      r0 - 2 r1 + r2                       t0 + 2 t1 + t2
+ *     SobelHorizSecond 5x5      r0 - 2 r2 + r4                       t0 + 4 t1 + 6 t2 + 4 t3 + t4
+ *     SobelVertSecond 3x3       r0 + 2 r1 + r2                       t0 - 2 t1 + t2
+ *     SobelVertSecond 5x5       r0 + 4 r1 + 6 r2 + 4 r3 + r4         t0 - 2 t2 + t4
+ *     SobelCross 3x3            r2 - r0                              t0 - t2
+ *     SobelCross 5x5            -r0 - 2 r1 + 2 r3 + r4               t0 + 2 t1 - 2 t3 - t4
+ *     ScharrHoriz               r2 - r0                              3 t0 + 10 t1 + 3 t2
+ *     ScharrVert                3 r0 + 10 r1 + 3 r2                  t2 - t0
+ *     PrewittHoriz              r2 - r0                              t0 + t1 + t2
+ *     PrewittVert               r0 + r1 + r2                         t0 - t2
+ *     Laplace, Hipass 3x3       r0 + r1 + r2                         9 p - (t0 + t1 + t2), p the pixel itself
+ *     Hipass 5x5                r0 + r1 + r2 + r3 + r4               25 p - (t0 + t1 + t2 + t3 + t4)
+ *     Sharpen                   r0 + r1 + r2                         (17 p - (t0 + t1 + t2)) / 8
+ *     Gauss 3x3                 r0 + 2 r1 + r2                       (t0 + 2 t1 + t2) / 16
+ *     Lowpass 3x3               r0 + r1 + r2                         (t0 + t1 + t2) / 9
+ *     Lowpass 5x5               r0 + r1 + r2 + r3 + r4               (t0 + t1 + t2 + t3 + t4) / 25
+ *     Laplace, Gauss 5x5        with the weights of the own column   t0 + t1 + t2 + t3 + t4, for Gauss / 571
+ *
+ * **Pixels read around the region**: one on each side for 3x3, two for 5x5, also where the kernel has zeros;
+ * vemiCopyReplicateBorder and its like make them. Roberts forms read one row above the region, and one column to its
+ * right (Up) or left (Down).
+ *
+ * @param pSrc,srcStep  first pixel of the region in the source, and the bytes between its rows
+ * @param pDst,dstStep  the same of the destination, which shares no pixel with any that are read
+ * @param roiSize       size of the region in pixels
+ * @param maskSize      (forms that have it) vemiMask3x3 or vemiMask5x5
+ *
+ * **Statuses**, in the order of the tests: null, size, step (see status.h); then
+ *
+ * - vemiErrMaskSize: maskSize is neither vemiMask3x3 nor vemiMask5x5. The 32f forms of vemiFilterSobelHorizMask,
+ *   vemiFilterSobelVertMask, vemiFilterSobelHorizSecond, vemiFilterSobelVertSecond and vemiFilterSobelCross take any
+ *   other number for vemiMask5x5 instead.
+ * - vemiErrMemAlloc: no memory for rows of sums; not in the Roberts forms
+ *
+ * **Threads.** All forms run in the calling thread, but for those of vemiFilterRobertsUp and vemiFilterRobertsDown,
+ * which are calls of vemiSub (arith.h) and share their work as it does.
+ *
+ *     Vemi8u* inner = photo + 2 * step + 2;   // C1; two pixels are left out on each side
+ *     vemiFilterGauss_8u_C1R(inner, step, soft, softStep, innerSize, vemiMask5x5);
+ *     vemiFilterSobelHoriz_8u16s_C1R(inner, step, slope, slopeStep, innerSize, vemiMask3x3);
+ * @{
+ */
+
+/** The size of a fixed kernel. */
+enum {
+  vemiMask3x3 = 33, /**< three columns, three rows */
+  vemiMask5x5 = 55  /**< five columns, five rows */
+};
+
+/**
+ * @name vemiFilterSobelHoriz, vemiFilterSobelVert: slopes, smoothed across their direction
+ *
+ * Horiz answers to horizontal edges: what is below minus what is above. Vert answers to vertical ones: what is left
+ * minus what is right.
+ *
+ *     Horiz 3x3  -1 -2 -1    Horiz 5x5  -1 -4  -6 -4 -1    Vert 3x3  1 0 -1    Vert 5x5  1  2 0  -2 -1
+ *                 0  0  0               -2 -8 -12 -8 -2              2 0 -2              4  8 0  -8 -4
+ *                 1  2  1                0  0   0  0  0              1 0 -1              6 12 0 -12 -6
+ *                                        2  8  12  8  2                                  4  8 0  -8 -4
+ *                                        1  4   6  4  1                                  1  2 0  -2 -1
+ *
+ * Forms without maskSize are 3x3.
+ * @{
+ */
+
+VEMI_API VemiStatus vemiFilterSobelHoriz_8u_C1R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep,
+                                                VemiSize roiSize);
+VEMI_API VemiStatus vemiFilterSobelHoriz_8u_C3R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep,
+                                                VemiSize roiSize);
+VEMI_API VemiStatus vemiFilterSobelHoriz_8u_C4R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep,
+                                                VemiSize roiSize);
+VEMI_API VemiStatus vemiFilterSobelHoriz_8u_AC4R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep,
+                                                 VemiSize roiSize);
+VEMI_API VemiStatus vemiFilterSobelHoriz_8u16s_C1R(const Vemi8u* pSrc, int srcStep, Vemi16s* pDst, int dstStep,
+                                                   VemiSize roiSize, int maskSize);
+VEMI_API VemiStatus vemiFilterSobelHoriz_8s16s_C1R(const Vemi8s* pSrc, int srcStep, Vemi16s* pDst, int dstStep,
+                                                   VemiSize roiSize, int maskSize);
+VEMI_API VemiStatus vemiFilterSobelHoriz_16s_C1R(const Vemi16s* pSrc, int srcStep, Vemi16s* pDst, int dstStep,
+                                                 VemiSize roiSize);
+VEMI_API VemiStatus vemiFilterSobelHoriz_16s_C3R(const Vemi16s* pSrc, int srcStep, Vemi16s* pDst, int dstStep,
+                                                 VemiSize roiSize);
+VEMI_API VemiStatus vemiFilterSobelHoriz_16s_C4R(const Vemi16s* pSrc, int srcStep, Vemi16s* pDst, int dstStep,
+                                                 VemiSize roiSize);
+VEMI_API VemiStatus vemiFilterSobelHoriz_16s_AC4R(const Vemi16s* pSrc, int srcStep, Vemi16s* pDst, int dstStep,
+                                                  VemiSize roiSize);
+VEMI_API VemiStatus vemiFilterSobelHoriz_32f_C1R(const Vemi32f* pSrc, int srcStep, Vemi32f* pDst, int dstStep,
+                                                 VemiSize roiSize);
+VEMI_API VemiStatus vemiFilterSobelHoriz_32f_C3R(const Vemi32f* pSrc, int srcStep, Vemi32f* pDst, int dstStep,
+                                                 VemiSize roiSize);
+VEMI_API VemiStatus vemiFilterSobelHoriz_32f_C4R(const Vemi32f* pSrc, int srcStep, Vemi32f* pDst, int dstStep,
+                                                 VemiSize roiSize);
+VEMI_API VemiStatus vemiFilterSobelHoriz_32f_AC4R(const Vemi32f* pSrc, int srcStep, Vemi32f* pDst, int dstStep,
+                                                  VemiSize roiSize);
+
+VEMI_API VemiStatus vemiFilterSobelVert_8u_C1R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep,
+                                               VemiSize roiSize);
+VEMI_API VemiStatus vemiFilterSobelVert_8u_C3R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep,
+                                               VemiSize roiSize);
+VEMI_API VemiStatus vemiFilterSobelVert_8u_C4R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep,
+                                               VemiSize roiSize);
+VEMI_API VemiStatus vemiFilterSobelVert_8u_AC4R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep,
+                                                VemiSize roiSize);
+VEMI_API VemiStatus vemiFilterSobelVert_8u16s_C1R(const Vemi8u* pSrc, int srcStep, Vemi16s* pDst, int dstStep,
+                                                  VemiSize roiSize, int maskSize);
+VEMI_API VemiStatus vemiFilterSobelVert_8s16s_C1R(const Vemi8s* pSrc, int srcStep, Vemi16s* pDst, int dstStep,
+                                                  VemiSize roiSize, int maskSize);
+VEMI_API VemiStatus vemiFilterSobelVert_16s_C1R(const Vemi16s* pSrc, int srcStep, Vemi16s* pDst, int dstStep,
+                                                VemiSize roiSize);
+VEMI_API VemiStatus vemiFilterSobelVert_16s_C3R(const Vemi16s* pSrc, int srcStep, Vemi16s* pDst, int dstStep,
+                                                VemiSize roiSize);
+VEMI_API VemiStatus vemiFilterSobelVert_16s_C4R(const Vemi16s* pSrc, int srcStep, Vemi16s* pDst, int dstStep,
+                                                VemiSize roiSize);
+VEMI_API VemiStatus vemiFilterSobelVert_16s_AC4R(const Vemi16s* pSrc, int srcStep, Vemi16s* pDst, int dstStep,
+                                                 VemiSize roiSize);
+VEMI_API VemiStatus vemiFilterSobelVert_32f_C1R(const Vemi32f* pSrc, int srcStep, Vemi32f* pDst, int dstStep,
+                                                VemiSize roiSize);
+VEMI_API VemiStatus vemiFilterSobelVert_32f_C3R(const Vemi32f* pSrc, int srcStep, Vemi32f* pDst, int dstStep,
+                                                VemiSize roiSize);
+VEMI_API VemiStatus vemiFilterSobelVert_32f_C4R(const Vemi32f* pSrc, int srcStep, Vemi32f* pDst, int dstStep,
+                                                VemiSize roiSize);
+VEMI_API VemiStatus vemiFilterSobelVert_32f_AC4R(const Vemi32f* pSrc, int srcStep, Vemi32f* pDst, int dstStep,
+                                                 VemiSize roiSize);
+
+VEMI_API VemiStatus vemiFilterSobelHorizMask_32f_C1R(const Vemi32f* pSrc, int srcStep, Vemi32f* pDst, int dstStep,
+                                                     VemiSize roiSize, int maskSize);
+
+VEMI_API VemiStatus vemiFilterSobelVertMask_32f_C1R(const Vemi32f* pSrc, int srcStep, Vemi32f* pDst, int dstStep,
+                                                    VemiSize roiSize, int maskSize);
+/** @} */
+
+/**
+ * @name vemiFilterSobelHorizSecond, vemiFilterSobelVertSecond, vemiFilterSobelCross: second derivatives
+ *
+ * Downwards, to the right, and once in each direction.
+ *
+ *     HorizSecond  1  2  1    VertSecond  1 -2  1    Cross  -1  0  1
+ *                 -2 -4 -2                2 -4  2            0  0  0
+ *                  1  2  1                1 -2  1            1  0 -1
+ *
+ *     HorizSecond  1  4   6  4  1    VertSecond  1  0  -2  0  1    Cross  -1 -2  0  2  1
+ *                  0  0   0  0  0                4  0  -8  0  4           -2 -4  0  4  2
+ *                 -2 -8 -12 -8 -2                6  0 -12  0  6            0  0  0  0  0
+ *                  0  0   0  0  0                4  0  -8  0  4            2  4  0 -4 -2
+ *                  1  4   6  4  1                1  0  -2  0  1            1  2  0 -2 -1
+ * @{
+ */
+
+VEMI_API VemiStatus vemiFilterSobelHorizSecond_8u16s_C1R(const Vemi8u* pSrc, int srcStep, Vemi16s* pDst, int dstStep,
+                                                         VemiSize roiSize, int maskSize);
+VEMI_API VemiStatus vemiFilterSobelHorizSecond_8s16s_C1R(const Vemi8s* pSrc, int srcStep, Vemi16s* pDst, int dstStep,
+                                                         VemiSize roiSize, int maskSize);
+VEMI_API VemiStatus vemiFilterSobelHorizSecond_32f_C1R(const Vemi32f* pSrc, int srcStep, Vemi32f* pDst, int dstStep,
+                                                       VemiSize roiSize, int maskSize);
+
+VEMI_API VemiStatus vemiFilterSobelVertSecond_8u16s_C1R(const Vemi8u* pSrc, int srcStep, Vemi16s* pDst, int dstStep,
+                                                        VemiSize roiSize, int maskSize);
+VEMI_API VemiStatus vemiFilterSobelVertSecond_8s16s_C1R(const Vemi8s* pSrc, int srcStep, Vemi16s* pDst, int dstStep,
+                                                        VemiSize roiSize, int maskSize);
+VEMI_API VemiStatus vemiFilterSobelVertSecond_32f_C1R(const Vemi32f* pSrc, int srcStep, Vemi32f* pDst, int dstStep,
+                                                      VemiSize roiSize, int maskSize);
+
+VEMI_API VemiStatus vemiFilterSobelCross_8u16s_C1R(const Vemi8u* pSrc, int srcStep, Vemi16s* pDst, int dstStep,
+                                                   VemiSize roiSize, int maskSize);
+VEMI_API VemiStatus vemiFilterSobelCross_8s16s_C1R(const Vemi8s* pSrc, int srcStep, Vemi16s* pDst, int dstStep,
+                                                   VemiSize roiSize, int maskSize);
+VEMI_API VemiStatus vemiFilterSobelCross_32f_C1R(const Vemi32f* pSrc, int srcStep, Vemi32f* pDst, int dstStep,
+                                                 VemiSize roiSize, int maskSize);
+/** @} */
+
+/**
+ * @name vemiFilterScharrHoriz, vemiFilterScharrVert: slopes whose size hardly depends on their direction
+ *
+ * What is below minus what is above; what is right minus what is left, unlike in the other gradients.
+ *
+ *     Horiz  -3 -10 -3    Vert   -3  0  3
+ *             0   0  0          -10  0 10
+ *             3  10  3           -3  0  3
+ * @{
+ */
+
+VEMI_API VemiStatus vemiFilterScharrHoriz_8u16s_C1R(const Vemi8u* pSrc, int srcStep, Vemi16s* pDst, int dstStep,
+                                                    VemiSize roiSize);
+VEMI_API VemiStatus vemiFilterScharrHoriz_8s16s_C1R(const Vemi8s* pSrc, int srcStep, Vemi16s* pDst, int dstStep,
+                                                    VemiSize roiSize);
+VEMI_API VemiStatus vemiFilterScharrHoriz_32f_C1R(const Vemi32f* pSrc, int srcStep, Vemi32f* pDst, int dstStep,
+                                                  VemiSize roiSize);
+
+VEMI_API VemiStatus vemiFilterScharrVert_8u16s_C1R(const Vemi8u* pSrc, int srcStep, Vemi16s* pDst, int dstStep,
+                                                   VemiSize roiSize);
+VEMI_API VemiStatus vemiFilterScharrVert_8s16s_C1R(const Vemi8s* pSrc, int srcStep, Vemi16s* pDst, int dstStep,
+                                                   VemiSize roiSize);
+VEMI_API VemiStatus vemiFilterScharrVert_32f_C1R(const Vemi32f* pSrc, int srcStep, Vemi32f* pDst, int dstStep,
+                                                 VemiSize roiSize);
+/** @} */
+
+/**
+ * @name vemiFilterPrewittHoriz, vemiFilterPrewittVert: slopes, plain means across their direction
+ *
+ *     Horiz  -1 -1 -1    Vert  1  0 -1
+ *             0  0  0          1  0 -1
+ *             1  1  1          1  0 -1
+ * @{
+ */
+
+VEMI_API VemiStatus vemiFilterPrewittHoriz_8u_C1R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep,
+                                                  VemiSize roiSize);
+VEMI_API VemiStatus vemiFilterPrewittHoriz_8u_C3R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep,
+                                                  VemiSize roiSize);
+VEMI_API VemiStatus vemiFilterPrewittHoriz_8u_C4R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep,
+                                                  VemiSize roiSize);
+VEMI_API VemiStatus vemiFilterPrewittHoriz_8u_AC4R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep,
+                                                   VemiSize roiSize);
+VEMI_API VemiStatus vemiFilterPrewittHoriz_16s_C1R(const Vemi16s* pSrc, int srcStep, Vemi16s* pDst, int dstStep,
+                                                   VemiSize roiSize);
+VEMI_API VemiStatus vemiFilterPrewittHoriz_16s_C3R(const Vemi16s* pSrc, int srcStep, Vemi16s* pDst, int dstStep,
+                                                   VemiSize roiSize);
+VEMI_API VemiStatus vemiFilterPrewittHoriz_16s_C4R(const Vemi16s* pSrc, int srcStep, Vemi16s* pDst, int dstStep,
+                                                   VemiSize roiSize);
+VEMI_API VemiStatus vemiFilterPrewittHoriz_16s_AC4R(const Vemi16s* pSrc, int srcStep, Vemi16s* pDst, int dstStep,
+                                                    VemiSize roiSize);
+VEMI_API VemiStatus vemiFilterPrewittHoriz_32f_C1R(const Vemi32f* pSrc, int srcStep, Vemi32f* pDst, int dstStep,
+                                                   VemiSize roiSize);
+VEMI_API VemiStatus vemiFilterPrewittHoriz_32f_C3R(const Vemi32f* pSrc, int srcStep, Vemi32f* pDst, int dstStep,
+                                                   VemiSize roiSize);
+VEMI_API VemiStatus vemiFilterPrewittHoriz_32f_C4R(const Vemi32f* pSrc, int srcStep, Vemi32f* pDst, int dstStep,
+                                                   VemiSize roiSize);
+VEMI_API VemiStatus vemiFilterPrewittHoriz_32f_AC4R(const Vemi32f* pSrc, int srcStep, Vemi32f* pDst, int dstStep,
+                                                    VemiSize roiSize);
+
+VEMI_API VemiStatus vemiFilterPrewittVert_8u_C1R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep,
+                                                 VemiSize roiSize);
+VEMI_API VemiStatus vemiFilterPrewittVert_8u_C3R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep,
+                                                 VemiSize roiSize);
+VEMI_API VemiStatus vemiFilterPrewittVert_8u_C4R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep,
+                                                 VemiSize roiSize);
+VEMI_API VemiStatus vemiFilterPrewittVert_8u_AC4R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep,
+                                                  VemiSize roiSize);
+VEMI_API VemiStatus vemiFilterPrewittVert_16s_C1R(const Vemi16s* pSrc, int srcStep, Vemi16s* pDst, int dstStep,
+                                                  VemiSize roiSize);
+VEMI_API VemiStatus vemiFilterPrewittVert_16s_C3R(const Vemi16s* pSrc, int srcStep, Vemi16s* pDst, int dstStep,
+                                                  VemiSize roiSize);
+VEMI_API VemiStatus vemiFilterPrewittVert_16s_C4R(const Vemi16s* pSrc, int srcStep, Vemi16s* pDst, int dstStep,
+                                                  VemiSize roiSize);
+VEMI_API VemiStatus vemiFilterPrewittVert_16s_AC4R(const Vemi16s* pSrc, int srcStep, Vemi16s* pDst, int dstStep,
+                                                   VemiSize roiSize);
+VEMI_API VemiStatus vemiFilterPrewittVert_32f_C1R(const Vemi32f* pSrc, int srcStep, Vemi32f* pDst, int dstStep,
+                                                  VemiSize roiSize);
+VEMI_API VemiStatus vemiFilterPrewittVert_32f_C3R(const Vemi32f* pSrc, int srcStep, Vemi32f* pDst, int dstStep,
+                                                  VemiSize roiSize);
+VEMI_API VemiStatus vemiFilterPrewittVert_32f_C4R(const Vemi32f* pSrc, int srcStep, Vemi32f* pDst, int dstStep,
+                                                  VemiSize roiSize);
+VEMI_API VemiStatus vemiFilterPrewittVert_32f_AC4R(const Vemi32f* pSrc, int srcStep, Vemi32f* pDst, int dstStep,
+                                                   VemiSize roiSize);
+/** @} */
+
+/**
+ * @name vemiFilterRobertsUp, vemiFilterRobertsDown: slopes along the diagonals
+ *
+ *     Up:    pDst(x, y) = pSrc(x, y) - pSrc(x + 1, y - 1)
+ *     Down:  pDst(x, y) = pSrc(x, y) - pSrc(x - 1, y - 1)
+ * @{
+ */
+
+VEMI_API VemiStatus vemiFilterRobertsUp_8u_C1R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep,
+                                               VemiSize roiSize);
+VEMI_API VemiStatus vemiFilterRobertsUp_8u_C3R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep,
+                                               VemiSize roiSize);
+VEMI_API VemiStatus vemiFilterRobertsUp_8u_AC4R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep,
+                                                VemiSize roiSize);
+VEMI_API VemiStatus vemiFilterRobertsUp_16s_C1R(const Vemi16s* pSrc, int srcStep, Vemi16s* pDst, int dstStep,
+                                                VemiSize roiSize);
+VEMI_API VemiStatus vemiFilterRobertsUp_16s_C3R(const Vemi16s* pSrc, int srcStep, Vemi16s* pDst, int dstStep,
+                                                VemiSize roiSize);
+VEMI_API VemiStatus vemiFilterRobertsUp_16s_AC4R(const Vemi16s* pSrc, int srcStep, Vemi16s* pDst, int dstStep,
+                                                 VemiSize roiSize);
+VEMI_API VemiStatus vemiFilterRobertsUp_32f_C1R(const Vemi32f* pSrc, int srcStep, Vemi32f* pDst, int dstStep,
+                                                VemiSize roiSize);
+VEMI_API VemiStatus vemiFilterRobertsUp_32f_C3R(const Vemi32f* pSrc, int srcStep, Vemi32f* pDst, int dstStep,
+                                                VemiSize roiSize);
+VEMI_API VemiStatus vemiFilterRobertsUp_32f_AC4R(const Vemi32f* pSrc, int srcStep, Vemi32f* pDst, int dstStep,
+                                                 VemiSize roiSize);
+
+VEMI_API VemiStatus vemiFilterRobertsDown_8u_C1R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep,
+                                                 VemiSize roiSize);
+VEMI_API VemiStatus vemiFilterRobertsDown_8u_C3R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep,
+                                                 VemiSize roiSize);
+VEMI_API VemiStatus vemiFilterRobertsDown_8u_AC4R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep,
+                                                  VemiSize roiSize);
+VEMI_API VemiStatus vemiFilterRobertsDown_16s_C1R(const Vemi16s* pSrc, int srcStep, Vemi16s* pDst, int dstStep,
+                                                  VemiSize roiSize);
+VEMI_API VemiStatus vemiFilterRobertsDown_16s_C3R(const Vemi16s* pSrc, int srcStep, Vemi16s* pDst, int dstStep,
+                                                  VemiSize roiSize);
+VEMI_API VemiStatus vemiFilterRobertsDown_16s_AC4R(const Vemi16s* pSrc, int srcStep, Vemi16s* pDst, int dstStep,
+                                                   VemiSize roiSize);
+VEMI_API VemiStatus vemiFilterRobertsDown_32f_C1R(const Vemi32f* pSrc, int srcStep, Vemi32f* pDst, int dstStep,
+                                                  VemiSize roiSize);
+VEMI_API VemiStatus vemiFilterRobertsDown_32f_C3R(const Vemi32f* pSrc, int srcStep, Vemi32f* pDst, int dstStep,
+                                                  VemiSize roiSize);
+VEMI_API VemiStatus vemiFilterRobertsDown_32f_AC4R(const Vemi32f* pSrc, int srcStep, Vemi32f* pDst, int dstStep,
+                                                   VemiSize roiSize);
+/** @} */
+
+/**
+ * @name vemiFilterLaplace, vemiFilterHipass: by how much a pixel differs from its neighbourhood
+ *
+ *     both 3x3  -1 -1 -1    Laplace 5x5  -1 -3 -4 -3 -1    Hipass 5x5  -1 in all places but
+ *               -1  8 -1                 -3  0  6  0 -3                24 in the middle
+ *               -1 -1 -1                 -4  6 20  6 -4
+ *                                        -3  0  6  0 -3
+ *                                        -1 -3 -4 -3 -1
+ * @{
+ */
+
+VEMI_API VemiStatus vemiFilterLaplace_8u_C1R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep,
+                                             VemiSize roiSize, int maskSize);
+VEMI_API VemiStatus vemiFilterLaplace_8u_C3R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep,
+                                             VemiSize roiSize, int maskSize);
+VEMI_API VemiStatus vemiFilterLaplace_8u_C4R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep,
+                                             VemiSize roiSize, int maskSize);
+VEMI_API VemiStatus vemiFilterLaplace_8u_AC4R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep,
+                                              VemiSize roiSize, int maskSize);
+VEMI_API VemiStatus vemiFilterLaplace_8u16s_C1R(const Vemi8u* pSrc, int srcStep, Vemi16s* pDst, int dstStep,
+                                                VemiSize roiSize, int maskSize);
+VEMI_API VemiStatus vemiFilterLaplace_8s16s_C1R(const Vemi8s* pSrc, int srcStep, Vemi16s* pDst, int dstStep,
+                                                VemiSize roiSize, int maskSize);
+VEMI_API VemiStatus vemiFilterLaplace_16s_C1R(const Vemi16s* pSrc, int srcStep, Vemi16s* pDst, int dstStep,
+                                              VemiSize roiSize, int maskSize);
+VEMI_API VemiStatus vemiFilterLaplace_16s_C3R(const Vemi16s* pSrc, int srcStep, Vemi16s* pDst, int dstStep,
+                                              VemiSize roiSize, int maskSize);
+VEMI_API VemiStatus vemiFilterLaplace_16s_C4R(const Vemi16s* pSrc, int srcStep, Vemi16s* pDst, int dstStep,
+                                              VemiSize roiSize, int maskSize);
+VEMI_API VemiStatus vemiFilterLaplace_16s_AC4R(const Vemi16s* pSrc, int srcStep, Vemi16s* pDst, int dstStep,
+                                               VemiSize roiSize, int maskSize);
+VEMI_API VemiStatus vemiFilterLaplace_32f_C1R(const Vemi32f* pSrc, int srcStep, Vemi32f* pDst, int dstStep,
+                                              VemiSize roiSize, int maskSize);
+VEMI_API VemiStatus vemiFilterLaplace_32f_C3R(const Vemi32f* pSrc, int srcStep, Vemi32f* pDst, int dstStep,
+                                              VemiSize roiSize, int maskSize);
+VEMI_API VemiStatus vemiFilterLaplace_32f_C4R(const Vemi32f* pSrc, int srcStep, Vemi32f* pDst, int dstStep,
+                                              VemiSize roiSize, int maskSize);
+VEMI_API VemiStatus vemiFilterLaplace_32f_AC4R(const Vemi32f* pSrc, int srcStep, Vemi32f* pDst, int dstStep,
+                                               VemiSize roiSize, int maskSize);
+
+VEMI_API VemiStatus vemiFilterHipass_8u_C1R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep,
+                                            VemiSize roiSize, int maskSize);
+VEMI_API VemiStatus vemiFilterHipass_8u_C3R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep,
+                                            VemiSize roiSize, int maskSize);
+VEMI_API VemiStatus vemiFilterHipass_8u_C4R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep,
+                                            VemiSize roiSize, int maskSize);
+VEMI_API VemiStatus vemiFilterHipass_8u_AC4R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep,
+                                             VemiSize roiSize, int maskSize);
+VEMI_API VemiStatus vemiFilterHipass_16s_C1R(const Vemi16s* pSrc, int srcStep, Vemi16s* pDst, int dstStep,
+                                             VemiSize roiSize, int maskSize);
+VEMI_API VemiStatus vemiFilterHipass_16s_C3R(const Vemi16s* pSrc, int srcStep, Vemi16s* pDst, int dstStep,
+                                             VemiSize roiSize, int maskSize);
+VEMI_API VemiStatus vemiFilterHipass_16s_C4R(const Vemi16s* pSrc, int srcStep, Vemi16s* pDst, int dstStep,
+                                             VemiSize roiSize, int maskSize);
+VEMI_API VemiStatus vemiFilterHipass_16s_AC4R(const Vemi16s* pSrc, int srcStep, Vemi16s* pDst, int dstStep,
+                                              VemiSize roiSize, int maskSize);
+VEMI_API VemiStatus vemiFilterHipass_32f_C1R(const Vemi32f* pSrc, int srcStep, Vemi32f* pDst, int dstStep,
+                                             VemiSize roiSize, int maskSize);
+VEMI_API VemiStatus vemiFilterHipass_32f_C3R(const Vemi32f* pSrc, int srcStep, Vemi32f* pDst, int dstStep,
+                                             VemiSize roiSize, int maskSize);
+VEMI_API VemiStatus vemiFilterHipass_32f_C4R(const Vemi32f* pSrc, int srcStep, Vemi32f* pDst, int dstStep,
+                                             VemiSize roiSize, int maskSize);
+VEMI_API VemiStatus vemiFilterHipass_32f_AC4R(const Vemi32f* pSrc, int srcStep, Vemi32f* pDst, int dstStep,
+                                              VemiSize roiSize, int maskSize);
+/** @} */
+
+/**
+ * @name vemiFilterSharpen: the pixel, and by how much it differs from its neighbourhood
+ *
+ *     -1 -1 -1    d = 8
+ *     -1 16 -1
+ *     -1 -1 -1
+ * @{
+ */
+
+VEMI_API VemiStatus vemiFilterSharpen_8u_C1R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep,
+                                             VemiSize roiSize);
+VEMI_API VemiStatus vemiFilterSharpen_8u_C3R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep,
+                                             VemiSize roiSize);
+VEMI_API VemiStatus vemiFilterSharpen_8u_C4R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep,
+                                             VemiSize roiSize);
+VEMI_API VemiStatus vemiFilterSharpen_8u_AC4R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep,
+                                              VemiSize roiSize);
+VEMI_API VemiStatus vemiFilterSharpen_16s_C1R(const Vemi16s* pSrc, int srcStep, Vemi16s* pDst, int dstStep,
+                                              VemiSize roiSize);
+VEMI_API VemiStatus vemiFilterSharpen_16s_C3R(const Vemi16s* pSrc, int srcStep, Vemi16s* pDst, int dstStep,
+                                              VemiSize roiSize);
+VEMI_API VemiStatus vemiFilterSharpen_16s_C4R(const Vemi16s* pSrc, int srcStep, Vemi16s* pDst, int dstStep,
+                                              VemiSize roiSize);
+VEMI_API VemiStatus vemiFilterSharpen_16s_AC4R(const Vemi16s* pSrc, int srcStep, Vemi16s* pDst, int dstStep,
+                                               VemiSize roiSize);
+VEMI_API VemiStatus vemiFilterSharpen_32f_C1R(const Vemi32f* pSrc, int srcStep, Vemi32f* pDst, int dstStep,
+                                              VemiSize roiSize);
+VEMI_API VemiStatus vemiFilterSharpen_32f_C3R(const Vemi32f* pSrc, int srcStep, Vemi32f* pDst, int dstStep,
+                                              VemiSize roiSize);
+VEMI_API VemiStatus vemiFilterSharpen_32f_C4R(const Vemi32f* pSrc, int srcStep, Vemi32f* pDst, int dstStep,
+                                              VemiSize roiSize);
+VEMI_API VemiStatus vemiFilterSharpen_32f_AC4R(const Vemi32f* pSrc, int srcStep, Vemi32f* pDst, int dstStep,
+                                               VemiSize roiSize);
+/** @} */
+
+/**
+ * @name vemiFilterGauss, vemiFilterLowpass: weighted and plain means
+ *
+ *     Gauss 3x3  1 2 1    d = 16    Gauss 5x5   2  7  12  7  2    d = 571    Lowpass  1 in all places,
+ *                2 4 2                          7 31  52 31  7                        d = 9 (3x3) or 25 (5x5)
+ *                1 2 1                         12 52 127 52 12
+ *                                               7 31  52 31  7
+ *                                               2  7  12  7  2
+ * @{
+ */
+
+VEMI_API VemiStatus vemiFilterGauss_8u_C1R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep, VemiSize roiSize,
+                                           int maskSize);
+VEMI_API VemiStatus vemiFilterGauss_8u_C3R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep, VemiSize roiSize,
+                                           int maskSize);
+VEMI_API VemiStatus vemiFilterGauss_8u_C4R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep, VemiSize roiSize,
+                                           int maskSize);
+VEMI_API VemiStatus vemiFilterGauss_8u_AC4R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep,
+                                            VemiSize roiSize, int maskSize);
+VEMI_API VemiStatus vemiFilterGauss_16s_C1R(const Vemi16s* pSrc, int srcStep, Vemi16s* pDst, int dstStep,
+                                            VemiSize roiSize, int maskSize);
+VEMI_API VemiStatus vemiFilterGauss_16s_C3R(const Vemi16s* pSrc, int srcStep, Vemi16s* pDst, int dstStep,
+                                            VemiSize roiSize, int maskSize);
+VEMI_API VemiStatus vemiFilterGauss_16s_C4R(const Vemi16s* pSrc, int srcStep, Vemi16s* pDst, int dstStep,
+                                            VemiSize roiSize, int maskSize);
+VEMI_API VemiStatus vemiFilterGauss_16s_AC4R(const Vemi16s* pSrc, int srcStep, Vemi16s* pDst, int dstStep,
+                                             VemiSize roiSize, int maskSize);
+VEMI_API VemiStatus vemiFilterGauss_32f_C1R(const Vemi32f* pSrc, int srcStep, Vemi32f* pDst, int dstStep,
+                                            VemiSize roiSize, int maskSize);
+VEMI_API VemiStatus vemiFilterGauss_32f_C3R(const Vemi32f* pSrc, int srcStep, Vemi32f* pDst, int dstStep,
+                                            VemiSize roiSize, int maskSize);
+VEMI_API VemiStatus vemiFilterGauss_32f_C4R(const Vemi32f* pSrc, int srcStep, Vemi32f* pDst, int dstStep,
+                                            VemiSize roiSize, int maskSize);
+VEMI_API VemiStatus vemiFilterGauss_32f_AC4R(const Vemi32f* pSrc, int srcStep, Vemi32f* pDst, int dstStep,
+                                             VemiSize roiSize, int maskSize);
+
+VEMI_API VemiStatus vemiFilterLowpass_8u_C1R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep,
+                                             VemiSize roiSize, int maskSize);
+VEMI_API VemiStatus vemiFilterLowpass_8u_C3R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep,
+                                             VemiSize roiSize, int maskSize);
+VEMI_API VemiStatus vemiFilterLowpass_8u_AC4R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep,
+                                              VemiSize roiSize, int maskSize);
+VEMI_API VemiStatus vemiFilterLowpass_16s_C1R(const Vemi16s* pSrc, int srcStep, Vemi16s* pDst, int dstStep,
+                                              VemiSize roiSize, int maskSize);
+VEMI_API VemiStatus vemiFilterLowpass_16s_C3R(const Vemi16s* pSrc, int srcStep, Vemi16s* pDst, int dstStep,
+                                              VemiSize roiSize, int maskSize);
+VEMI_API VemiStatus vemiFilterLowpass_16s_AC4R(const Vemi16s* pSrc, int srcStep, Vemi16s* pDst, int dstStep,
+                                               VemiSize roiSize, int maskSize);
+VEMI_API VemiStatus vemiFilterLowpass_32f_C1R(const Vemi32f* pSrc, int srcStep, Vemi32f* pDst, int dstStep,
+                                              VemiSize roiSize, int maskSize);
+VEMI_API VemiStatus vemiFilterLowpass_32f_C3R(const Vemi32f* pSrc, int srcStep, Vemi32f* pDst, int dstStep,
+                                              VemiSize roiSize, int maskSize);
+VEMI_API VemiStatus vemiFilterLowpass_32f_AC4R(const Vemi32f* pSrc, int srcStep, Vemi32f* pDst, int dstStep,
+                                               VemiSize roiSize, int maskSize);
+/** @} */
+
+/** @} */
+
 /* ---- Means over a rectangle -------------------------------------------------------------------------------------- */
 
 /**

@@ -70,6 +70,25 @@ void drawShape(Call& call) {
   call.setArray("pMask", mask);
 }
 
+/// Of a fixed kernel: those of the mask, if there is one. Some members take any number for the larger mask.
+void drawFixedKernel(Call& call) {
+  int reach = 1;
+  if (call.function.indexOf("maskSize") >= 0) {
+    const bool takesAny =
+        call.function.name.find("Sobel") != std::string::npos && call.image("pSrc").element == Element::f32;
+    const int masks[] = {33, 55, 33, 55, 7, 0, -33, INT_MIN};
+    const int mask = masks[call.random.below(takesAny ? 8 : 4)];
+    call.set("maskSize", mask);
+    reach = mask == 33 ? 1 : 2;
+  }
+  call.image("pSrc").margin = {reach, reach, reach, reach};
+}
+
+void surroundRoberts(Call& call) {
+  const bool up = call.function.name.find("Up") != std::string::npos;
+  call.image("pSrc").margin = {up ? 0 : 1, 1, up ? 1 : 0, 0};
+}
+
 /// One pixel beside the region on all sides.
 void surround3x3(Call& call) { call.image(call.function.inPlace ? "pSrcDst" : "pSrc").margin = {1, 1, 1, 1}; }
 
@@ -102,7 +121,25 @@ bool shortDestination(Call& call) {
 }  // namespace
 
 std::vector<Family> filterFamilies() {
+  const std::vector<OwnFault> fixedMasks = {{"maskSize", 7, "mask", vemiErrMaskSize},
+                                            {"maskSize", 0, "mask", vemiErrMaskSize},
+                                            {"maskSize", 53, "mask", vemiErrMaskSize},
+                                            {"maskSize", INT_MIN, "mask", vemiErrMaskSize}};
   return {
+      {"vemiFilterSobelHoriz vemiFilterSobelVert vemiFilterSobelHorizSecond vemiFilterSobelVertSecond "
+       "vemiFilterSobelCross",
+       "8.16s_.*", "null size step mask", drawFixedKernel, fixedMasks},
+      {"vemiFilterLaplace vemiFilterGauss vemiFilterHipass vemiFilterLowpass", ".*", "null size step mask",
+       drawFixedKernel, fixedMasks, tameFloats},
+      {"vemiFilterSobelHoriz vemiFilterSobelVert vemiFilterSobelHorizMask vemiFilterSobelVertMask "
+       "vemiFilterSobelHorizSecond vemiFilterSobelVertSecond vemiFilterSobelCross vemiFilterScharrHoriz "
+       "vemiFilterScharrVert vemiFilterPrewittHoriz vemiFilterPrewittVert vemiFilterSharpen",
+       ".*",
+       "null size step",
+       drawFixedKernel,
+       {},
+       tameFloats},
+      {"vemiFilterRobertsUp vemiFilterRobertsDown", ".*", "null size step", surroundRoberts, {}, tameFloats},
       {"vemiFilterBox",
        ".*",
        "null step size mask anchor",
