@@ -79,6 +79,8 @@ Family videoFamily();
 Family swapChannelsFamily();
 Family grayFamily();
 Family yccFamily();
+Family reduceBitsFamily();
+Family qualityFamily();
 Family rowsFamily();
 Family boxFamily();
 Family morphologyFamily();

@@ -29,7 +29,7 @@ constexpr FamilyTable families[] = {
     thresholdFamily,     compareFamily,      convertFamily,    bitImageFamily,     lutFamily,
     gammaFamily,         countsFamily,       noiseFamily,      generatedFamily,    colorTwistFamily,
     videoFamily,         swapChannelsFamily, grayFamily,       yccFamily,          packedPixelsFamily,
-    boxFamily,           morphologyFamily,   rowsFamily,
+    boxFamily,           morphologyFamily,   reduceBitsFamily, qualityFamily,      rowsFamily,
 };
 
 constexpr const char* usage =

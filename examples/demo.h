@@ -32,6 +32,7 @@ void demoCounts(const Demo& demo);
 void demoGenerate(const Demo& demo);
 void demoTwist(const Demo& demo);
 void demoPacked(const Demo& demo);
+void demoLevels(const Demo& demo);
 void demoBox(const Demo& demo);
 void demoMorphology(const Demo& demo);
 

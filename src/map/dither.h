@@ -22,8 +22,8 @@ HWY_INLINE V reachesWhite(V a, V b) {
   return hn::ShiftRight<15>(hn::AverageRound(a, b));
 }
 
-/// Pixels in lanes of 16 bits without a sign. Floats are limited to 0..1 from above first: of an unordered pair the
-/// lesser is the second, so a NaN is white.
+/// Pixels in lanes of 16 bits without a sign. Floats are limited to 1: of an unordered pair the lesser is the second,
+/// so a NaN is white. What is below 0 stays so, and is packed to 0.
 struct OnOneScale {
   template <class D, class S>
   HWY_INLINE hn::Vec<D> operator()(D d, const S* in) const {
@@ -31,10 +31,8 @@ struct OnOneScale {
       const auto v = loadExtended(d, in);
       return hn::Or(v, hn::ShiftLeft<8>(v));
     } else if constexpr (std::is_same_v<S, Vemi32f>) {
-      return roundedFloats(d, in, [](auto df, auto v) HWY_ATTR {
-        const auto limited = greater(lesser(v, hn::Set(df, 1.0f)), hn::Zero(df));
-        return hn::Mul(limited, hn::Set(df, 65535.0f));
-      });
+      return roundedFloats(
+          d, in, [](auto df, auto v) HWY_ATTR { return hn::Mul(lesser(v, hn::Set(df, 1.0f)), hn::Set(df, 65535.0f)); });
     } else {
       return (*this)(d, hn::LoadU(Lanes<S>(), in));
     }
@@ -67,9 +65,12 @@ class LevelValue {
   /// In lanes of 16 bits.
   template <class D, class V>
   HWY_INLINE V operator()(D d, V k) const {
-    const V fraction = hn::Set(d, fraction_);
-    const V carry = reachesWhite(hn::Mul(k, fraction), hn::Set(d, rounding_));
-    const V level = hn::Add(hn::Mul(k, hn::Set(d, whole_)), hn::Add(hn::MulHigh(k, fraction), carry));
+    V level = hn::Mul(k, hn::Set(d, whole_));
+    if (fraction_ != 0) {  // not so with 2, 4, 6, 16, 18, 52, 86 and 256 levels
+      const V fraction = hn::Set(d, fraction_);
+      const V carry = reachesWhite(hn::Mul(k, fraction), hn::Set(d, rounding_));
+      level = hn::Add(level, hn::Add(hn::MulHigh(k, fraction), carry));
+    }
     return std::is_signed_v<T> ? hn::Xor(level, hn::Set(d, 0x8000)) : level;
   }
 
