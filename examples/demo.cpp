@@ -89,6 +89,10 @@ constexpr Section sections[] = {
      "Video frames as words of 565, 555 or 444 bits for displays. Fewer levels show as bands; ordered dither breaks "
      "them up.",
      demoPacked},
+    {"Few levels, and how alike pictures are",
+     "A few grey levels by the nearest one, by noise, by a pattern and by error diffusion; and the quality index, "
+     "which says how much of a picture is left, from 1 for all of it to 0 for nothing.",
+     demoLevels},
     {"Box blurs",
      "The mean of a rectangle around each pixel, in the same time for any rectangle. Filters extend no image: the "
      "source has a border, made by vemiCopyReplicateBorder.",
