@@ -32,14 +32,32 @@ struct Greatest {
   }
 };
 
+/// Layouts differ in the elements of a pixel, and in an alpha that stays: numbers here, so that they share all code.
 template <class T>
 struct ExtremeCall {
   Image<const T> src;
   Image<T> dst;
   VemiSize roiSize;
   Window window;
+  ptrdiff_t pixel;  // elements
+  bool keepsAlpha;
+
+  template <class L>
+  static ExtremeCall of(Image<const T> src, Image<T> dst, VemiSize roiSize, const Window& window) {
+    return {src, dst, roiSize, window, L::elements, L::keepsAlpha};
+  }
 
   bool inPlace() const { return isSameImage(src, dst); }
+  ptrdiff_t elements() const { return roiSize.width * pixel; }
+  /// Of the rows that the windows reach.
+  Vemi64s reached() const { return limitedProduct(Vemi64s{roiSize.width} + window.width - 1, pixel); }
+  /// Row y of the windows.
+  const T* row(ptrdiff_t y) const { return src.row(y - window.above) - window.left * pixel; }
+
+  /// Of source rows: copies where they must be, so that a block of two vectors may be read.
+  RowRing<T> source(Vemi64s rows) const {
+    return RowRing<T>(rows, inPlace() || elements() < 2 * laneCount<T> ? reached() : 0);
+  }
 };
 
 // ---- Rows out of several ------------------------------------------------------------------------------------------
@@ -107,13 +125,43 @@ void withKnown(ptrdiff_t count, const F& f) {
   f(std::make_integer_sequence<int, number>());
 }
 
-/// Out of the rows at(0) to at(count - 1), which are few.
-template <class Order, Alpha alpha, class T, class At>
-void extremeRow(ptrdiff_t elements, ptrdiff_t count, const At& at, T* dst) {
+/// The rows at(0) to at(count - 1), which are few.
+template <class T>
+struct FewRows {
+  int count;
+  const T* row[mostKnown];
+
+  template <class At>
+  FewRows(ptrdiff_t rows, const At& at) : count(static_cast<int>(rows)) {
+    for (int k = 0; k < count; ++k) row[k] = at(k);
+  }
+};
+
+template <class Order, Alpha alpha, class T>
+HWY_NOINLINE void extremeRow(ptrdiff_t elements, const FewRows<T>& rows, T* dst) {
   withKnown(
-      count, [&]<int... k>(std::integer_sequence<int, k...>) {
-        mapPlacesOf<alpha, ExtremeOf<Order>>(elements, dst, at(k)...);
+      rows.count, [&]<int... k>(std::integer_sequence<int, k...>) {
+        mapPlacesOf<alpha, ExtremeOf<Order>>(elements, dst, rows.row[k]...);
       });
+}
+
+template <class Order, class T>
+HWY_NOINLINE void extremeRows(ptrdiff_t elements, const T* first, const FewRows<T>& shared, const T* last, T* dst0,
+                              T* dst1) {
+  withKnown(
+      shared.count, [&]<int... k>(std::integer_sequence<int, k...>) {
+        extremePair<Order>(elements, dst0, dst1, first, last, shared.row[k]...);
+      });
+}
+
+/// Into the destination.
+template <class Order, class T>
+void extremeResult(const ExtremeCall<T>& call, const FewRows<T>& rows, T* dst) {
+  if (call.keepsAlpha) {
+    extremeRow<Order, Alpha::kept>(call.elements(), rows, dst);
+  } else {
+    extremeRow<Order, Alpha::none>(call.elements(), rows, dst);
+  }
 }
 
 /// One block for all of the rings.
@@ -157,30 +205,27 @@ struct Passes {
 };
 
 /// Windows go two by two, one below the other: they share all rows but the first and the last one.
-template <class Order, class L, class T>
+template <class Order, class T>
 VemiStatus extremeOfRectangle(const ExtremeCall<T>& call) {
-  constexpr ptrdiff_t n = L::elements;
-  const ptrdiff_t width = call.roiSize.width, height = call.roiSize.height, lead = ptrdiff_t{call.window.height} - 1;
-  const Vemi64s reached = windowElements<L>(width, call.window);
-  const auto elements = static_cast<ptrdiff_t>(reached);
+  const ptrdiff_t n = call.pixel, height = call.roiSize.height, lead = ptrdiff_t{call.window.height} - 1;
+  const auto elements = static_cast<ptrdiff_t>(call.reached());
   const Passes down(std::max(1, call.window.height - 1)), across(call.window.width);
   // What each pass down the columns reads: the source, and rows of the pass before it. Then three rows on the way.
   RowRing<T> rings[Passes::most + 3];
-  rings[0] = RowRing<T>::template ofSource<L>(call.window, width, call.inPlace(), 1, 2 * laneCount<T>);
-  for (int i = 1; i < down.count; ++i) rings[i] = RowRing<T>(Vemi64s{down.pass[i].last} + 2, reached);
+  rings[0] = call.source(Vemi64s{call.window.height} + 1);
+  for (int i = 1; i < down.count; ++i) rings[i] = RowRing<T>(Vemi64s{down.pass[i].last} + 2, call.reached());
   RowRing<T>* const onTheWay = rings + down.count;
-  for (int i = 0; i < 3; ++i) onTheWay[i] = RowRing<T>(1, reached);
+  for (int i = 0; i < 3; ++i) onTheWay[i] = RowRing<T>(1, call.reached());
   const Scratch scratch = placed(rings, down.count + 3);
   if (scratch.failed()) return vemiErrMemAlloc;
   T *const pair[] = {onTheWay[0].turn(), onTheWay[1].turn()}, *const other = onTheWay[2].turn();
 
-  const auto src = windowed<L>(call.src, call.window);
   const auto enter = [&](ptrdiff_t y) {
-    rings[0].take(src.row(y));
+    rings[0].take(call.row(y));
     for (int i = 0; i + 1 < down.count && y + 1 >= down.pass[i].reach(); ++i) {
       const Pass& pass = down.pass[i];
-      const auto at = [&](int k) { return rings[i].newest(pass.last - pass.at(k)); };
-      extremeRow<Order, Alpha::none>(elements, pass.places, at, rings[i + 1].turn());
+      const FewRows<T> rows(pass.places, [&](int k) { return rings[i].newest(pass.last - pass.at(k)); });
+      extremeRow<Order, Alpha::none>(elements, rows, rings[i + 1].turn());
     }
   };
   const auto reachDown = [&](ptrdiff_t rows) {  // one window alone counts as two of the same
@@ -188,24 +233,18 @@ VemiStatus extremeOfRectangle(const ExtremeCall<T>& call) {
     const auto at = [&](int k) { return rings[down.count - 1].newest(rows - 1 + pass.last - pass.at(k)); };
     const T* const first = rings[0].newest(lead + rows - 1);
     const T* const last = rows == 1 ? first : rings[0].newest();
-    withKnown(
-        pass.places, [&]<int... k>(std::integer_sequence<int, k...>) {
-          extremePair<Order>(elements, pair[0], pair[rows - 1], first, last, at(k)...);
-        });
+    extremeRows<Order>(elements, first, FewRows<T>(pass.places, at), last, pair[0], pair[rows - 1]);
   };
   const auto reachAcross = [&](const T* from, T* free, T* dst) {
-    const auto run = [&]<Alpha alpha>(const Pass& pass, ptrdiff_t count, T* to, std::integral_constant<Alpha, alpha>) {
-      extremeRow<Order, alpha>(
-          count, pass.places, [&](int k) { return from + pass.at(k) * n; }, to);
-    };
     T* to = other;
-    for (int i = 0; i + 1 < across.count; ++i) {
+    for (int i = 0; i < across.count; ++i) {
       const Pass& pass = across.pass[i];
-      run(pass, elements - (pass.reach() - 1) * n, to, std::integral_constant<Alpha, Alpha::none>());
+      const FewRows<T> places(pass.places, [&](int k) { return from + pass.at(k) * n; });
+      if (i + 1 == across.count) return extremeResult<Order>(call, places, dst);
+      extremeRow<Order, Alpha::none>(elements - (pass.reach() - 1) * n, places, to);
       from = to;
       to = i % 2 == 0 ? free : other;
     }
-    run(across.last(), width * n, dst, std::integral_constant<Alpha, alphaOf<L>>());
   };
 
   for (ptrdiff_t y = 0; y < lead; ++y) enter(y);
@@ -265,6 +304,11 @@ struct Selection {
     }
   }
 
+  /// Of a whole mask, whose rows have no gaps.
+  bool selectsAll() const {
+    return std::memchr(first, 0, static_cast<size_t>(step) * static_cast<size_t>(window.height)) == nullptr;
+  }
+
   /// Without the rows and columns around that select nothing.
   Selection cropped() const {
     ptrdiff_t left = window.width, right = 0, top = window.height, bottom = 0;
@@ -291,9 +335,10 @@ struct TapCount {
 };
 
 /// Takes the extreme of the selected pixels; there are some.
-template <class Order, class L, class T>
+template <class Order, class T>
 VemiStatus extremeOfSelection(ExtremeCall<T> call, const Selection& all) {
-  constexpr ptrdiff_t n = L::elements;
+  const ptrdiff_t n = call.pixel;
+  if (all.selectsAll()) return extremeOfRectangle<Order>(call);
   const Selection selection = all.cropped();
   call.window = selection.window;
   TapCount pixels, runs;
@@ -302,19 +347,18 @@ VemiStatus extremeOfSelection(ExtremeCall<T> call, const Selection& all) {
   // In place, a row is written over before a window that lies wholly above it has come to an end.
   const ptrdiff_t below = call.inPlace() ? call.window.above + 1 - call.window.height : 0;
   if (below <= 0 && pixels.taps == Vemi64s{call.window.width} * call.window.height) {
-    return extremeOfRectangle<Order, L>(call);
+    return extremeOfRectangle<Order>(call);
   }
   if (below > 0) call.window.height += static_cast<int>(below);
 
   // A level costs two loads and a store for each row, a tap one load.
   const bool byRuns = runs.taps + 3 * runs.levels < pixels.taps;
   const TapCount& chosen = byRuns ? runs : pixels;
-  const ptrdiff_t width = call.roiSize.width;
-  const Vemi64s reached = windowElements<L>(width, call.window);
   constexpr int most = 31;
   RowRing<T> rings[most];
-  rings[0] = RowRing<T>::template ofSource<L>(call.window, width, call.inPlace(), 0, 2 * laneCount<T>);
-  for (int i = 1; i <= chosen.levels; ++i) rings[i] = RowRing<T>(call.window.height, reached);
+  const bool isNarrow = call.elements() < 4 * laneCount<T>;
+  rings[0] = call.source(call.window.height);
+  for (int i = 1; i <= chosen.levels; ++i) rings[i] = RowRing<T>(call.window.height, call.reached());
   const Scratch rows = placed(rings, chosen.levels + 1);
   Pieces pieces;
   const auto ofTaps = pieces.add<Tap>(chosen.taps);
@@ -331,25 +375,31 @@ VemiStatus extremeOfSelection(ExtremeCall<T> call, const Selection& all) {
     selection.forPixels(add);
   }
 
-  const auto src = windowed<L>(call.src, call.window);
-  const auto elements = static_cast<ptrdiff_t>(reached);
+  const auto elements = static_cast<ptrdiff_t>(call.reached());
   const auto enter = [&](ptrdiff_t y) {
-    rings[0].take(src.row(y));
+    rings[0].take(call.row(y));
     for (int i = 1; i <= chosen.levels; ++i) {
       const ptrdiff_t half = (ptrdiff_t{1} << (i - 1)) * n;
-      const auto at = [&](int k) { return rings[i - 1].newest() + k * half; };
-      extremeRow<Order, Alpha::none>(elements - 2 * half + n, 2, at, rings[i].turn());
+      const T* const former = rings[i - 1].newest();
+      mapPlacesOf<Alpha::none, ExtremeOf<Order>>(elements - 2 * half + n, rings[i].turn(), former, former + half);
     }
   };
   const auto row = [&](ptrdiff_t y) {
     const auto at = [&](ptrdiff_t i) { return rings[taps[i].level].rows()[taps[i].y] + taps[i].x * n; };
     T* const dst = call.dst.row(y);
-    if (count <= mostKnown) return extremeRow<Order, alphaOf<L>>(width * n, count, at, dst);
+    if (count <= mostKnown) return extremeResult<Order>(call, FewRows<T>(count, at), dst);
     for (ptrdiff_t i = 0; i < count; ++i) places[i] = at(i);
-    if (width * n >= 4 * laneCount<T>) {
-      mapPlaces<alphaOf<L>>(width * n, ExtremeOfMany<Order, T, 4>{places, count}, dst);
+    const auto run = [&]<int vectors>(ExtremeOfMany<Order, T, vectors> stage) {
+      if (call.keepsAlpha) {
+        mapPlaces<Alpha::kept>(call.elements(), stage, dst);
+      } else {
+        mapPlaces<Alpha::none>(call.elements(), stage, dst);
+      }
+    };
+    if (isNarrow) {
+      run(ExtremeOfMany<Order, T, 1>{places, count});
     } else {
-      mapPlaces<alphaOf<L>>(width * n, ExtremeOfMany<Order, T, 1>{places, count}, dst);
+      run(ExtremeOfMany<Order, T, 4>{places, count});
     }
   };
   forWindows(call.window, 0, call.roiSize.height, enter, row);

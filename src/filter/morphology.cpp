@@ -32,7 +32,8 @@ VemiStatus morph3x3(Image<const T> src, Image<T> dst, VemiSize roiSize) {
           firstOf(checkNull(src, dst), checkStep(src, dst), checkSize(roiSize), checkStride<L>(src, dst, roiSize, 2))) {
     return bad;
   }
-  return extremeOfRectangle<Order, L>(ExtremeCall<T>{src, dst, roiSize, Window::fromFirst({3, 3}, {1, 1})});
+  const Window window = Window::fromFirst({3, 3}, {1, 1});
+  return extremeOfRectangle<Order>(ExtremeCall<T>::template of<L>(src, dst, roiSize, window));
 }
 
 template <class Order, class T, class L>
@@ -44,7 +45,8 @@ VemiStatus morph(Image<const T> src, Image<T> dst, VemiSize roiSize, const Vemi8
     return bad;
   }
   const Window window = Window::fromFirst(maskSize, anchor);
-  return extremeOfSelection<Order, L>(ExtremeCall<T>{src, dst, roiSize, window}, {mask, maskSize.width, window});
+  const Selection selection = {mask, maskSize.width, window};
+  return extremeOfSelection<Order>(ExtremeCall<T>::template of<L>(src, dst, roiSize, window), selection);
 }
 
 }  // namespace
