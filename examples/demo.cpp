@@ -85,6 +85,10 @@ constexpr Section sections[] = {
      "Each channel of the result is a weighted sum of all three and a constant: a matrix of your own, on integers or "
      "floats.",
      demoTwist},
+    {"Video layouts, orders, grey",
+     "Pixels of video share chroma. Between its layouts samples are dropped and repeated, or filtered where the name "
+     "says so. Channels change places, or become one.",
+     demoVideo},
     {"Sixteen bits a pixel",
      "Video frames as words of 565, 555 or 444 bits for displays. Fewer levels show as bands; ordered dither breaks "
      "them up.",

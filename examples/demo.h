@@ -31,6 +31,7 @@ void demoStatistics(const Demo& demo);
 void demoCounts(const Demo& demo);
 void demoGenerate(const Demo& demo);
 void demoTwist(const Demo& demo);
+void demoVideo(const Demo& demo);
 void demoPacked(const Demo& demo);
 void demoLevels(const Demo& demo);
 void demoBox(const Demo& demo);
