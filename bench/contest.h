@@ -73,6 +73,7 @@ Family gammaFamily();
 Family countsFamily();
 Family noiseFamily();
 Family generatedFamily();
+Family perceptualFamily();
 Family colorTwistFamily();
 Family packedPixelsFamily();
 Family videoFamily();

@@ -21,15 +21,16 @@ namespace {
 
 using FamilyTable = Family (*)();
 constexpr FamilyTable families[] = {
-    copyFamily,          setFamily,          planesFamily,     channelsFamily,     maskedCopyFamily,
-    maskedSetFamily,     borderFamily,       addFamily,        addConstantFamily,  addScaledFamily,
-    subFamily,           mulFamily,          scalingFamily,    divideFamily,       divideByConstantFamily,
-    divideScalingFamily, unaryFamily,        mulScaleFamily,   unaryScalingFamily, logicalFamily,
-    shiftFamily,         alphaFamily,        reductionsFamily, normFamily,         hardReductionsFamily,
-    thresholdFamily,     compareFamily,      convertFamily,    bitImageFamily,     lutFamily,
-    gammaFamily,         countsFamily,       noiseFamily,      generatedFamily,    colorTwistFamily,
-    videoFamily,         swapChannelsFamily, grayFamily,       yccFamily,          packedPixelsFamily,
-    boxFamily,           morphologyFamily,   reduceBitsFamily, qualityFamily,      rowsFamily,
+    copyFamily,          setFamily,     planesFamily,       channelsFamily,     maskedCopyFamily,
+    maskedSetFamily,     borderFamily,  addFamily,          addConstantFamily,  addScaledFamily,
+    subFamily,           mulFamily,     scalingFamily,      divideFamily,       divideByConstantFamily,
+    divideScalingFamily, unaryFamily,   mulScaleFamily,     unaryScalingFamily, logicalFamily,
+    shiftFamily,         alphaFamily,   reductionsFamily,   normFamily,         hardReductionsFamily,
+    thresholdFamily,     compareFamily, convertFamily,      bitImageFamily,     lutFamily,
+    gammaFamily,         countsFamily,  noiseFamily,        generatedFamily,    perceptualFamily,
+    colorTwistFamily,    videoFamily,   swapChannelsFamily, grayFamily,         yccFamily,
+    packedPixelsFamily,  boxFamily,     morphologyFamily,   reduceBitsFamily,   qualityFamily,
+    rowsFamily,
 };
 
 constexpr const char* usage =

@@ -71,6 +71,10 @@ constexpr Section sections[] = {
      "Steps, lines and cubics through points of your choice; palettes; and the transfer curve of video. What costs is "
      "the table, not the curve.",
      demoTables},
+    {"Colours as the eye has them",
+     "Hue, saturation and lightness, and the models of the CIE: each channel of the picture by itself, and what can be "
+     "done with it.",
+     demoPerceptual},
     {"Statistics",
      "Numbers out of a picture, one for each channel. Integer sums are exact at any size; extremes tell where they are "
      "met first.",

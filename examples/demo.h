@@ -27,6 +27,7 @@ void demoAlpha(const Demo& demo);
 void demoThreshold(const Demo& demo);
 void demoDepth(const Demo& demo);
 void demoTables(const Demo& demo);
+void demoPerceptual(const Demo& demo);
 void demoStatistics(const Demo& demo);
 void demoCounts(const Demo& demo);
 void demoGenerate(const Demo& demo);

@@ -610,6 +610,175 @@ VEMI_API VemiStatus vemiColorToGray_32f_AC4C1R(const Vemi32f* pSrc, int srcStep,
 /* ---- Perceptual and device spaces ---- */
 
 /**
+ * @defgroup vemi_xyz vemiRGBToXYZ, vemiXYZToRGB: CIE XYZ
+ *
+ * Linear RGB with the primaries of ITU-R BT.709 and the white D65:
+ *
+ *     X = 0.412453 R + 0.35758  G + 0.180423 B        R =  3.240479 X - 1.53715  Y - 0.498535 Z
+ *     Y = 0.212671 R + 0.71516  G + 0.072169 B        G = -0.969256 X + 1.875991 Y + 0.041556 Z
+ *     Z = 0.019334 R + 0.119193 G + 0.950227 B        B =  0.055648 X - 0.204043 Y + 1.057311 Z
+ *
+ * **32f.** In single precision, from left to right. To XYZ, Z is limited to 0..1 and the others are as computed; to
+ * RGB, all three are limited. A limited NaN becomes 0.
+ *
+ * **16u.** The same sums, cut off and limited to 0..65535: Z of white is 65535. **16s.** The 16u conversion of the
+ * elements plus 32768, less 32768.
+ *
+ * **8u.** In integers, with >> rounding down. In the whole groups of eight columns, from the left end of each row:
+ *
+ *     X = ((13515 R + 11717 G) >> 15) + ((5912 B) >> 15)         R = ((26546 X - 12591 Y) >> 13) + ((-4083 Z) >> 13)
+ *     Y = ((6969 R + 23434 G) >> 15) + ((2365 B) >> 15)          G = ((-7939 X + 15368 Y) >> 13) + ((340 Z) >> 13)
+ *     Z = ((634 R + 3906 G) >> 15) + ((31137 B) >> 15)           B = ((456 X - 1671 Y) >> 13) + ((8661 Z) >> 13)
+ *
+ * and in the columns that are left:
+ *
+ *     X = (27030 R + 23434 G + 11824 B) >> 16                    R = (212368 X - 100738 Y - 32671 Z) >> 16
+ *     Y = (13937 R + 46868 G + 4729 B) >> 16                     G = (-63521 X + 122944 Y + 2723 Z) >> 16
+ *     Z = (1267 R + 7811 G + 62274 B) >> 16                      B = (3646 X - 13372 Y + 69291 Z) >> 16
+ *
+ * all limited to 0..255. A colour may differ by one between the two.
+ *
+ * AC4 forms convert the first three channels and leave the destination's fourth as it is.
+ *
+ * @param pSrc,srcStep    first pixel of the source, and the bytes between its rows
+ * @param pDst,dstStep    the same of the destination
+ * @param roiSize         size of the region in pixels
+ *
+ * **Overlap.** pDst does not overlap pSrc, unless it is the same image.
+ *
+ * **Statuses**, in the order of the tests: null, size, step (see status.h).
+ *
+ * **Threads.** Rows are shared out among an OpenMP team.
+ *
+ *     vemiRGBToXYZ_32f_C3R(rgb, rgbStep, xyz, xyzStep, size);
+ * @{
+ */
+
+VEMI_API VemiStatus vemiRGBToXYZ_8u_C3R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiRGBToXYZ_8u_AC4R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiRGBToXYZ_16u_C3R(const Vemi16u* pSrc, int srcStep, Vemi16u* pDst, int dstStep,
+                                         VemiSize roiSize);
+VEMI_API VemiStatus vemiRGBToXYZ_16u_AC4R(const Vemi16u* pSrc, int srcStep, Vemi16u* pDst, int dstStep,
+                                          VemiSize roiSize);
+VEMI_API VemiStatus vemiRGBToXYZ_16s_C3R(const Vemi16s* pSrc, int srcStep, Vemi16s* pDst, int dstStep,
+                                         VemiSize roiSize);
+VEMI_API VemiStatus vemiRGBToXYZ_16s_AC4R(const Vemi16s* pSrc, int srcStep, Vemi16s* pDst, int dstStep,
+                                          VemiSize roiSize);
+VEMI_API VemiStatus vemiRGBToXYZ_32f_C3R(const Vemi32f* pSrc, int srcStep, Vemi32f* pDst, int dstStep,
+                                         VemiSize roiSize);
+VEMI_API VemiStatus vemiRGBToXYZ_32f_AC4R(const Vemi32f* pSrc, int srcStep, Vemi32f* pDst, int dstStep,
+                                          VemiSize roiSize);
+
+VEMI_API VemiStatus vemiXYZToRGB_8u_C3R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiXYZToRGB_8u_AC4R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiXYZToRGB_16u_C3R(const Vemi16u* pSrc, int srcStep, Vemi16u* pDst, int dstStep,
+                                         VemiSize roiSize);
+VEMI_API VemiStatus vemiXYZToRGB_16u_AC4R(const Vemi16u* pSrc, int srcStep, Vemi16u* pDst, int dstStep,
+                                          VemiSize roiSize);
+VEMI_API VemiStatus vemiXYZToRGB_16s_C3R(const Vemi16s* pSrc, int srcStep, Vemi16s* pDst, int dstStep,
+                                         VemiSize roiSize);
+VEMI_API VemiStatus vemiXYZToRGB_16s_AC4R(const Vemi16s* pSrc, int srcStep, Vemi16s* pDst, int dstStep,
+                                          VemiSize roiSize);
+VEMI_API VemiStatus vemiXYZToRGB_32f_C3R(const Vemi32f* pSrc, int srcStep, Vemi32f* pDst, int dstStep,
+                                         VemiSize roiSize);
+VEMI_API VemiStatus vemiXYZToRGB_32f_AC4R(const Vemi32f* pSrc, int srcStep, Vemi32f* pDst, int dstStep,
+                                          VemiSize roiSize);
+
+/** @} */
+
+/**
+ * @defgroup vemi_luv vemiRGBToLUV, vemiLUVToRGB: CIE L*u*v*
+ *
+ * Lightness and two opponent colours of linear RGB. X, Y and Z are those of vemiRGBToXYZ, unlimited, and the white is
+ * u_n = 0.197839, v_n = 0.468342:
+ *
+ *     L = 116 Y^(1/3) - 16   for Y above 0.01
+ *         903.3 Y            else
+ *     D = X + 15 Y + 3 Z,    u' = 4 X / D,    v' = 9 Y / D
+ *     U = 13 L (u' - u_n),   V = 13 L (v' - v_n)
+ *
+ * **32f.** In single precision as written, from left to right, with a cube root that is rounded as an exact one. Where
+ * Y is 0, u' = v' = 0. Nothing is limited.
+ *
+ * **16u.** L 655.35, (U + 134) 185.12712 and (V + 140) 250.13359, cut off; Y above 655.35 has a cube root, from a table
+ * of 128 roots and six terms of the binomial series. 1 / D is the approximate reciprocal that vemiRGBToHSV describes,
+ * after a Newton step. Black gives 0, 0, 0. **16s.** The 16u conversion of the elements plus 32768, less 32768.
+ *
+ * **8u.** L 255 / 100 from a table, rounded, by (6969 R + 23434 G + 2365 B + 16384) >> 15. With X, Y and Z in the
+ * weights of vemiRGBToXYZ for bytes, unshifted, and the plain approximate reciprocal of D,
+ *
+ *     U8 = (u' - u_n) (3.6723163 L8) + 96.90396        that is (U + 134) 255 / 354
+ *     V8 = (v' - v_n) (4.961832 L8) + 136.7939         that is (V + 140) 255 / 262
+ *
+ * cut off. In the whole groups of eight columns, from the left end of each row, the third column of each four has
+ * 136.2596 in the place of 136.7939.
+ *
+ * **Back.** With L from 0 to 100, U and V as above:
+ *
+ *     Y = ((L + 16) / 116)^3,   t = Y / (V / (13 L) + v_n)
+ *     X = 2.25 t (U / (13 L) + u_n),   Z = 3 t - 5 Y - X / 3
+ *
+ * and R, G and B from these as in vemiXYZToRGB for floats. 32f results are limited to 0..1, and all three are 0 where L
+ * is below 9.033; a NaN becomes 0. In the other types they are cut off and limited to the type's range, and 0 where L
+ * is at most 9, with
+ *
+ *     8u     L = 0.39215687 L8,      U = 1.3882353 U8 - 134,      V = 1.027451 V8 - 140,       Y 255
+ *     16u    L = 0.0015259022 L16,   U = 0.0054016938 U16 - 134,   V = 0.0039978637 V16 - 140,  Y 65535
+ *
+ * 0.00862069 for 1 / 116, and approximate reciprocals for 1 / (13 L) and for the divisor of t: plain ones in 8u, after
+ * a Newton step in 16u. 16s is 16u less 32768.
+ *
+ *     8u    RGB (255, 255, 255)   LUV 255  96 136        RGB (255, 0, 0)   LUV 136 223 173
+ *
+ * AC4 forms convert the first three channels and leave the destination's fourth as it is.
+ *
+ * @param pSrc,srcStep    first pixel of the source, and the bytes between its rows
+ * @param pDst,dstStep    the same of the destination
+ * @param roiSize         size of the region in pixels
+ *
+ * **Overlap.** pDst does not overlap pSrc, unless it is the same image.
+ *
+ * **Statuses**, in the order of the tests: null, size, step (see status.h).
+ *
+ * **Threads.** Rows are shared out among an OpenMP team.
+ *
+ *     vemiRGBToLUV_8u_C3R(rgb, rgbStep, luv, luvStep, size);
+ * @{
+ */
+
+VEMI_API VemiStatus vemiRGBToLUV_8u_C3R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiRGBToLUV_8u_AC4R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiRGBToLUV_16u_C3R(const Vemi16u* pSrc, int srcStep, Vemi16u* pDst, int dstStep,
+                                         VemiSize roiSize);
+VEMI_API VemiStatus vemiRGBToLUV_16u_AC4R(const Vemi16u* pSrc, int srcStep, Vemi16u* pDst, int dstStep,
+                                          VemiSize roiSize);
+VEMI_API VemiStatus vemiRGBToLUV_16s_C3R(const Vemi16s* pSrc, int srcStep, Vemi16s* pDst, int dstStep,
+                                         VemiSize roiSize);
+VEMI_API VemiStatus vemiRGBToLUV_16s_AC4R(const Vemi16s* pSrc, int srcStep, Vemi16s* pDst, int dstStep,
+                                          VemiSize roiSize);
+VEMI_API VemiStatus vemiRGBToLUV_32f_C3R(const Vemi32f* pSrc, int srcStep, Vemi32f* pDst, int dstStep,
+                                         VemiSize roiSize);
+VEMI_API VemiStatus vemiRGBToLUV_32f_AC4R(const Vemi32f* pSrc, int srcStep, Vemi32f* pDst, int dstStep,
+                                          VemiSize roiSize);
+
+VEMI_API VemiStatus vemiLUVToRGB_8u_C3R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiLUVToRGB_8u_AC4R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiLUVToRGB_16u_C3R(const Vemi16u* pSrc, int srcStep, Vemi16u* pDst, int dstStep,
+                                         VemiSize roiSize);
+VEMI_API VemiStatus vemiLUVToRGB_16u_AC4R(const Vemi16u* pSrc, int srcStep, Vemi16u* pDst, int dstStep,
+                                          VemiSize roiSize);
+VEMI_API VemiStatus vemiLUVToRGB_16s_C3R(const Vemi16s* pSrc, int srcStep, Vemi16s* pDst, int dstStep,
+                                         VemiSize roiSize);
+VEMI_API VemiStatus vemiLUVToRGB_16s_AC4R(const Vemi16s* pSrc, int srcStep, Vemi16s* pDst, int dstStep,
+                                          VemiSize roiSize);
+VEMI_API VemiStatus vemiLUVToRGB_32f_C3R(const Vemi32f* pSrc, int srcStep, Vemi32f* pDst, int dstStep,
+                                         VemiSize roiSize);
+VEMI_API VemiStatus vemiLUVToRGB_32f_AC4R(const Vemi32f* pSrc, int srcStep, Vemi32f* pDst, int dstStep,
+                                          VemiSize roiSize);
+
+/** @} */
+
+/**
  * @defgroup vemi_hsv vemiRGBToHSV, vemiHSVToRGB: hue, saturation, value
  *
  * The hexcone model. With V = max(R, G, B) and d = V - min(R, G, B), and full = 255 (8u) or 65535 (16u):
@@ -629,7 +798,7 @@ VEMI_API VemiStatus vemiColorToGray_32f_AC4C1R(const Vemi32f* pSrc, int srcStep,
  *
  *     RGB (255, 0, 0)       HSV   0 255 255
  *     RGB (0, 255, 0)       HSV  85 255 255
- *     RGB (255, 255, 0)     HSV  42 255 255       (42.49)
+ *     RGB (255, 255, 0)     HSV  43 255 255       (42.51)
  *     RGB (128, 128, 128)   HSV   0   0 128
  *
  * **Back.** With s = S / full, x = 6 H / full, i = floor(x) and f = x - i:
@@ -709,7 +878,7 @@ VEMI_API VemiStatus vemiHSVToRGB_16u_AC4R(const Vemi16u* pSrc, int srcStep, Vemi
  * 0.01666667 for 1 / 60, and the results times `full` are cut off. Where S is 0, L is copied.
  *
  *     8u    RGB (255, 0, 0)      HLS   0 127 254        (d / (M + m) is 0.9998 to 12 bits)
- *           RGB (0, 0, 255)      HLS 169 127 254        (169.99999)
+ *           RGB (0, 0, 255)      HLS 170 127 254
  *           RGB (128, 128, 128)  HLS   0 128   0
  *
  * **16s.** The 16u conversion of the elements plus 32768, less 32768.
@@ -797,6 +966,62 @@ VEMI_API VemiStatus vemiHLSToBGR_8u_P3C3R(const Vemi8u* const pSrc[3], int srcSt
                                           VemiSize roiSize);
 VEMI_API VemiStatus vemiHLSToBGR_8u_P3R(const Vemi8u* const pSrc[3], int srcStep, Vemi8u* const pDst[3], int dstStep,
                                         VemiSize roiSize);
+
+/** @} */
+
+/**
+ * @defgroup vemi_lab vemiBGRToLab, vemiLabToBGR: CIE L*a*b*
+ *
+ * Lightness and two opponent colours, green to red and blue to yellow, of linear RGB with the white D65. The channels
+ * of a pixel stand in the order B, G, R. In single precision, from left to right:
+ *
+ *     x = (0.180423 B + 0.35758 G + 0.412453 R) / 242.366
+ *     y = (0.072169 B + 0.71516 G + 0.212671 R) / 255
+ *     z = (0.950227 B + 0.119193 G + 0.019334 R) / 277.632
+ *     f(s) = s^(1/3)                     for s above 0.008856
+ *            7.787 s + 0.13793103        else
+ *     L = 116 f(y) - 16                  for y above 0.008856
+ *         903.3 y                        else
+ *     a = 500 (f(x) - f(y))
+ *     b = 200 (f(y) - f(z))
+ *
+ * with cube roots that are rounded as exact ones. They are stored as
+ *
+ *     8u       L 255 / 100,     a + 128,         b + 128           rounded (0.5 is added, or 128.5, and cut off)
+ *     8u16u    L 65535 / 100,   255 (a + 128),   255 (b + 128)     cut off
+ *
+ * so that white is 255, 128, 128 and black 0, 128, 128 in bytes.
+ *
+ * **Back.** With L, a and b taken from bytes, or from words in 16u8u, by the inverse of the table above:
+ *
+ *     fy = (L + 16) / 116,   fx = fy + a / 500,   fz = fy - b / 200
+ *     X = 242.366 fx^3,      Y = 255 fy^3,        Z = 277.632 fz^3
+ *
+ * where what is added to fy is computed in double precision. R, G and B are those of vemiXYZToRGB for floats, cut off
+ * and limited to 0..255. f has no line on this way: the darkest colours do not come back.
+ *
+ * @param pSrc,srcStep    first pixel of the source, and the bytes between its rows
+ * @param pDst,dstStep    the same of the destination
+ * @param roiSize         size of the region in pixels
+ *
+ * **Overlap.** pDst does not overlap pSrc, unless it is the same image of bytes.
+ *
+ * **Statuses**, in the order of the tests: null, size, step (see status.h).
+ *
+ * **Threads.** Rows are shared out among an OpenMP team.
+ *
+ *     vemiBGRToLab_8u16u_C3R(bgr, bgrStep, lab, labStep, size);
+ *     vemiLabToBGR_16u8u_C3R(lab, labStep, bgr, bgrStep, size);
+ * @{
+ */
+
+VEMI_API VemiStatus vemiBGRToLab_8u_C3R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiBGRToLab_8u16u_C3R(const Vemi8u* pSrc, int srcStep, Vemi16u* pDst, int dstStep,
+                                           VemiSize roiSize);
+
+VEMI_API VemiStatus vemiLabToBGR_8u_C3R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiLabToBGR_16u8u_C3R(const Vemi16u* pSrc, int srcStep, Vemi8u* pDst, int dstStep,
+                                           VemiSize roiSize);
 
 /** @} */
 

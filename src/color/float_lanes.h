@@ -80,6 +80,19 @@ HWY_INLINE auto inParts(D d, const F& f) {
   }
 }
 
+/// Of, a function of floats (d, v...), on integers: results are cut off and saturated.
+template <class Of>
+struct CutOff {
+  template <class D, class... V>
+  HWY_INLINE auto operator()(D d, V... v) const {
+    return inParts(d, [&](auto part) HWY_ATTR {
+      const auto cut = [](auto result) HWY_ATTR { return truncated(hn::Repartition<int32_t, D>(), result); };
+      return std::apply([&](auto... result) HWY_ATTR { return std::tuple(cut(result)...); },
+                        Of()(hn::Repartition<float, D>(), floatsOf(part, v)...));
+    });
+  }
+};
+
 /// The operation of 16u on elements of 16s that count from -32768.
 template <class Op>
 struct OfSigned {

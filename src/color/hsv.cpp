@@ -108,8 +108,12 @@ struct ToRGB {
       const auto q = hn::Sub(v, slope), t = hn::Add(p, slope);
       return std::tuple(rounded(di, p), rounded(di, hn::IfThenElse(isOdd, q, t)));
     });
-    const auto from = [&](int sector) HWY_ATTR { return hn::Eq(hn::Max(hue, hn::Set(d, Scale::begin(sector))), hue); };
-    const auto from1 = from(1), from2 = from(2), from3 = from(3), from4 = from(4), from5 = from(5);
+    const auto from = [&](auto sector) HWY_ATTR {
+      constexpr auto first = Scale::begin(sector);
+      return hn::Eq(hn::Max(hue, hn::Set(d, first)), hue);
+    };
+    const auto from1 = from(Part<1>()), from2 = from(Part<2>()), from3 = from(Part<3>()), from4 = from(Part<4>()),
+               from5 = from(Part<5>());
     const auto choose = [](auto condition, V yes, V no) HWY_ATTR { return hn::IfThenElse(condition, yes, no); };
     const V r = choose(from4, choose(from5, value, between), choose(from2, least, choose(from1, between, value)));
     const V g = choose(from3, choose(from4, least, between), choose(from1, value, between));

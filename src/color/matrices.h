@@ -220,6 +220,19 @@ inline constexpr YccZeros<int> yccZeros8u = {156, 137};
 inline constexpr YccZeros<float> yccZeros16u = {40092, 35209};
 inline constexpr YccZeros<float> yccZeros32f = {0.6117647f, 0.5372549f};
 
+// ---- XYZ of the CIE, of linear light with the primaries of ITU-R BT.709 ---------------------------------------------
+
+/// Whole groups: each product with blue is shifted by itself.
+inline constexpr AffineMatrix<3> rgbToXyz8u = {
+    {{{13515, 11717, 5912}, 0, 15}, {{6969, 23434, 2365}, 0, 15}, {{634, 3906, 31137}, 0, 15}}};
+inline constexpr AffineMatrix<3> xyzToRgb8u = {
+    {{{26546, -12591, -4083}, 0, 13}, {{-7939, 15368, 340}, 0, 13}, {{456, -1671, 8661}, 0, 13}}};
+/// Columns that are left.
+inline constexpr AffineMatrix<3> rgbToXyz8uRest = {
+    {{{27030, 23434, 11824}, 0}, {{13937, 46868, 4729}, 0}, {{1267, 7811, 62274}, 0}}};
+inline constexpr AffineMatrix<3> xyzToRgb8uRest = {
+    {{{212368, -100738, -32671}, 0}, {{-63521, 122944, 2723}, 0}, {{3646, -13372, 69291}, 0}}};
+
 // ---- Grey -----------------------------------------------------------------------------------------------------------
 
 inline constexpr float greyWeights[3] = {0.299f, 0.587f, 0.114f};

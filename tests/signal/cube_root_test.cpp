@@ -27,14 +27,17 @@ bool isNearest(float x, float root) {
 TEST(CubeRootLanes, NearestOfAllFloatsOfThreeOctaves) {
   const Lanes<float> d;
   constexpr uint32_t lanes = laneCount<float>, one = 0x3f800000, eight = 0x41000000;
-  alignas(laneAlignment) float x[lanes], y[lanes];
-  int64_t wrong = 0;
+  alignas(laneAlignment) float x[lanes], y[lanes], near[lanes];
+  int64_t wrong = 0, far = 0;
   for (uint32_t bits = one; bits < eight; bits += lanes) {
     for (uint32_t n = 0; n < lanes; ++n) x[n] = std::bit_cast<float>(bits + n);
     hn::Store(signal::CubeRoot()(d, hn::Load(d, x)), d, y);
     for (uint32_t n = 0; n < lanes; ++n) wrong += x[n] == 1 ? y[n] != 1 : !isNearest(x[n], y[n]);
+    hn::Store(signal::NearCubeRoot()(d, hn::Load(d, x)), d, near);
+    for (uint32_t n = 0; n < lanes; ++n) far += std::abs(near[n] - y[n]) > y[n] * 0x1p-22f;
   }
   EXPECT_EQ(wrong, 0);
+  EXPECT_EQ(far, 0);
 }
 
 TEST(CubeRootLanes, AllOctavesAndInfinity) {

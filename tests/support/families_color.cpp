@@ -258,7 +258,8 @@ std::vector<Family> colorFamilies() {
       {"vemiColorToGray", ".*", "null size step", withWeights},
 
       // Perceptual and device spaces
-      {"vemiRGBToHSV vemiHSVToRGB vemiRGBToHLS vemiHLSToRGB vemiBGRToHLS vemiHLSToBGR",
+      {"vemiRGBToHSV vemiHSVToRGB vemiRGBToHLS vemiHLSToRGB vemiBGRToHLS vemiHLSToBGR vemiBGRToLab vemiLabToBGR "
+       "vemiRGBToXYZ vemiXYZToRGB vemiRGBToLUV vemiLUVToRGB",
        ".*",
        "null size step",
        withCopiedAlpha,
