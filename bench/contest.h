@@ -85,5 +85,6 @@ Family qualityFamily();
 Family rowsFamily();
 Family boxFamily();
 Family morphologyFamily();
+Family fixedFilterFamily();
 
 }  // namespace bench

@@ -30,7 +30,7 @@ constexpr FamilyTable families[] = {
     gammaFamily,         countsFamily,  noiseFamily,        generatedFamily,    perceptualFamily,
     colorTwistFamily,    videoFamily,   swapChannelsFamily, grayFamily,         yccFamily,
     packedPixelsFamily,  boxFamily,     morphologyFamily,   reduceBitsFamily,   qualityFamily,
-    rowsFamily,
+    fixedFilterFamily,   rowsFamily,
 };
 
 constexpr const char* usage =

@@ -107,6 +107,11 @@ constexpr Section sections[] = {
      demoBox},
     {"Erosion and dilation",
      "The least or the greatest pixel of a shape around each pixel, which a mask of bytes selects.", demoMorphology},
+    {"Edges, sharpening, Gauss",
+     "Filters with fixed kernels of three by three or five by five pixels. Slopes have a sign, which 16-bit results "
+     "keep; "
+     "here middle grey is no slope.",
+     demoEdges},
 };
 
 Options optionsFrom(int argc, char** argv) {

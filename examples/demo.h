@@ -37,5 +37,6 @@ void demoPacked(const Demo& demo);
 void demoLevels(const Demo& demo);
 void demoBox(const Demo& demo);
 void demoMorphology(const Demo& demo);
+void demoEdges(const Demo& demo);
 
 }  // namespace demo
