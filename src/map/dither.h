@@ -46,10 +46,10 @@ struct OnOneScale {
   }
 };
 
-/// Level k = 0..N of an element type: k F / N rounded, halves up, above the type's lowest value, F being the length of
-/// its range. F / N has 16 fraction bits, to nearest, which is within N / 2 units of N times as much. So after k <= N
-/// steps the product is as near, and half a unit of 1 / 2N, in which sums of halves and fractions lie, is more than
-/// that as long as N^2 < 2^16; errors below are met by as much ahead of the rounding.
+/// Level k = 0..N of an element type: k F / N rounded, halves up, above the type's lowest value, where F is the length
+/// of its range. F / N has 16 fraction bits here and is off by half a unit at most, k times as much by N / 2 units.
+/// Exact values of k F / N + 1 / 2 lie 1 / 2N apart, which is more than these N / 2 units as long as N^2 < 2^16: errors
+/// upwards reach no other integer, and errors downwards are made good in advance.
 template <class T>
 class LevelValue {
  public:

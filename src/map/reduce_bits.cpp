@@ -27,11 +27,9 @@ namespace {
 VemiStatus checkNoise(int noise) { return noise < 0 || noise > 100 ? vemiErrNoiseRange : vemiOk; }
 VemiStatus checkLevels(int levels) { return levels < 2 || levels > 256 ? vemiErrDitherLevels : vemiOk; }
 
-// ---- Each pixel by itself
-// --------------------------------------------------------------------------------------------
+// ---- Each pixel by itself -------------------------------------------------------------------------------------------
 
-/// Of bytes x, whose scale is 257 times as long as theirs, the thresholds are floor(b / 257): floor((x N + that) /
-/// 255).
+/// Bytes v are x / 257, and so they have floor(b / 257) for a threshold: floor((v N + that) / 255).
 template <class S>
 using Threshold = std::conditional_t<sizeof(S) == 1, Vemi8u, Vemi16u>;
 
@@ -82,7 +80,7 @@ struct NearestLevel {
   }
 };
 
-/// Thresholds of the pixels in a column of 8 x 8: 32767 + ((63 - 2 B) 65535 >> 7), where each pair of bits of x and y,
+/// Of the pixel in column x and row y of 8 x 8: 32767 + ((63 - 2 B) 65535 >> 7), where each pair of bits of x and y,
 /// from the lowest on, is the next digit of B to the base 4.
 constexpr Vemi16u bayerThreshold(int x, int y) {
   constexpr int digit[2][2] = {{0, 2}, {3, 1}};
@@ -93,8 +91,7 @@ constexpr Vemi16u bayerThreshold(int x, int y) {
 
 constexpr ptrdiff_t bayerSize = 8;
 
-/// The thresholds of eight rows, or of one that serves for all, without noise: of the columns from any multiple of 8
-/// on.
+/// The thresholds of eight rows, or of one that serves for all, without noise, from any multiple of 8 columns on.
 class Thresholds {
  public:
   explicit Thresholds(bool ordered) : rows_(ordered ? bayerSize : 1) {
@@ -205,8 +202,7 @@ class PixelsApart {
   }
 };
 
-// ---- Error diffusion
-// -------------------------------------------------------------------------------------------------
+// ---- Error diffusion ------------------------------------------------------------------------------------------------
 
 /// Levels as pixels of T.
 template <class T>

@@ -183,11 +183,3 @@ TEST(QualityIndex, TeamsOfAnySize) {
   }
   omp_set_num_threads(former);
 }
-
-// Rows a byte apart: more windows than 2^32 units of 2^-30 have room for.
-TEST(QualityIndex, SumsBeyond32Bits) {
-  const OfBytes same(3000, 77);
-  float index = 0;
-  EXPECT_EQ(vemiQualityIndex_8u32f_C1R(same.data(), 1, same.data(), 1, {2000, 1000}, &index), vemiOk);
-  EXPECT_EQ(index, 1);
-}
