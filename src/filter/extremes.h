@@ -352,7 +352,7 @@ VemiStatus extremeOfSelection(ExtremeCall<T> call, const Selection& all) {
   if (below > 0) call.window.height += static_cast<int>(below);
 
   // A level costs two loads and a store for each row, a tap one load.
-  const bool byRuns = runs.taps + 3 * runs.levels < pixels.taps;
+  const bool byRuns = runs.taps + Vemi64s{3} * runs.levels < pixels.taps;
   const TapCount& chosen = byRuns ? runs : pixels;
   constexpr int most = 31;
   RowRing<T> rings[most];
