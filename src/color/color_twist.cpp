@@ -22,30 +22,33 @@ using Twist = const Vemi32f (*)[4];
 
 // ---- Integers: sums of doubles, by the caller's rounding ------------------------------------------------------------
 
+/// Where the bytes of 32-bit lanes are: byte k of each, the others zero.
+template <int k>
+alignas(16) inline constexpr uint8_t byteOfLanes[16] = {k,     0x80, 0x80, 0x80, k + 4,  0x80, 0x80, 0x80,
+                                                        k + 8, 0x80, 0x80, 0x80, k + 12, 0x80, 0x80, 0x80};
+
 /// The elements of a vector that share its lanes of 32 bits: element k of each, as an integer.
 template <int k, class T, class V>
 HWY_INLINE auto sharingLane(V v) {
-  using Lane = std::conditional_t<std::is_signed_v<T>, int32_t, uint32_t>;
   constexpr int bits = 8 * sizeof(T), above = 32 - bits * (k + 1);
-  const hn::Repartition<Lane, hn::DFromV<V>> d;
-  auto lanes = hn::BitCast(d, v);
-  if constexpr (above != 0) lanes = hn::ShiftLeft<above>(lanes);
-  return hn::BitCast(hn::RebindToSigned<decltype(d)>(), hn::ShiftRight<32 - bits>(lanes));
+  const hn::Repartition<uint8_t, hn::DFromV<V>> dBytes;
+  const hn::Repartition<int32_t, hn::DFromV<V>> d;
+  const auto lanes = hn::BitCast(d, v);
+  if constexpr (std::is_same_v<T, uint8_t>) {  // shuffles, where shifts would wait for arithmetic
+    return hn::BitCast(d, hn::TableLookupBytesOr0(hn::BitCast(dBytes, v), hn::LoadDup128(dBytes, byteOfLanes<k>)));
+  } else if constexpr (std::is_signed_v<T>) {
+    return hn::ShiftRight<32 - bits>(hn::ShiftLeft<above>(lanes));
+  } else {
+    return hn::And(hn::ShiftRight<bits * k>(lanes), hn::Set(d, (1 << bits) - 1));
+  }
 }
 
-/// Elements k = 0 and 1, or 0 to 3, back at their places, saturated.
+/// Two vectors as one of half their width, saturated, whose 16-bit lanes come from either by turns.
 template <class D, class V>
-HWY_INLINE hn::Vec<D> joined(D d, V v0, V v1) {
+HWY_INLINE hn::Vec<D> packedByTurns(D d, V v0, V v1) {
   alignas(16) static constexpr uint8_t byTurns[16] = {0, 1, 8, 9, 2, 3, 10, 11, 4, 5, 12, 13, 6, 7, 14, 15};
-  return hn::TableLookupBytes(packHalves(d, v0, v1),
-                              hn::BitCast(d, hn::LoadDup128(hn::Repartition<uint8_t, D>(), byTurns)));
-}
-template <class D, class V>
-HWY_INLINE hn::Vec<D> joined(D d, V v0, V v1, V v2, V v3) {
-  alignas(16) static constexpr uint8_t byTurns[16] = {0, 4, 8, 12, 1, 5, 9, 13, 2, 6, 10, 14, 3, 7, 11, 15};
-  const hn::Repartition<int16_t, D> dHalf;
-  const auto packed = packHalves(d, packHalves(dHalf, v0, v1), packHalves(dHalf, v2, v3));
-  return hn::TableLookupBytes(packed, hn::BitCast(d, hn::LoadDup128(hn::Repartition<uint8_t, D>(), byTurns)));
+  const hn::Repartition<uint8_t, D> dBytes;
+  return hn::TableLookupBytes(packHalves(d, v0, v1), hn::BitCast(d, hn::LoadDup128(dBytes, byTurns)));
 }
 
 /// Channel c of op(three channels of 32-bit lanes), of all elements.
@@ -53,7 +56,7 @@ template <int c, class D, class Op, class V>
 HWY_INLINE hn::Vec<D> channelOf(D d, const Op& op, V v0, V v1, V v2) {
   using T = hn::TFromD<D>;
   return [&]<int... k>(std::integer_sequence<int, k...>) HWY_ATTR {
-    return joined(d, op.template channel<c>(sharingLane<k, T>(v0), sharingLane<k, T>(v1), sharingLane<k, T>(v2))...);
+    return op.join(d, op.template channel<c>(sharingLane<k, T>(v0), sharingLane<k, T>(v1), sharingLane<k, T>(v2))...);
   }
   (std::make_integer_sequence<int, 4 / sizeof(T)>());
 }
@@ -98,6 +101,17 @@ struct ExactTwist {
     // From 0 on all modes add to a large number as they round; of less than that nothing is left.
     if constexpr (std::is_unsigned_v<T>) return nearestOf<T>(di, lower, upper);
     if constexpr (std::is_signed_v<T>) return nearestOf<T>(di, wholeByMode(lower), wholeByMode(upper));
+  }
+
+  /// The elements of each lane at their places.
+  template <class D, class V>
+  HWY_INLINE static hn::Vec<D> join(D d, V v0, V v1) {
+    return packedByTurns(d, v0, v1);
+  }
+  template <class D, class V>
+  HWY_INLINE static hn::Vec<D> join(D d, V v0, V v1, V v2, V v3) {
+    const hn::Repartition<int16_t, D> dHalf;
+    return packedByTurns(d, packedByTurns(dHalf, v0, v1), packedByTurns(dHalf, v2, v3));
   }
 
  private:
@@ -164,7 +178,17 @@ struct NearTwist {
       sum = hn::MulAdd(hn::Set(df, f[2]), hn::ConvertTo(df, x2), sum);
       const V fixed = rounded(di, sum);
       least = hn::Min(least, hn::BitCast(dHalves, fixed));
-      return hn::ShiftRight<16>(fixed);
+      return fixed;
+    }
+
+    template <class V>
+    HWY_INLINE static hn::Vec<D> join(D d, V v0, V v1, V v2, V v3) {
+      return packedByTurns(d, upperHalves(v0, v1), upperHalves(v2, v3));
+    }
+    template <class V>
+    HWY_INLINE static auto upperHalves(V even, V odd) {
+      const hn::Repartition<int16_t, D> dHalf;
+      return hn::OddEven(hn::BitCast(dHalf, odd), hn::BitCast(dHalf, hn::ShiftRight<16>(even)));
     }
 
     HWY_INLINE bool areBeyondWindow() const {
