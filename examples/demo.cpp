@@ -109,8 +109,7 @@ constexpr Section sections[] = {
      "The least or the greatest pixel of a shape around each pixel, which a mask of bytes selects.", demoMorphology},
     {"Edges, sharpening, Gauss",
      "Filters with fixed kernels of three by three or five by five pixels. Slopes have a sign, which 16-bit results "
-     "keep; "
-     "here middle grey is no slope.",
+     "keep; here middle grey is no slope.",
      demoEdges},
 };
 

@@ -36,9 +36,9 @@ extern "C" {
  * rounding mode of the calling thread does not matter.
  *
  * **Floats** (32f): every product, sum and difference is rounded by itself to single precision, and the last sum is
- * multiplied by the float nearest to 1 / d. First the columns of the window are summed from top to bottom, then the
- * columns' sums from left to right. Weights of 0 take no part, so that a NaN below them does not show. With the rows
- * r0, r1, r2 (, r3, r4) of the window and the columns' sums t0, t1, t2 (, t3, t4):
+ * multiplied by the float nearest to 1 / d. First the columns of the window are summed, then the columns' sums, in the
+ * order in which they stand here. Weights of 0 take no part, so that a NaN below them does not show. With the rows r0,
+ * r1, r2 (, r3, r4) of the window, the columns' sums t0, t1, t2 (, t3, t4), and w the weights of the own column:
  *
  *     filter                    column sum                           result
  *     SobelHoriz 3x3            r2 - r0                              t0 + 2 t1 + t2
@@ -61,7 +61,7 @@ extern "C" {
  *     Gauss 3x3                 r0 + 2 r1 + r2                       (t0 + 2 t1 + t2) / 16
  *     Lowpass 3x3               r0 + r1 + r2                         (t0 + t1 + t2) / 9
  *     Lowpass 5x5               r0 + r1 + r2 + r3 + r4               (t0 + t1 + t2 + t3 + t4) / 25
- *     Laplace, Gauss 5x5        with the weights of the own column   t0 + t1 + t2 + t3 + t4, for Gauss / 571
+ *     Laplace, Gauss 5x5        w0 (r0 + r4) + w1 (r1 + r3) + w2 r2  (t0 + t4) + (t1 + t3) + t2, for Gauss / 571
  *
  * **Pixels read around the region**: one on each side for 3x3, two for 5x5, also where the kernel has zeros;
  * vemiCopyReplicateBorder and its like make them. Roberts forms read one row above the region, and one column to its

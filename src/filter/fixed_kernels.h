@@ -7,9 +7,10 @@
 //   source      lanes of the sums    why no sum leaves them
 //   8u, 8s      16s                  weights of one sign add up to 48 at most; but for Gauss 5x5, see divideBy571
 //   16s         32s                  to 571
-//   32f         32f                  added from the first row or column to the last, each product rounded by itself
+//   32f         32f                  added in the order that the header tells, each product rounded by itself
 //
-// Integers are exact in any order, so that pairs of equal weights meet first.
+// Pairs of equal weights meet first where that changes nothing, as of integers, and by definition in the kernels with
+// three rows of sums; floats are otherwise added from the first row or column to the last.
 //
 // Checks: null, size, step, mask size.
 #pragma once
@@ -99,10 +100,10 @@ HWY_INLINE V withNext(D d, V sum, V v) {
 }
 
 /// The sum of weights[j] * at(j). Without a weight nothing enters, not even a NaN.
-template <Weights weights, int size, class D, class At>
+template <Weights weights, int size, bool inPairs, class D, class At>
 HWY_INLINE hn::Vec<D> weightedSum(D d, const At& at) {
   constexpr int last = size - 1;
-  if constexpr (std::is_floating_point_v<hn::TFromD<D>>) {
+  if constexpr (!inPairs && std::is_floating_point_v<hn::TFromD<D>>) {
     auto sum = withFirst<weights[0]>(d, at(0));
     unrolled<last>([&](auto j) HWY_ATTR { sum = withNext<weights[j + 1]>(d, sum, at(j + 1)); });
     return sum;
@@ -206,7 +207,7 @@ struct ColumnSum {
 
   template <class D>
   HWY_INLINE auto operator()(D d, ptrdiff_t i) const {
-    return weightedSum<weights, size>(d, [&](int j) HWY_ATTR { return loadLanes(d, rows[j] + i); });
+    return weightedSum<weights, size, false>(d, [&](int j) HWY_ATTR { return loadLanes(d, rows[j] + i); });
   }
 };
 
@@ -221,9 +222,9 @@ HWY_NOINLINE void sumColumns(ptrdiff_t count, const S* const* rowsOfCaller, Sum*
     Vectors<hn::Vec<decltype(d)>, kernel.size> in;
     unrolled<kernel.size>([&](auto j) HWY_ATTR { in.v[j] = loadLanes(d, rows[j] + i); });
     const auto at = [&](int j) HWY_ATTR { return in.v[j]; };
-    hn::StoreU(weightedSum<kernel.column[0], kernel.size>(d, at), d, toOuter);
-    hn::StoreU(weightedSum<kernel.column[1], kernel.size>(d, at), d, toInner);
-    hn::StoreU(weightedSum<kernel.column[2], kernel.size>(d, at), d, toMiddle);
+    hn::StoreU(weightedSum<kernel.column[0], kernel.size, true>(d, at), d, toOuter);
+    hn::StoreU(weightedSum<kernel.column[1], kernel.size, true>(d, at), d, toInner);
+    hn::StoreU(weightedSum<kernel.column[2], kernel.size, true>(d, at), d, toMiddle);
   };
   forWholeBlocks<items>(std::max(count, items), block, Strand<Sum>{outer}, Strand<Sum>{inner}, Strand<Sum>{middle},
                         Places());
@@ -246,7 +247,7 @@ struct RowSum {
       const auto bits = [&](auto v) HWY_ATTR { return hn::BitCast(du, v); };
       return hn::BitCast(d, divideBy571(du, bits(hn::Add(at(0), at(4))), bits(hn::Add(at(1), at(3))), bits(at(2))));
     } else {
-      auto sum = weightedSum<kernel.row, size>(d, at);
+      auto sum = weightedSum<kernel.row, size, kernel.sums() == 3>(d, at);
       if constexpr (kernel.centre != 0) {
         sum = hn::Sub(times<kernel.centre>(d, loadLanes(d, middle + i + size / 2 * elements)), sum);
       }

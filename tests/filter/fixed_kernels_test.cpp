@@ -18,8 +18,8 @@ namespace {
 
 using Weights = std::vector<int>;
 
-/// Floats are summed along the columns, then along the row of their sums; without a column's weights it is the table's
-/// own. With a centre the sum is subtracted from so many times the pixel.
+/// Floats are summed along the columns, then along the row of their sums; without weights for that, pixels and sums of
+/// equal weights are added first. With a centre the sum is subtracted from so many times the pixel.
 struct Kernel {
   Weights table;
   int divisor = 1;
@@ -67,14 +67,12 @@ const std::map<std::string, Kernel>& kernels() {
       {"RobertsUp3", {{0, 0, -1, 0, 1, 0, 0, 0, 0}}},
       {"RobertsDown3", {{-1, 0, 0, 0, 1, 0, 0, 0, 0}}},
       {"Laplace3", {minus8, 1, ones3, ones3, 9}},
-      {"Laplace5",
-       {{-1, -3, -4, -3, -1, -3, 0, 6, 0, -3, -4, 6, 20, 6, -4, -3, 0, 6, 0, -3, -1, -3, -4, -3, -1}, 1, {}, ones5}},
+      {"Laplace5", {{-1, -3, -4, -3, -1, -3, 0, 6, 0, -3, -4, 6, 20, 6, -4, -3, 0, 6, 0, -3, -1, -3, -4, -3, -1}}},
       {"Hipass3", {minus8, 1, ones3, ones3, 9}},
       {"Hipass5", {minus24, 1, ones5, ones5, 25}},
       {"Sharpen3", {{-1, -1, -1, -1, 16, -1, -1, -1, -1}, 8, ones3, ones3, 17}},
       {"Gauss3", {{1, 2, 1, 2, 4, 2, 1, 2, 1}, 16, bell3, bell3}},
-      {"Gauss5",
-       {{2, 7, 12, 7, 2, 7, 31, 52, 31, 7, 12, 52, 127, 52, 12, 7, 31, 52, 31, 7, 2, 7, 12, 7, 2}, 571, {}, ones5}},
+      {"Gauss5", {{2, 7, 12, 7, 2, 7, 31, 52, 31, 7, 12, 52, 127, 52, 12, 7, 31, 52, 31, 7, 2, 7, 12, 7, 2}, 571}},
       {"Lowpass3", {Weights(9, 1), 9, ones3, ones3}},
       {"Lowpass5", {Weights(25, 1), 25, ones5, ones5}},
   };
@@ -111,11 +109,13 @@ void filtered(Call& call) {
     const auto place = [&](int i, int j) { return source.at(x + i - reach, y + j - reach, channel); };
     if (source.element == Element::f32) {
       const auto columnSum = [&](int i) {
-        Weights own;
-        for (int j = 0; j < size; ++j) own.push_back(kernel.at(i, j));
-        return sumOf(kernel.column.empty() ? own : kernel.column, [&](int j) { return load<float>(place(i, j)); });
+        const auto pixel = [&](int j) { return load<float>(place(i, j)); };
+        if (!kernel.column.empty()) return sumOf(kernel.column, pixel);
+        const auto pair = [&](int j) { return j == 2 ? pixel(2) : pixel(j) + pixel(4 - j); };
+        return sumOf({kernel.at(i, 0), kernel.at(i, 1), kernel.at(i, 2)}, pair);
       };
-      float sum = sumOf(kernel.row, columnSum);
+      const auto ofPairs = [&] { return columnSum(0) + columnSum(4) + (columnSum(1) + columnSum(3)) + columnSum(2); };
+      float sum = kernel.column.empty() ? ofPairs() : sumOf(kernel.row, columnSum);
       if (kernel.centre != 0) sum = static_cast<float>(kernel.centre) * load<float>(place(reach, reach)) - sum;
       if (kernel.divisor != 1) sum *= 1.0f / static_cast<float>(kernel.divisor);
       store(destination.at(x, y, channel), sum);
