@@ -75,6 +75,7 @@ Family noiseFamily();
 Family generatedFamily();
 Family perceptualFamily();
 Family colorTwistFamily();
+Family lumaChromaFamily();
 Family packedPixelsFamily();
 Family videoFamily();
 Family swapChannelsFamily();

@@ -21,16 +21,16 @@ namespace {
 
 using FamilyTable = Family (*)();
 constexpr FamilyTable families[] = {
-    copyFamily,          setFamily,     planesFamily,       channelsFamily,     maskedCopyFamily,
-    maskedSetFamily,     borderFamily,  addFamily,          addConstantFamily,  addScaledFamily,
-    subFamily,           mulFamily,     scalingFamily,      divideFamily,       divideByConstantFamily,
-    divideScalingFamily, unaryFamily,   mulScaleFamily,     unaryScalingFamily, logicalFamily,
-    shiftFamily,         alphaFamily,   reductionsFamily,   normFamily,         hardReductionsFamily,
-    thresholdFamily,     compareFamily, convertFamily,      bitImageFamily,     lutFamily,
-    gammaFamily,         countsFamily,  noiseFamily,        generatedFamily,    perceptualFamily,
-    colorTwistFamily,    videoFamily,   swapChannelsFamily, grayFamily,         yccFamily,
-    packedPixelsFamily,  boxFamily,     morphologyFamily,   reduceBitsFamily,   qualityFamily,
-    fixedFilterFamily,   rowsFamily,
+    copyFamily,          setFamily,        planesFamily,       channelsFamily,     maskedCopyFamily,
+    maskedSetFamily,     borderFamily,     addFamily,          addConstantFamily,  addScaledFamily,
+    subFamily,           mulFamily,        scalingFamily,      divideFamily,       divideByConstantFamily,
+    divideScalingFamily, unaryFamily,      mulScaleFamily,     unaryScalingFamily, logicalFamily,
+    shiftFamily,         alphaFamily,      reductionsFamily,   normFamily,         hardReductionsFamily,
+    thresholdFamily,     compareFamily,    convertFamily,      bitImageFamily,     lutFamily,
+    gammaFamily,         countsFamily,     noiseFamily,        generatedFamily,    perceptualFamily,
+    colorTwistFamily,    videoFamily,      swapChannelsFamily, grayFamily,         yccFamily,
+    packedPixelsFamily,  boxFamily,        morphologyFamily,   reduceBitsFamily,   qualityFamily,
+    fixedFilterFamily,   lumaChromaFamily, rowsFamily,
 };
 
 constexpr const char* usage =

@@ -10,6 +10,8 @@
 #include <opencv2/imgproc.hpp>
 #endif
 #ifdef VEMI_BENCH_LIBYUV
+#include <libyuv/convert.h>
+#include <libyuv/convert_argb.h>
 #include <libyuv/convert_from_argb.h>
 #include <libyuv/planar_functions.h>
 #endif

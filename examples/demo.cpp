@@ -85,6 +85,8 @@ constexpr Section sections[] = {
      "Images out of numbers: ramps and a chirp to test with, noise that a seed repeats to the bit, and windows that "
      "let a picture fade towards its rim.",
      demoGenerate},
+    {"Luma and chroma",
+     "Brightness apart from colour: two models of video, and what is left when pixels share their colour.", demoLuma},
     {"Colour twists",
      "Each channel of the result is a weighted sum of all three and a constant: a matrix of your own, on integers or "
      "floats.",

@@ -31,6 +31,7 @@ void demoPerceptual(const Demo& demo);
 void demoStatistics(const Demo& demo);
 void demoCounts(const Demo& demo);
 void demoGenerate(const Demo& demo);
+void demoLuma(const Demo& demo);
 void demoTwist(const Demo& demo);
 void demoVideo(const Demo& demo);
 void demoPacked(const Demo& demo);

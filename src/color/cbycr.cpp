@@ -4,9 +4,9 @@
 #include <algorithm>
 #include <cstring>
 
-#include "color/convert.h"
 #include "color/exports.h"
 #include "color/from_rgb.h"
+#include "color/luma_chroma.h"
 #include "color/to_subsampled.h"
 #include "vemi/color.h"
 #include "vemi/map.h"
@@ -106,22 +106,25 @@ struct FromBgr {
 VemiStatus bgraToPairs(Image<const Vemi8u> src, Image<Vemi8u> dst, VemiSize roiSize) {
   if (const VemiStatus bad = checkImages(src, dst, roiSize)) return bad;
   using Pairs = FromBgr<To422<rgbToYCbCr, bgraToChroma422>>;
-  reduceToPairs<order>(extentOf(roiSize), ColumnOps<Pairs, Pairs, FromBgr<Single>>(), dst, pixelsOf<AC4>(src));
+  const auto pixels = pixelsOf<AC4>(src);
+  reduceToPairs<order>(extent422<2>(roiSize, dst, pixels), ColumnOps<Pairs, Pairs, FromBgr<Single>>(), dst, pixels);
   return vemiOk;
 }
 
-using Inverse = Affine<cbycrToRgb>;
+using Inverse = ExactToRgb<cbycrToRgb>;
 
 VemiStatus pairsToRgb(Image<const Vemi8u> src, Image<Vemi8u> dst, VemiSize roiSize) {
   if (const VemiStatus bad = checkImages(src, dst, roiSize)) return bad;
-  expandPacked<order>(extentOf(roiSize), ColumnOps<Inverse, Inverse, Inverse>(), pixelsOf<C3>(dst), src);
+  const auto pixels = pixelsOf<C3>(dst);
+  expandPacked<order>(extent422<2>(roiSize, src, pixels), ColumnOps<Inverse, Inverse, Inverse>(), pixels, src);
   return vemiOk;
 }
 
 VemiStatus pairsToBgra(Image<const Vemi8u> src, Image<Vemi8u> dst, VemiSize roiSize, Vemi8u alpha) {
   if (const VemiStatus bad = checkImages(src, dst, roiSize)) return bad;
   const Then<Inverse, ReversedWithFourth> op = {{}, {alpha}};
-  expandPacked<order>(extentOf(roiSize), ColumnOps{op, op, op}, pixelsOf<C4>(dst), src);
+  const auto pixels = pixelsOf<C4>(dst);
+  expandPacked<order>(extent422<2>(roiSize, src, pixels), ColumnOps{op, op, op}, pixels, src);
   return vemiOk;
 }
 

@@ -4,7 +4,8 @@
 //   PartwiseMatrix     the same of two parts, each of them rounded down by itself
 //   HighProductMatrix  the same of three products in 16-bit lanes, each of them rounded down by itself
 //   DifferenceMatrix   luma, and chroma as fractions of the differences between channels and luma
-//   LumaChromaMatrix   from luma and chroma by products in 16-bit lanes
+//   ExactMatrix        from luma and chroma by weighted sums, exact
+//   LumaChromaMatrix   the same by products in 16-bit lanes, each of them rounded down
 //   YccMatrix          to and from the photographic model, whose luma and chroma are scaled
 //
 // x >> n is x / 2^n rounded down, mulhi(a, b) = (a b) >> 16, and all results are limited to bytes.
@@ -29,13 +30,12 @@ struct AffineMatrix {
   AffineRow row[rows];
 };
 
-/// (((weight[0] a + weight[1] b) >> 11) + ((weight[2] c) >> 11) >> 4) + offset
+/// ((((weight[0] a + weight[1] b) >> 11) + ((weight[2] c) >> 11)) >> 4) + offset
 struct PartwiseRow {
   int16_t weight[3];
   int16_t offset;
 };
 
-/// Of pixels; the rows of chroma may be given the sums of four pixels.
 struct PartwiseMatrix {
   PartwiseRow row[3];
 };
@@ -60,10 +60,13 @@ struct DifferenceMatrix {
   int16_t blueToU, redToV;
 };
 
-/// A row from luma and the differences of chroma to 128, with the luma of black.
-constexpr AffineRow fromDifferences(int luma, int cb, int cr, int black) {
-  return {{luma, cb, cr}, -black - 128 * (cb + cr)};
-}
+/// With c = U - 128, d = V - 128, each of the sums is exact:
+///   R = (luma Y + redV d + offset) >> 16
+///   G = (luma Y + greenU c + greenV d + offset) >> 16
+///   B = (luma Y + blueU c + offset) >> 16
+struct ExactMatrix {
+  int luma, redV, greenU, greenV, blueU, offset;
+};
 
 /// With u = (U - 128) << chromaShift, v alike:
 ///   y = Y, or mulhi((Y - black) << 7, luma) where a weight of luma is given
@@ -80,8 +83,7 @@ struct LumaChromaMatrix {
   int shift = 0;
 };
 
-// ---- YUV: Y = 0.299 R + 0.587 G + 0.114 B, U = 0.492 (B - Y), V = 0.877 (R - Y)
-// --------------------------------------
+// ---- YUV: Y = 0.299 R + 0.587 G + 0.114 B, U = 0.492 (B - Y), V = 0.877 (R - Y) ------------------------------------
 
 /// Whole groups of eight.
 inline constexpr AffineMatrix<3> rgbToYuv = {
@@ -103,12 +105,10 @@ inline constexpr LumaChromaMatrix yuvToRgba = {
     .chromaShift = 3, .redV = 9338, .greenU = -3227, .greenV = -4759, .blueU = 16646};
 
 /// Columns beyond the whole groups of the subsampled forms.
-inline constexpr AffineMatrix<3> yuvToRgbExact = {{fromDifferences(65536, 0, 74711, 0),
-                                                   fromDifferences(65536, -25821, -38076, 0),
-                                                   fromDifferences(65536, 133169, 0, 0)}};
+inline constexpr ExactMatrix yuvToRgbExact = {
+    .luma = 65536, .redV = 74711, .greenU = -25821, .greenV = -38076, .blueU = 133169, .offset = 0};
 
-// ---- YCbCr of ITU-R BT.601: luma from 16 to 235, chroma from 16 to 240
-// -----------------------------------------------
+// ---- YCbCr of ITU-R BT.601: luma from 16 to 235, chroma from 16 to 240 ---------------------------------------------
 
 inline constexpr AffineMatrix<3> rgbToYCbCr = {
     {{{16843, 33030, 6423}, 0x108000}, {{-9699, -19071, 28770}, 0x808000}, {{28770, -24117, -4653}, 0x808000}}};
@@ -151,9 +151,8 @@ inline constexpr LumaChromaMatrix ycbcrToRgb = {.black = 16,
                                                 .rounding = 8,
                                                 .shift = 4};
 
-inline constexpr AffineMatrix<3> ycbcrToRgbExact = {{fromDifferences(76284, 0, 104595, 1220544),
-                                                     fromDifferences(76284, -25690, -53281, 1220544),
-                                                     fromDifferences(76284, 132186, 0, 1220544)}};
+inline constexpr ExactMatrix ycbcrToRgbExact = {
+    .luma = 76284, .redV = 104595, .greenU = -25690, .greenV = -53281, .blueU = 132186, .offset = -1220544};
 
 /// 4:1:1, whole groups of eight.
 inline constexpr LumaChromaMatrix ycbcr411ToRgb = {.black = 16,
@@ -165,16 +164,14 @@ inline constexpr LumaChromaMatrix ycbcr411ToRgb = {.black = 16,
                                                    .blueU = 16523,
                                                    .shift = 4};
 
-inline constexpr AffineMatrix<3> ycbcr411ToRgbExact = {{fromDifferences(76294, 0, 104595, 1220704),
-                                                        fromDifferences(76294, -25625, -53281, 1220704),
-                                                        fromDifferences(76294, 132186, 0, 1220704)}};
+inline constexpr ExactMatrix ycbcr411ToRgbExact = {
+    .luma = 76294, .redV = 104595, .greenU = -25625, .greenV = -53281, .blueU = 132186, .offset = -1220704};
 
-/// Pairs whose chroma comes first.
-inline constexpr AffineMatrix<3> cbycrToRgb = {{fromDifferences(76282, 0, 104593, 1187744),
-                                                fromDifferences(76282, -25689, -53279, 1187744),
-                                                fromDifferences(76282, 132184, 0, 1187744)}};
+/// CbYCr of 4:2:2.
+inline constexpr ExactMatrix cbycrToRgb = {
+    .luma = 76282, .redV = 104593, .greenU = -25689, .greenV = -53279, .blueU = 132184, .offset = -1187744};
 
-/// The same from the sums of two pixels that have an alpha. Exact halves go up in Cb and down in Cr.
+/// Chroma of CbYCr from the sums of two pixels with an alpha. The roundings of Cb and Cr differ.
 inline constexpr AffineMatrix<2> bgraToChroma422 = {
     {{{-9699, -19071, 28770}, 0x1010000, 17}, {{28770, -24117, -4653}, 0x100fffe, 17}}};
 
@@ -183,8 +180,7 @@ inline constexpr AffineMatrix<2> bgraToChroma422 = {
 inline constexpr AffineMatrix<3> ycbcrToRgbOfWidth1 = {
     {{{76284, 104595, 0}, -14608761}, {{76284, -53281 - 25690, 0}, 8887730}, {{76284, 132186, 0}, -18140365}}};
 
-// ---- YCC: luma l of red, green and blue; Y = l / 1.402, C1 and C2 multiples of B - l and R - l from zero points on
-// ------
+// ---- YCC: luma l of R, G and B; Y = l / 1.402, C1 and C2 multiples of B - l and R - l ------------------------------
 
 /// Forward: l = sum of weight times channel; Y = luma l, C1 = c1 (B - l) + zero1, C2 = c2 (R - l) + zero2.
 template <class T>

@@ -7,7 +7,7 @@
 #include <algorithm>
 
 #include "color/affine.h"
-#include "color/convert.h"
+#include "color/luma_chroma.h"
 #include "color/packed_words.h"
 #include "color/subsampled.h"
 #include "color/to_rgb.h"
@@ -34,7 +34,7 @@ struct YCbCr {
 
 struct Yuv {
   using Groups = ToRgb<yuvToRgb, OddPixels::everySecondFourOff>;
-  using Rest = Affine<yuvToRgbExact>;
+  using Rest = ExactToRgb<yuvToRgbExact>;
 };
 
 // ---- Rows of sources ------------------------------------------------------------------------------------------------

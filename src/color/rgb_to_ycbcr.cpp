@@ -1,9 +1,9 @@
 // vemiRGBToYCbCr, vemiRGBToYCbCr422, vemiRGBToYCbCr420.
 // Checks: null, size, null planes, step.
 
-#include "color/convert.h"
 #include "color/exports.h"
 #include "color/from_rgb.h"
+#include "color/luma_chroma.h"
 #include "color/to_subsampled.h"
 #include "vemi/color.h"
 
@@ -33,7 +33,8 @@ struct Edge {
 template <class SL, class Src>
 VemiStatus to422(Src src, Image<Vemi8u> dst, VemiSize roiSize) {
   if (const VemiStatus bad = checkConversion(src, dst, roiSize)) return bad;
-  reduceToPairs<Packed422::lumaFirst, 4>(extentOf(roiSize), columns422, dst, pixelsIn<SL>(src));
+  const auto pixels = pixelsIn<SL>(src);
+  reduceToPairs<Packed422::lumaFirst, 4>(extent422<4>(roiSize, dst, pixels), columns422, dst, pixels);
   return vemiOk;
 }
 

@@ -1,9 +1,9 @@
 // vemiRGBToYUV, vemiRGBToYUV422, vemiRGBToYUV420.
 // Checks: null, size, null planes, step; forms without steps: null, size, null planes.
 
-#include "color/convert.h"
 #include "color/exports.h"
 #include "color/from_rgb.h"
+#include "color/luma_chroma.h"
 #include "color/to_subsampled.h"
 #include "vemi/color.h"
 
@@ -41,13 +41,15 @@ struct Edge {
 template <class SL, class Src>
 VemiStatus to422(Src src, SteppedPlanes<Vemi8u, 3> dst, VemiSize roiSize) {
   if (const VemiStatus bad = checkConversion(src, dst, roiSize)) return bad;
-  reduceToPlanes(extentOf(roiSize), columns, dst, pixelsIn<SL>(src));
+  const auto pixels = pixelsIn<SL>(src);
+  reduceToPlanes(extent422<2>(roiSize, dst, pixels), columns, dst, pixels);
   return vemiOk;
 }
 
 VemiStatus toPairs(Image<const Vemi8u> src, Image<Vemi8u> dst, VemiSize roiSize) {
   if (const VemiStatus bad = checkConversion(src, dst, roiSize)) return bad;
-  reduceToPairs<Packed422::lumaFirst>(extentOf(roiSize), columnsToPairs, dst, pixelsOf<C3>(src));
+  const auto pixels = pixelsOf<C3>(src);
+  reduceToPairs<Packed422::lumaFirst>(extent422<2>(roiSize, dst, pixels), columnsToPairs, dst, pixels);
   return vemiOk;
 }
 

@@ -4,7 +4,7 @@
 // them, and single pixels at the row's end.
 #pragma once
 
-#include "color/convert.h"
+#include "color/luma_chroma.h"
 #include "color/to_rgb.h"
 #include "core/image.h"
 #include "core/map_region.h"
@@ -120,19 +120,38 @@ void expandRowPairs(const Rows& rows, Extent extent, const Ops& ops, Dst dst, Ch
   }
 }
 
+template <class T>
+bool isContiguous422(SteppedPlanes<T, 3> planes, VemiSize size) {
+  return planes.step[0] == size.width && planes.step[1] == size.width / 2 && planes.step[2] == size.width / 2;
+}
+template <class T>
+bool isContiguous422(Image<T> pairs, VemiSize size) {
+  return isContiguous<C2>(pairs, size);
+}
+
+/// Rows of 4:2:2 without a gap are one long row where they are made of whole groups, so that no column changes its
+/// group.
+template <int group, class Shared, class Pixels>
+Extent extent422(VemiSize size, Shared shared, Pixels pixels) {
+  const bool merged = size.width % group == 0 && isContiguous422(shared, size) && pixels.isContiguous(size);
+  return mergedExtent(size, merged);
+}
+
 // ---- Whole calls ---------------------------------------------------------------------------------------------------
 
 template <const auto& ops, class DL, class Dst>
 VemiStatus from422(ChromaPlanes src, Dst dst, VemiSize roiSize) {
   if (const VemiStatus bad = checkConversion(src, dst, roiSize)) return bad;
-  expandPlanes<2>(extentOf(roiSize), ops, pixelsIn<DL>(dst), src);
+  const auto pixels = pixelsIn<DL>(dst);
+  expandPlanes<2>(extent422<8>(roiSize, src, pixels), ops, pixels, src);
   return vemiOk;
 }
 
 template <const auto& ops, Packed422 order, class DL, class Dst>
 VemiStatus fromPacked422(Image<const uint8_t> src, Dst dst, VemiSize roiSize) {
   if (const VemiStatus bad = checkConversion(src, dst, roiSize)) return bad;
-  expandPacked<order>(extentOf(roiSize), ops, pixelsIn<DL>(dst), src);
+  const auto pixels = pixelsIn<DL>(dst);
+  expandPacked<order>(extent422<8>(roiSize, src, pixels), ops, pixels, src);
   return vemiOk;
 }
 

@@ -66,6 +66,47 @@ struct ToRgb {
   }
 };
 
+/// The same of exact sums, of 32 bits. A weight is low + 8 high, both of 16 bits, so that a product is that of a pair
+/// of lanes.
+template <const ExactMatrix& matrix>
+struct ExactToRgb {
+  template <class D, class V, class C>
+  HWY_INLINE auto operator()(D d, V y, C u, C v) const {
+    const auto luma = wordsOfPixels(d, y), us = wordsOfPixels(d, u), vs = wordsOfPixels(d, v);
+    return PixelWords<D, 3>{pixels(luma.lower, us.lower, vs.lower), pixels(luma.upper, us.upper, vs.upper)}.bytes(d);
+  }
+
+ private:
+  static constexpr const ExactMatrix& m = matrix;
+
+  template <class V>
+  HWY_INLINE static Vectors<V, 3> pixels(V y, V chromaU, V chromaV) {
+    const hn::DFromV<V> d;
+    const V u = hn::Sub(chromaU, hn::Set(d, 128)), v = hn::Sub(chromaV, hn::Set(d, 128));
+    const auto lower = [&](V x) HWY_ATTR { return hn::InterleaveLower(d, x, hn::ShiftLeft<3>(x)); };
+    const auto upper = [&](V x) HWY_ATTR { return hn::InterleaveUpper(d, x, hn::ShiftLeft<3>(x)); };
+    const auto half0 = sums(lower(y), lower(u), lower(v)), half1 = sums(upper(y), upper(u), upper(v));
+    return {{packHalves(d, half0.v[0], half1.v[0]), packHalves(d, half0.v[1], half1.v[1]),
+             packHalves(d, half0.v[2], half1.v[2])}};
+  }
+
+  /// Of pairs of an element and eight times that.
+  template <class V>
+  HWY_INLINE static auto sums(V y, V u, V v) {
+    const hn::DFromV<V> d;
+    const hn::RepartitionToWide<decltype(d)> dSums;
+    const auto times = [&](V pairs, int weight) HWY_ATTR {
+      const int high = weight / 8;
+      return pairsOfProducts(
+          pairs, detail::weightsOfPairs(d, static_cast<int16_t>(weight - 8 * high), static_cast<int16_t>(high)));
+    };
+    const auto luma = hn::Add(times(y, m.luma), hn::Set(dSums, m.offset));
+    const auto green = hn::Add(times(u, m.greenU), times(v, m.greenV));
+    const auto result = [&](auto chroma) HWY_ATTR { return hn::ShiftRight<16>(hn::Add(luma, chroma)); };
+    return Vectors<decltype(luma), 3>{{result(times(v, m.redV)), result(green), result(times(u, m.blueU))}};
+  }
+};
+
 /// after(d, R, G, B) of what op gives.
 template <class Op, class After>
 struct Then {

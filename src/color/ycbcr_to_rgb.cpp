@@ -11,7 +11,7 @@ namespace vemi::color {
 namespace {
 
 using Lanes = ToRgb<ycbcrToRgb>;
-using Exact = Affine<ycbcrToRgbExact>;
+using Exact = ExactToRgb<ycbcrToRgbExact>;
 
 constexpr ColumnOps columns = {Lanes(), Exact(), Exact()};
 constexpr ColumnOps columnsOfWidth1 = {Lanes(), Exact(), Affine<ycbcrToRgbOfWidth1>()};
@@ -27,7 +27,7 @@ VemiStatus fromPairsToPixels(Image<const Vemi8u> src, Image<Vemi8u> dst, VemiSiz
 
 template <class After>
 void from411(ChromaPlanes src, Image<Vemi8u> dst, VemiSize roiSize, After after) {
-  const Then<Affine<ycbcr411ToRgbExact>, After> exact = {{}, after};
+  const Then<ExactToRgb<ycbcr411ToRgbExact>, After> exact = {{}, after};
   const ColumnOps ops = {Then<ToRgb<ycbcr411ToRgb>, After>{{}, after}, exact, exact};
   using DL = std::conditional_t<std::is_same_v<After, Reversed>, C3, C4>;
   expandPlanes<4>(extentOf(roiSize), ops, pixelsOf<DL>(dst), src);

@@ -12,7 +12,7 @@ namespace {
 
 using Plain = ToRgb<yuvToRgb>;
 using FourOff = ToRgb<yuvToRgb, OddPixels::everySecondFourOff>;
-using Exact = Affine<yuvToRgbExact>;
+using Exact = ExactToRgb<yuvToRgbExact>;
 using FullRate = Regimes<8, FourOff, Plain>;
 
 constexpr ColumnOps columns422 = {Plain(), Exact(), Exact()};

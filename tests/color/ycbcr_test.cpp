@@ -4,7 +4,7 @@
 
 #include <cmath>
 
-#include "luma_chroma.h"
+#include "every_colour.h"
 
 using namespace vemi::test;
 
@@ -79,6 +79,9 @@ constexpr Pixel lumaParts = {8421, 16515, 3211}, cbParts = {-4850, -9535, 14385}
 
 int lumaOf(Pixel p) { return affine(p, lumaWeights, 0x108000, 16); }
 
+Pixel byParts(Pixel p) { return {parts(p, lumaParts) + 16, parts(p, cbParts) + 128, parts(p, crParts) + 128}; }
+Pixel toNearest(Pixel p) { return {lumaOf(p), affine(p, cbWeights, 0x808000, 16), affine(p, crWeights, 0x808000, 16)}; }
+
 void fromRgb444(Call& call) {
   const auto [width, height] = call.scenario.roiSize;
   const Channels in = channelsOf(call, true, false), out = channelsOf(call, false, false);
@@ -86,9 +89,7 @@ void fromRgb444(Call& call) {
     for (int x = 0; x < width; ++x) {
       const Pixel p = pixelOf(in, x, y);
       const bool inGroup = x < width / 8 * 8 && call.function.members != "8u_AC4R";
-      const Pixel result =
-          inGroup ? Pixel{parts(p, lumaParts) + 16, parts(p, cbParts) + 128, parts(p, crParts) + 128}
-                  : Pixel{lumaOf(p), affine(p, cbWeights, 0x808000, 16), affine(p, crWeights, 0x808000, 16)};
+      const Pixel result = inGroup ? byParts(p) : toNearest(p);
       for (size_t c = 0; c < 3; ++c) out[c].set(x, y, clip(result[c]));
     }
   }
@@ -214,4 +215,20 @@ TEST(YCbCr, EveryMemberFromRgb) {
   expectDefinition(membersOf("vemiRGBToCbYCr422"), filtered);
   expectDefinition(membersOf("vemiRGBToCbYCr422Gamma"), filtered);
   expectDefinition(membersOf("vemiBGRToCbYCr422"), averaged);
+}
+
+TEST(YCbCr, EveryColour) {
+  const auto always = [](Pixel (*definition)(Pixel)) { return [=](Pixel p, int) { return definition(p); }; };
+  expectEveryColour(inGroups, vemiRGBToYCbCr_8u_C3R, always(byParts));
+  expectEveryColour(besideGroups, vemiRGBToYCbCr_8u_C3R, always(toNearest));
+  expectEveryColour(inGroups, vemiYCbCrToRGB_8u_C3R, always(exact));
+  expectEveryLumaChroma<2>(inGroups, vemiYCbCr422ToRGB_8u_P3C3R, always(lanes));
+  const auto reversed = [](Pixel (*definition)(Pixel)) {
+    return [=](Pixel p, int) {
+      const auto [r, g, b] = definition(p);
+      return Pixel{b, g, r};
+    };
+  };
+  expectEveryLumaChroma<4>(inGroups, vemiYCbCr411ToBGR_8u_P3C3R, reversed(lanes411));
+  expectEveryLumaChroma<4>(4, vemiYCbCr411ToBGR_8u_P3C3R, reversed(exact411));
 }

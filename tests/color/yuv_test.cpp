@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "luma_chroma.h"
+#include "every_colour.h"
 
 using namespace vemi::test;
 
@@ -64,14 +64,17 @@ int twiceLuma(Pixel p) { return ((9798 * p[0] + 19235 * p[1]) >> 14) + ((3736 * 
 int uOf(int difference) { return ((difference * 16121) >> 16) + 128; }
 int vOf(int difference) { return ((difference * 28737) >> 16) + 128; }
 
+Pixel leftOver(Pixel p) {
+  const int luma = twiceLuma(p);
+  return {luma >> 1, uOf(2 * p[2] - luma), vOf(2 * p[0] - luma)};
+}
+
 void fromRgb444(Call& call) {
   const auto [width, height] = call.scenario.roiSize;
   const Channels in = channelsOf(call, true, false), out = channelsOf(call, false, false);
   for (int y = 0; y < height; ++y) {
     for (int x = 0; x < width; ++x) {
-      const Pixel p = pixelOf(in, x, y);
-      const int luma = twiceLuma(p);
-      const Pixel yuv = x < width / 8 * 8 ? inBlock(p) : Pixel{luma >> 1, uOf(2 * p[2] - luma), vOf(2 * p[0] - luma)};
+      const Pixel p = pixelOf(in, x, y), yuv = x < width / 8 * 8 ? inBlock(p) : leftOver(p);
       for (size_t c = 0; c < 3; ++c) out[c].set(x, y, clip(yuv[c]));
     }
   }
@@ -129,4 +132,15 @@ TEST(Yuv, EveryMemberFromRgb) {
   expectDefinition(membersOf("vemiRGBToYUV"), fromRgb444);
   expectDefinition(membersOf("vemiRGBToYUV422"), fromRgb422);
   expectDefinition(membersOf("vemiRGBToYUV420"), fromRgb420);
+}
+
+TEST(Yuv, EveryColour) {
+  const auto inGroup = [](Pixel p, int x) { return x % 4 == 3 ? fourOff(p) : plain(p); };
+  const auto always = [](Pixel (*definition)(Pixel)) { return [=](Pixel p, int) { return definition(p); }; };
+  expectEveryColour(inGroups, vemiRGBToYUV_8u_C3R, always(inBlock));
+  expectEveryColour(besideGroups, vemiRGBToYUV_8u_C3R, always(leftOver));
+  expectEveryColour(inGroups, vemiYUVToRGB_8u_C3R, inGroup);
+  expectEveryColour(besideGroups, vemiYUVToRGB_8u_C3R, always(plain));
+  expectEveryLumaChroma<2>(inGroups, vemiYUV422ToRGB_8u_P3C3R, always(plain));
+  expectEveryLumaChroma<2>(6, vemiYUV422ToRGB_8u_P3C3R, always(exact));
 }
