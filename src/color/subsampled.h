@@ -77,26 +77,25 @@ void expandRow(ptrdiff_t width, const Ops& ops, Dst dst, Src src) {
   forRegimes<8, Src::sharing, 1>(width, groups, rest, singles);
 }
 
-/// Rows that have chroma of their own: srcRow(y) gives a source row.
-template <class Ops, class Dst, class SrcRow>
-void expandRows(Extent extent, const Ops& ops, Dst dst, const SrcRow& srcRow) {
-  const auto row = [&](ptrdiff_t y) { expandRow<Stores::cached>(extent.width, ops, dst.row(y), srcRow(y)); };
-  const auto streamed = [&](ptrdiff_t y) { expandRow<Stores::streamed>(extent.width, ops, dst.row(y), srcRow(y)); };
-  runPlainOrStreamed(CallerRows(), extent.height, trafficOf(extent, Dst::pixelSize + 2), row, streamed);
-}
-
 using ChromaPlanes = SteppedPlanes<const uint8_t, 3>;
 
 /// 4:2:2 and 4:1:1 in planes.
 template <int shared, class Ops, class Dst>
 void expandPlanes(Extent extent, const Ops& ops, Dst dst, ChromaPlanes src) {
-  expandRows(extent, ops, dst, [&](ptrdiff_t y) { return chromaRow<shared>(src, y, y); });
+  const auto rowBy = [&](auto how) {
+    return [&, how](ptrdiff_t y) { expandRow<how()>(extent.width, ops, dst.row(y), chromaRow<shared>(src, y, y)); };
+  };
+  const auto cached = rowBy(std::integral_constant<Stores, Stores::cached>());
+  const auto streamed = rowBy(std::integral_constant<Stores, Stores::streamed>());
+  runPlainOrStreamed(CallerRows(), extent.height, trafficOf(extent, Dst::pixelSize + 2), cached, streamed);
 }
 
-/// 4:2:2 in pairs of pixels.
+/// 4:2:2 in pairs of pixels. Never streamed: beside a single run of pairs, stores past the caches take twice the time.
 template <Packed422 order, class Ops, class Dst>
 void expandPacked(Extent extent, const Ops& ops, Dst dst, Image<const uint8_t> src) {
-  expandRows(extent, ops, dst, [&](ptrdiff_t y) { return PackedChroma<order>{src.row(y)}; });
+  for (ptrdiff_t y = 0; y < extent.height; ++y) {
+    expandRow<Stores::cached>(extent.width, ops, dst.row(y), PackedChroma<order>{src.row(y)});
+  }
 }
 
 /// 4:2:0: pairs of rows that share chroma, and an odd last row, whose pixels are all worked as single ones.
