@@ -49,29 +49,6 @@ struct TimesSixtieth {
   }
 };
 
-namespace detail {
-
-/// Where a channel is at x degrees: it rises up to 60, is high up to 180, falls up to 240 and is low from there on.
-template <class D, class V = hn::Vec<D>>
-struct Ramp {
-  V along;  // degrees of a slope
-  decltype(hn::Lt(along, along)) slopes, isHigh;
-
-  HWY_INLINE Ramp(D d, V x) {
-    const V end = hn::Set(d, 240.0f);
-    const auto rises = hn::Lt(x, hn::Set(d, 60.0f));
-    isHigh = hn::Lt(x, hn::Set(d, 180.0f));
-    slopes = hn::Or(rises, hn::AndNot(isHigh, hn::Lt(x, end)));
-    along = hn::IfThenElse(rises, x, hn::Sub(end, x));
-  }
-
-  HWY_INLINE V value(V slope, V low, V high) const {
-    return hn::IfThenElse(slopes, slope, hn::IfThenElse(isHigh, high, low));
-  }
-};
-
-}  // namespace detail
-
 /// R, G and B of a hue in degrees. What S = 0 gives is no colour.
 template <class ShareOfSixty, class D, class V>
 HWY_INLINE auto rgbOfHls(D d, V hue, V lightness, V saturation) {
@@ -81,22 +58,18 @@ HWY_INLINE auto rgbOfHls(D d, V hue, V lightness, V saturation) {
   const V m2 = hn::IfThenElse(hn::Gt(lightness, hn::Set(d, 0.5f)), above, below);
   const V m1 = hn::Sub(hn::Add(lightness, lightness), m2);
   const V height = hn::Sub(m2, m1);
-  const V third = hn::Set(d, 120.0f), circle = hn::Set(d, 360.0f);
+  const V third = hn::Set(d, 120.0f), circle = hn::Set(d, 360.0f), fall = hn::Set(d, 240.0f);
+  const auto ramp = [&](V x) HWY_ATTR {
+    const auto rises = hn::Lt(x, hn::Set(d, 60.0f)), isHigh = hn::Lt(x, hn::Set(d, 180.0f)), isNotLow = hn::Lt(x, fall);
+    const V along = hn::IfThenElse(rises, x, hn::Sub(fall, x));
+    const V slope = hn::Add(m1, ShareOfSixty()(d, hn::Mul(height, along)));
+    const V notRising = hn::IfThenElse(isHigh, m2, hn::IfThenElse(isNotLow, slope, m1));
+    return hn::IfThenElse(rises, slope, notRising);
+  };
   const V ahead = hn::Add(hue, third), behind = hn::Sub(hue, third);
-  const detail::Ramp<D> red(d, hn::IfThenElse(hn::Gt(ahead, circle), hn::Sub(ahead, circle), ahead));
-  const detail::Ramp<D> green(d, hue);
-  const detail::Ramp<D> blue(d, hn::IfThenElse(hn::Lt(behind, hn::Zero(d)), hn::Add(behind, circle), behind));
-  const auto slope = [&](V along) HWY_ATTR { return hn::Add(m1, ShareOfSixty()(d, hn::Mul(height, along))); };
-  // On the circle but for a few hues next to a sixth, one channel slopes at a time.
-  const auto several =
-      hn::Or(hn::And(hn::Or(red.slopes, green.slopes), blue.slopes), hn::And(red.slopes, green.slopes));
-  if (HWY_LIKELY(hn::AllFalse(d, several))) {
-    const V greenOrBlue = hn::IfThenElse(green.slopes, green.along, blue.along);
-    const V common = slope(hn::IfThenElse(red.slopes, red.along, greenOrBlue));
-    return std::tuple(red.value(common, m1, m2), green.value(common, m1, m2), blue.value(common, m1, m2));
-  }
-  return std::tuple(red.value(slope(red.along), m1, m2), green.value(slope(green.along), m1, m2),
-                    blue.value(slope(blue.along), m1, m2));
+  const V red = hn::IfThenElse(hn::Gt(ahead, circle), hn::Sub(ahead, circle), ahead);
+  const V blue = hn::IfThenElse(hn::Lt(behind, hn::Zero(d)), hn::Add(behind, circle), behind);
+  return std::tuple(ramp(red), ramp(hue), ramp(blue));
 }
 
 }  // namespace vemi::color
