@@ -4,9 +4,12 @@
 #include <algorithm>
 #include <cfenv>
 #include <cmath>
+#include <cstring>
 #include <limits>
+#include <tuple>
 #include <type_traits>
 
+#include "color/convert.h"
 #include "core/checks.h"
 #include "core/exports.h"
 #include "core/float_control.h"
@@ -153,13 +156,10 @@ struct NearTwist {
 
   template <class D, class V>
   HWY_INLINE auto operator()(D d, V v0, V v1, V v2) const {
-    Sums<D> sums(*this);
-    const auto results = channelsOf(d, sums, v0, v1, v2);
-    if (HWY_LIKELY(sums.areBeyondWindow())) return results;
-    return exact(d, v0, v1, v2);
+    return std::tuple(channel<0>(d, v0, v1, v2), channel<1>(d, v0, v1, v2), channel<2>(d, v0, v1, v2));
   }
 
- private:
+  /// Sums in lanes of 32 bits, and the least of their fractions.
   template <class D>
   struct Sums {
     const NearTwist& twist;
@@ -197,6 +197,15 @@ struct NearTwist {
     }
   };
 
+ private:
+  template <int c, class D, class V>
+  HWY_INLINE V channel(D d, V v0, V v1, V v2) const {
+    const Sums<D> sums(*this);
+    const V near = channelOf<c>(d, sums, v0, v1, v2);
+    if (HWY_LIKELY(sums.areBeyondWindow())) return near;
+    return channelOf<c>(d, exact, v0, v1, v2);
+  }
+
   /// How far a sum may be off, in units of 2^-16: each operation is wrong by at most 2^-24 of what it rounds.
   static double errorOf(const float (&row)[4]) {
     constexpr double largest = std::is_signed_v<T> ? 128 : 255;
@@ -210,6 +219,114 @@ struct NearTwist {
   }
 };
 
+// ---- Interleaved bytes without a way through planes -----------------------------------------------------------------
+//
+// Four pixels are 12 bytes of a 128-bit block, and each of their channels is one shuffle away from lanes of 32 bits.
+
+/// Byte offset + 3 i of each block, in lane i. The last block may have been read from 4 bytes before its pixels.
+struct ChannelOfPixels {
+  alignas(laneAlignment) uint8_t index[laneCount<uint8_t>];
+
+  constexpr ChannelOfPixels(int channel, int lastBlockOffset) : index() {
+    for (int i = 0; i < laneCount<uint8_t>; ++i) {
+      const int offset = i + 16 >= laneCount<uint8_t> ? lastBlockOffset : 0;
+      index[i] = static_cast<uint8_t>(i % 4 == 0 ? channel + offset + i % 16 / 4 * 3 : 0x80);
+    }
+  }
+};
+
+template <int channel, bool isLast>
+inline constexpr ChannelOfPixels channelOfPixels(channel, isLast ? 4 : 0);
+
+/// The first 12 bytes of each block, one behind the other; of the last block, 4 bytes before that and 12, where nothing
+/// behind its pixels may be read.
+template <bool isLast, class D>
+HWY_INLINE hn::Vec<D> loadPixels(D d, const uint8_t* in) {
+  if constexpr (hn::MaxLanes(d) == 16) {
+    return hn::LoadU(d, in - (isLast ? 4 : 0));
+  } else {
+    const hn::Half<D> dHalf;
+    return hn::Combine(d, loadPixels<isLast>(dHalf, in + 12 * (hn::MaxLanes(d) / 32)), loadPixels<false>(dHalf, in));
+  }
+}
+
+/// The inverse, from 12 bytes of each block. What lies behind the pixels of a block that is not the last is written
+/// too.
+template <bool isLast, class D>
+HWY_INLINE void storePixels(D d, hn::Vec<D> v, uint8_t* out) {
+  if constexpr (hn::MaxLanes(d) > 16) {
+    const hn::Half<D> dHalf;
+    storePixels<false>(dHalf, hn::LowerHalf(v), out);
+    storePixels<isLast>(dHalf, hn::UpperHalf(dHalf, v), out + 12 * (hn::MaxLanes(d) / 32));
+  } else if constexpr (isLast) {
+    alignas(16) uint8_t pixels[16];
+    hn::Store(v, d, pixels);
+    std::memcpy(out, pixels, 12);
+  } else {
+    hn::StoreU(v, d, out);
+  }
+}
+
+/// Pixels from red and green in the halves of each block, and blue: of the even or of the odd bytes.
+template <int odd, class D>
+HWY_INLINE hn::Vec<D> pixelsByTurns(D d, hn::Vec<D> firstTwo, hn::Vec<D> third) {
+  constexpr uint8_t o = odd, x = 0x80;
+  alignas(16) static constexpr uint8_t of01[16] = {o, o + 8, x,      o + 2, o + 10, x, o + 4, o + 12,
+                                                   x, o + 6, o + 14, x,     x,      x, x,     x};
+  alignas(16) static constexpr uint8_t of2[16] = {x, x, o, x, x, o + 2, x, x, o + 4, x, x, o + 6, x, x, x, x};
+  return hn::Or(hn::TableLookupBytesOr0(firstTwo, hn::LoadDup128(d, of01)),
+                hn::TableLookupBytesOr0(third, hn::LoadDup128(d, of2)));
+}
+
+/// As many pixels as a vector has bytes, by planes.
+HWY_NOINLINE void twistDoubtfulBlock(const NearTwist<uint8_t>& twist, const uint8_t* in, uint8_t* out) {
+  const Lanes<uint8_t> d;
+  const auto results = loadChannels<3>(d, in, [&](auto... v) HWY_ATTR { return twist(d, v...); });
+  std::apply([&](auto... v) HWY_ATTR { storeChannels(d, out, v...); }, results);
+}
+
+struct TwistBlock {
+  const NearTwist<uint8_t>& twist;
+
+  HWY_INLINE void operator()(const uint8_t* in, uint8_t* out) const {
+    using Sums = NearTwist<uint8_t>::Sums<Lanes<uint8_t>>;
+    const Lanes<uint8_t> d;
+    const Lanes<int32_t> di;
+    constexpr ptrdiff_t quarter = laneCount<uint8_t> / 4 * 3;
+    Sums sums(twist);
+    Vectors<hn::Vec<Lanes<uint8_t>>, 4> pixels;
+    unrolled<2>([&](auto pair) HWY_ATTR {
+      constexpr bool isLast = pair == 1;
+      const auto even = loadPixels<false>(d, in + 2 * pair * quarter);
+      const auto odd = loadPixels<isLast>(d, in + (2 * pair + 1) * quarter);
+      const auto lanes = [&](auto v, const auto& channel) HWY_ATTR {
+        return hn::BitCast(di, hn::TableLookupBytesOr0(v, hn::Load(d, channel.index)));
+      };
+      const auto e0 = lanes(even, channelOfPixels<0, false>), e1 = lanes(even, channelOfPixels<1, false>),
+                 e2 = lanes(even, channelOfPixels<2, false>), o0 = lanes(odd, channelOfPixels<0, isLast>),
+                 o1 = lanes(odd, channelOfPixels<1, isLast>), o2 = lanes(odd, channelOfPixels<2, isLast>);
+      const auto first = sums.upperHalves(sums.channel<0>(e0, e1, e2), sums.channel<0>(o0, o1, o2));
+      const auto second = sums.upperHalves(sums.channel<1>(e0, e1, e2), sums.channel<1>(o0, o1, o2));
+      const auto third = sums.upperHalves(sums.channel<2>(e0, e1, e2), sums.channel<2>(o0, o1, o2));
+      const auto firstTwo = packHalves(d, first, second), last = packHalves(d, third, third);
+      pixels.v[2 * pair] = pixelsByTurns<0>(d, firstTwo, last);
+      pixels.v[2 * pair + 1] = pixelsByTurns<1>(d, firstTwo, last);
+    });
+    if (HWY_LIKELY(sums.areBeyondWindow())) {
+      unrolled<4>([&](auto k) HWY_ATTR { storePixels<k == 3>(d, pixels.v[k], out + k * quarter); });
+    } else {
+      twistDoubtfulBlock(twist, in, out);
+    }
+  }
+};
+
+HWY_NOINLINE void mapPixels(ptrdiff_t width, const NearTwist<uint8_t>& operation, InterleavedRow<uint8_t, C3> dst,
+                            InterleavedRow<const uint8_t, C3> src) {
+  const NearTwist<uint8_t> twist = operation;  // a local, which no store to the destination can change
+  forBlocks<laneCount<uint8_t>>(width, TwistBlock{twist}, Strand<const uint8_t, 3>{src.first},
+                                Strand<uint8_t, 3>{dst.first});
+}
+
 /// f(), a status, under the caller's rounding. No exception ends the program, and none that f has met is left behind.
 template <class F>
 VemiStatus leavingNoException(const F& f) {
@@ -220,26 +337,12 @@ VemiStatus leavingNoException(const F& f) {
   return status;
 }
 
-/// Three planes, where other members name the layout of their pixels.
-struct Planar {
-  static constexpr int channels = 3;
-};
-
-template <class L, class T>
-auto pixelImage(Image<T> image) {
-  return pixelsOf<L>(image);
-}
-template <class L, class T>
-auto pixelImage(Planes<T, 3> planes) {
-  return pixelsOf(planes);
-}
-
 template <class T, class L, class Src, class Dst>
 VemiStatus twistIntegers(Src src, Dst dst, VemiSize roiSize, Twist twist) {
   if (const VemiStatus bad = firstOf(checkNull(src, dst, twist), checkSize(roiSize), checkStep(src, dst))) return bad;
   return leavingNoException([&] {
     const auto run = [&](const auto& op) {
-      mapPixelRegion(CallerRows(), roiSize, op, pixelImage<L>(dst), pixelImage<L>(src));
+      mapPixelRegion(CallerRows(), roiSize, op, pixelsIn<L>(dst), pixelsIn<L>(src));
       return vemiOk;
     };
     if constexpr (sizeof(T) == 1) {
@@ -288,7 +391,8 @@ struct FloatTwist {
 template <class L, class Src, class Dst>
 VemiStatus twistFloats(Src src, Dst dst, VemiSize roiSize, Twist twist) {
   if (const VemiStatus bad = firstOf(checkNull(src, dst, twist), checkSize(roiSize), checkStep(src, dst))) return bad;
-  mapPixelRegion(CallerRows(), roiSize, FloatTwist<L::channels>(twist), pixelImage<L>(dst), pixelImage<L>(src));
+  constexpr int channels = std::is_same_v<L, C4> ? 4 : 3;
+  mapPixelRegion(CallerRows(), roiSize, FloatTwist<channels>(twist), pixelsIn<L>(dst), pixelsIn<L>(src));
   return vemiOk;
 }
 
