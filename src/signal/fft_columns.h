@@ -1,0 +1,55 @@
+// Transforms of several lines at once, whose numbers stand side by side in lanes: 8 columns of an image, or 8 rows that
+// were transposed.
+#pragma once
+
+#include <bit>
+
+#include "signal/fft_lanes.h"
+
+namespace vemi::signal {
+
+using ColumnGroups = Groups<AcrossLines::width>;
+
+/// The transforms of `points` numbers that all lines end with: store(place, frequency, k, numbers).
+template <int points, class Store>
+HWY_INLINE void endColumns(ColumnGroups data, int order, const Store& store) {
+  constexpr int bits = std::bit_width(unsigned{points}) - 1;
+  const ptrdiff_t count = (ptrdiff_t{1} << order) / points;
+  for (ptrdiff_t first = 0; first < count; ++first) {
+    const ptrdiff_t i = bitsReversed(first, order - bits);
+    unrolled<ColumnGroups::vectors>([&](auto k) HWY_ATTR {
+      ColumnGroups::Numbers z[points];
+      unrolled<points>([&](auto n) HWY_ATTR { z[n] = data.load(i * points + n, k); });
+      ShortTransform<points>::run(z);
+      unrolled<points>([&](auto n) HWY_ATTR { store(i * points + n, first + bitsReversed(n, bits) * count, k, z[n]); });
+    });
+  }
+}
+
+/// 2^order numbers of each line: load(group, k) gives them, and store(place, frequency, k, numbers) takes the results;
+/// it may write to group `place` of `data`.
+template <class Load, class Store>
+HWY_INLINE void transformColumns(ColumnGroups data, const Roots& roots, int order, const Load& load,
+                                 const Store& store) {
+  if (order < 5) {
+    for (ptrdiff_t group = 0; group < ptrdiff_t{1} << order; ++group) {
+      unrolled<ColumnGroups::vectors>([&](auto k) HWY_ATTR { data.store(group, k, load(group, k)); });
+    }
+  } else {
+    levelByFour<AcrossLines>(data, roots, order, load);
+    for (ptrdiff_t i = 0; i < 4; ++i) levelsByFour<AcrossLines>(data.from(i << (order - 2)), roots, order - 2, 4);
+  }
+  if (order == 0) {
+    unrolled<ColumnGroups::vectors>([&](auto k) HWY_ATTR { store(0, 0, k, data.load(0, k)); });
+  } else if (order == 1) {
+    endColumns<2>(data, order, store);
+  } else if (order == 2) {
+    endColumns<4>(data, order, store);
+  } else if (order % 2 != 0) {
+    endColumns<8>(data, order, store);
+  } else {
+    endColumns<16>(data, order, store);
+  }
+}
+
+}  // namespace vemi::signal
