@@ -23,6 +23,7 @@
 #include "vemi/map.h"
 #include "vemi/measure.h"
 #include "vemi/status.h"
+#include "vemi/transform.h"
 #include "vemi/types.h"
 #include "vemi/version.h"
 

@@ -54,6 +54,7 @@ std::vector<Family> colorFamilies();
 std::vector<Family> filterFamilies();
 std::vector<Family> measureFamilies();
 std::vector<Family> generateFamilies();
+std::vector<Family> transformFamilies();
 
 /// Throws where the table has no row for the function.
 const Family& familyOf(const Export& function);

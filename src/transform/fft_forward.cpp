@@ -1,0 +1,210 @@
+// vemiFFTFwd_RToPack of floats: columns from source to destination, then lines of two rows each.
+// Checks: null record, tag, null images, step, memory.
+//
+// 16 columns are 8 complex ones, whose transforms part into those of their real and imaginary parts: with
+// Z = transform(a + i b), 2 A(v) = Z(v) + conj Z(H - v) and 2 i B(v) = Z(v) - conj Z(H - v). The scale goes with the 2.
+
+#include <algorithm>
+
+#include "core/checks.h"
+#include "core/exports.h"
+#include "transform/packed.h"
+
+namespace vemi::transform {
+namespace {
+
+template <class L>
+HWY_NOINLINE HWY_FLATTEN void columns(Image<const float> src, Image<float> dst, const FFTFloats& spec, float scale,
+                                      float* memory) {
+  const ColumnGroups::D d;
+  const ColumnGroups data{memory};
+  const Roots& roots = spec.complexSpecY->roots;
+  const int order = spec.orderY;
+  const ptrdiff_t height = spec.height(), floats = spec.width() * L::elements;
+  const auto whole = hn::Set(d, scale), half = hn::Set(d, scale / 2);
+  for (ptrdiff_t x = 0; x < floats; x += columnsAtOnce) {
+    const ColumnBlock block(x, floats);
+    signal::transformColumns(
+        data, roots, order,
+        [&](ptrdiff_t y, auto k) HWY_ATTR {
+          askForRow(src, y + rowsAhead, x);
+          return block.load(src, y, k);
+        },
+        [&](ptrdiff_t place, ptrdiff_t, auto k, ColumnGroups::Numbers z) HWY_ATTR { data.store(place, k, z); });
+    unrolled<ColumnGroups::vectors>([&](auto k) HWY_ATTR {
+      for (ptrdiff_t v = 0; v <= height / 2; v += height / 2) {
+        const auto z = data.load(signal::bitsReversed(v, order), k);
+        block.store<L>(dst, v, k, {hn::Mul(z.re, whole), hn::Mul(z.im, whole)});
+      }
+    });
+    signal::ReversedPlaces places{height};
+    for (ptrdiff_t v = 1; v < height / 2; ++v) {
+      places.step(v);
+      askForRow(dst, v + rowsAhead, x);
+      askForRow(dst, height - v - rowsAhead, x);
+      const ptrdiff_t place = places.place, mirrored = places.mirrored(v);
+      unrolled<ColumnGroups::vectors>([&](auto k) HWY_ATTR {
+        const auto z = data.load(place, k), m = data.load(mirrored, k);
+        block.store<L>(dst, v, k, {hn::Mul(hn::Add(z.re, m.re), half), hn::Mul(hn::Add(z.im, m.im), half)});
+        block.store<L>(dst, height - v, k, {hn::Mul(hn::Sub(z.im, m.im), half), hn::Mul(hn::Sub(m.re, z.re), half)});
+      });
+    }
+  }
+}
+
+/// Line 0 from its transform, number(u): Z(u) = F(u, 0) + i F(u, H / 2).
+template <class Number>
+void packLineOfTwo(LineRows<float> rows, int elements, int channel, ptrdiff_t width, const Number& number) {
+  for (ptrdiff_t u = 1; u < width / 2; ++u) {
+    const ComplexNumber z = number(u), m = number(width - u);
+    const ptrdiff_t at = (2 * u - 1) * elements + channel;
+    setElement(rows.top + at, (z.re + m.re) * 0.5f);
+    setElement(rows.top + at + elements, (z.im - m.im) * 0.5f);
+    setElement(rows.bottom + at, (z.im + m.im) * 0.5f);
+    setElement(rows.bottom + at + elements, (m.re - z.re) * 0.5f);
+  }
+}
+
+/// Widths 2 to 128.
+template <class L>
+HWY_NOINLINE HWY_FLATTEN void shortLines(Image<float> dst, const FFTFloats& spec, PackedEdges edges) {
+  const ColumnGroups::D d;
+  const int order = spec.orderX;
+  const ptrdiff_t width = spec.width(), height = spec.height(), floats = width * L::elements;
+  ShortLines<L> lines;
+  const ColumnGroups all = lines.all();
+  for (ptrdiff_t v0 = 0; v0 < height / 2; v0 += 8) {
+    const auto top = topRows(dst, v0, height), bottom = bottomRows(dst, v0, height);
+    top.load(floats, [&](ptrdiff_t e, auto first, auto v) HWY_ATTR { hn::StoreU(v, d, all.at(e, first)); });
+    bottom.load(floats,
+                [&](ptrdiff_t e, auto first, auto v) HWY_ATTR { hn::StoreU(v, d, all.at(e, first) + columnLanes); });
+    for (int channel = 0; channel < L::channels; ++channel) {
+      const ColumnGroups own = lines.ofChannel(channel);
+      signal::transformColumns(
+          own, spec.realSpecX->roots, order, [&](ptrdiff_t x, auto k) HWY_ATTR { return own.load(x, k); },
+          [&](ptrdiff_t place, ptrdiff_t, auto k, ColumnGroups::Numbers z) HWY_ATTR { own.store(place, k, z); });
+      for (ptrdiff_t i = 0; i < 8; ++i) {
+        for (int side = 0; side < 2; ++side) {
+          const float* const at = own.at(side, i);  // W / 2 has its bits reversed in 1
+          edges.setOfLine(side, channel, std::min(v0 + i, height / 2 - 1), {at[0], at[columnLanes]});
+        }
+      }
+    }
+    // Pixels hold the real parts of frequencies 0, 1, 2, ... and, in between, the imaginary ones.
+    const auto element = [&](ptrdiff_t e, ptrdiff_t first, bool isBelow) HWY_ATTR {
+      const ptrdiff_t pixel = e / L::elements, u = (pixel + 1) / 2;
+      const bool isImaginary = pixel > 0 && pixel % 2 == 0;
+      const ptrdiff_t place = placeOf(isBelow ? (width - u) % width : u, order);
+      const float* const at = all.at(place * L::elements + e % L::elements, first);
+      const auto v = hn::LoadU(d, at + (isImaginary ? columnLanes : 0));
+      return isBelow && isImaginary ? hn::Neg(v) : v;
+    };
+    constexpr Alpha alpha = alphaOf<L>;
+    top.template store<alpha>(floats, [&](ptrdiff_t e, auto first) HWY_ATTR { return element(e, first, false); });
+    bottom.template store<alpha>(floats, [&](ptrdiff_t e, auto first) HWY_ATTR { return element(e, first, true); });
+    if (v0 > 0) continue;
+    for (int channel = 0; channel < L::channels; ++channel) {
+      const ColumnGroups own = lines.ofChannel(channel);
+      packLineOfTwo({dst, 0, height}, L::elements, channel, width, [&](ptrdiff_t u) {
+        const float* const at = own.at(placeOf(u, order), 0);
+        return ComplexNumber{at[0], at[columnLanes]};
+      });
+    }
+  }
+}
+
+/// Widths from 256 on.
+template <class L>
+HWY_NOINLINE HWY_FLATTEN void longLines(Image<float> dst, const FFTFloats& spec, PackedEdges edges, float* memory) {
+  constexpr ptrdiff_t N = LineGroups::N;
+  constexpr int elements = L::elements;
+  const LineGroups::D d;
+  const hn::RebindToSigned<LineGroups::D> di;
+  const LineGroups line{memory};
+  const int order = spec.orderX;
+  const ptrdiff_t width = spec.width(), height = spec.height();
+  for (ptrdiff_t v = 0; v < height / 2; ++v) {
+    const LineRows<float> rows(dst, v, height);
+    for (int channel = 0; channel < L::channels; ++channel) {
+      const auto vectorOf = [&](const float* row, ptrdiff_t x) HWY_ATTR {
+        if constexpr (elements == 1) return hn::LoadU(d, row + x);
+        return hn::GatherIndex(d, row + x * elements + channel, hn::Mul(hn::Iota(di, 0), hn::Set(di, elements)));
+      };
+      signal::lineLevels(line, spec.realSpecX->roots, order, [&](ptrdiff_t group, auto k) HWY_ATTR {
+        const ptrdiff_t x = 16 * group + k * N;
+        return LineGroups::Numbers{vectorOf(rows.top, x), vectorOf(rows.bottom, x)};
+      });
+      if (v == 0) {
+        signal::endLineInPlace(
+            line, order, [&](ptrdiff_t group, auto k, LineGroups::Numbers z) HWY_ATTR { line.store(group, k, z); });
+        const auto number = [&](ptrdiff_t u) {
+          const float* const at = line.at(u / 16, u % 16);
+          return ComplexNumber{at[0], at[N]};
+        };
+        for (int side = 0; side < 2; ++side) edges.setOfLine(side, channel, 0, number(side * (width / 2)));
+        packLineOfTwo(rows, elements, channel, width, number);
+        continue;
+      }
+      signal::endLine(line, order, [&](ptrdiff_t u, LineGroups::Numbers z) HWY_ATTR {
+        const bool isBelow = u >= width / 2;
+        if (isBelow) z.im = hn::Neg(z.im);
+        const ptrdiff_t atEdge = u == 0 || u == width / 2 ? 1 : 0;
+        if (elements > 1 || atEdge != 0) {
+          float re[N], im[N];
+          hn::StoreU(z.re, d, re);
+          hn::StoreU(z.im, d, im);
+          if (atEdge != 0) edges.set(isBelow ? 1 : 0, channel, v, {re[0], isBelow ? -im[0] : im[0]});
+          for (ptrdiff_t i = atEdge; i < N; ++i) {
+            const ptrdiff_t own = isBelow ? width - u - i : u + i;
+            float* const to = (isBelow ? rows.bottom : rows.top) + (2 * own - 1) * elements + channel;
+            setElement(to, re[i]);
+            setElement(to + elements, im[i]);
+          }
+        } else if (isBelow) {
+          hn::StoreInterleaved2(hn::Reverse(d, z.re), hn::Reverse(d, z.im), d,
+                                rows.bottom + 2 * (width - u - N + 1) - 1);
+        } else {
+          hn::StoreInterleaved2(z.re, z.im, d, rows.top + 2 * u - 1);
+        }
+      });
+    }
+  }
+}
+
+template <class L>
+VemiStatus forward(Image<const float> src, Image<float> dst, const VemiFFTSpec_R_32f* spec, Vemi8u* buffer) {
+  if (const VemiStatus bad = firstOf(checkRecord(spec, realFFTTag), checkNull(src, dst), checkStep(src, dst))) {
+    return bad;
+  }
+  const Scratch scratch(spec->bufSize, buffer);
+  if (scratch.failed()) return vemiErrMemAlloc;
+  if (spec->orderX == 0 || spec->orderY == 0) {
+    return transformLine<L>(src, dst, *spec, scratch, signal::sigFFTFwd_RToPack_32f);
+  }
+  columns<L>(src, dst, *spec, scaleOfImage(*spec->realSpecX, true, spec->orderX + spec->orderY),
+             columnMemory(scratch, spec->orderY));
+  if (spec->orderX < signal::shortestLineOrder) {
+    const PackedEdges edges{scratch.as<float>(), L::channels, spec->height()};
+    shortLines<L>(dst, *spec, edges);
+    edges.writeTo<L::elements>(dst, spec->width());
+  } else {
+    float* const memory = alignedToVectors(scratch.as<float>());
+    const PackedEdges edges{memory + 2 * spec->width(), L::channels, spec->height()};
+    longLines<L>(dst, *spec, edges, memory);
+    edges.writeTo<L::elements>(dst, spec->width());
+  }
+  return vemiOk;
+}
+
+}  // namespace
+}  // namespace vemi::transform
+
+using namespace vemi;
+using namespace vemi::transform;
+
+#define FLOATS VEMI_IMAGES_SPEC(Vemi32f, Vemi32f, VemiFFTSpec_R_32f, ((Vemi8u * pBuffer), (pBuffer)))
+
+VEMI_DEFINE(vemiFFTFwd_RToPack_32f_C1R, FLOATS, forward<C1>)
+VEMI_DEFINE(vemiFFTFwd_RToPack_32f_C3R, FLOATS, forward<C3>)
+VEMI_DEFINE(vemiFFTFwd_RToPack_32f_C4R, FLOATS, forward<C4>)
+VEMI_DEFINE(vemiFFTFwd_RToPack_32f_AC4R, FLOATS, forward<AC4>)

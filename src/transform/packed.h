@@ -1,0 +1,172 @@
+// What both directions of the real transforms share. Between them, column transforms leave V(x, v), v = 0 to H / 2, in
+// the rows of the destination: real parts in row v, imaginary parts in row H - v; V(x, 0) and V(x, H / 2), which are
+// real, in rows 0 and H / 2. So rows v and H - v are one complex line, and rows 0 and H / 2 another; the transform of
+// line v gives F(u, v) for all u, of which those beyond W / 2 are the conjugates of F(W - u, H - v), row H - v.
+//
+// Columns 0 and W - 1 of the packed array hold numbers of other rows: they go by way of an array of their own.
+#pragma once
+
+#include <algorithm>
+#include <cstring>
+
+#include "core/image.h"
+#include "signal/fft_line.h"
+#include "transform/fft_spec.h"
+#include "transform/short_rows.h"
+
+namespace vemi::transform {
+
+using signal::ColumnGroups;
+using signal::LineGroups;
+using signal::Roots;
+
+inline constexpr ptrdiff_t columnLanes = ColumnGroups::N;
+inline constexpr int columnsAtOnce = 16;  // two of them are one complex column
+
+struct ComplexNumber {
+  float re, im;
+};
+
+/// The two rows that are line v. Line 0 has those of v = 0 and v = H / 2.
+template <class T>
+struct LineRows {
+  T *top, *bottom;
+
+  LineRows(Image<T> image, ptrdiff_t v, ptrdiff_t height)
+      : top(image.row(v)), bottom(image.row(v == 0 ? height / 2 : height - v)) {}
+};
+
+/// Columns 0 and W - 1 of the packed array, of each channel: F(0, v) and F(W / 2, v), packed along y.
+struct PackedEdges {
+  float* memory;
+  int channels;
+  ptrdiff_t height;
+
+  float* column(int side, int channel) const { return memory + (ptrdiff_t{side} * channels + channel) * height; }
+
+  void set(int side, int channel, ptrdiff_t v, ComplexNumber z) const {
+    float* const packed = column(side, channel);
+    if (v == 0 || 2 * v == height) {
+      packed[v == 0 ? 0 : height - 1] = z.re;
+    } else {
+      packed[2 * v - 1] = z.re;
+      packed[2 * v] = z.im;
+    }
+  }
+  ComplexNumber get(int side, int channel, ptrdiff_t v) const {
+    const float* const packed = column(side, channel);
+    if (v == 0 || 2 * v == height) return {packed[v == 0 ? 0 : height - 1], 0};
+    return {packed[2 * v - 1], packed[2 * v]};
+  }
+  /// Line 0 is F(u, 0) + i F(u, H / 2), of which both are real at the sides.
+  ComplexNumber ofLine(int side, int channel, ptrdiff_t v) const {
+    return v == 0 ? ComplexNumber{get(side, channel, 0).re, get(side, channel, height / 2).re} : get(side, channel, v);
+  }
+  void setOfLine(int side, int channel, ptrdiff_t v, ComplexNumber z) const {
+    set(side, channel, v, z);
+    if (v == 0) set(side, channel, height / 2, {z.im, 0});
+  }
+
+  template <int elements>
+  void writeTo(Image<float> dst, ptrdiff_t width) const {
+    for (int side = 0; side < 2; ++side) {
+      for (ptrdiff_t y = 0; y < height; ++y) {
+        float* const pixel = dst.row(y) + (side == 0 ? 0 : width - 1) * elements;
+        for (int channel = 0; channel < channels; ++channel) setElement(pixel + channel, column(side, channel)[y]);
+      }
+    }
+  }
+  template <int elements>
+  void readFrom(Image<const float> src, ptrdiff_t width) const {
+    for (int side = 0; side < 2; ++side) {
+      for (ptrdiff_t y = 0; y < height; ++y) {
+        const float* const pixel = src.row(y) + (side == 0 ? 0 : width - 1) * elements;
+        for (int channel = 0; channel < channels; ++channel) column(side, channel)[y] = elementOf(pixel + channel);
+      }
+    }
+  }
+};
+
+/// Up to 16 columns of floats from an image's column x on. What is beyond its last column is 0, and not stored.
+struct ColumnBlock {
+  ptrdiff_t x, count;
+
+  ColumnBlock(ptrdiff_t first, ptrdiff_t floats)
+      : x(first), count(std::min<ptrdiff_t>(floats - first, columnsAtOnce)) {}
+
+  /// The vectors k of both halves of a row.
+  HWY_INLINE ColumnGroups::Numbers load(Image<const float> src, ptrdiff_t y, ptrdiff_t k) const {
+    const ColumnGroups::D d;
+    float end[columnsAtOnce] = {};
+    const float* from = src.row(y) + x;
+    if (count < columnsAtOnce) {
+      from = static_cast<const float*>(std::memcpy(end, from, static_cast<size_t>(count) * sizeof(float)));
+    }
+    return {hn::LoadU(d, from + k * columnLanes), hn::LoadU(d, from + 8 + k * columnLanes)};
+  }
+  template <class L>
+  HWY_INLINE void store(Image<float> dst, ptrdiff_t y, ptrdiff_t k, ColumnGroups::Numbers halves) const {
+    const auto half = [&](ptrdiff_t first, ColumnGroups::V v) HWY_ATTR {
+      const ColumnGroups::D d;
+      float* const to = dst.row(y) + x + first;
+      if (count < columnsAtOnce) {
+        float element[columnLanes];
+        hn::StoreU(v, d, element);
+        for (ptrdiff_t i = 0; i < columnLanes && first + i < count; ++i) {
+          if (!L::keepsAlpha || (first + i) % 4 < 3) setElement(to + i, element[i]);
+        }
+      } else if constexpr (L::keepsAlpha) {
+        hn::StoreU(hn::IfThenElse(colourLanes(d), v, hn::LoadU(d, to)), d, to);
+      } else {
+        hn::StoreU(v, d, to);
+      }
+    };
+    half(k * columnLanes, halves.re);
+    half(8 + k * columnLanes, halves.im);
+  }
+};
+
+/// Eight short lines at once, transposed: group e holds element e of their rows, real parts from the top rows.
+template <class L>
+struct ShortLines {
+  alignas(laneAlignment) float memory[(16 * L::elements) << (signal::shortestLineOrder - 1)];
+
+  ColumnGroups all() { return {memory}; }
+  /// The numbers of a channel, one for each pixel.
+  ColumnGroups ofChannel(int channel) { return {memory + channel * 16, 16 * L::elements}; }
+};
+
+template <class T>
+EightRows<T> topRows(Image<T> image, ptrdiff_t firstLine, ptrdiff_t height) {
+  return {firstLine, height / 2, [&](ptrdiff_t v) { return LineRows<T>(image, v, height).top; }};
+}
+template <class T>
+EightRows<T> bottomRows(Image<T> image, ptrdiff_t firstLine, ptrdiff_t height) {
+  return {firstLine, height / 2, [&](ptrdiff_t v) { return LineRows<T>(image, v, height).bottom; }};
+}
+
+/// Images of one row or column: in a buffer, a channel at a time.
+template <class L, class Transform>
+VemiStatus transformLine(Image<const float> src, Image<float> dst, const FFTFloats& spec, const Scratch& scratch,
+                         const Transform& transform) {
+  const ptrdiff_t length = spec.width() * spec.height();
+  const bool isRow = spec.orderY == 0;
+  const signal::SigFFTSpec_R& line = isRow || spec.realSpecY == nullptr ? *spec.realSpecX : *spec.realSpecY;
+  float* const own = scratch.as<float>();
+  for (int channel = 0; channel < L::channels; ++channel) {
+    for (ptrdiff_t n = 0; n < length; ++n) {
+      own[n] = elementOf((isRow ? src.first + n * L::elements : src.row(n)) + channel);
+    }
+    if (const VemiStatus bad = transform(own, own, &line, nullptr)) return bad;
+    for (ptrdiff_t n = 0; n < length; ++n) {
+      setElement((isRow ? dst.first + n * L::elements : dst.row(n)) + channel, own[n]);
+    }
+  }
+  return vemiOk;
+}
+
+}  // namespace vemi::transform
+
+#define VEMI_IMAGES_SPEC(S, T, Spec, ...)                                          \
+  VEMI_HEAD((const S* pSrc, int srcStep, T* pDst, int dstStep, const Spec* pSpec), \
+            (Image<const S>{pSrc, srcStep}, Image<T>{pDst, dstStep}, pSpec), __VA_ARGS__)
