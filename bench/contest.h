@@ -83,6 +83,7 @@ Family grayFamily();
 Family yccFamily();
 Family reduceBitsFamily();
 Family qualityFamily();
+Family fftFamily();
 Family rowsFamily();
 Family boxFamily();
 Family morphologyFamily();

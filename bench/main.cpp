@@ -30,7 +30,7 @@ constexpr FamilyTable families[] = {
     gammaFamily,         countsFamily,     noiseFamily,        generatedFamily,    perceptualFamily,
     colorTwistFamily,    videoFamily,      swapChannelsFamily, grayFamily,         yccFamily,
     packedPixelsFamily,  boxFamily,        morphologyFamily,   reduceBitsFamily,   qualityFamily,
-    fixedFilterFamily,   lumaChromaFamily, rowsFamily,
+    fixedFilterFamily,   lumaChromaFamily, fftFamily,          rowsFamily,
 };
 
 constexpr const char* usage =

@@ -18,6 +18,9 @@
 #ifdef VEMI_BENCH_PIXMAN
 #include <pixman.h>
 #endif
+#ifdef VEMI_BENCH_FFTW
+#include <fftw3.h>
+#endif
 
 namespace bench {
 
