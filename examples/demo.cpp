@@ -113,6 +113,10 @@ constexpr Section sections[] = {
      "Filters with fixed kernels of three by three or five by five pixels. Slopes have a sign, which 16-bit results "
      "keep; here middle grey is no slope.",
      demoEdges},
+    {"Spectra",
+     "The fast Fourier transform tells what waves a picture is made of, packed into as many numbers as it has pixels. "
+     "What is taken away there is missing when it goes back.",
+     demoFft},
 };
 
 Options optionsFrom(int argc, char** argv) {

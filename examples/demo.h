@@ -39,5 +39,6 @@ void demoLevels(const Demo& demo);
 void demoBox(const Demo& demo);
 void demoMorphology(const Demo& demo);
 void demoEdges(const Demo& demo);
+void demoFft(const Demo& demo);
 
 }  // namespace demo
