@@ -1,5 +1,6 @@
-// Matrices of the user's on the channels of pixels. Our sums of integers are exact to the caller's rounding; OpenCV's
-// of bytes have ten bits behind the point, so only floats and whole factors are compared.
+// Matrices of the user's on the channels of pixels. Our sums of integers are rounded as those of doubles are; OpenCV's
+// of bytes have ten bits behind the point, those of words are single: results are not compared. Sums of halves end in a
+// half so often that nearly every block of ours is computed in doubles.
 
 #include "peers.h"
 
