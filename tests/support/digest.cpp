@@ -60,6 +60,18 @@ void addCalls(const Export& function, Hash& hash) {
   }
 }
 
+/// NaNs of either sign, quiet and signalling, where sources are floats: conversions and comparisons treat all alike.
+void addAnyNaNs(const Export& function, Hash& hash) {
+  if (function.members.find("32f") == std::string::npos) return;
+  Scenario scenario;
+  scenario.rows = Rows::padded;
+  for (const VemiSize size : {VemiSize{5, 3}, VemiSize{131, 4}}) {
+    scenario.seed += 1;
+    scenario.roiSize = size;
+    addCall(function, scenario, hash);
+  }
+}
+
 /// Of each kind of row that can bypass the caches one member, for a region that is large enough.
 void addLargeCall(const Export& function, Hash& hash) {
   static const std::set<std::string> members = {"vemiCopy_32f_C4R", "vemiCopy_32f_C3P3R", "vemiCopy_32f_P4C4R",
@@ -96,6 +108,7 @@ uint64_t digestOf(const Export& function) {
   Hash hash;
   if (function.call != nullptr) {
     addCalls(function, hash);
+    addAnyNaNs(function, hash);
     addLargeCall(function, hash);
   } else if (function.allocate != nullptr) {
     addAllocations(function, hash);

@@ -7,9 +7,9 @@
 
 namespace vemi::test {
 
-/// A hash of all bytes and statuses that the function leaves in a number of calls. All NaNs that go in have the same
-/// bits: of two different ones, the processor hands on its first operand's, and which operand of a sum comes first is
-/// the compiler's choice.
+/// A hash of all bytes and statuses that the function leaves in a number of calls, in which NaNs among written floats
+/// count as one. In most calls all NaNs that go in have the same bits; in some they are of all kinds, quiet and
+/// signalling.
 uint64_t digestOf(const Export& function);
 
 }  // namespace vemi::test

@@ -82,6 +82,16 @@ T adversarialValue(Random& random) {
   }
 }
 
+/// A NaN of either sign, quiet or signalling. As an integer, because floats that pass through the registers of some
+/// processors come out quiet.
+template <class T>
+void storeAnyNaN(std::byte* place, uint64_t bits) {
+  using Bits = std::conditional_t<sizeof(T) == 4, uint32_t, uint64_t>;
+  const T infinity = std::numeric_limits<T>::infinity();
+  store(place, static_cast<Bits>(load<Bits>(reinterpret_cast<const std::byte*>(&infinity)) |
+                                 bits << (8 * sizeof(T) - 32) | 1));
+}
+
 }  // namespace
 
 int bytesOf(Element element) {
@@ -153,7 +163,11 @@ void fillElement(Element element, std::byte* place, Random& random) {
       } else {
         random.fill(reinterpret_cast<std::byte*>(&value), sizeof value);
       }
-      store(place + n * static_cast<int>(sizeof value), value);
+      std::byte* const at = place + n * static_cast<int>(sizeof value);
+      store(at, value);
+      if constexpr (std::is_floating_point_v<T>) {
+        if (std::isnan(value)) storeAnyNaN<T>(at, choice);
+      }
     });
   }
 }
