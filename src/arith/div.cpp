@@ -117,9 +117,14 @@ struct PlainQuotient {
   }
 };
 
+/// Quotients of bytes, four vectors of floats for one of them, take longer than memory.
+template <class T>
+inline constexpr Stores storesOfQuotients = sizeof(T) == 1 ? Stores::cached : Stores::streamed;
+
 template <class L, class T, class IndexedOp>
 VemiStatus divideRegion(VemiSize roiSize, const IndexedOp& op, Image<T> dst, Image<const T> x, Image<const T> divisor) {
-  const bool byZero = mapRegionTested<L>(roiSize, op, inWorkedChannels<L>(DividesByZero()), dst, x, divisor);
+  const bool byZero =
+      mapRegionTested<L, storesOfQuotients<T>>(roiSize, op, inWorkedChannels<L>(DividesByZero()), dst, x, divisor);
   return byZero ? vemiWarnDivByZero : vemiOk;
 }
 
@@ -157,7 +162,7 @@ VemiStatus quotientOfOne(Image<const T> src, const T* value, Image<T> dst, VemiS
   if (*value == 0) return vemiErrDivByZero;
   return roundingToNearest([&] {
     const ScaledByFactor<T> op = {factorOf(*value, scaleFactor)};
-    mapRegion<C1>(CallerRows(), roiSize, eachVector(op), dst, src);
+    mapRegion<C1, storesOfQuotients<T>>(CallerRows(), roiSize, eachVector(op), dst, src);
     return vemiOk;
   });
 }

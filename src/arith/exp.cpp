@@ -70,7 +70,7 @@ VemiStatus expScaled(Image<const T> src, Image<T> dst, VemiSize roiSize, int sca
 template <class L>
 VemiStatus exp32f(Image<const Vemi32f> src, Image<Vemi32f> dst, VemiSize roiSize) {
   if (const VemiStatus bad = firstOf(checkNull(src, dst), checkSize(roiSize), checkStep(src, dst))) return bad;
-  mapRegion<L>(CallerRows(), roiSize, eachVector(signal::Exp()), dst, src);
+  mapRegion<L, Stores::cached>(CallerRows(), roiSize, eachVector(signal::Exp()), dst, src);
   return vemiOk;
 }
 

@@ -124,7 +124,7 @@ VemiStatus ln16s(Image<const Vemi16s> src, Image<Vemi16s> dst, VemiSize roiSize,
 template <class L>
 VemiStatus ln32f(Image<const Vemi32f> src, Image<Vemi32f> dst, VemiSize roiSize) {
   if (const VemiStatus bad = firstOf(checkNull(src, dst), checkSize(roiSize), checkStep(src, dst))) return bad;
-  return mapRegionWatched<L>(roiSize, eachVector(signal::Ln()), lnStatus32f, dst, src);
+  return mapRegionWatched<L, Stores::cached>(roiSize, eachVector(signal::Ln()), lnStatus32f, dst, src);
 }
 
 }  // namespace

@@ -65,29 +65,29 @@ struct Root {
 };
 
 /// A number below zero in an alpha that stays warns too.
-template <class L, class T, class Op>
+template <class L, Stores how, class T, class Op>
 VemiStatus rootsOfSigned(const Op& root, Image<const T> src, Image<T> dst, VemiSize roiSize) {
-  const bool negative =
-      mapRegionTested<L>(roiSize, eachVector(root), eachVector(IsNegative()), wholeElements(dst), wholeElements(src));
+  const bool negative = mapRegionTested<L, how>(roiSize, eachVector(root), eachVector(IsNegative()), wholeElements(dst),
+                                                wholeElements(src));
   return negative ? vemiWarnSqrtNegative : vemiOk;
 }
 
 template <class L>
 VemiStatus root16s(Image<const Vemi16s> src, Image<Vemi16s> dst, VemiSize roiSize, int scaleFactor) {
   if (const VemiStatus bad = firstOf(checkNull(src, dst), checkSize(roiSize), checkStep(src, dst))) return bad;
-  return rootsOfSigned<L>(ScaledRoot<Vemi16s>(scaleFactor), src, dst, roiSize);
+  return rootsOfSigned<L, Stores::cached>(ScaledRoot<Vemi16s>(scaleFactor), src, dst, roiSize);
 }
 
 template <class L>
 VemiStatus root32f(Image<const Vemi32f> src, Image<Vemi32f> dst, VemiSize roiSize) {
   if (const VemiStatus bad = firstOf(checkNull(src, dst), checkSize(roiSize), checkStep(src, dst))) return bad;
-  return rootsOfSigned<L>(Root(), src, dst, roiSize);
+  return rootsOfSigned<L, Stores::streamed>(Root(), src, dst, roiSize);
 }
 
 template <class L>
 VemiStatus root16u(Image<const Vemi16u> src, Image<Vemi16u> dst, VemiSize roiSize, int scaleFactor) {
   if (const VemiStatus bad = firstOf(checkNull(src, dst), checkSize(roiSize), checkStep(src, dst))) return bad;
-  mapRegion<L>(CallerRows(), roiSize, eachVector(ScaledRoot<Vemi16u>(scaleFactor)), dst, src);
+  mapRegion<L, Stores::cached>(CallerRows(), roiSize, eachVector(ScaledRoot<Vemi16u>(scaleFactor)), dst, src);
   return vemiOk;
 }
 

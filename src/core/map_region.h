@@ -29,27 +29,30 @@ HWY_NOINLINE void streamElements(ptrdiff_t count, const IndexedOp& indexedOp, T*
   forStreamedBlocks<vectors * N, IndexedOp::period>(count, plain, kernel, Strand<T>{dst}, Strand<const Src>{src}...);
 }
 
-template <Alpha alpha, class Rows, class T, class IndexedOp, class... Src>
+template <Alpha alpha, Stores how, class Rows, class T, class IndexedOp, class... Src>
 HWY_NOINLINE void mapRows(const Rows& rows, Extent elements, const IndexedOp& op, Image<T> dst,
                           Image<const Src>... src) {
   const auto row = [&](ptrdiff_t y) { mapElements<alpha>(elements.width, op, dst.row(y), src.row(y)...); };
-  const auto streamedRow = [&](ptrdiff_t y) { streamElements(elements.width, op, dst.row(y), src.row(y)...); };
-  const bool inPlace = (isSameImage(src, dst) || ...);
-  if (alpha == Alpha::kept || inPlace) return rows.run(elements.height, row);
-  const Vemi64s traffic = trafficOf(elements, (sizeof(T) + ... + sizeof(Src)));
-  runPlainOrStreamed(rows, elements.height, traffic, row, streamedRow);
+  if constexpr (alpha == Alpha::none && how == Stores::streamed) {
+    const auto streamedRow = [&](ptrdiff_t y) { streamElements(elements.width, op, dst.row(y), src.row(y)...); };
+    const bool inPlace = (isSameImage(src, dst) || ...);
+    const Vemi64s traffic = inPlace ? 0 : trafficOf(elements, (sizeof(T) + ... + sizeof(Src)));
+    runPlainOrStreamed(rows, elements.height, traffic, row, streamedRow);
+  } else {
+    rows.run(elements.height, row);
+  }
 }
 
 }  // namespace detail
 
 /// destination = indexedOp(sources). `rows` says who runs the rows: CallerRows or TeamRows. A source may be the
 /// destination. Contiguous rows that stay in one thread are one long row.
-template <class L, class Rows, class T, class IndexedOp, class... Src>
+template <class L, Stores how = Stores::streamed, class Rows, class T, class IndexedOp, class... Src>
 void mapRegion(const Rows& rows, VemiSize roiSize, const IndexedOp& op, Image<T> dst, Image<const Src>... src) {
   const bool contiguous = isContiguous<L>(dst, roiSize) && (isContiguous<L>(src, roiSize) && ...);
   const Extent pixels = mergedExtent(roiSize, contiguous && rows.inOneThread());
   const Extent elements = {pixels.width * L::elements, pixels.height};
-  detail::mapRows<alphaOf<L>>(rows, elements, op, dst, src...);
+  detail::mapRows<alphaOf<L>, how>(rows, elements, op, dst, src...);
 }
 
 namespace detail {
@@ -96,12 +99,12 @@ auto inWorkedChannels(Test test) {
 
 /// mapRegion in the calling thread, and whether an indexed test(d, k, lanes of the sources), a mask, holds anywhere:
 /// eachVector(test) looks at a kept alpha too, inWorkedChannels<L>(test) does not.
-template <class L, class T, class IndexedOp, class IndexedTest, class... Src>
+template <class L, Stores how = Stores::streamed, class T, class IndexedOp, class IndexedTest, class... Src>
 bool mapRegionTested(VemiSize roiSize, const IndexedOp& op, const IndexedTest& test, Image<T> dst,
                      Image<const Src>... src) {
   bool any = false;
   const detail::Tested<IndexedOp, IndexedTest> tested = {op, test, &any};
-  mapRegion<L>(CallerRows(), roiSize, tested, dst, src...);
+  mapRegion<L, how>(CallerRows(), roiSize, tested, dst, src...);
   return any;
 }
 
@@ -128,14 +131,14 @@ struct WatchedRows {
 /// For members whose warning depends on whole rows: watch(row of each source, elements) looks at a row before it is
 /// written and gives its status. The first one that is not vemiOk is returned; all rows are computed. Rows stay rows
 /// where they are contiguous too: which status comes first depends on where they end.
-template <class L, class T, class IndexedOp, class Watch, class... Src>
+template <class L, Stores how = Stores::streamed, class T, class IndexedOp, class Watch, class... Src>
 VemiStatus mapRegionWatched(VemiSize roiSize, const IndexedOp& op, const Watch& watch, Image<T> dst,
                             Image<const Src>... src) {
   const Extent elements = {ptrdiff_t{roiSize.width} * L::elements, roiSize.height};
   VemiStatus status = vemiOk;
   const auto watchRow = [&](ptrdiff_t y) { return watch(src.row(y)..., elements.width); };
   const detail::WatchedRows<decltype(watchRow)> rows = {watchRow, status};
-  detail::mapRows<alphaOf<L>>(rows, elements, op, dst, src...);
+  detail::mapRows<alphaOf<L>, how>(rows, elements, op, dst, src...);
   return status;
 }
 

@@ -100,8 +100,6 @@ HWY_INLINE void applyResults(V result, const F& f) {
 //   store<how, n>(v...)     takes them;
 //   streamedVectors         how many blocks are streamed together, 0 where none can be.
 
-enum class Stores { cached, streamed };
-
 /// Interleaved pixels of layout L, one for each `subsampling` pixels of the other rows. A source gives the channels
 /// that L works on.
 template <class T, class L, int subsampling = 1>

@@ -15,6 +15,10 @@
 
 namespace vemi {
 
+/// What a call that moves more than the caches hold wants. Where arithmetic takes longer than memory, streaming gains
+/// nothing, and some processors then need twice the time: such operations ask for cached stores.
+enum class Stores { cached, streamed };
+
 /// Bytes of all pixels of a region, where a pixel has `pixelBytes` in all images together.
 inline Vemi64s trafficOf(Extent extent, Vemi64s pixelBytes) { return pixelBytes * extent.width * extent.height; }
 

@@ -182,7 +182,8 @@ void forEachImage(Planes<const T, 3> src, Planes<T, 3> dst, const F& f) {
 template <class L, class Op, class Src, class Dst>
 void mapImages(Src src, Dst dst, VemiSize roiSize, const Op& op) {
   const auto indexedOp = eachVector<1>(op);
-  forEachImage(src, dst, [&](auto from, auto to) { mapRegion<L>(CallerRows(), roiSize, indexedOp, to, from); });
+  forEachImage(src, dst,
+               [&](auto from, auto to) { mapRegion<L, Stores::cached>(CallerRows(), roiSize, indexedOp, to, from); });
 }
 
 template <class Direction, class L, class Src, class Dst>
