@@ -75,11 +75,11 @@ void mapPixelRegion(const Rows& rows, VemiSize roiSize, const Op& op, Dst dst, S
   mapPixelRows<how>(rows, mergedExtent(roiSize, merged), op, dst, src...);
 }
 
-/// dst = op.of[channel](src), in the calling thread.
+/// dst = op.of[channel](src), in the calling thread, of operations that take longer than memory: tables, searches.
 template <class L, class T, class Op>
 void mapChannels(VemiSize roiSize, const PerChannel<Op, L::channels>& op, Image<T> dst, Image<const T> src) {
   if constexpr (L::elements == 1) {
-    mapRegion<L>(CallerRows(), roiSize, eachVector(op.of[0]), dst, src);
+    mapRegion<L, Stores::cached>(CallerRows(), roiSize, eachVector(op.of[0]), dst, src);
   } else {
     mapPixelRegion<Stores::cached>(CallerRows(), roiSize, op, pixelsOf<L>(dst), pixelsOf<L>(src));
   }
