@@ -40,8 +40,8 @@ extern "C" {
  * and stand in memory as
  *
  *     C3, AC4       one image, three bytes a pixel, or four, the last of which is not looked at and stays
- *     P3            three planes, by an array of three pointers; where pixels share chroma, with an array of three
- * steps C2            one image, four bytes for two pixels: Y0 U Y1 V in YUV422 and YCbCr422, Cb Y0 Cr Y1 in CbYCr422
+ *     P3            three planes, by an array of three pointers; with three steps where pixels share chroma
+ *     C2            one image, four bytes for two pixels: Y0 U Y1 V in YUV422 and YCbCr422, Cb Y0 Cr Y1 in CbYCr422
  *
  * No width or height needs to be even. A last column or row without a partner has chroma of its own; of the last pixel
  * of an odd row of C2 there are two bytes, Y and the first chroma (Y U, or Cb Y), and when it is read, it takes the

@@ -9,7 +9,7 @@
 #include <tuple>
 #include <type_traits>
 
-#include "color/luma_chroma.h"
+#include "color/conversion.h"
 #include "core/checks.h"
 #include "core/exports.h"
 #include "core/float_control.h"

@@ -1,4 +1,4 @@
-// The region functions of conversions between models, whatever the layouts of source and destination.
+// Conversions between models that give each pixel from its own channels, whatever the layouts: whole calls by a team.
 // Checks: null, size, step.
 #pragma once
 
@@ -10,19 +10,18 @@
 
 namespace vemi::color {
 
-namespace detail {
+/// In the place of a layout: planes, whose number their type says.
+struct Planar;
 
-/// The layout is that of interleaved pixels; planes are one for each channel.
-template <class L, class T>
-auto inLayout(Image<T> image) {
-  return pixelsOf<L>(image);
+/// Images of layout L, or planes, for which L does not count.
+template <class L, class Images>
+auto pixelsIn(Images images) {
+  if constexpr (requires { pixelsOf(images); }) {
+    return pixelsOf(images);
+  } else {
+    return pixelsOf<L>(images);
+  }
 }
-template <class, class T, int planeCount>
-auto inLayout(Planes<T, planeCount> planes) {
-  return pixelsOf(planes);
-}
-
-}  // namespace detail
 
 /// dst = Op()(channels of src), by a team. Conversions of integers give the same under any rounding mode, those of
 /// floats round as the caller has set it.
@@ -30,11 +29,10 @@ template <class Op, class SrcLayout, class DstLayout = SrcLayout, Stores how = S
 VemiStatus convertPixels(Src src, Dst dst, VemiSize roiSize) {
   if (const VemiStatus bad = firstOf(checkNull(src, dst), checkSize(roiSize), checkStep(src, dst))) return bad;
   const auto convert = [&] {
-    mapPixelRegion<how>(TeamRows{false}, roiSize, Op(), detail::inLayout<DstLayout>(dst),
-                        detail::inLayout<SrcLayout>(src));
+    mapPixelRegion<how>(TeamRows{false}, roiSize, Op(), pixelsIn<DstLayout>(dst), pixelsIn<SrcLayout>(src));
     return vemiOk;
   };
-  using Row = decltype(detail::inLayout<SrcLayout>(src).row(0));
+  using Row = decltype(pixelsIn<SrcLayout>(src).row(0));
   if constexpr (std::is_same_v<typename Row::Element, Vemi32f>)
     return convert();
   else

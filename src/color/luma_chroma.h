@@ -1,7 +1,8 @@
-// Whole calls of conversions that give each pixel from its own channels, and the checks of all colour conversions: null
-// pointers and arrays, size, null planes, step.
+// Whole calls of conversions between RGB and luma and chroma, in the calling thread, and their checks: null pointers
+// and arrays, size, null planes, step.
 #pragma once
 
+#include "color/conversion.h"
 #include "core/checks.h"
 #include "core/pixel_region.h"
 
@@ -27,18 +28,6 @@ VemiStatus checkImages(Src src, Dst dst, VemiSize roiSize) {
 template <class Src, class Dst>
 VemiStatus checkConversion(Src src, Dst dst, VemiSize roiSize) {
   return firstOf(checkImages(src, dst, roiSize), checkStep(src, dst));
-}
-
-/// In the place of a layout: planes, whose number their type says.
-struct Planar;
-
-template <class L, class Images>
-auto pixelsIn(Images images) {
-  if constexpr (std::is_same_v<L, Planar>) {
-    return pixelsOf(images);
-  } else {
-    return pixelsOf<L>(images);
-  }
 }
 
 /// dst = Op()(channels of src), in the calling thread. Rows of whole groups of eight without a gap are one long row.

@@ -138,26 +138,26 @@ Extent extent422(VemiSize size, Shared shared, Pixels pixels) {
 
 // ---- Whole calls ---------------------------------------------------------------------------------------------------
 
-template <const auto& ops, class DL, class Dst>
+template <class Ops, class DL, class Dst>
 VemiStatus from422(ChromaPlanes src, Dst dst, VemiSize roiSize) {
   if (const VemiStatus bad = checkConversion(src, dst, roiSize)) return bad;
   const auto pixels = pixelsIn<DL>(dst);
-  expandPlanes<2>(extent422<8>(roiSize, src, pixels), ops, pixels, src);
+  expandPlanes<2>(extent422<8>(roiSize, src, pixels), Ops(), pixels, src);
   return vemiOk;
 }
 
-template <const auto& ops, Packed422 order, class DL, class Dst>
+template <class Ops, Packed422 order, class DL, class Dst>
 VemiStatus fromPacked422(Image<const uint8_t> src, Dst dst, VemiSize roiSize) {
   if (const VemiStatus bad = checkConversion(src, dst, roiSize)) return bad;
   const auto pixels = pixelsIn<DL>(dst);
-  expandPacked<order>(extent422<8>(roiSize, src, pixels), ops, pixels, src);
+  expandPacked<order>(extent422<8>(roiSize, src, pixels), Ops(), pixels, src);
   return vemiOk;
 }
 
-template <const auto& ops, class Rows, class DL, class Dst>
+template <class Ops, class Rows, class DL, class Dst>
 VemiStatus from420(ChromaPlanes src, Dst dst, VemiSize roiSize) {
   if (const VemiStatus bad = checkConversion(src, dst, roiSize)) return bad;
-  expandRowPairs(Rows(), extentOf(roiSize), ops, pixelsIn<DL>(dst), src);
+  expandRowPairs(Rows(), extentOf(roiSize), Ops(), pixelsIn<DL>(dst), src);
   return vemiOk;
 }
 

@@ -128,12 +128,10 @@ struct Reversed {
   }
 };
 
-struct WithFourth {
-  uint8_t value;
-
+struct WithZero {
   template <class D, class V>
   HWY_INLINE auto operator()(D d, V r, V g, V b) const {
-    return std::tuple(r, g, b, hn::Set(d, value));
+    return std::tuple(r, g, b, hn::Zero(d));
   }
 };
 

@@ -13,16 +13,14 @@ namespace {
 using Lanes = ToRgb<ycbcrToRgb>;
 using Exact = ExactToRgb<ycbcrToRgbExact>;
 
-constexpr ColumnOps columns = {Lanes(), Exact(), Exact()};
-constexpr ColumnOps columnsOfWidth1 = {Lanes(), Exact(), Affine<ycbcrToRgbOfWidth1>()};
-
-constexpr auto reversed(auto op) { return Then<decltype(op), Reversed>{op, {}}; }
-constexpr ColumnOps columnsToBgr = {reversed(Lanes()), reversed(Exact()), reversed(Exact())};
+using Columns = ColumnOps<Lanes, Exact, Exact>;
+using ColumnsOfWidth1 = ColumnOps<Lanes, Exact, Affine<ycbcrToRgbOfWidth1>>;
+using ColumnsToBgr = ColumnOps<Then<Lanes, Reversed>, Then<Exact, Reversed>, Then<Exact, Reversed>>;
 
 /// The only pixel of a row has one chroma byte, and an arithmetic of its own.
 VemiStatus fromPairsToPixels(Image<const Vemi8u> src, Image<Vemi8u> dst, VemiSize roiSize) {
-  if (roiSize.width == 1) return fromPacked422<columnsOfWidth1, Packed422::lumaFirst, C3>(src, dst, roiSize);
-  return fromPacked422<columns, Packed422::lumaFirst, C3>(src, dst, roiSize);
+  if (roiSize.width == 1) return fromPacked422<ColumnsOfWidth1, Packed422::lumaFirst, C3>(src, dst, roiSize);
+  return fromPacked422<Columns, Packed422::lumaFirst, C3>(src, dst, roiSize);
 }
 
 template <class After>
@@ -58,11 +56,11 @@ VEMI_DEFINE(vemiYCbCrToRGB_8u_P3R, VEMI_PLANES_PLANES(Vemi8u, 3), convert<Planar
 
 VEMI_DEFINE(vemiYCbCr422ToRGB_8u_C2C3R, VEMI_SRC_DST(Vemi8u), fromPairsToPixels)
 VEMI_DEFINE(vemiYCbCr422ToRGB_8u_C2P3R, VEMI_SRC_PLANES(Vemi8u, 3),
-            fromPacked422<columns, Packed422::lumaFirst, Planar>)
-VEMI_DEFINE(vemiYCbCr422ToRGB_8u_P3C3R, VEMI_STEPPED_DST(Vemi8u), from422<columns, C3>)
+            fromPacked422<Columns, Packed422::lumaFirst, Planar>)
+VEMI_DEFINE(vemiYCbCr422ToRGB_8u_P3C3R, VEMI_STEPPED_DST(Vemi8u), from422<Columns, C3>)
 
-VEMI_DEFINE(vemiYCbCr420ToRGB_8u_P3C3R, VEMI_STEPPED_DST(Vemi8u), from420<columns, TeamRows, C3>)
-VEMI_DEFINE(vemiYCbCr420ToBGR_8u_P3C3R, VEMI_STEPPED_DST(Vemi8u), from420<columnsToBgr, TeamRows, C3>)
+VEMI_DEFINE(vemiYCbCr420ToRGB_8u_P3C3R, VEMI_STEPPED_DST(Vemi8u), from420<Columns, TeamRows, C3>)
+VEMI_DEFINE(vemiYCbCr420ToBGR_8u_P3C3R, VEMI_STEPPED_DST(Vemi8u), from420<ColumnsToBgr, TeamRows, C3>)
 
 VEMI_DEFINE(vemiYCbCr411ToBGR_8u_P3C3R, VEMI_STEPPED_DST(Vemi8u), from411ToBgr)
 VEMI_DEFINE(vemiYCbCr411ToBGR_8u_P3C4R, VEMI_STEPPED_DST(Vemi8u, VEMI_ALPHA), from411ToBgra)

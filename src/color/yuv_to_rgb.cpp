@@ -15,18 +15,15 @@ using FourOff = ToRgb<yuvToRgb, OddPixels::everySecondFourOff>;
 using Exact = ExactToRgb<yuvToRgbExact>;
 using FullRate = Regimes<8, FourOff, Plain>;
 
-constexpr ColumnOps columns422 = {Plain(), Exact(), Exact()};
-constexpr ColumnOps columns420 = {FourOff(), Plain(), Exact()};
-
-constexpr auto reversed(auto op) { return Then<decltype(op), Reversed>{op, {}}; }
-constexpr ColumnOps columns420ToBgr = {reversed(FourOff()), reversed(Plain()), reversed(Exact())};
+using Columns422 = ColumnOps<Plain, Exact, Exact>;
+using Columns420 = ColumnOps<FourOff, Plain, Exact>;
+using Columns420ToBgr = ColumnOps<Then<FourOff, Reversed>, Then<Plain, Reversed>, Then<Exact, Reversed>>;
 
 /// Destinations of four channels: the last one becomes 0.
-constexpr auto withZero(auto op) { return Then<decltype(op), WithFourth>{op, {0}}; }
-constexpr auto lanesWithZero = withZero(ToRgb<yuvToRgba>());
-constexpr auto exactWithZero = withZero(Exact());
-constexpr ColumnOps columns422WithZero = {lanesWithZero, exactWithZero, exactWithZero};
-constexpr ColumnOps columns420WithZero = {lanesWithZero, lanesWithZero, exactWithZero};
+using LanesWithZero = Then<ToRgb<yuvToRgba>, WithZero>;
+using ExactWithZero = Then<Exact, WithZero>;
+using Columns422WithZero = ColumnOps<LanesWithZero, ExactWithZero, ExactWithZero>;
+using Columns420WithZero = ColumnOps<LanesWithZero, LanesWithZero, ExactWithZero>;
 
 template <class DL, class Dst>
 VemiStatus fromContiguous422(const Vemi8u* const* pSrc, Dst pDst, VemiSize size) {
@@ -34,7 +31,7 @@ VemiStatus fromContiguous422(const Vemi8u* const* pSrc, Dst pDst, VemiSize size)
   const ChromaPlanes src = {pSrc, steps.chroma};
   const auto dst = contiguousPixels(steps, pDst);
   if (const VemiStatus bad = checkImages(src, dst, size)) return bad;
-  expandPlanes<2>(contiguousExtent(size), columns422, pixelsIn<DL>(dst), src);
+  expandPlanes<2>(contiguousExtent(size), Columns422(), pixelsIn<DL>(dst), src);
   return vemiOk;
 }
 
@@ -44,7 +41,7 @@ VemiStatus fromContiguous420(const Vemi8u* const* pSrc, Dst pDst, VemiSize size)
   const ChromaPlanes src = {pSrc, steps.chroma};
   const auto dst = contiguousPixels(steps, pDst);
   if (const VemiStatus bad = checkImages(src, dst, size)) return bad;
-  expandRowPairs(CallerRows(), extentOf(size), columns420, pixelsIn<DL>(dst), src);
+  expandRowPairs(CallerRows(), extentOf(size), Columns420(), pixelsIn<DL>(dst), src);
   return vemiOk;
 }
 
@@ -59,16 +56,16 @@ VEMI_DEFINE(vemiYUVToRGB_8u_C3R, VEMI_SRC_DST(Vemi8u), convert<C3, C3, FullRate>
 VEMI_DEFINE(vemiYUVToRGB_8u_P3C3R, VEMI_PLANES_DST(Vemi8u, 3), convert<Planar, C3, FullRate>)
 VEMI_DEFINE(vemiYUVToRGB_8u_P3R, VEMI_PLANES_PLANES(Vemi8u, 3), convert<Planar, Planar, FullRate>)
 
-VEMI_DEFINE(vemiYUV422ToRGB_8u_C2C3R, VEMI_SRC_DST(Vemi8u), fromPacked422<columns422, Packed422::lumaFirst, C3>)
-VEMI_DEFINE(vemiYUV422ToRGB_8u_P3C3R, VEMI_STEPPED_DST(Vemi8u), from422<columns422, C3>)
-VEMI_DEFINE(vemiYUV422ToRGB_8u_P3AC4R, VEMI_STEPPED_DST(Vemi8u), from422<columns422WithZero, C4>)
-VEMI_DEFINE(vemiYUV422ToRGB_8u_P3R, VEMI_STEPPED_PLANES(Vemi8u), from422<columns422, Planar>)
+VEMI_DEFINE(vemiYUV422ToRGB_8u_C2C3R, VEMI_SRC_DST(Vemi8u), fromPacked422<Columns422, Packed422::lumaFirst, C3>)
+VEMI_DEFINE(vemiYUV422ToRGB_8u_P3C3R, VEMI_STEPPED_DST(Vemi8u), from422<Columns422, C3>)
+VEMI_DEFINE(vemiYUV422ToRGB_8u_P3AC4R, VEMI_STEPPED_DST(Vemi8u), from422<Columns422WithZero, C4>)
+VEMI_DEFINE(vemiYUV422ToRGB_8u_P3R, VEMI_STEPPED_PLANES(Vemi8u), from422<Columns422, Planar>)
 VEMI_DEFINE(vemiYUV422ToRGB_8u_P3C3, VEMI_CONTIGUOUS_DST(Vemi8u), fromContiguous422<C3>)
 VEMI_DEFINE(vemiYUV422ToRGB_8u_P3, VEMI_CONTIGUOUS(Vemi8u), fromContiguous422<Planar>)
 
-VEMI_DEFINE(vemiYUV420ToRGB_8u_P3C3R, VEMI_STEPPED_DST(Vemi8u), from420<columns420, CallerRows, C3>)
-VEMI_DEFINE(vemiYUV420ToRGB_8u_P3AC4R, VEMI_STEPPED_DST(Vemi8u), from420<columns420WithZero, CallerRows, C4>)
-VEMI_DEFINE(vemiYUV420ToRGB_8u_P3R, VEMI_STEPPED_PLANES(Vemi8u), from420<columns420, CallerRows, Planar>)
+VEMI_DEFINE(vemiYUV420ToRGB_8u_P3C3R, VEMI_STEPPED_DST(Vemi8u), from420<Columns420, CallerRows, C3>)
+VEMI_DEFINE(vemiYUV420ToRGB_8u_P3AC4R, VEMI_STEPPED_DST(Vemi8u), from420<Columns420WithZero, CallerRows, C4>)
+VEMI_DEFINE(vemiYUV420ToRGB_8u_P3R, VEMI_STEPPED_PLANES(Vemi8u), from420<Columns420, CallerRows, Planar>)
 VEMI_DEFINE(vemiYUV420ToRGB_8u_P3C3, VEMI_CONTIGUOUS_DST(Vemi8u), fromContiguous420<C3>)
 VEMI_DEFINE(vemiYUV420ToRGB_8u_P3, VEMI_CONTIGUOUS(Vemi8u), fromContiguous420<Planar>)
-VEMI_DEFINE(vemiYUV420ToBGR_8u_P3C3R, VEMI_STEPPED_DST(Vemi8u), from420<columns420ToBgr, CallerRows, C3>)
+VEMI_DEFINE(vemiYUV420ToBGR_8u_P3C3R, VEMI_STEPPED_DST(Vemi8u), from420<Columns420ToBgr, CallerRows, C3>)
