@@ -27,7 +27,7 @@ TEST(Roots, AreRoundedOnce) {
   for (int order = Roots::firstOrder; order <= 18; ++order) {
     const int64_t quarter = int64_t{1} << (order - 2), turn = int64_t{1} << order;
     for (int64_t j = 0; j < quarter; ++j) {
-      const float* const block = roots.block(order, j / 16, own) + j % 16;
+      const float* const block = roots.block(order, static_cast<ptrdiff_t>(j / 16), own) + j % 16;
       for (int power = 1; power <= 3; ++power) {
         // To within an eighth of a turn, so that the reference is exact where the factor is.
         const int64_t k = power * j, eighths = (8 * k + turn / 2) / turn;

@@ -147,6 +147,8 @@ class Call {
   /// this call does. The constructor's call tells what the record was made of. Without a name, the only function that
   /// makes records of this type; a shape that does not ask gets such a record too.
   Call& record(const std::string& parameter, const std::string& constructor = "");
+  /// Frees the record that the function made, if it has made one, ahead of the call's own end.
+  void freeNewRecord() { record_.reset(); }
   /// What a function of a record and a result, such as vemiFFTGetBufSize_R_32f, says of a record.
   int sizeBy(const std::string& query, const std::string& record);
   /// Working memory of just so many bytes, at an odd address; where it may be null, it sometimes is.
