@@ -88,7 +88,7 @@ VemiStatus toFilteredPairsOfSignal(Image<const Vemi8u> src, Image<Vemi8u> dst, V
       const int width = static_cast<int>(std::min<ptrdiff_t>(pieceWidth, roiSize.width - x));
       vemiGammaFwd_8u_C3R(src.row(y) + 3 * x, 3 * width, signal, 3 * width, {width, 1});
       filteredRow(width, signal, before, dst.row(y) + 2 * x);
-      std::memcpy(before.channel, signal + 3 * (width - 1), 3);
+      std::memcpy(before.channel, signal + 3 * ptrdiff_t{width - 1}, 3);
     }
   }
   return vemiOk;

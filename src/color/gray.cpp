@@ -95,7 +95,7 @@ constexpr ThreeToWords threeToWords;
 /// upper ones the next eight: packed within blocks, they are in order.
 struct ThreeInWordsRow {
   using Element = uint8_t;
-  static constexpr int channels = 3, itemPixels = 1, streamedVectors = 0;
+  [[maybe_unused]] static constexpr int channels = 3, itemPixels = 1, streamedVectors = 0;
   static constexpr ptrdiff_t blockPixels = laneCount<uint8_t>;
 
   const uint8_t* first;
@@ -173,7 +173,7 @@ struct Floats {
 /// The colours of pixels with an alpha, four of which are transposed within blocks.
 struct FloatColoursRow {
   using Element = float;
-  static constexpr int channels = 3, itemPixels = 1, streamedVectors = 0;
+  [[maybe_unused]] static constexpr int channels = 3, itemPixels = 1, streamedVectors = 0;
   static constexpr ptrdiff_t blockPixels = laneCount<float>;
 
   const float* first;
@@ -188,7 +188,7 @@ struct FloatColoursRow {
   HWY_INLINE auto load(const F& f) const {
     const Lanes<float> d;
     const Lanes<double> dPairs;
-    const auto pixel = [&](int n) HWY_ATTR { return loadBlocks(d, first + 4 * n, 16); };
+    const auto pixel = [&](ptrdiff_t n) HWY_ATTR { return loadBlocks(d, first + 4 * n, 16); };
     const auto p0 = pixel(0), p1 = pixel(1), p2 = pixel(2), p3 = pixel(3);
     const auto redGreen0 = hn::BitCast(dPairs, hn::InterleaveLower(d, p0, p1));
     const auto redGreen2 = hn::BitCast(dPairs, hn::InterleaveLower(d, p2, p3));

@@ -31,7 +31,7 @@ struct FromRGB {
 
     const hn::Repartition<float, D> df;
     const hn::Repartition<int32_t, D> di;
-    const auto results = [&] HWY_ATTR {
+    const auto results = [&]() HWY_ATTR {
       if constexpr (sizeof(hn::TFromD<D>) == 1) {
         // Differences times reciprocals of bytes are exact, and so is what they add up to; and of all that are possible
         // none is rounded to another hue because the place is added behind the factor.

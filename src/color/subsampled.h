@@ -59,6 +59,8 @@ struct ColumnOps {
   Rest rest;
   Single single;
 };
+template <class Groups, class Rest, class Single>
+ColumnOps(Groups, Rest, Single) -> ColumnOps<Groups, Rest, Single>;
 
 /// One row. Streamed, its groups of eight are written past the caches.
 template <Stores how, class Ops, class Dst, class Src>

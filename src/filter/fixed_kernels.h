@@ -205,6 +205,9 @@ template <Weights weights, class S, int size>
 struct ColumnSum {
   const S* rows[size];
 
+  template <class... Row>
+  requires(sizeof...(Row) == size) explicit ColumnSum(Row... row) : rows{row...} {}
+
   template <class D>
   HWY_INLINE auto operator()(D d, ptrdiff_t i) const {
     return weightedSum<weights, size, false>(d, [&](int j) HWY_ATTR { return loadLanes(d, rows[j] + i); });
@@ -235,6 +238,10 @@ struct RowSum {
   using Sum = SumOf<S>;
   const Sum* sums[kernel.sums()];
   const S* middle;  // source row
+
+  RowSum(const Sum* sum, const S* middleRow) requires(kernel.sums() == 1) : sums{sum}, middle(middleRow) {}
+  RowSum(const Sum* ofOuter, const Sum* ofInner, const Sum* ofMiddle, const S* middleRow) requires(kernel.sums() == 3)
+      : sums{ofOuter, ofInner, ofMiddle}, middle(middleRow) {}
 
   template <class D>
   HWY_INLINE hn::Vec<D> sumOf(D d, ptrdiff_t i) const {

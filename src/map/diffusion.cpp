@@ -236,14 +236,14 @@ Diffusion::Diffusion(vemiDitherType type, int channels, ptrdiff_t width, int hig
   const auto lines = pieces.add<Vemi16u>(channels * rows * length);
   const auto noise = pieces.add<Vemi16s>(withNoise ? rows * length : 0);
   aboveLength_ = behind + width + behind + 2 * lag;
-  const auto above = pieces.add<Vemi32s>(channels * 3 * aboveLength_);
+  const auto above = pieces.add<Vemi32s>(Vemi64s{channels} * 3 * aboveLength_);
   scratch_ = Scratch(pieces);
   if (failed()) return;
   length_ = static_cast<ptrdiff_t>(length);
   lines_ = scratch_[lines];
   noise_ = scratch_[noise];
   above_ = scratch_[above];
-  std::memset(above_, 0, static_cast<size_t>(channels * 3 * aboveLength_) * sizeof(Vemi32s));
+  std::memset(above_, 0, static_cast<size_t>(ptrdiff_t{channels} * 3 * aboveLength_) * sizeof(Vemi32s));
   runChannel_ = type == vemiDitherFloydSteinberg      ? channelRunner<FloydSteinberg>(withNoise)
                 : type == vemiDitherJarvisJudiceNinke ? channelRunner<JarvisJudiceNinke>(withNoise)
                                                       : channelRunner<Stucki>(withNoise);
@@ -251,7 +251,7 @@ Diffusion::Diffusion(vemiDitherType type, int channels, ptrdiff_t width, int hig
 
 void Diffusion::run() const {
   for (int channel = 0; channel < channels_; ++channel) {
-    runChannel_(*this, line(channel, 0), above_ + channel * 3 * static_cast<ptrdiff_t>(aboveLength_));
+    runChannel_(*this, line(channel, 0), above_ + ptrdiff_t{channel} * 3 * aboveLength_);
   }
 }
 

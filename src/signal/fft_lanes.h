@@ -167,7 +167,7 @@ struct Groups {
   static constexpr int vectors = width / N;
 
   float* first;
-  ptrdiff_t stride = 2 * width;
+  ptrdiff_t stride = ptrdiff_t{2} * width;
 
   HWY_INLINE Groups from(ptrdiff_t group) const { return {first + group * stride, stride}; }
   /// Where the real part of a number stands; its imaginary part stands N floats on.
@@ -198,7 +198,7 @@ struct AlongLine {
 
   template <class K>
   HWY_INLINE Groups<width>::Numbers power(int n, ptrdiff_t, K k) const {
-    const float* const at = factors + (n - 1) * 2 * factorsAtOnce + k * Groups<width>::N;
+    const float* const at = factors + ptrdiff_t{2} * (n - 1) * factorsAtOnce + k * Groups<width>::N;
     return {hn::LoadU(D(), at), hn::LoadU(D(), at + factorsAtOnce)};
   }
 };
@@ -213,7 +213,7 @@ struct AcrossLines {
 
   template <class K>
   HWY_INLINE Groups<width>::Numbers power(int n, ptrdiff_t j, K) const {
-    const float* const at = factors + (n - 1) * 2 * factorsAtOnce + j;
+    const float* const at = factors + ptrdiff_t{2} * (n - 1) * factorsAtOnce + j;
     return {hn::Set(D(), at[0]), hn::Set(D(), at[factorsAtOnce])};
   }
 };

@@ -52,7 +52,7 @@ Roots::Roots(int order) : order_(order) {
   if (order <= lastInTables) return;
   coarseOrder_ = (order - 4) / 2;
   fineOrder_ = order - 4 - coarseOrder_;
-  const ptrdiff_t ofLevels = (order - lastInTables) * 3 * factorsAtOnce;
+  const ptrdiff_t ofLevels = ptrdiff_t{3} * (order - lastInTables) * factorsAtOnce;
   products_ = Scratch(arrayBytes<Root>(ofLevels + (Vemi64s{1} << coarseOrder_) + (Vemi64s{1} << fineOrder_)));
   if (!products_.failed()) fillProducts();
 }
@@ -80,7 +80,7 @@ void Roots::fillProducts() {
   for (int level = lastInTables + 1; level <= order_; ++level) {
     for (int power = 1; power <= 3; ++power) {
       for (int j = 0; j < factorsAtOnce; ++j) {
-        ofLevel(level)[(power - 1) * factorsAtOnce + j] = unitRoot(j * power, level);
+        ofLevel(level)[(power - 1) * factorsAtOnce + j] = unitRoot(Vemi64s{j} * power, level);
       }
     }
   }

@@ -49,7 +49,9 @@ class Roots {
     return order <= 6 ? order - firstOrder : (ptrdiff_t{1} << (order - 6)) + 2;
   }
 
-  Root* ofLevel(int order) const { return products_.as<Root>() + (order - lastInTables - 1) * 3 * factorsAtOnce; }
+  Root* ofLevel(int order) const {
+    return products_.as<Root>() + ptrdiff_t{3} * (order - lastInTables - 1) * factorsAtOnce;
+  }
   Root* coarse() const { return ofLevel(order_ + 1); }
   Root* fine() const { return coarse() + (ptrdiff_t{1} << coarseOrder_); }
 
