@@ -96,7 +96,8 @@ class Thresholds {
  public:
   explicit Thresholds(bool ordered) : rows_(ordered ? bayerSize : 1) {
     for (int y = 0; y < rows_; ++y) {
-      for (int x = 0; x < columns; ++x) row_[y][x] = ordered ? bayerThreshold(x % bayerSize, y) : 32767;
+      for (int x = 0; x < columns; ++x)
+        row_[y][x] = ordered ? bayerThreshold(static_cast<int>(x % bayerSize), y) : 32767;
     }
   }
 
