@@ -37,7 +37,8 @@ int dithered(int v, int bits, int x, int y) {
       {0, 1118, 279, 1398}, {1678, 559, 1957, 839}, {419, 1538, 139, 1258}, {2097, 978, 1817, 699}};
   static const int coarse[4][4] = {
       {0, 2312, 578, 2890}, {3468, 1156, 4046, 1734}, {867, 3179, 289, 2601}, {4335, 2023, 3757, 1445}};
-  const int t = (bits == 4 ? coarse : fine)[y % 4][x % 4];
+  const int* const row = bits == 4 ? coarse[y % 4] : fine[y % 4];
+  const int t = row[x % 4];
   if (bits == 4) {
     const int level = v * 15 >> 8;
     return level + (256 * (v - 17 * level) > t ? 1 : 0);
