@@ -106,10 +106,16 @@ HWY_INLINE hn::Vec<D> inHalves(D d, const F& f, V... v) {
 
 // ---- Memory of one width, lanes of another --------------------------------------------------------------------------
 
-/// Elements of a narrower integer type as lanes of D, with the same values.
+/// Elements of a narrower integer type, or of D's own, as lanes of D, with the same values. To doubles from no more
+/// than 32s.
 template <class D, class S>
 HWY_INLINE hn::Vec<D> loadExtended(D d, const S* in) {
-  if constexpr (std::is_floating_point_v<hn::TFromD<D>>) {
+  if constexpr (std::is_same_v<hn::TFromD<D>, S>) {
+    return hn::LoadU(d, in);
+  } else if constexpr (std::is_same_v<hn::TFromD<D>, double>) {
+    static_assert(!std::is_same_v<S, uint32_t>);
+    return hn::PromoteTo(d, loadExtended(hn::Rebind<int32_t, D>(), in));
+  } else if constexpr (std::is_floating_point_v<hn::TFromD<D>>) {
     return hn::ConvertTo(d, loadExtended(hn::RebindToSigned<D>(), in));
   } else {
     return hn::PromoteTo(d, hn::LoadU(hn::Rebind<S, D>(), in));

@@ -139,6 +139,21 @@ class RowRing {
   T* room(ptrdiff_t index) const { return reinterpret_cast<T*>(own_ + index * static_cast<ptrdiff_t>(pitch_)); }
 };
 
+/// What several rings need in one block.
+template <class... Ring>
+Pieces roomOf(const Ring&... ring) {
+  Pieces pieces;
+  (pieces.add<char>(ring.bytes()), ...);
+  return pieces;
+}
+
+/// The same rings, in the same order, into such a block.
+template <class... Ring>
+void placeRings(Memory block, Ring&... ring) {
+  Pieces pieces;
+  (ring.place(block[pieces.add<char>(ring.bytes())]), ...);
+}
+
 // ---- Stages -------------------------------------------------------------------------------------------------------
 
 /// In place of an input strand: tells a kernel the place of its block's first element. Inputs are then read where they

@@ -40,18 +40,6 @@ struct BoxCall {
 
 // ---- Sums of columns ----------------------------------------------------------------------------------------------
 
-/// Elements of any type as lanes of D.
-template <class D, class T>
-HWY_INLINE hn::Vec<D> loadAs(D d, const T* in) {
-  if constexpr (std::is_same_v<hn::TFromD<D>, T>) {
-    return hn::LoadU(d, in);
-  } else if constexpr (std::is_same_v<hn::TFromD<D>, double>) {
-    return hn::PromoteTo(d, loadExtended(hn::Rebind<int32_t, D>(), in));
-  } else {
-    return loadExtended(d, in);
-  }
-}
-
 /// From the oldest row to the newest.
 template <class T>
 struct ColumnSum {
@@ -60,8 +48,8 @@ struct ColumnSum {
 
   template <class D>
   HWY_INLINE auto operator()(D d, ptrdiff_t i) const {
-    auto sum = loadAs(d, rows[0] + i);
-    for (int j = 1; j < height; ++j) sum = hn::Add(sum, loadAs(d, rows[j] + i));
+    auto sum = loadExtended(d, rows[0] + i);
+    for (int j = 1; j < height; ++j) sum = hn::Add(sum, loadExtended(d, rows[j] + i));
     return sum;
   }
 };
@@ -69,7 +57,7 @@ struct ColumnSum {
 struct MovedOn {
   template <class D, class V, class T>
   HWY_INLINE V operator()(D d, V sum, const T* entering, const T* leaving) const {
-    return hn::Sub(hn::Add(sum, loadAs(d, entering)), loadAs(d, leaving));
+    return hn::Sub(hn::Add(sum, loadExtended(d, entering)), loadExtended(d, leaving));
   }
   template <class D, class V>
   HWY_INLINE V operator()(D, V sum, V entering, V leaving) const {
@@ -264,26 +252,23 @@ VemiStatus boxOfIntegers(const BoxCall<T>& call, const Quotient& quotient) {
   const Vemi64s elements = windowElements<L>(width, call.window);
   auto source = RowRing<T>::template ofSource<L>(call.window, width, call.inPlace, 1);
   RowRing<Sum> columns(2, elements), sums(1, elements + L::elements);
-  Pieces slice;
-  const auto ofSource = slice.add<char>(source.bytes());
-  const auto ofColumns = slice.add<char>(columns.bytes());
-  const auto ofSums = slice.add<char>(sums.bytes());
-  return forBands(call.who(), call.roiSize.height, {.slice = slice}, [=](int first, int rows, Memory own) {
-    auto ownSource = source;
-    auto ownColumns = columns;
-    auto ownSums = sums;
-    ownSource.place(own[ofSource]);
-    ownColumns.place(own[ofColumns]);
-    ownSums.place(own[ofSums]);
-    const auto row = [&](ptrdiff_t y, const Sum* column) {
-      Sum* const sum = ownSums.turn();
-      prefixSums<L>(ownColumns.elements(), column, sum);
-      const WindowSum<Sum> ofWindow = {sum, sum + ptrdiff_t{call.window.width} * L::elements};
-      mapPlaces<alphaOf<L>>(width * L::elements, Stage<WindowSum<Sum>, Quotient>{ofWindow, quotient}, call.dst.row(y));
-    };
-    constexpr ptrdiff_t never = std::numeric_limits<ptrdiff_t>::max();
-    forColumnSums(call, windowed<L>(call.src, call.window), {first, first + rows}, never, ownSource, ownColumns, row);
-  });
+  return forBands(call.who(), call.roiSize.height, {.slice = roomOf(source, columns, sums)},
+                  [=](int first, int rows, Memory own) {
+                    auto ownSource = source;
+                    auto ownColumns = columns;
+                    auto ownSums = sums;
+                    placeRings(own, ownSource, ownColumns, ownSums);
+                    const auto row = [&](ptrdiff_t y, const Sum* column) {
+                      Sum* const sum = ownSums.turn();
+                      prefixSums<L>(ownColumns.elements(), column, sum);
+                      const WindowSum<Sum> ofWindow = {sum, sum + ptrdiff_t{call.window.width} * L::elements};
+                      mapPlaces<alphaOf<L>>(width * L::elements, Stage<WindowSum<Sum>, Quotient>{ofWindow, quotient},
+                                            call.dst.row(y));
+                    };
+                    constexpr ptrdiff_t never = std::numeric_limits<ptrdiff_t>::max();
+                    forColumnSums(call, windowed<L>(call.src, call.window), {first, first + rows}, never, ownSource,
+                                  ownColumns, row);
+                  });
 }
 
 // ---- Floats -------------------------------------------------------------------------------------------------------
@@ -342,40 +327,35 @@ VemiStatus boxOfFloats(const BoxCall<T>& call, const MeanOf& meanOf) {
   auto source = RowRing<T>::template ofSource<L>(call.window, width, call.inPlace, 1);
   RowRing<float> columns(rowsAtOnce, windowElements<L>(width, call.window));
   RowRing<float> sums(rowsAtOnce, Vemi64s{width} * L::elements);
-  Pieces slice;
-  const auto ofSource = slice.add<char>(source.bytes());
-  const auto ofColumns = slice.add<char>(columns.bytes());
-  const auto ofSums = slice.add<char>(sums.bytes());
   const auto stretches = static_cast<int>((height - 1) / stretch + 1);
-  return forBands(call.who(), stretches, {.slice = slice}, [=](int firstStretch, int count, Memory own) {
-    auto ownSource = source;
-    auto ownColumns = columns;
-    auto ownSums = sums;
-    ownSource.place(own[ofSource]);
-    ownColumns.place(own[ofColumns]);
-    ownSums.place(own[ofSums]);
-    float* sum[rowsAtOnce];
-    for (float*& row : sum) row = ownSums.turn();
-    const int end = firstStretch + count;
-    const RowRange band = {firstStretch * stretch, end == stretches ? height : end * stretch};
-    int waiting = 0;
-    const auto row = [&](ptrdiff_t y, const float*) {
-      if (++waiting < rowsAtOnce && y + 1 < band.end) return;
-      const float* const* const newest = ownColumns.rows() + rowsAtOnce - waiting;
-      const float* column[rowsAtOnce];
-      float* to[rowsAtOnce];
-      for (int k = 0; k < rowsAtOnce; ++k) {  // in place of rows that are none, the first once more
-        column[k] = newest[k < waiting ? k : 0];
-        to[k] = sum[k < waiting ? k : 0];
-      }
-      windowSums<L>(width, call.window.width, column, to);
-      for (int k = 0; k < waiting; ++k) {
-        mapPlaces<alphaOf<L>>(width * L::elements, meanOf(to[k]), call.dst.row(y - waiting + 1 + k));
-      }
-      waiting = 0;
-    };
-    forColumnSums(call, windowed<L>(call.src, call.window), band, stretch, ownSource, ownColumns, row);
-  });
+  return forBands(call.who(), stretches, {.slice = roomOf(source, columns, sums)},
+                  [=](int firstStretch, int count, Memory own) {
+                    auto ownSource = source;
+                    auto ownColumns = columns;
+                    auto ownSums = sums;
+                    placeRings(own, ownSource, ownColumns, ownSums);
+                    float* sum[rowsAtOnce];
+                    for (float*& row : sum) row = ownSums.turn();
+                    const int end = firstStretch + count;
+                    const RowRange band = {firstStretch * stretch, end == stretches ? height : end * stretch};
+                    int waiting = 0;
+                    const auto row = [&](ptrdiff_t y, const float*) {
+                      if (++waiting < rowsAtOnce && y + 1 < band.end) return;
+                      const float* const* const newest = ownColumns.rows() + rowsAtOnce - waiting;
+                      const float* column[rowsAtOnce];
+                      float* to[rowsAtOnce];
+                      for (int k = 0; k < rowsAtOnce; ++k) {  // in place of rows that are none, the first once more
+                        column[k] = newest[k < waiting ? k : 0];
+                        to[k] = sum[k < waiting ? k : 0];
+                      }
+                      windowSums<L>(width, call.window.width, column, to);
+                      for (int k = 0; k < waiting; ++k) {
+                        mapPlaces<alphaOf<L>>(width * L::elements, meanOf(to[k]), call.dst.row(y - waiting + 1 + k));
+                      }
+                      waiting = 0;
+                    };
+                    forColumnSums(call, windowed<L>(call.src, call.window), band, stretch, ownSource, ownColumns, row);
+                  });
 }
 
 // ---- Three by three bytes -----------------------------------------------------------------------------------------
@@ -417,35 +397,32 @@ VemiStatus box3x3(const BoxCall<Vemi8u>& call) {
   const ptrdiff_t width = call.roiSize.width;
   auto source = RowRing<Vemi8u>::ofSource<L>(call.window, width, call.inPlace);
   RowRing<Vemi16u> sums(1, windowElements<L>(width, call.window));
-  Pieces slice;
-  const auto ofSource = slice.add<char>(source.bytes());
-  const auto ofSums = slice.add<char>(sums.bytes());
-  return forBands(call.who(), call.roiSize.height, {.slice = slice}, [=](int first, int rows, Memory own) {
-    const auto src = windowed<L>(call.src, call.window);
-    auto ownSource = source;
-    auto ownSums = sums;
-    ownSource.place(own[ofSource]);
-    ownSums.place(own[ofSums]);
-    const auto enter = [&](ptrdiff_t y) { ownSource.take(src.row(y)); };
-    const auto row = [&](ptrdiff_t y) {
-      const Vemi8u* const* const three = ownSource.rows();
-      Vemi16u* const sum = ownSums.turn();
-      mapPlaces(ownSums.elements(), eachPlace(ThreeRows{{three[0], three[1], three[2]}}), sum);
-      const auto ninths = [&]<bool toNearest>(ptrdiff_t x, ptrdiff_t n, Ninth<toNearest> ninth) {
-        using Stage = NarrowMean<ThreeColumns<L>, Ninth<toNearest>>;
-        mapPlaces<alphaOf<L>>(n * L::elements, Stage{{sum + x * L::elements}, ninth},
-                              call.dst.row(y) + x * L::elements);
-      };
-      if constexpr (L::elements == 1) {
-        forRegimes<8, 1>(
-            width, [&](ptrdiff_t x, ptrdiff_t n) { ninths(x, n, Ninth<true>()); },
-            [&](ptrdiff_t x, ptrdiff_t n) { ninths(x, n, Ninth<false>()); });
-      } else {
-        ninths(0, width, Ninth<false>());
-      }
-    };
-    forWindows(call.window, first, rows, enter, row);
-  });
+  return forBands(call.who(), call.roiSize.height, {.slice = roomOf(source, sums)},
+                  [=](int first, int rows, Memory own) {
+                    const auto src = windowed<L>(call.src, call.window);
+                    auto ownSource = source;
+                    auto ownSums = sums;
+                    placeRings(own, ownSource, ownSums);
+                    const auto enter = [&](ptrdiff_t y) { ownSource.take(src.row(y)); };
+                    const auto row = [&](ptrdiff_t y) {
+                      const Vemi8u* const* const three = ownSource.rows();
+                      Vemi16u* const sum = ownSums.turn();
+                      mapPlaces(ownSums.elements(), eachPlace(ThreeRows{{three[0], three[1], three[2]}}), sum);
+                      const auto ninths = [&]<bool toNearest>(ptrdiff_t x, ptrdiff_t n, Ninth<toNearest> ninth) {
+                        using Stage = NarrowMean<ThreeColumns<L>, Ninth<toNearest>>;
+                        mapPlaces<alphaOf<L>>(n * L::elements, Stage{{sum + x * L::elements}, ninth},
+                                              call.dst.row(y) + x * L::elements);
+                      };
+                      if constexpr (L::elements == 1) {
+                        forRegimes<8, 1>(
+                            width, [&](ptrdiff_t x, ptrdiff_t n) { ninths(x, n, Ninth<true>()); },
+                            [&](ptrdiff_t x, ptrdiff_t n) { ninths(x, n, Ninth<false>()); });
+                      } else {
+                        ninths(0, width, Ninth<false>());
+                      }
+                    };
+                    forWindows(call.window, first, rows, enter, row);
+                  });
 }
 
 // ---- The choice ---------------------------------------------------------------------------------------------------

@@ -192,15 +192,6 @@ HWY_INLINE V divideBy571(D d, V outer, V inner, V middle) {
 template <class S>
 using SumOf = std::conditional_t<sizeof(S) == 1, int16_t, std::conditional_t<sizeof(S) == 2, int32_t, float>>;
 
-template <class D, class S>
-HWY_INLINE hn::Vec<D> loadLanes(D d, const S* in) {
-  if constexpr (std::is_same_v<hn::TFromD<D>, S>) {
-    return hn::LoadU(d, in);
-  } else {
-    return loadExtended(d, in);
-  }
-}
-
 template <Weights weights, class S, int size>
 struct ColumnSum {
   const S* rows[size];
@@ -210,7 +201,7 @@ struct ColumnSum {
 
   template <class D>
   HWY_INLINE auto operator()(D d, ptrdiff_t i) const {
-    return weightedSum<weights, size, false>(d, [&](int j) HWY_ATTR { return loadLanes(d, rows[j] + i); });
+    return weightedSum<weights, size, false>(d, [&](int j) HWY_ATTR { return loadExtended(d, rows[j] + i); });
   }
 };
 
@@ -223,7 +214,7 @@ HWY_NOINLINE void sumColumns(ptrdiff_t count, const S* const* rowsOfCaller, Sum*
   std::copy_n(rowsOfCaller, kernel.size, rows.begin());
   const auto block = [=](Sum* toOuter, Sum* toInner, Sum* toMiddle, ptrdiff_t i) HWY_ATTR {
     Vectors<hn::Vec<decltype(d)>, kernel.size> in;
-    unrolled<kernel.size>([&](auto j) HWY_ATTR { in.v[j] = loadLanes(d, rows[j] + i); });
+    unrolled<kernel.size>([&](auto j) HWY_ATTR { in.v[j] = loadExtended(d, rows[j] + i); });
     const auto at = [&](int j) HWY_ATTR { return in.v[j]; };
     hn::StoreU(weightedSum<kernel.column[0], kernel.size, true>(d, at), d, toOuter);
     hn::StoreU(weightedSum<kernel.column[1], kernel.size, true>(d, at), d, toInner);
@@ -256,7 +247,7 @@ struct RowSum {
     } else {
       auto sum = weightedSum<kernel.row, size, kernel.sums() == 3>(d, at);
       if constexpr (kernel.centre != 0) {
-        sum = hn::Sub(times<kernel.centre>(d, loadLanes(d, middle + i + size / 2 * elements)), sum);
+        sum = hn::Sub(times<kernel.centre>(d, loadExtended(d, middle + i + size / 2 * elements)), sum);
       }
       return quotient<kernel.divisor>(d, sum);
     }
@@ -299,13 +290,9 @@ VemiStatus filtered(Image<const S> image, Image<T> dst, VemiSize roiSize) {
   const ptrdiff_t width = roiSize.width;
   auto source = RowRing<S>::template ofSource<L>(window, width, false);
   RowRing<Sum> sums(kernel.sums(), windowElements<L>(width, window));
-  Pieces pieces;
-  const auto ofSource = pieces.add<char>(source.bytes());
-  const auto ofSums = pieces.add<char>(sums.bytes());
-  const Scratch scratch(pieces);
+  const Scratch scratch(roomOf(source, sums));
   if (scratch.failed()) return vemiErrMemAlloc;
-  source.place(scratch[ofSource]);
-  sums.place(scratch[ofSums]);
+  placeRings(scratch.memory(), source, sums);
 
   const auto src = windowed<L>(image, window);
   const auto enter = [&](ptrdiff_t y) { source.take(src.row(y)); };

@@ -31,12 +31,9 @@ struct FilterCall {
 /// One block for all rings.
 template <class... Ring>
 Scratch placed(Ring&... ring) {
-  Pieces pieces;
-  return [&](auto... piece) {
-    Scratch scratch(pieces);
-    (ring.place(scratch[piece]), ...);
-    return scratch;
-  }(pieces.add<char>(ring.bytes())...);
+  Scratch scratch(roomOf(ring...));
+  placeRings(scratch.memory(), ring...);
+  return scratch;
 }
 
 // ---- Sums with weights 1 2 1 and 1 4 6 4 1 in both directions -----------------------------------------------------
