@@ -248,9 +248,6 @@ auto weighted(const float (&w)[3]) {
 
 template <class L, class T, class Op>
 VemiStatus mapToGray(Image<const T> src, Image<T> dst, VemiSize roiSize, const Op& op) {
-  if constexpr (hasRegimes<Op>) {  // contiguous rows of whole groups may be one
-    if (roiSize.width % Op::group == 0) return mapToGray<L>(src, dst, roiSize, op.block);
-  }
   const auto map = [&] {
     mapPixelRegion(CallerRows(), roiSize, op, pixelsOf<C1>(dst), pixelsOf<L>(src));
     return vemiOk;

@@ -30,14 +30,11 @@ VemiStatus checkConversion(Src src, Dst dst, VemiSize roiSize) {
   return firstOf(checkImages(src, dst, roiSize), checkStep(src, dst));
 }
 
-/// dst = Op()(channels of src), in the calling thread. Rows of whole groups of eight without a gap are one long row.
+/// dst = Op()(channels of src), in the calling thread.
 template <class SL, class DL, class Op, class Src, class Dst>
 VemiStatus convert(Src src, Dst dst, VemiSize roiSize) {
   if (const VemiStatus bad = checkConversion(src, dst, roiSize)) return bad;
-  const auto to = pixelsIn<DL>(dst);
-  const auto from = pixelsIn<SL>(src);
-  const bool merged = roiSize.width % 8 == 0 && to.isContiguous(roiSize) && from.isContiguous(roiSize);
-  mapPixelRows(CallerRows(), mergedExtent(roiSize, merged), Op(), to, from);
+  mapPixelRegion(CallerRows(), roiSize, Op(), pixelsIn<DL>(dst), pixelsIn<SL>(src));
   return vemiOk;
 }
 

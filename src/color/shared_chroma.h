@@ -56,6 +56,16 @@ struct PixelWords {
   }
 };
 
+/// The bytes of f(words of each channel...), a vector for each of three channels, which is given even pixels and odd
+/// ones.
+template <class D, class F, class... V>
+HWY_INLINE auto bytesByWords(D d, const F& f, V... channel) {
+  const auto ofWords = [&](auto... words) HWY_ATTR {
+    return PixelWords<D, 3>{f(words.lower...), f(words.upper...)}.bytes(d);
+  };
+  return ofWords(wordsOfPixels(d, channel)...);
+}
+
 /// Words of chroma that two pixels share, as bytes.
 template <class D, class V>
 HWY_INLINE auto chromaBytes(D, V words) {

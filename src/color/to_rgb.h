@@ -72,8 +72,8 @@ template <const ExactMatrix& matrix>
 struct ExactToRgb {
   template <class D, class V, class C>
   HWY_INLINE auto operator()(D d, V y, C u, C v) const {
-    const auto luma = wordsOfPixels(d, y), us = wordsOfPixels(d, u), vs = wordsOfPixels(d, v);
-    return PixelWords<D, 3>{pixels(luma.lower, us.lower, vs.lower), pixels(luma.upper, us.upper, vs.upper)}.bytes(d);
+    return bytesByWords(
+        d, [](auto... words) HWY_ATTR { return pixels(words...); }, y, u, v);
   }
 
  private:

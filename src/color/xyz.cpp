@@ -19,8 +19,8 @@ template <const auto& matrix>
 struct SumOfTwoParts {
   template <class D, class V>
   HWY_INLINE auto operator()(D d, V v0, V v1, V v2) const {
-    const auto a = wordsOfPixels(d, v0), b = wordsOfPixels(d, v1), c = wordsOfPixels(d, v2);
-    return PixelWords<D, 3>{rows(a.lower, b.lower, c.lower), rows(a.upper, b.upper, c.upper)}.bytes(d);
+    return bytesByWords(
+        d, [](auto... words) HWY_ATTR { return rows(words...); }, v0, v1, v2);
   }
 
  private:

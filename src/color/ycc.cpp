@@ -33,8 +33,8 @@ HWY_INLINE V mulHighOfBytes(V bytes, int factor) {
 struct GroupsToYcc {
   template <class D, class V>
   HWY_INLINE auto operator()(D d, V red, V green, V blue) const {
-    const auto r = wordsOfPixels(d, red), g = wordsOfPixels(d, green), b = wordsOfPixels(d, blue);
-    return PixelWords<D, 3>{of(r.lower, g.lower, b.lower), of(r.upper, g.upper, b.upper)}.bytes(d);
+    return bytesByWords(
+        d, [](auto... words) HWY_ATTR { return of(words...); }, red, green, blue);
   }
 
  private:
@@ -56,8 +56,8 @@ struct GroupsToYcc {
 struct GroupsFromYcc {
   template <class D, class V>
   HWY_INLINE auto operator()(D d, V luma, V chroma1, V chroma2) const {
-    const auto y = wordsOfPixels(d, luma), c1 = wordsOfPixels(d, chroma1), c2 = wordsOfPixels(d, chroma2);
-    return PixelWords<D, 3>{of(y.lower, c1.lower, c2.lower), of(y.upper, c1.upper, c2.upper)}.bytes(d);
+    return bytesByWords(
+        d, [](auto... words) HWY_ATTR { return of(words...); }, luma, chroma1, chroma2);
   }
 
  private:
@@ -195,9 +195,6 @@ using WordsFromYcc = OfWords<FromYcc>;
 
 template <class Op, class L, class Src, class Dst>
 VemiStatus ycc(Src src, Dst dst, VemiSize roiSize) {
-  if constexpr (hasRegimes<Op>) {  // contiguous rows of whole groups may be one
-    if (roiSize.width % Op::group == 0) return ycc<decltype(Op::block), L>(src, dst, roiSize);
-  }
   return convertPixels<Op, L, L, Stores::streamed>(src, dst, roiSize);
 }
 

@@ -67,11 +67,11 @@ void mapPixelRows(const Rows& rows, Extent extent, const Op& op, Dst dst, Src...
   }
 }
 
-/// The same, where contiguous rows that stay in one thread are one long row, unless an operation has regimes.
+/// The same, where contiguous rows that stay in one thread are one long row, if the operation's columns allow it.
 template <Stores how = Stores::streamed, class Rows, class Op, class Dst, class... Src>
 void mapPixelRegion(const Rows& rows, VemiSize roiSize, const Op& op, Dst dst, Src... src) {
   const bool contiguous = dst.isContiguous(roiSize) && (src.isContiguous(roiSize) && ...);
-  const bool merged = !hasRegimes<Op> && rows.inOneThread() && contiguous;
+  const bool merged = canJoinRows(op, roiSize.width) && rows.inOneThread() && contiguous;
   mapPixelRows<how>(rows, mergedExtent(roiSize, merged), op, dst, src...);
 }
 

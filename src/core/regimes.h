@@ -37,11 +37,15 @@ constexpr Regimes<group, BlockOp, RestOp> regimes(BlockOp block, RestOp rest) {
   return {block, rest};
 }
 
-/// Contiguous rows must stay rows where the columns of each decide.
+/// Whether contiguous rows of so many columns may be one long row: where columns decide, rows of whole groups alone.
 template <class Op>
-inline constexpr bool hasRegimes = false;
+constexpr bool canJoinRows(const Op&, ptrdiff_t) {
+  return true;
+}
 template <int group, class BlockOp, class RestOp>
-inline constexpr bool hasRegimes<Regimes<group, BlockOp, RestOp>> = true;
+constexpr bool canJoinRows(const Regimes<group, BlockOp, RestOp>&, ptrdiff_t width) {
+  return width % group == 0;
+}
 
 template <int group, class BlockOp, class RestOp, class Dst, class... Src>
 void mapPixels(ptrdiff_t width, const Regimes<group, BlockOp, RestOp>& op, Dst dst, Src... src) {
