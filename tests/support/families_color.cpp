@@ -203,7 +203,7 @@ bool tooLow(Call& call) {
 
 /// A step a byte shorter than its row, if it is not bad already: those of all planes, or the packed one.
 bool shorten(Call& call, bool isPacked, int plane) {
-  const int width = call.get<VemiSize>("roiSize").width / 2 * 2;
+  const int width = std::clamp(call.get<VemiSize>("roiSize").width, 0, 1 << 20) / 2 * 2;  // it may be bad as well
   const int row = isPacked ? 2 * width : plane == 0 ? width : width / 2;
   const std::string step = call.function.source.planar == isPacked ? "dstStep" : "srcStep";
   const int former = isPacked ? call.get<int>(step) : load<int>(call.image(step).planes[0].first + plane * 4);
