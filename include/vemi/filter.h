@@ -772,6 +772,12 @@ VEMI_API VemiStatus vemiDilate_32f_AC4IR(Vemi32f* pSrcDst, int srcDstStep, VemiS
 
 /** @} */
 
+/* ---- Kernels of the user's ---- */
+
+/* ---- Ranks ---- */
+
+/* ---- Noise ---- */
+
 /** @} */
 
 #ifdef __cplusplus

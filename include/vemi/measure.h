@@ -1045,6 +1045,10 @@ VEMI_API VemiStatus vemiQualityIndex_32f_AC4R(const Vemi32f* pSrc1, int src1Step
 
 /** @} */
 
+/* ---- Templates ---- */
+
+/* ---- Convolution of images ---- */
+
 /** @} */
 
 #ifdef __cplusplus

@@ -172,6 +172,14 @@ VEMI_API VemiStatus vemiFFTInv_CToC_32fc_C1R(const Vemi32fc* pSrc, int srcStep, 
 
 /** @} */
 
+/* ---- Fourier transforms of any size ---- */
+
+/* ---- Cosine transforms ---- */
+
+/* ---- Wavelets ---- */
+
+/* ---- Packed spectra ---- */
+
 /** @} */
 
 #ifdef __cplusplus

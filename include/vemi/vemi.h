@@ -20,6 +20,7 @@
 #include "vemi/core.h"
 #include "vemi/filter.h"
 #include "vemi/generate.h"
+#include "vemi/geometry.h"
 #include "vemi/map.h"
 #include "vemi/measure.h"
 #include "vemi/status.h"

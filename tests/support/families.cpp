@@ -11,8 +11,8 @@ namespace {
 const std::vector<Family>& families() {
   static const std::vector<Family> table = [] {
     std::vector<Family> all;
-    for (const auto& rows : {coreFamilies, arithFamilies, mapFamilies, colorFamilies, filterFamilies, measureFamilies,
-                             generateFamilies, transformFamilies}) {
+    for (const auto& rows : {coreFamilies, arithFamilies, mapFamilies, colorFamilies, filterFamilies, geometryFamilies,
+                             measureFamilies, generateFamilies, transformFamilies}) {
       for (const Family& row : rows()) all.push_back(row);
     }
     return all;

@@ -52,6 +52,7 @@ std::vector<Family> arithFamilies();
 std::vector<Family> mapFamilies();
 std::vector<Family> colorFamilies();
 std::vector<Family> filterFamilies();
+std::vector<Family> geometryFamilies();
 std::vector<Family> measureFamilies();
 std::vector<Family> generateFamilies();
 std::vector<Family> transformFamilies();

@@ -118,6 +118,12 @@ bool shortDestination(Call& call) {
   return true;
 }
 
+// ---- Kernels of the user's ------------------------------------------------------------------------------------------
+
+// ---- Ranks ----------------------------------------------------------------------------------------------------------
+
+// ---- Noise ----------------------------------------------------------------------------------------------------------
+
 }  // namespace
 
 std::vector<Family> filterFamilies() {
@@ -171,6 +177,13 @@ std::vector<Family> filterFamilies() {
         {"step of the source", 0, "stride", vemiErrStride, shortSource},
         {"step of the destination", 0, "stride", vemiErrStride, shortDestination}},
        takeNumbers},
+
+      // Kernels of the user's
+
+      // Ranks
+
+      // Noise
+
   };
 }
 

@@ -202,6 +202,10 @@ void alikeImages(Call& call) {
   }
 }
 
+// ---- Templates ------------------------------------------------------------------------------------------------------
+
+// ---- Convolution of images ------------------------------------------------------------------------------------------
+
 }  // namespace
 
 std::vector<Family> measureFamilies() {
@@ -261,6 +265,11 @@ std::vector<Family> measureFamilies() {
        {{"nLevels", 1, "channels", vemiErrHistogramLevels},
         {"nLevels", 0, "channels", vemiErrHistogramLevels},
         {"nLevels", INT_MIN, "channels", vemiErrHistogramLevels}}},
+
+      // Templates
+
+      // Convolution of images
+
   };
 }
 

@@ -44,6 +44,14 @@ void moderateFloats(Call& call) {
   }
 }
 
+// ---- Fourier transforms of any size ---------------------------------------------------------------------------------
+
+// ---- Cosine transforms ----------------------------------------------------------------------------------------------
+
+// ---- Wavelets -------------------------------------------------------------------------------------------------------
+
+// ---- Packed spectra -------------------------------------------------------------------------------------------------
+
 }  // namespace
 
 std::vector<Family> transformFamilies() {
@@ -66,6 +74,15 @@ std::vector<Family> transformFamilies() {
        sizeByFFT,
        {},
        moderateFloats},
+
+      // Fourier transforms of any size
+
+      // Cosine transforms
+
+      // Wavelets
+
+      // Packed spectra
+
   };
 }
 
