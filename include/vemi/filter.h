@@ -774,7 +774,95 @@ VEMI_API VemiStatus vemiDilate_32f_AC4IR(Vemi32f* pSrcDst, int srcDstStep, VemiS
 
 /* ---- Kernels of the user's ---- */
 
-/* ---- Ranks ---- */
+/* ---- Ranks ------------------------------------------------------------------------------------------------------- */
+
+/**
+ * @defgroup vemi_filter_extremes vemiFilterMin, vemiFilterMax: the least or the greatest pixel of a rectangle
+ *
+ *     vemiFilterMin:  pDst(x, y) = min of pSrc(x + i - anchor.x, y + j - anchor.y)
+ *     vemiFilterMax:  pDst(x, y) = max of the same,  i = 0..maskSize.width - 1, j = 0..maskSize.height - 1
+ *
+ * Each channel by itself; AC4 forms leave the fourth channel of the destination as it is. Which of the values results
+ * where a NaN takes part, or zeros of both signs, is not said, but it is the same on every processor. A mask of one
+ * pixel copies. The time for a pixel grows with the logarithm of the mask's sides.
+ *
+ * **Pixels read around the region**: anchor.x columns to the left and maskSize.width - 1 - anchor.x to the right of it,
+ * anchor.y rows above and maskSize.height - 1 - anchor.y below it. All of them must exist.
+ *
+ * @param pSrc,srcStep  first pixel of the region in the source, and the bytes between its rows
+ * @param pDst,dstStep  the same of the destination, which shares no pixel with any that are read
+ * @param roiSize       size of the region in pixels
+ * @param maskSize      width and height of the rectangle, 1 or more each, odd or even
+ * @param anchor        where in the rectangle the pixel lies: from (0, 0), its top left pixel, to
+ *                      (maskSize.width - 1, maskSize.height - 1)
+ *
+ * **Statuses**, in the order of the tests: null, size, step (see status.h); then
+ *
+ * - vemiErrMaskSize: a width or a height of the mask is below 1
+ * - vemiErrAnchor: an anchor outside of the mask
+ * - vemiErrMemAlloc: no memory for rows
+ *
+ * **Threads.** All forms run in the calling thread.
+ *
+ *     vemiFilterMax_8u_C1R(photo + 2 * step + 2, step, light, lightStep, inner, {5, 5}, {2, 2});
+ * @{
+ */
+
+VEMI_API VemiStatus vemiFilterMin_8u_C1R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep, VemiSize roiSize,
+                                         VemiSize maskSize, VemiPoint anchor);
+VEMI_API VemiStatus vemiFilterMin_8u_C3R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep, VemiSize roiSize,
+                                         VemiSize maskSize, VemiPoint anchor);
+VEMI_API VemiStatus vemiFilterMin_8u_C4R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep, VemiSize roiSize,
+                                         VemiSize maskSize, VemiPoint anchor);
+VEMI_API VemiStatus vemiFilterMin_8u_AC4R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep, VemiSize roiSize,
+                                          VemiSize maskSize, VemiPoint anchor);
+
+VEMI_API VemiStatus vemiFilterMin_16s_C1R(const Vemi16s* pSrc, int srcStep, Vemi16s* pDst, int dstStep,
+                                          VemiSize roiSize, VemiSize maskSize, VemiPoint anchor);
+VEMI_API VemiStatus vemiFilterMin_16s_C3R(const Vemi16s* pSrc, int srcStep, Vemi16s* pDst, int dstStep,
+                                          VemiSize roiSize, VemiSize maskSize, VemiPoint anchor);
+VEMI_API VemiStatus vemiFilterMin_16s_C4R(const Vemi16s* pSrc, int srcStep, Vemi16s* pDst, int dstStep,
+                                          VemiSize roiSize, VemiSize maskSize, VemiPoint anchor);
+VEMI_API VemiStatus vemiFilterMin_16s_AC4R(const Vemi16s* pSrc, int srcStep, Vemi16s* pDst, int dstStep,
+                                           VemiSize roiSize, VemiSize maskSize, VemiPoint anchor);
+
+VEMI_API VemiStatus vemiFilterMin_32f_C1R(const Vemi32f* pSrc, int srcStep, Vemi32f* pDst, int dstStep,
+                                          VemiSize roiSize, VemiSize maskSize, VemiPoint anchor);
+VEMI_API VemiStatus vemiFilterMin_32f_C3R(const Vemi32f* pSrc, int srcStep, Vemi32f* pDst, int dstStep,
+                                          VemiSize roiSize, VemiSize maskSize, VemiPoint anchor);
+VEMI_API VemiStatus vemiFilterMin_32f_C4R(const Vemi32f* pSrc, int srcStep, Vemi32f* pDst, int dstStep,
+                                          VemiSize roiSize, VemiSize maskSize, VemiPoint anchor);
+VEMI_API VemiStatus vemiFilterMin_32f_AC4R(const Vemi32f* pSrc, int srcStep, Vemi32f* pDst, int dstStep,
+                                           VemiSize roiSize, VemiSize maskSize, VemiPoint anchor);
+
+VEMI_API VemiStatus vemiFilterMax_8u_C1R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep, VemiSize roiSize,
+                                         VemiSize maskSize, VemiPoint anchor);
+VEMI_API VemiStatus vemiFilterMax_8u_C3R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep, VemiSize roiSize,
+                                         VemiSize maskSize, VemiPoint anchor);
+VEMI_API VemiStatus vemiFilterMax_8u_C4R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep, VemiSize roiSize,
+                                         VemiSize maskSize, VemiPoint anchor);
+VEMI_API VemiStatus vemiFilterMax_8u_AC4R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep, VemiSize roiSize,
+                                          VemiSize maskSize, VemiPoint anchor);
+
+VEMI_API VemiStatus vemiFilterMax_16s_C1R(const Vemi16s* pSrc, int srcStep, Vemi16s* pDst, int dstStep,
+                                          VemiSize roiSize, VemiSize maskSize, VemiPoint anchor);
+VEMI_API VemiStatus vemiFilterMax_16s_C3R(const Vemi16s* pSrc, int srcStep, Vemi16s* pDst, int dstStep,
+                                          VemiSize roiSize, VemiSize maskSize, VemiPoint anchor);
+VEMI_API VemiStatus vemiFilterMax_16s_C4R(const Vemi16s* pSrc, int srcStep, Vemi16s* pDst, int dstStep,
+                                          VemiSize roiSize, VemiSize maskSize, VemiPoint anchor);
+VEMI_API VemiStatus vemiFilterMax_16s_AC4R(const Vemi16s* pSrc, int srcStep, Vemi16s* pDst, int dstStep,
+                                           VemiSize roiSize, VemiSize maskSize, VemiPoint anchor);
+
+VEMI_API VemiStatus vemiFilterMax_32f_C1R(const Vemi32f* pSrc, int srcStep, Vemi32f* pDst, int dstStep,
+                                          VemiSize roiSize, VemiSize maskSize, VemiPoint anchor);
+VEMI_API VemiStatus vemiFilterMax_32f_C3R(const Vemi32f* pSrc, int srcStep, Vemi32f* pDst, int dstStep,
+                                          VemiSize roiSize, VemiSize maskSize, VemiPoint anchor);
+VEMI_API VemiStatus vemiFilterMax_32f_C4R(const Vemi32f* pSrc, int srcStep, Vemi32f* pDst, int dstStep,
+                                          VemiSize roiSize, VemiSize maskSize, VemiPoint anchor);
+VEMI_API VemiStatus vemiFilterMax_32f_AC4R(const Vemi32f* pSrc, int srcStep, Vemi32f* pDst, int dstStep,
+                                           VemiSize roiSize, VemiSize maskSize, VemiPoint anchor);
+
+/** @} */
 
 /* ---- Noise ---- */
 

@@ -122,6 +122,24 @@ bool shortDestination(Call& call) {
 
 // ---- Ranks ----------------------------------------------------------------------------------------------------------
 
+/// Floats among which the order is one of values, also where rows lie over each other: there, any four bytes are one.
+void takeOrdered(Call& call) {
+  if (call.scenario.rows != Rows::overlapping) return takeNumbers(call);
+  const View source = call.source();
+  if (source.element != Element::f32) return;
+  const Margin margin = call.image("pSrc").margin;
+  for (int y = -margin.top; y < source.size.height + margin.bottom; ++y) {
+    const std::byte* const end = source.at(source.size.width + margin.right, y);
+    for (std::byte* byte = source.at(-margin.left, y); byte < end; ++byte) *byte = std::byte(call.random.below(64));
+  }
+}
+
+/// Small rectangles mostly, some of them long.
+void drawRectangle(Call& call) {
+  const int large = call.random.below(16) == 0 ? 40 : 7;
+  setMask(call, {1 + call.random.below(large), 1 + call.random.below(large)});
+}
+
 // ---- Noise ----------------------------------------------------------------------------------------------------------
 
 }  // namespace
@@ -181,6 +199,16 @@ std::vector<Family> filterFamilies() {
       // Kernels of the user's
 
       // Ranks
+      {"vemiFilterMin vemiFilterMax",
+       ".*",
+       "null size step mask anchor",
+       drawRectangle,
+       {{"maskSize", 0, "mask", vemiErrMaskSize},
+        {"maskSize", INT_MIN, "mask", vemiErrMaskSize},
+        {"anchor", -1, "anchor", vemiErrAnchor},
+        {"anchor", 1000, "anchor", vemiErrAnchor},
+        {"anchor", INT_MAX, "anchor", vemiErrAnchor}},
+       takeOrdered},
 
       // Noise
 
