@@ -43,6 +43,25 @@ Root unitRoot(Vemi64s k, int order) {
   return {sineInTurn(at + turn / 4, turn, sine), -sineInTurn(at, turn, sine)};
 }
 
+Root rootOfLength(Vemi64s k, Vemi64s length) {
+  const Lanes<double> d;
+  constexpr double turn = 6.283185307179586;
+  // The nearest quarter turn, and an angle of at most an eighth.
+  const Vemi64s at = 4 * (k % length), quarters = (2 * at + length) / (2 * length);
+  const double angle = static_cast<double>(at - quarters * length) * (turn / (4 * static_cast<double>(length)));
+  const double s = hn::GetLane(Sine()(d, hn::Set(d, angle))), c = hn::GetLane(Cosine()(d, hn::Set(d, angle)));
+  switch (quarters % 4) {
+    case 0:
+      return {c, -s};
+    case 1:
+      return {-s, -c};
+    case 2:
+      return {-c, s};
+    default:
+      return {s, c};
+  }
+}
+
 Roots::Roots(int order) : order_(order) {
   if (order < firstOrder) return;
   const int inTables = std::min(order, lastInTables);

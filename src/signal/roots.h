@@ -16,6 +16,9 @@ struct Root {
 };
 Root unitRoot(Vemi64s k, int order);
 
+/// Of exp(-2 pi i k / length) for k from 0 on; whole quarters of a turn are exact.
+Root rootOfLength(Vemi64s k, Vemi64s length);
+
 /// Factors for 16 consecutive j: w^j, w^2j and w^3j, of each 16 real parts and 16 imaginary parts.
 inline constexpr ptrdiff_t factorsAtOnce = 16;
 inline constexpr ptrdiff_t factorBlock = 6 * factorsAtOnce;

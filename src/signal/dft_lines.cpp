@@ -1,0 +1,313 @@
+// Lengths with small factors go through levels of these factors. Others are convolutions of a power of two: as n k =
+// (n^2 + k^2 - (k - n)^2) / 2, with c(n) = exp(-pi i n^2 / N), X(k) = c(k) times the sum of x(n) c(n) conj(c(k - n)).
+
+#include "signal/dft_lines.h"
+
+#include <algorithm>
+#include <bit>
+
+#include "signal/dft_levels.h"
+
+namespace vemi::signal {
+namespace {
+
+/// The largest prime factor of what odd divisors from 3 on, in turn up to 149, leave of a length: it is the length
+/// itself where nothing was divided.
+constexpr int largestFactor = 149;
+
+struct Factors {
+  int count = 0;
+  int factor[32] = {};
+  Vemi64s rest = 1;
+
+  explicit Factors(Vemi64s length) {
+    for (; length % 2 == 0; length /= 2) factor[count++] = 2;
+    for (int odd = 3; odd <= largestFactor && Vemi64s{odd} * odd <= length; odd += 2) {
+      for (; length % odd == 0 && Vemi64s{odd} * odd <= length; length /= odd) factor[count++] = odd;
+    }
+    rest = length;
+  }
+};
+
+/// Small radices ahead, and of powers of two the largest behind: the last level has no factors to multiply by.
+int radicesOf(Vemi64s length, int* radix) {
+  const Factors factors(length);
+  int count = 0, twos = 0;
+  if (factors.rest > 1) radix[count++] = static_cast<int>(factors.rest);
+  for (int i = factors.count - 1; i >= 0; --i) {
+    if (factors.factor[i] == 2) {
+      ++twos;
+    } else {
+      radix[count++] = factors.factor[i];
+    }
+  }
+  if (twos % 3 == 2) radix[count++] = 4;
+  if (twos == 1) radix[count++] = 2;
+  const bool endsWith16 = twos % 3 == 1 && twos > 1;
+  for (int i = 0; i < twos / 3 - (endsWith16 ? 1 : 0); ++i) radix[count++] = 8;
+  if (endsWith16) radix[count++] = 16;
+  return count;
+}
+
+void setPair(float* pair, Root root) {
+  pair[0] = static_cast<float>(root.re);
+  pair[1] = static_cast<float>(root.im);
+}
+
+template <int points>
+HWY_INLINE void shortTransformOfReversed(ColumnGroups::Numbers* z) {
+  ColumnGroups::Numbers natural[points];
+  unrolled<points>([&](auto n) HWY_ATTR { natural[n] = z[frequencyOf(n, points)]; });
+  ShortTransform<points>::run(natural);
+  unrolled<points>([&](auto n) HWY_ATTR { z[n] = natural[frequencyOf(n, points)]; });
+}
+
+/// The last transforms of `points` numbers, times the filter, and the first of the way back, from places with their
+/// bits reversed to natural ones, with real and imaginary parts changed over.
+template <int points>
+HWY_NOINLINE HWY_FLATTEN void filterEnds(ColumnGroups data, int order, const float* filter) {
+  using Numbers = ColumnGroups::Numbers;
+  const ColumnGroups::D d;
+  for (ptrdiff_t first = 0; first < ptrdiff_t{1} << order; first += points) {
+    unrolled<ColumnGroups::vectors>([&](auto k) HWY_ATTR {
+      Numbers z[points];
+      unrolled<points>([&](auto n) HWY_ATTR { z[n] = data.load(first + n, k); });
+      ShortTransform<points>::run(z);
+      unrolled<points>([&](auto n) HWY_ATTR {
+        const float* const f = filter + 2 * (first + n);
+        z[n] = swapped(z[n] * Numbers{hn::Set(d, f[0]), hn::Set(d, f[1])});
+      });
+      shortTransformOfReversed<points>(z);
+      unrolled<points>([&](auto n) HWY_ATTR { data.store(first + n, k, z[n]); });
+    });
+  }
+}
+
+/// The opposite of levelByFour: quarters that are transforms of every fourth number become one.
+template <class Store>
+HWY_INLINE void joinByFour(ColumnGroups data, const Roots& roots, int order, const Store& store) {
+  const ptrdiff_t quarter = ptrdiff_t{1} << (order - 2);
+  forFactors<AcrossLines>(roots, order, [&](AcrossLines w, ptrdiff_t j, ptrdiff_t within, auto k) HWY_ATTR {
+    auto a = data.load(j, k), b = data.load(j + 2 * quarter, k) * w.power(1, within, k),
+         c = data.load(j + quarter, k) * w.power(2, within, k),
+         d = data.load(j + 3 * quarter, k) * w.power(3, within, k);
+    butterfly(a, b, c, d);
+    store(j, 0, k, a);
+    store(j, 1, k, c);
+    store(j, 2, k, b);
+    store(j, 3, k, d);
+  });
+}
+
+HWY_NOINLINE HWY_FLATTEN void joinsByFour(ColumnGroups data, const Roots& roots, int order, int end) {
+  if (order <= end) return;
+  const ptrdiff_t groups = ptrdiff_t{1} << order;
+  const auto join = [&](ColumnGroups own, int levelOrder) HWY_ATTR {
+    const ptrdiff_t quarter = ptrdiff_t{1} << (levelOrder - 2);
+    joinByFour(own, roots, levelOrder,
+               [&](ptrdiff_t j, int part, auto k, auto z) HWY_ATTR { own.store(j + part * quarter, k, z); });
+  };
+  if (groups > groupsInCache) {
+    for (int i = 0; i < 4; ++i) joinsByFour(data.from(i * groups / 4), roots, order - 2, end);
+    join(data, order);
+    return;
+  }
+  for (int own = order - (order - end - 2) / 2 * 2; own <= order; own += 2) {
+    for (int i = 0; i < 1 << (order - own); ++i) join(data.from(groups * i >> (order - own)), own);
+  }
+}
+
+}  // namespace
+
+bool isFactorable(Vemi64s length) {
+  const Factors factors(length);
+  return factors.count > 0 && factors.rest <= largestFactor;
+}
+
+DFTMethod methodOf(Vemi64s length, int longestDirectSum) {
+  if (length <= 4) return DFTMethod::few;
+  if (std::has_single_bit(static_cast<uint64_t>(length))) return DFTMethod::powerOfTwo;
+  if (isFactorable(length)) return DFTMethod::factors;
+  return length <= longestDirectSum ? DFTMethod::direct : DFTMethod::chirp;
+}
+
+int orderOfChirp(Vemi64s length) { return static_cast<int>(std::bit_width(static_cast<uint64_t>(2 * length - 2))); }
+
+Vemi64s groupsOf(Vemi64s length, DFTMethod method) {
+  return method == DFTMethod::chirp ? Vemi64s{1} << orderOfChirp(length) : length;
+}
+
+DFTLines::DFTLines(Vemi64s length, int longestDirectSum)
+    : length_(static_cast<ptrdiff_t>(length)), method_(methodOf(length, longestDirectSum)) {
+  groups_ = static_cast<ptrdiff_t>(groupsOf(length, method_));
+  if (method_ == DFTMethod::powerOfTwo || method_ == DFTMethod::chirp) {
+    order_ = std::countr_zero(static_cast<size_t>(groups_));
+    roots_ = Roots(order_);
+    failed_ = roots_.failed();
+    if (method_ == DFTMethod::chirp && !failed_) makeChirp();
+  } else {
+    makeLevels();
+  }
+}
+
+void DFTLines::makeLevels() {
+  int radix[mostLevels];
+  levels_ = length_ == 1 ? 0 : radicesOf(length_, radix);
+  Pieces pieces;
+  const auto places = pieces.add<Vemi32s>(length_);
+  Piece<float> factors[mostLevels], waves[mostLevels];
+  ptrdiff_t count = length_;
+  for (int i = 0; i < levels_; ++i) {
+    level_[i] = {radix[i], count, nullptr, nullptr};
+    count /= radix[i];
+    factors[i] = pieces.add<float>(Vemi64s{2} * count * (radix[i] - 1));
+    waves[i] = pieces.add<float>(radix[i] % 2 == 0 ? 0 : Vemi64s{2} * (radix[i] / 2) * (radix[i] / 2));
+  }
+  tables_ = Scratch(pieces);
+  const Scratch scratch(arrayBytes<float>(Vemi64s{2} * length_));
+  failed_ = tables_.failed() || scratch.failed();
+  if (failed_) return;
+
+  float* const root = scratch.as<float>();
+  for (ptrdiff_t k = 0; k < length_; ++k) setPair(root + 2 * k, rootOfLength(k, length_));
+  const auto copyRoot = [&](float* to, Vemi64s k, Vemi64s step) {
+    const ptrdiff_t at = static_cast<ptrdiff_t>(k * step % length_);
+    to[0] = root[2 * at];
+    to[1] = root[2 * at + 1];
+  };
+  Vemi32s* const place = tables_[places];
+  place[0] = 0;
+  ptrdiff_t step = 1;  // roots of this level among those of the length
+  for (int i = 0; i < levels_; ++i) {
+    const int r = radix[i];
+    const ptrdiff_t part = level_[i].length / r;
+    float* factor = tables_[factors[i]];
+    level_[i].factors = factor;
+    for (ptrdiff_t j = 0; j < part; ++j) {
+      for (int n = 1; n < r; ++n, factor += 2) copyRoot(factor, Vemi64s{j} * frequencyOf(n, r), step);
+    }
+    float* wave = tables_[waves[i]];
+    level_[i].waves = wave;
+    for (int k = 1; r % 2 != 0 && k <= r / 2; ++k) {
+      for (int n = 1; n <= r / 2; ++n, wave += 2) {
+        copyRoot(wave, Vemi64s{k} * n % r, length_ / r);
+        wave[1] = -wave[1];
+      }
+    }
+    // Frequencies below `step` have their places; those of the same lower digits follow a part behind each other.
+    for (int n = 1; n < r; ++n) {
+      for (ptrdiff_t k = 0; k < step; ++k) {
+        place[k + n * step] = place[k] + static_cast<Vemi32s>(frequencyOf(n, r) * part);
+      }
+    }
+    step *= r;
+  }
+  places_ = place;
+}
+
+void DFTLines::makeChirp() {
+  Pieces pieces;
+  const auto chirps = pieces.add<float>(Vemi64s{2} * length_), filters = pieces.add<float>(Vemi64s{2} * groups_);
+  tables_ = Scratch(pieces);
+  Pieces ofDoubles;
+  const auto numbers = ofDoubles.add<Root>(groups_), roots = ofDoubles.add<Root>(groups_ / 2);
+  const Scratch scratch(ofDoubles);
+  failed_ = tables_.failed() || scratch.failed();
+  if (failed_) return;
+
+  float *const chirp = tables_[chirps], *const filter = tables_[filters];
+  Root *const number = scratch[numbers], *const root = scratch[roots];
+  for (ptrdiff_t n = 0; n < groups_; ++n) number[n] = {0, 0};
+  for (ptrdiff_t n = 0; n < length_; ++n) {
+    const Root c = rootOfLength(Vemi64s{n} * n % (Vemi64s{2} * length_), Vemi64s{2} * length_);
+    setPair(chirp + 2 * n, c);
+    number[n] = {c.re, -c.im};
+    if (n > 0) number[groups_ - n] = number[n];
+  }
+  // The filter's transform, in double precision, leaves it with its bits reversed.
+  for (ptrdiff_t k = 0; k < groups_ / 2; ++k) root[k] = unitRoot(k, order_);
+  for (ptrdiff_t half = groups_ / 2; half > 0; half /= 2) {
+    for (ptrdiff_t first = 0; first < groups_; first += 2 * half) {
+      for (ptrdiff_t j = 0; j < half; ++j) {
+        Root &a = number[first + j], &b = number[first + j + half];
+        const Root w = root[j * (groups_ / 2 / half)], d = {a.re - b.re, a.im - b.im};
+        a = {a.re + b.re, a.im + b.im};
+        b = {d.re * w.re - d.im * w.im, d.re * w.im + d.im * w.re};
+      }
+    }
+  }
+  const double scale = 1 / static_cast<double>(groups_);
+  for (ptrdiff_t k = 0; k < groups_; ++k) setPair(filter + 2 * k, {number[k].re * scale, number[k].im * scale});
+  chirp_ = chirp;
+  filter_ = filter;
+}
+
+void DFTLines::runLevels(ColumnGroups data, int first) const {
+  const ptrdiff_t length = level_[first].length;
+  const auto run = [&](const Level& level, ptrdiff_t blocks) {
+    const ptrdiff_t count = level.length / level.radix;
+    switch (level.radix) {
+      case 2:
+        return levelOf<2>(data, count, blocks, level.factors);
+      case 3:
+        return levelOf<3>(data, count, blocks, level.factors);
+      case 4:
+        return levelOf<4>(data, count, blocks, level.factors);
+      case 5:
+        return levelOf<5>(data, count, blocks, level.factors);
+      case 7:
+        return levelOf<7>(data, count, blocks, level.factors);
+      case 8:
+        return levelOf<8>(data, count, blocks, level.factors);
+      case 16:
+        return levelOf<16>(data, count, blocks, level.factors);
+      default:
+        return levelOfPrime(data, level.radix, count, blocks, level.factors, level.waves);
+    }
+  };
+  if (length > groupsInCache && first + 1 < levels_) {
+    run(level_[first], 1);
+    for (int i = 0; i < level_[first].radix; ++i) runLevels(data.from(i * level_[first + 1].length), first + 1);
+    return;
+  }
+  for (int i = first; i < levels_; ++i) run(level_[i], length / level_[i].length);
+}
+
+void DFTLines::convolve(ColumnGroups data) const {
+  using Numbers = ColumnGroups::Numbers;
+  const ColumnGroups::D d;
+  const auto withChirp = [&](ptrdiff_t n, Numbers z) HWY_ATTR {
+    return z * Numbers{hn::Set(d, chirp_[2 * n]), hn::Set(d, chirp_[2 * n + 1])};
+  };
+  const int end = order_ % 2 == 0 ? 4 : 3;
+  const ptrdiff_t quarter = groups_ / 4;
+  levelByFour<AcrossLines>(data, roots_, order_, [&](ptrdiff_t n, auto k) HWY_ATTR {
+    return n < length_ ? withChirp(n, data.load(n, k)) : Numbers{hn::Zero(d), hn::Zero(d)};
+  });
+  for (int i = 0; i < 4; ++i) levelsByFour<AcrossLines>(data.from(i * quarter), roots_, order_ - 2, end);
+  if (end == 4) {
+    filterEnds<16>(data, order_, filter_);
+  } else {
+    filterEnds<8>(data, order_, filter_);
+  }
+  for (int i = 0; i < 4; ++i) joinsByFour(data.from(i * quarter), roots_, order_ - 2, end);
+  joinByFour(data, roots_, order_, [&](ptrdiff_t j, int part, auto k, Numbers z) HWY_ATTR {
+    const ptrdiff_t n = j + part * quarter;
+    if (part < 2 && n < length_) data.store(n, k, withChirp(n, swapped(z)));
+  });
+}
+
+void DFTLines::transform(ColumnGroups data) const {
+  switch (method_) {
+    case DFTMethod::powerOfTwo:
+      return transformColumns(
+          data, roots_, order_, [&](ptrdiff_t group, auto k) HWY_ATTR { return data.load(group, k); },
+          [&](ptrdiff_t place, ptrdiff_t, auto k, auto z) HWY_ATTR { data.store(place, k, z); });
+    case DFTMethod::chirp:
+      return convolve(data);
+    default:
+      if (levels_ > 0) runLevels(data, 0);
+  }
+}
+
+}  // namespace vemi::signal

@@ -1,0 +1,83 @@
+// Discrete Fourier transforms of any length, of eight lines side by side in lanes: columns of an image, or rows that
+// were transposed.
+//
+//   X(k) = sum of x(n) exp(-2 pi i n k / N), n = 0 to N - 1, unscaled; for the other sign, callers change over real and
+//   imaginary parts at both ends
+//
+// Memory has a group for each number: Groups<8>, 8 real parts and 8 imaginary parts, vector by vector.
+//
+//   const DFTLines lines(1080);
+//   if (lines.failed()) return vemiErrMemAlloc;
+//   ...                                       // lines.groups() groups of 16 floats, number n of each line in group n
+//   lines.transform(data);                    // in place
+//   data.load(lines.place(k), ...)            // frequency k
+#pragma once
+
+#include "core/scratch.h"
+#include "signal/fft_columns.h"
+#include "signal/roots.h"
+
+namespace vemi::signal {
+
+/// Primes up to here are direct sums, and longer ones are chirps; in real lines, the second.
+inline constexpr int longestDirect = 150, longestDirectReal = 180;
+
+/// Composite, and without a prime factor above 149.
+bool isFactorable(Vemi64s length);
+
+/// How lines of a length are transformed, from the length alone.
+enum class DFTMethod { few, powerOfTwo, factors, direct, chirp };
+DFTMethod methodOf(Vemi64s length, int longestDirectSum = longestDirect);
+
+/// The order of the power of two that a chirp is convolved in: at least 2 N - 1.
+int orderOfChirp(Vemi64s length);
+
+/// Groups that transform() works in; more than the length for chirps.
+Vemi64s groupsOf(Vemi64s length, DFTMethod method);
+
+class DFTLines {
+ public:
+  DFTLines() = default;
+  explicit DFTLines(Vemi64s length, int longestDirectSum = longestDirect);
+
+  bool failed() const { return failed_; }
+  ptrdiff_t length() const { return length_; }
+  ptrdiff_t groups() const { return groups_; }
+
+  /// In place. What the groups behind number N - 1 hold is of no account.
+  void transform(ColumnGroups data) const;
+
+  /// Where frequency k stands afterwards.
+  HWY_INLINE ptrdiff_t place(ptrdiff_t k) const {
+    return places_ != nullptr ? places_[k] : method_ == DFTMethod::powerOfTwo ? bitsReversed(k, order_) : k;
+  }
+
+ private:
+  static constexpr int mostLevels = 20;
+
+  /// `radix` numbers a radix-th of `length` apart are combined and multiplied by powers of w = exp(-2 pi i / length).
+  struct Level {
+    int radix;
+    ptrdiff_t length;
+    const float* factors;  // for j = 0, 1, ...: the factors of the results 1, 2, ... as they are stored
+    const float* waves;    // of primes: cos and sin of 2 pi i k / radix for i = 1 to radix / 2, for k = 1 to radix / 2
+  };
+
+  ptrdiff_t length_ = 0, groups_ = 0;
+  DFTMethod method_ = DFTMethod::few;
+  int order_ = 0;  // of the power of two, or of the chirp's
+  int levels_ = 0;
+  bool failed_ = false;
+  Level level_[mostLevels] = {};
+  Scratch tables_;
+  Roots roots_;
+  const Vemi32s* places_ = nullptr;
+  const float *chirp_ = nullptr, *filter_ = nullptr;  // pairs; the filter with its bits reversed
+
+  void makeLevels();
+  void makeChirp();
+  void runLevels(ColumnGroups data, int first) const;
+  void convolve(ColumnGroups data) const;
+};
+
+}  // namespace vemi::signal
