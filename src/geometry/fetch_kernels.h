@@ -1,0 +1,147 @@
+// What the kernels of all interpolations share: blocks of coordinates inside the limits and outside, the places that
+// they name, and the nearest pixel. A kernel is a record with `items`, the pixels of its block, and
+// operator()(out, x, y), for which coordinates may be anything.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <cstring>
+
+#include "core/blocks.h"
+#include "core/layout.h"
+#include "core/processor.h"
+#include "geometry/fetch.h"
+
+namespace vemi {
+
+using DFloats = Lanes<float>;
+using DIntegers = Lanes<int32_t>;
+using Floats = hn::Vec<DFloats>;
+using Integers = hn::Vec<DIntegers>;
+
+/// Coordinates in a vector.
+inline constexpr ptrdiff_t placeCount = laneCount<float>;
+
+// ---- Inside and outside -----------------------------------------------------------------------------------------
+
+/// All bits of the lanes whose coordinates are fetched.
+HWY_INLINE Integers insideOf(const FetchLimits& limits, const float* x, const float* y) {
+  const DFloats d;
+  const auto within = [&](Floats v, float low, float high)
+                          HWY_ATTR { return hn::And(hn::Ge(v, hn::Set(d, low)), hn::Le(v, hn::Set(d, high))); };
+  const auto both =
+      hn::And(within(hn::LoadU(d, x), limits.left, limits.right), within(hn::LoadU(d, y), limits.top, limits.bottom));
+  return hn::VecFromMask(DIntegers(), hn::RebindMask(DIntegers(), both));
+}
+
+/// A row by a kernel of the interpolation. Blocks that lie inside go straight to the destination.
+template <class L, class T, class Kernel>
+HWY_INLINE void fetchBlocks(const FetchSource& source, const Kernel& fetch, ptrdiff_t count, const float* x,
+                            const float* y, T* dst) {
+  constexpr ptrdiff_t items = Kernel::items;
+  const FetchLimits limits = source.limits;
+  const auto block = [&](T* out, const float* xs, const float* ys) HWY_ATTR {
+    const DIntegers d;
+    auto all = hn::Set(d, -1);
+    unrolled<items / placeCount>(
+        [&](auto k) HWY_ATTR { all = hn::And(all, insideOf(limits, xs + k * placeCount, ys + k * placeCount)); });
+    if (HWY_LIKELY(hn::AllTrue(d, hn::MaskFromVec(all)))) return fetch(out, xs, ys);
+    alignas(laneAlignment) int32_t inside[items];
+    alignas(laneAlignment) T pixel[items * L::elements] = {};
+    auto any = hn::Zero(d);
+    unrolled<items / placeCount>([&](auto k) HWY_ATTR {
+      const auto each = insideOf(limits, xs + k * placeCount, ys + k * placeCount);
+      hn::Store(each, d, inside + k * placeCount);
+      any = hn::Or(any, each);
+    });
+    if (hn::AllFalse(d, hn::MaskFromVec(any))) return;
+    fetch(pixel, xs, ys);
+    for (ptrdiff_t i = 0; i < items; ++i) {
+      if (inside[i] != 0) {
+        std::memcpy(out + i * L::elements, pixel + i * L::elements, L::channels * sizeof(T));
+      }
+    }
+  };
+  forBlocks<items>(count, block, Strand<T, L::elements>{dst}, Strand<const float>{x}, Strand<const float>{y});
+}
+
+// ---- Places -----------------------------------------------------------------------------------------------------
+
+/// The nearest coordinate of the image; a NaN becomes one too.
+HWY_INLINE Floats limited(Floats v, float last) {
+  const DFloats d;
+  return greater(lesser(v, hn::Set(d, last)), hn::Zero(d));
+}
+
+/// A column or row, and how far behind it the coordinate lies.
+struct Tap {
+  Integers first;
+  Floats rest;
+};
+
+/// The first of two; the last one of the image is a whole pixel behind the last but one. What is subtracted are floats
+/// without fractions, so that widths that no float holds do no harm.
+HWY_INLINE Tap firstOfTwo(const float* at, float last, int pixels) {
+  const DFloats d;
+  const DIntegers di;
+  const auto v = limited(hn::LoadU(d, at), last);
+  const auto whole = truncated(di, v);
+  const auto isLast = hn::Gt(whole, hn::Set(di, pixels - 2));
+  const auto rest = hn::Sub(v, hn::ConvertTo(d, whole));
+  return {hn::Add(whole, hn::VecFromMask(di, isLast)),
+          hn::IfThenElse(hn::RebindMask(d, isLast), hn::Set(d, 1.0f), rest)};
+}
+
+/// The first of four.
+HWY_INLINE Tap firstOfFour(const float* at, float last, int pixels) {
+  const DFloats d;
+  const DIntegers di;
+  const auto v = limited(hn::LoadU(d, at), last);
+  const auto whole = truncated(di, v);
+  const auto before = hn::Sub(whole, hn::Set(di, 1));
+  const auto first = hn::Max(hn::Min(before, hn::Set(di, pixels - 4)), hn::Zero(di));
+  const auto fraction = hn::Sub(v, hn::ConvertTo(d, whole));
+  return {first, hn::Add(fraction, hn::ConvertTo(d, hn::Sub(whole, first)))};
+}
+
+// ---- The nearest pixel --------------------------------------------------------------------------------------------
+
+template <class T, class L>
+struct Nearest {
+  static constexpr ptrdiff_t items = placeCount;
+  FetchSource source;
+
+  HWY_INLINE void operator()(T* out, const float* x, const float* y) const {
+    const DFloats d;
+    const DIntegers di;
+    alignas(laneAlignment) int32_t column[items], row[items];
+    hn::Store(rounded(di, limited(hn::LoadU(d, x), source.image.right)), di, column);
+    hn::Store(rounded(di, limited(hn::LoadU(d, y), source.image.bottom)), di, row);
+    for (ptrdiff_t i = 0; i < items; ++i) {
+      const char* const pixel = source.pixels.at(column[i] * pixelBytes<T, L>, row[i]);
+      std::memcpy(out + i * L::elements, pixel, L::channels * sizeof(T));
+    }
+  }
+};
+
+// ---- Rows ---------------------------------------------------------------------------------------------------------
+
+template <class T, class L, class Kernel>
+void fetchByKernel(const FetchSource& source, ptrdiff_t count, const float* x, const float* y, T* dst) {
+  fetchBlocks<L>(source, Kernel{source}, count, x, y, dst);
+}
+
+/// Linear and Cubic are the kernels of these pixels.
+template <class T, class L, class Linear, class Cubic>
+FetchRow<T> fetchRowOf(int interpolation) {
+  switch (interpolation) {
+    case vemiInterNearest:
+      return fetchByKernel<T, L, Nearest<T, L>>;
+    case vemiInterLinear:
+      return fetchByKernel<T, L, Linear>;
+    default:
+      return fetchByKernel<T, L, Cubic>;
+  }
+}
+
+}  // namespace vemi
