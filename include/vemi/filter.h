@@ -88,10 +88,14 @@ extern "C" {
  * @{
  */
 
-/** The size of a fixed kernel. */
+/** The size of a fixed kernel or of a fixed neighbourhood: the digits are its columns and its rows. */
 enum {
   vemiMask3x3 = 33, /**< three columns, three rows */
-  vemiMask5x5 = 55  /**< five columns, five rows */
+  vemiMask5x5 = 55, /**< five columns, five rows */
+  vemiMask3x1 = 31, /**< three pixels in a row */
+  vemiMask5x1 = 51, /**< five pixels in a row */
+  vemiMask1x3 = 13, /**< three pixels in a column */
+  vemiMask1x5 = 15  /**< five pixels in a column */
 };
 
 /**
@@ -861,6 +865,86 @@ VEMI_API VemiStatus vemiFilterMax_32f_C4R(const Vemi32f* pSrc, int srcStep, Vemi
                                           VemiSize roiSize, VemiSize maskSize, VemiPoint anchor);
 VEMI_API VemiStatus vemiFilterMax_32f_AC4R(const Vemi32f* pSrc, int srcStep, Vemi32f* pDst, int dstStep,
                                            VemiSize roiSize, VemiSize maskSize, VemiPoint anchor);
+
+/** @} */
+
+/**
+ * @defgroup vemi_filter_median_lines vemiFilterMedianHoriz, vemiFilterMedianVert, vemiFilterMedianCross
+ *
+ * The median of the pixels around each pixel: that which comes in the middle when they are put in order. Single pixels
+ * that differ from all around them, such as salt and pepper, go, and edges stay where they are.
+ *
+ *     form                      maskSize     the neighbourhood of (x, y)
+ *     vemiFilterMedianHoriz     vemiMask3x1  (x - 1, y) to (x + 1, y)
+ *                               vemiMask5x1  (x - 2, y) to (x + 2, y)
+ *     vemiFilterMedianVert      vemiMask1x3  (x, y - 1) to (x, y + 1)
+ *                               vemiMask1x5  (x, y - 2) to (x, y + 2)
+ *     vemiFilterMedianCross     vemiMask3x3  (x, y), and one pixel above, below, to the left and to the right of it: 5
+ *                               vemiMask5x5  (x, y), and two pixels on each of these sides: 9
+ *
+ * Each channel by itself; AC4 forms leave the fourth channel of the destination as it is. The pixels of the
+ * neighbourhood are read, also around the region, where they must exist, and no others.
+ *
+ * @param pSrc,srcStep  first pixel of the region in the source, and the bytes between its rows
+ * @param pDst,dstStep  the same of the destination, which shares no pixel with any that are read
+ * @param roiSize       size of the region in pixels
+ * @param maskSize      one of the two values in the table
+ *
+ * **Statuses**, in the order of the tests: null, size, step (see status.h); then vemiErrMaskSize for any other
+ * maskSize.
+ *
+ * **Threads.** AC4 forms share regions of more than 4096 pixels in a team; the others run in the calling thread.
+ *
+ *     vemiFilterMedianCross_8u_C1R(photo + step + 1, step, clean, cleanStep, inner, vemiMask3x3);
+ * @{
+ */
+
+VEMI_API VemiStatus vemiFilterMedianHoriz_8u_C1R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep,
+                                                 VemiSize roiSize, int maskSize);
+VEMI_API VemiStatus vemiFilterMedianHoriz_8u_C3R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep,
+                                                 VemiSize roiSize, int maskSize);
+VEMI_API VemiStatus vemiFilterMedianHoriz_8u_C4R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep,
+                                                 VemiSize roiSize, int maskSize);
+VEMI_API VemiStatus vemiFilterMedianHoriz_8u_AC4R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep,
+                                                  VemiSize roiSize, int maskSize);
+VEMI_API VemiStatus vemiFilterMedianHoriz_16s_C1R(const Vemi16s* pSrc, int srcStep, Vemi16s* pDst, int dstStep,
+                                                  VemiSize roiSize, int maskSize);
+VEMI_API VemiStatus vemiFilterMedianHoriz_16s_C3R(const Vemi16s* pSrc, int srcStep, Vemi16s* pDst, int dstStep,
+                                                  VemiSize roiSize, int maskSize);
+VEMI_API VemiStatus vemiFilterMedianHoriz_16s_C4R(const Vemi16s* pSrc, int srcStep, Vemi16s* pDst, int dstStep,
+                                                  VemiSize roiSize, int maskSize);
+VEMI_API VemiStatus vemiFilterMedianHoriz_16s_AC4R(const Vemi16s* pSrc, int srcStep, Vemi16s* pDst, int dstStep,
+                                                   VemiSize roiSize, int maskSize);
+
+VEMI_API VemiStatus vemiFilterMedianVert_8u_C1R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep,
+                                                VemiSize roiSize, int maskSize);
+VEMI_API VemiStatus vemiFilterMedianVert_8u_C3R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep,
+                                                VemiSize roiSize, int maskSize);
+VEMI_API VemiStatus vemiFilterMedianVert_8u_C4R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep,
+                                                VemiSize roiSize, int maskSize);
+VEMI_API VemiStatus vemiFilterMedianVert_8u_AC4R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep,
+                                                 VemiSize roiSize, int maskSize);
+VEMI_API VemiStatus vemiFilterMedianVert_16s_C1R(const Vemi16s* pSrc, int srcStep, Vemi16s* pDst, int dstStep,
+                                                 VemiSize roiSize, int maskSize);
+VEMI_API VemiStatus vemiFilterMedianVert_16s_C3R(const Vemi16s* pSrc, int srcStep, Vemi16s* pDst, int dstStep,
+                                                 VemiSize roiSize, int maskSize);
+VEMI_API VemiStatus vemiFilterMedianVert_16s_C4R(const Vemi16s* pSrc, int srcStep, Vemi16s* pDst, int dstStep,
+                                                 VemiSize roiSize, int maskSize);
+VEMI_API VemiStatus vemiFilterMedianVert_16s_AC4R(const Vemi16s* pSrc, int srcStep, Vemi16s* pDst, int dstStep,
+                                                  VemiSize roiSize, int maskSize);
+
+VEMI_API VemiStatus vemiFilterMedianCross_8u_C1R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep,
+                                                 VemiSize roiSize, int maskSize);
+VEMI_API VemiStatus vemiFilterMedianCross_8u_C3R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep,
+                                                 VemiSize roiSize, int maskSize);
+VEMI_API VemiStatus vemiFilterMedianCross_8u_AC4R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep,
+                                                  VemiSize roiSize, int maskSize);
+VEMI_API VemiStatus vemiFilterMedianCross_16s_C1R(const Vemi16s* pSrc, int srcStep, Vemi16s* pDst, int dstStep,
+                                                  VemiSize roiSize, int maskSize);
+VEMI_API VemiStatus vemiFilterMedianCross_16s_C3R(const Vemi16s* pSrc, int srcStep, Vemi16s* pDst, int dstStep,
+                                                  VemiSize roiSize, int maskSize);
+VEMI_API VemiStatus vemiFilterMedianCross_16s_AC4R(const Vemi16s* pSrc, int srcStep, Vemi16s* pDst, int dstStep,
+                                                   VemiSize roiSize, int maskSize);
 
 /** @} */
 

@@ -134,6 +134,18 @@ void takeOrdered(Call& call) {
   }
 }
 
+/// Masks by number: the pixels that they reach, of the first digit in a row, of the second in a column.
+void drawMask(Call& call, std::initializer_list<int> masks) {
+  const int mask = *(masks.begin() + call.random.below(2));
+  call.set("maskSize", mask);
+  const int across = mask / 10 / 2, down = mask % 10 / 2;
+  call.image("pSrc").margin = {across, down, across, down};
+}
+
+void drawLine(Call& call) { drawMask(call, {31, 51}); }
+void drawColumn(Call& call) { drawMask(call, {13, 15}); }
+void drawSquare(Call& call) { drawMask(call, {33, 55}); }
+
 /// Small rectangles mostly, some of them long.
 void drawRectangle(Call& call) {
   const int large = call.random.below(16) == 0 ? 40 : 7;
@@ -149,6 +161,12 @@ std::vector<Family> filterFamilies() {
                                             {"maskSize", 0, "mask", vemiErrMaskSize},
                                             {"maskSize", 53, "mask", vemiErrMaskSize},
                                             {"maskSize", INT_MIN, "mask", vemiErrMaskSize}};
+  const std::vector<OwnFault> notHoriz = {{"maskSize", 13, "mask", vemiErrMaskSize},
+                                          {"maskSize", 33, "mask", vemiErrMaskSize},
+                                          {"maskSize", INT_MIN, "mask", vemiErrMaskSize}};
+  const std::vector<OwnFault> notVert = {{"maskSize", 31, "mask", vemiErrMaskSize},
+                                         {"maskSize", 55, "mask", vemiErrMaskSize},
+                                         {"maskSize", INT_MIN, "mask", vemiErrMaskSize}};
   return {
       {"vemiFilterSobelHoriz vemiFilterSobelVert vemiFilterSobelHorizSecond vemiFilterSobelVertSecond "
        "vemiFilterSobelCross",
@@ -209,6 +227,9 @@ std::vector<Family> filterFamilies() {
         {"anchor", 1000, "anchor", vemiErrAnchor},
         {"anchor", INT_MAX, "anchor", vemiErrAnchor}},
        takeOrdered},
+      {"vemiFilterMedianHoriz", ".*", "null size step mask", drawLine, notHoriz},
+      {"vemiFilterMedianVert", ".*", "null size step mask", drawColumn, notVert},
+      {"vemiFilterMedianCross", ".*", "null size step mask", drawSquare, fixedMasks},
 
       // Noise
 
