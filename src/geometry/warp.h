@@ -1,0 +1,277 @@
+// What all warps share: the checks in their order, and the walk over the pixels of a quadrangle. A warp has
+//
+//   - a quadrangle, into which its map takes the source region,
+//   - a generator of coordinates, which says where pixels of the destination come from: generator(piece, x, y) fills
+//   two
+//     arrays with as many floats as the piece has pixels, and up to a vector more. fillPlaces does so, from doubles.
+//
+//   if (const VemiStatus bad = checkWarp(src, dst, regions, interpolation, coeffs)) return bad;
+//   return roundingToNearest([&]() -> VemiStatus {
+//     ...the map's own checks...
+//     WarpSource source;
+//     if (const VemiStatus bad = sourceOf(regions, interpolation, source)) return bad;
+//     const Quad quad = quadOf(source.region, map);
+//     if (!isConvex(quad)) return vemiErrQuad;
+//     return warp<L>(imagesOf(src), imagesOf(dst), regions, source, quad, Polygon(quad), generator);
+//   });
+#pragma once
+
+#include <algorithm>
+#include <cmath>
+#include <cstring>
+#include <type_traits>
+
+#include "core/checks.h"
+#include "core/float_control.h"
+#include "core/image.h"
+#include "core/lanes.h"
+#include "core/rounding.h"
+#include "geometry/fetch.h"
+#include "geometry/polygon.h"
+#include "vemi/geometry.h"
+
+namespace vemi::geometry {
+
+// ---- Checks -----------------------------------------------------------------------------------------------------
+
+/// The size of the source image, the region of it that is moved, and the region of the destination that is written.
+struct Regions {
+  VemiSize srcSize;
+  VemiRect src, dst;
+};
+
+// Of plane arrays, the planes are looked at behind the interpolation.
+template <class T, class... Array>
+VemiStatus checkNullImages(Image<const T> src, Image<T> dst, Array... array) {
+  return checkNull(src, dst, array...);
+}
+template <class T, int planes, class... Array>
+VemiStatus checkNullImages(Planes<const T, planes> src, Planes<T, planes> dst, Array... array) {
+  return firstOf(checkNullArray(src, dst), checkNull(array...));
+}
+template <class T>
+VemiStatus checkPlanes(Image<const T>, Image<T>) {
+  return vemiOk;
+}
+template <class T, int planes>
+VemiStatus checkPlanes(Planes<const T, planes> src, Planes<T, planes> dst) {
+  return checkNull(src, dst);
+}
+
+inline VemiStatus checkRegions(const Regions& regions) {
+  return firstOf(checkSize(regions.srcSize), checkRect(regions.src), checkRect(regions.dst));
+}
+
+inline int withoutSmoothEdge(int interpolation) { return interpolation & ~vemiSmoothEdge; }
+
+inline VemiStatus checkInterpolation(int interpolation) {
+  const int kind = withoutSmoothEdge(interpolation);
+  const bool isKnown = kind == vemiInterNearest || kind == vemiInterLinear || kind == vemiInterCubic;
+  return isKnown ? vemiOk : vemiErrInterpolation;
+}
+
+template <class Src, class Dst, class... Array>
+VemiStatus checkWarp(Src src, Dst dst, const Regions& regions, int interpolation, Array... array) {
+  return firstOf(checkNullImages(src, dst, array...), checkRegions(regions), checkStep(src, dst),
+                 checkInterpolation(interpolation), checkPlanes(src, dst));
+}
+
+/// Of p - q, a determinant as a rule: whether it is 0 but for rounding.
+inline bool vanishes(double p, double q) {
+  return std::abs(p) > 1e-200 ? std::abs((p - q) / p) <= 1e-12 : std::abs(q) <= 1e-12;
+}
+
+/// What of the source is fetched, and how.
+struct WarpSource {
+  VemiRect region;  // within the image
+  int interpolation;
+  bool hasSmoothEdge;
+  FetchLimits limits;
+};
+
+/// vemiWarnNoIntersection where the region begins beyond the image, vemiErrRect where no two of its rows or columns lie
+/// in it.
+VemiStatus sourceOf(const Regions& regions, int interpolation, WarpSource& source);
+
+/// Where the quadrangle is no map's of the region: what lies outside of that is not fetched.
+inline void limitToRegion(WarpSource& source) {
+  const Edges edges(source.region);
+  source.limits = FetchLimits::within(edges.left, edges.top, edges.right, edges.bottom);
+}
+
+// ---- Coordinates --------------------------------------------------------------------------------------------------
+
+/// Pixels of a span: `count` of them, from `offset` behind the span's first one.
+struct SpanPiece {
+  double y, first;
+  ptrdiff_t offset, count;
+};
+
+template <class V>
+struct Places {
+  V x, y;
+};
+
+/// The floats of at(d, i), which gives places for pixels i of the span, as doubles. So a place depends on the span and
+/// not on where a vector begins.
+template <class At>
+HWY_INLINE void fillPlaces(const SpanPiece& piece, float* x, float* y, const At& at) {
+  const Lanes<double> d;
+  const hn::Rebind<float, decltype(d)> dPlaces;
+  constexpr ptrdiff_t N = laneCount<double>;
+  auto i = hn::Iota(d, static_cast<double>(piece.offset));
+  for (ptrdiff_t k = 0; k < piece.count; k += N) {
+    const auto places = at(d, i);
+    hn::StoreU(hn::DemoteTo(dPlaces, places.x), dPlaces, x + k);
+    hn::StoreU(hn::DemoteTo(dPlaces, places.y), dPlaces, y + k);
+    i = hn::Add(i, hn::Set(d, static_cast<double>(N)));
+  }
+}
+
+// ---- Smooth edges -------------------------------------------------------------------------------------------------
+
+/// How much of a pixel counts as covered by a quadrangle in which its middle lies: half of it on an edge, all of it
+/// from half a pixel on, in the direction of x or y that crosses the edge the more steeply.
+class Coverage {
+ public:
+  explicit Coverage(const Quad& quad);
+
+  double operator()(double x, double y) const {
+    double least = 1;
+    for (const Side& side : side_) least = std::min(least, side.x * x + side.y * y + side.offset);
+    return least;
+  }
+
+ private:
+  struct Side {
+    double x, y, offset;
+  };
+  Side side_[4];
+};
+
+/// The mixture of elements, in floats, rounded to nearest and saturated. Elements that are alike stay so.
+template <class T>
+void mix(T* element, T fresh, float coverage) {
+  T old;
+  std::memcpy(&old, element, sizeof old);
+  if (std::memcmp(&old, &fresh, sizeof old) == 0) return;
+  const float mixture = static_cast<float>(old) * (1 - coverage) + static_cast<float>(fresh) * coverage;
+  T result;
+  if constexpr (std::is_floating_point_v<T>) {
+    result = mixture;
+  } else {
+    result = nearestTo<T>(mixture);
+  }
+  std::memcpy(element, &result, sizeof result);
+}
+
+// ---- The walk -----------------------------------------------------------------------------------------------------
+
+/// Pixels whose coordinates are made at once: they stay in the first cache.
+inline constexpr ptrdiff_t mostPlaces = 512;
+
+struct PlaceArrays {
+  alignas(laneAlignment) float x[mostPlaces + laneCount<float>];
+  alignas(laneAlignment) float y[mostPlaces + laneCount<float>];
+};
+
+/// An image, or planes.
+template <class T>
+struct Images {
+  Image<T> image[4];
+  int count;
+};
+
+template <class T>
+Images<T> imagesOf(Image<T> one) {
+  return {{one, one, one, one}, 1};
+}
+template <class T, int count>
+Images<T> imagesOf(Planes<T, count> planes) {
+  return {{planes[0], planes[1], planes[2], planes[count - 1]}, count};
+}
+
+/// Fetches into the rows of destinations, with common coordinates.
+template <class T, class L>
+struct Fetcher {
+  FetchRow<T> fetch;
+  FetchSource source[4];
+  Images<T> dst;
+  const Coverage* coverage;  // null where edges are not smooth
+
+  /// Of images whose first pixel is that of column 0, row 0.
+  void run(Vemi64s row, Vemi64s column, ptrdiff_t count, const float* x, const float* y) const {
+    for (int n = 0; n < dst.count; ++n) fetch(source[n], count, x, y, pixel(n, row, column));
+  }
+
+  /// Mixed by coverage with what was there.
+  void runMixed(Vemi64s row, Vemi64s column, ptrdiff_t count, const float* x, const float* y) const {
+    constexpr ptrdiff_t most = 64;
+    for (ptrdiff_t k = 0; k < count; k += most) {
+      const ptrdiff_t pixels = std::min(most, count - k);
+      for (int n = 0; n < dst.count; ++n) {
+        T fresh[most * L::elements];
+        T* const out = pixel(n, row, column + k);
+        std::memcpy(fresh, out, static_cast<size_t>(pixels * pixelBytes<T, L>));
+        fetch(source[n], pixels, x + k, y + k, fresh);
+        for (ptrdiff_t i = 0; i < pixels; ++i) {
+          const auto covered =
+              static_cast<float>((*coverage)(static_cast<double>(column + k + i), static_cast<double>(row)));
+          for (ptrdiff_t c = 0; c < L::channels; ++c)
+            mix(out + i * L::elements + c, fresh[i * L::elements + c], covered);
+        }
+      }
+    }
+  }
+
+ private:
+  T* pixel(int n, Vemi64s row, Vemi64s column) const {
+    return dst.image[n].row(static_cast<ptrdiff_t>(row)) + static_cast<ptrdiff_t>(column) * L::elements;
+  }
+};
+
+/// The pixels of columns `first` to `last` of the row, parts of them at the ends mixed with what was there.
+template <class T, class L, class Generator>
+void warpSpan(const Fetcher<T, L>& fetcher, const Generator& generator, Vemi64s y, Vemi64s first, Vemi64s last,
+              PlaceArrays& places) {
+  Vemi64s whole = first, end = last + 1;  // from `whole` to `end`, pixels are covered
+  if (fetcher.coverage != nullptr) {
+    const auto isWhole = [&](Vemi64s x) {
+      return (*fetcher.coverage)(static_cast<double>(x), static_cast<double>(y)) >= 1;
+    };
+    while (whole < end && !isWhole(whole)) ++whole;
+    while (end > whole && !isWhole(end - 1)) --end;
+  }
+  const auto pieces = [&](Vemi64s from, Vemi64s to, const auto& run) {
+    for (Vemi64s x = from; x < to; x += mostPlaces) {
+      const auto count = static_cast<ptrdiff_t>(std::min(Vemi64s{mostPlaces}, to - x));
+      generator(SpanPiece{static_cast<double>(y), static_cast<double>(first), static_cast<ptrdiff_t>(x - first), count},
+                places.x, places.y);
+      run(x, count);
+    }
+  };
+  const auto mixed = [&](Vemi64s x, ptrdiff_t count) { fetcher.runMixed(y, x, count, places.x, places.y); };
+  pieces(first, whole, mixed);
+  pieces(whole, end, [&](Vemi64s x, ptrdiff_t count) { fetcher.run(y, x, count, places.x, places.y); });
+  pieces(end, last + 1, mixed);
+}
+
+/// The pixels of the destination that lie in a polygon, a part of the quadrangle: vemiWarnQuadIntersection where it
+/// does not meet the destination's region.
+template <class L, class T, class Generator>
+VemiStatus warp(const Images<const T>& src, const Images<T>& dst, const Regions& regions, const WarpSource& source,
+                const Quad& quad, const Polygon& polygon, const Generator& generator) {
+  Spans spans(polygon.clippedTo(regions.dst), regions.dst);
+  if (spans.areEmpty()) return vemiWarnQuadIntersection;
+  const auto from = [&](int n) { return FetchSource::of<L>(src.image[n], regions.srcSize, source.limits); };
+  const Coverage coverage(quad);
+  const Fetcher<T, L> fetcher = {fetchRow<T, L>(source.interpolation),
+                                 {from(0), from(1), from(2), from(3)},
+                                 dst,
+                                 source.hasSmoothEdge ? &coverage : nullptr};
+  PlaceArrays places;
+  while (spans.next()) warpSpan(fetcher, generator, spans.y, spans.first, spans.last, places);
+  return vemiOk;
+}
+
+}  // namespace vemi::geometry
