@@ -776,7 +776,104 @@ VEMI_API VemiStatus vemiDilate_32f_AC4IR(Vemi32f* pSrcDst, int srcDstStep, VemiS
 
 /** @} */
 
-/* ---- Kernels of the user's ---- */
+/* ---- Kernels of the user's ----------------------------------------------------------------------------------------
+ */
+
+/**
+ * @defgroup vemi_filter_linear vemiFilter, vemiFilterRow, vemiFilterColumn: kernels of the user's
+ *
+ *     vemiFilter:        S = sum of pKernel[j * kernelSize.width + i] * pSrc(x + anchor.x - i, y + anchor.y - j)
+ *     vemiFilterRow:     S = sum of pKernel[i] * pSrc(x + xAnchor - i, y)
+ *     vemiFilterColumn:  S = sum of pKernel[i] * pSrc(x, y + yAnchor - i)
+ *
+ * over all taps of the kernel. These are convolutions: the first tap meets the bottom right pixel of the window, the
+ * last one the top left pixel. For a correlation, reverse the array of taps. Each channel by itself; AC4 forms leave
+ * the fourth channel of the destination as it is.
+ *
+ *     form                      taps             S                              pDst(x, y)
+ *     vemiFilter_8u             32s and divisor  exact, of 32 bits that wrap    S / divisor, limited to 0..255
+ *     vemiFilter_16s            32s and divisor  in floats, of taps * r         nearest integer, limited to
+ * -32768..32767 vemiFilter_32f            32f              in floats                      S vemiFilter32f_8u, _16s 32f
+ * in floats                      nearest integer, limited to the type
+ *
+ * and alike for vemiFilterRow and vemiFilterColumn.
+ *
+ * **Sums in floats.** One running sum in single precision from 0 on, over the window from top to bottom and in each row
+ * from left to right, so from the last tap to the first. Each product is rounded, then each sum. Pixels are floats
+ * before they are multiplied. Where S becomes an integer, ties go to the even one; a NaN gives the lowest value of the
+ * type. Taps of 0 count in 32f, where infinities and NaNs show through them.
+ *
+ * **Division** of the sums of bytes, by the value of the divisor:
+ *
+ * - 1: S itself
+ * - 2^n, n from 1 to 30: floor((S + 2^(n - 1)) / 2^n), so ties go up: 3 / 2 gives 2
+ * - any other, also a negative one: float(S) * r, r the float nearest to 1 / divisor, the product rounded to single
+ *   precision and then to the nearest integer, ties to even
+ *
+ * For 16s the taps are divided instead: each tap as a float, times r, rounded.
+ *
+ * **Pixels read around the region**: kernelSize.width - 1 - anchor.x columns to its left and anchor.x to its right,
+ * kernelSize.height - 1 - anchor.y rows above it and anchor.y below; in rows and columns those of the one direction.
+ * They must exist: vemiCopyReplicateBorder and its like make them. The anchor may lie outside of the kernel, even be
+ * negative: the window is then moved by as much, and nothing beside it is read.
+ *
+ * @param pSrc,srcStep  first pixel of the region in the source, and the bytes between its rows
+ * @param pDst,dstStep  the same of the destination, which shares no pixel with any that are read
+ * @param roiSize       size of the region in pixels
+ * @param pKernel       the taps: kernelSize.height rows of kernelSize.width taps without gaps, or kernelSize taps
+ * @param kernelSize    width and height of the kernel, or its length; 1 or more
+ * @param anchor        how many columns to its right (x) and rows below it (y) a pixel's window reaches; any value
+ * @param xAnchor       the columns to the right
+ * @param yAnchor       the rows below
+ * @param divisor       (integer taps) what the sums are divided by; not 0
+ *
+ * **Statuses**, in the order of the tests:
+ *
+ * - null, size (see status.h), where a kernel of less than one tap each way is a size too
+ * - vemiErrDivisor: the divisor is 0
+ * - vemiErrStep: the step of the source is shorter than roiSize.width + kernelSize.width - 1 pixels (for columns:
+ *   roiSize.width pixels), or that of the destination shorter than roiSize.width pixels; an AC4 pixel has four elements
+ *
+ * Forms of 16s with integer taps look at pKernel, kernelSize and the divisor ahead of everything else, then ask for
+ * memory for the divided taps (vemiErrMemAlloc), then test the rest in this order. C3 and C4 forms of vemiFilterColumn
+ * and vemiFilterColumn32f look at roiSize.width ahead of all that. Other forms do without memory where there is none,
+ * slowly.
+ *
+ * **Threads.** A team, with a band of rows for each thread; no result depends on its size.
+ *
+ *     const Vemi32s emboss[9] = {2, 1, 0, 1, 1, -1, 0, -1, -2};
+ *     vemiFilter_8u_C1R(photo + step + 1, step, relief, reliefStep, inner, emboss, {3, 3}, {1, 1}, 1);
+ * @{
+ */
+
+VEMI_API VemiStatus vemiFilter_32f_C1R(const Vemi32f* pSrc, int srcStep, Vemi32f* pDst, int dstStep, VemiSize roiSize,
+                                       const Vemi32f* pKernel, VemiSize kernelSize, VemiPoint anchor);
+VEMI_API VemiStatus vemiFilter_32f_C3R(const Vemi32f* pSrc, int srcStep, Vemi32f* pDst, int dstStep, VemiSize roiSize,
+                                       const Vemi32f* pKernel, VemiSize kernelSize, VemiPoint anchor);
+VEMI_API VemiStatus vemiFilter_32f_C4R(const Vemi32f* pSrc, int srcStep, Vemi32f* pDst, int dstStep, VemiSize roiSize,
+                                       const Vemi32f* pKernel, VemiSize kernelSize, VemiPoint anchor);
+VEMI_API VemiStatus vemiFilter_32f_AC4R(const Vemi32f* pSrc, int srcStep, Vemi32f* pDst, int dstStep, VemiSize roiSize,
+                                        const Vemi32f* pKernel, VemiSize kernelSize, VemiPoint anchor);
+
+VEMI_API VemiStatus vemiFilterRow_32f_C1R(const Vemi32f* pSrc, int srcStep, Vemi32f* pDst, int dstStep,
+                                          VemiSize roiSize, const Vemi32f* pKernel, int kernelSize, int xAnchor);
+VEMI_API VemiStatus vemiFilterRow_32f_C3R(const Vemi32f* pSrc, int srcStep, Vemi32f* pDst, int dstStep,
+                                          VemiSize roiSize, const Vemi32f* pKernel, int kernelSize, int xAnchor);
+VEMI_API VemiStatus vemiFilterRow_32f_C4R(const Vemi32f* pSrc, int srcStep, Vemi32f* pDst, int dstStep,
+                                          VemiSize roiSize, const Vemi32f* pKernel, int kernelSize, int xAnchor);
+VEMI_API VemiStatus vemiFilterRow_32f_AC4R(const Vemi32f* pSrc, int srcStep, Vemi32f* pDst, int dstStep,
+                                           VemiSize roiSize, const Vemi32f* pKernel, int kernelSize, int xAnchor);
+
+VEMI_API VemiStatus vemiFilterColumn_32f_C1R(const Vemi32f* pSrc, int srcStep, Vemi32f* pDst, int dstStep,
+                                             VemiSize roiSize, const Vemi32f* pKernel, int kernelSize, int yAnchor);
+VEMI_API VemiStatus vemiFilterColumn_32f_C3R(const Vemi32f* pSrc, int srcStep, Vemi32f* pDst, int dstStep,
+                                             VemiSize roiSize, const Vemi32f* pKernel, int kernelSize, int yAnchor);
+VEMI_API VemiStatus vemiFilterColumn_32f_C4R(const Vemi32f* pSrc, int srcStep, Vemi32f* pDst, int dstStep,
+                                             VemiSize roiSize, const Vemi32f* pKernel, int kernelSize, int yAnchor);
+VEMI_API VemiStatus vemiFilterColumn_32f_AC4R(const Vemi32f* pSrc, int srcStep, Vemi32f* pDst, int dstStep,
+                                              VemiSize roiSize, const Vemi32f* pKernel, int kernelSize, int yAnchor);
+
+/** @} */
 
 /* ---- Ranks ------------------------------------------------------------------------------------------------------- */
 

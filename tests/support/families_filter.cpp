@@ -17,19 +17,28 @@ void setMask(Call& call, VemiSize mask) {
   margin = {anchor.x, anchor.y, mask.width - 1 - anchor.x, mask.height - 1 - anchor.y};
 }
 
-/// Numbers of moderate size, or infinities, in place of all floats; no two zeros differ.
-void takeNumbers(Call& call) {
+/// value(old one) in place of all floats that may be read.
+template <class F>
+void replaceFloats(Call& call, const F& value) {
   const View source = call.source();
   if (source.element != Element::f32) return;
   const Margin margin = call.image(call.function.inPlace ? "pSrcDst" : "pSrc").margin;
   for (int y = -margin.top; y < source.size.height + margin.bottom; ++y) {
     for (int x = -margin.left; x < source.size.width + margin.right; ++x) {
       for (int channel = 0; channel < source.channels; ++channel) {
-        const int value = call.random.below(4001) - 2000;
-        store(source.at(x, y, channel), value == 2000 ? HUGE_VALF : static_cast<float>(value) / 7);
+        std::byte* const place = source.at(x, y, channel);
+        store(place, value(load<float>(place)));
       }
     }
   }
+}
+
+/// Numbers of moderate size, or infinities; no two zeros differ.
+void takeNumbers(Call& call) {
+  replaceFloats(call, [&](float) {
+    const int value = call.random.below(4001) - 2000;
+    return value == 2000 ? HUGE_VALF : static_cast<float>(value) / 7;
+  });
 }
 
 /// A not-a-number would hide all that its windows share with it: mostly there is none.
@@ -120,6 +129,69 @@ bool shortDestination(Call& call) {
 
 // ---- Kernels of the user's ------------------------------------------------------------------------------------------
 
+bool isIn(const Call& call, const char* word) { return call.function.name.find(word) != std::string::npos; }
+
+int kernelWidth(const Call& call) {
+  if (isIn(call, "Column")) return 1;
+  return isIn(call, "Row") ? call.get<int>("kernelSize") : call.get<VemiSize>("kernelSize").width;
+}
+
+/// A byte less than the windows of a row.
+bool shortWindows(Call& call) {
+  const int pixels = call.scenario.roiSize.width + kernelWidth(call) - 1;
+  if (call.get<int>("srcStep") > 0) call.set("srcStep", pixels * static_cast<int>(call.source().pixelBytes) - 1);
+  return true;
+}
+
+/// Which of two NaNs a sum hands on is the compiler's choice: there is but the one that the processor makes.
+void tameSums(Call& call) {
+  if (call.random.below(4) != 0) return takeNumbers(call);
+  const volatile float infinity = HUGE_VALF;
+  const float made = infinity - infinity;
+  replaceFloats(call, [=](float value) { return value == value ? value : made; });
+}
+
+/// Windows beside their pixel too. Integer taps: what sums of 16 bits hold, what pairs of 16 bits do, and any.
+void drawLinear(Call& call) {
+  const bool isRow = isIn(call, "Row"), isColumn = isIn(call, "Column");
+  const int most = call.random.below(32) == 0 ? 40 : 7;
+  const VemiSize size = {isColumn ? 1 : 1 + call.random.below(most), isRow ? 1 : 1 + call.random.below(most)};
+  const auto anchorIn = [&](int length, bool moves) {
+    return moves ? call.random.below(call.random.below(4) == 0 ? 3 * length : length) - (length > 4 ? length / 4 : 0)
+                 : 0;
+  };
+  const VemiPoint anchor = {anchorIn(size.width, !isColumn), anchorIn(size.height, !isRow)};
+  if (isRow || isColumn) {
+    call.set("kernelSize", isRow ? size.width : size.height);
+    call.set(isRow ? "xAnchor" : "yAnchor", isRow ? anchor.x : anchor.y);
+  } else {
+    call.set("kernelSize", size);
+    call.set("anchor", anchor);
+  }
+  const auto reach = [](int pixels) { return std::max(pixels, 0); };
+  call.image("pSrc").margin = {reach(size.width - 1 - anchor.x), reach(size.height - 1 - anchor.y), reach(anchor.x),
+                               reach(anchor.y)};
+  const int count = size.width * size.height, kind = call.random.below(4);
+  const int range = kind == 0 ? std::max(1, 257 / count) : kind == 1 ? 40 : 32767;
+  std::vector<Vemi32s> taps;
+  std::vector<Vemi32f> floats;
+  for (int i = 0; i < count; ++i) {
+    const bool zero = call.random.below(8) == 0;
+    taps.push_back(zero        ? 0
+                   : kind == 3 ? static_cast<int>(call.random.next())
+                               : call.random.below(2 * range + 1) - range);
+    floats.push_back(static_cast<float>(call.random.below(2001) - (zero ? 2000 : 1000)) / (kind == 0 ? 7000 : 300));
+  }
+  if (call.image("pKernel").element == Element::s32) {
+    const int divisors[] = {
+        1, 2, 16, 256, 1 << 30, 3, 9, -1, -2, -9, 571, -256, INT_MIN, INT_MAX, call.random.below(2000) + 1};
+    call.set("divisor", divisors[call.random.below(15)]);
+    call.setArray("pKernel", taps);
+  } else {
+    call.setArray("pKernel", floats);
+  }
+}
+
 // ---- Ranks ----------------------------------------------------------------------------------------------------------
 
 /// Floats among which the order is one of values, also where rows lie over each other: there, any four bytes are one.
@@ -167,6 +239,10 @@ std::vector<Family> filterFamilies() {
   const std::vector<OwnFault> notVert = {{"maskSize", 31, "mask", vemiErrMaskSize},
                                          {"maskSize", 55, "mask", vemiErrMaskSize},
                                          {"maskSize", INT_MIN, "mask", vemiErrMaskSize}};
+  const std::vector<OwnFault> kernelSteps = {{"step of the source", 0, "step", vemiErrStep, shortWindows},
+                                             {"step of the destination", 0, "step", vemiErrStep, shortDestination}};
+  std::vector<OwnFault> rowFaults = kernelSteps;
+  for (const double size : {0., -1., double{INT_MIN}}) rowFaults.push_back({"kernelSize", size, "size", vemiErrSize});
   return {
       {"vemiFilterSobelHoriz vemiFilterSobelVert vemiFilterSobelHorizSecond vemiFilterSobelVertSecond "
        "vemiFilterSobelCross",
@@ -215,6 +291,10 @@ std::vector<Family> filterFamilies() {
        takeNumbers},
 
       // Kernels of the user's
+      {"vemiFilter", "32f_.*", "null size step", drawLinear, kernelSteps, tameSums},
+      {"vemiFilterRow", "32f_.*", "null size step", drawLinear, rowFaults, tameSums},
+      {"vemiFilterColumn", "32f_C[34]R", "width null size step", drawLinear, rowFaults, tameSums},
+      {"vemiFilterColumn", "32f_.*", "null size step", drawLinear, rowFaults, tameSums},
 
       // Ranks
       {"vemiFilterMin vemiFilterMax",
