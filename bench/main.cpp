@@ -30,7 +30,7 @@ constexpr FamilyTable families[] = {
     gammaFamily,         countsFamily,     noiseFamily,        generatedFamily,    perceptualFamily,
     colorTwistFamily,    videoFamily,      swapChannelsFamily, grayFamily,         yccFamily,
     packedPixelsFamily,  boxFamily,        morphologyFamily,   reduceBitsFamily,   qualityFamily,
-    fixedFilterFamily,   lumaChromaFamily, fftFamily,          rowsFamily,
+    fixedFilterFamily,   lumaChromaFamily, fftFamily,          waveletFamily,      rowsFamily,
 };
 
 constexpr const char* usage =

@@ -176,7 +176,122 @@ VEMI_API VemiStatus vemiFFTInv_CToC_32fc_C1R(const Vemi32fc* pSrc, int srcStep, 
 
 /* ---- Cosine transforms ---- */
 
-/* ---- Wavelets ---- */
+/**
+ * @defgroup vemi_wavelet vemiWTFwd, vemiWTInv: one level of a wavelet transform
+ *
+ * Forward, an image of 2 W by 2 H becomes four of W by H: an approximation and three details. Inverse, they become the
+ * image again. Further levels are further calls, on the approximation. The filters are the user's: two of them, a low
+ * pass and a high pass, for each direction.
+ *
+ * With t the taps of a filter, n their number and a the anchor, along a row or a column s, counted from the region's
+ * first pixel,
+ *
+ *     forward   c[x] = sum of t[k] * s[2 x + a - k]            over k = 0 to n - 1
+ *     inverse   s[i] = sum of t[i + a - 1 - 2 m] * c[m]        over all m that lead to taps, of both filters
+ *
+ * |          | vertical filter | horizontal filter |
+ * |----------|-----------------|-------------------|
+ * | Approx   | low             | low               |
+ * | DetailX  | high            | low               |
+ * | DetailY  | low             | high              |
+ * | DetailXY | high            | high              |
+ *
+ * Filters that give the image back without a shift, as (n, a) of low and high, forward and inverse:
+ *
+ * |                      | forward         | inverse             |
+ * |----------------------|-----------------|---------------------|
+ * | Haar                 | (2, 1) (2, 1)   | (2, 1) (2, 1)       |
+ * | 5/3                  | (5, 2) (3, 2)   | (3, 2) (5, 2)       |
+ * | 9/7                  | (9, 4) (7, 4)   | (7, 4) (9, 4)       |
+ * | Daubechies of 4 taps | (4, a) (4, b)   | (4, 4 - a) (4, 4 - b), a - b even |
+ *
+ * **Pixels read around the region.** There is no border handling (vemiCopy...Border functions make one). Let the larger
+ * number of both filters count. Forward, of the source: n - 1 - a to the left of its region of 2 W by 2 H and above it,
+ * a - 1 to the right and below. Inverse, of all four images: (n - a) / 2 to the left and above, a / 2 to the right and
+ * below, rounded down.
+ *
+ * @param pSpec              where the record's address goes, not written unless the status is vemiOk; elsewhere the
+ *                           record, of the function's own direction and channels. Transforms only read it: any number
+ *                           of threads may share it.
+ * @param pTapsLow,lenLow    the taps of the low pass, which are copied, and how many there are: 2 or more
+ * @param anchorLow          0 to lenLow - 1
+ * @param pTapsHigh,lenHigh,anchorHigh  the same of the high pass
+ * @param pSize              the bytes of working memory that a transform wants: some KiB, whatever the image's size
+ * @param pSrc,srcStep       first pixel of the region of 2 W by 2 H, and the bytes between rows
+ * @param pDst,dstStep       the same of the result of the inverse
+ * @param pApprox,approxStep,pDetailX,detailXStep,pDetailY,detailYStep,pDetailXY,detailXYStep  the four images
+ * @param dstRoiSize,srcRoiSize  W and H, in pixels of the four images
+ * @param pBuffer            working memory of the size that vemiWT...GetBufSize tells, at any address, of one call at a
+ *                           time
+ *
+ * **Exactness.** Sums are of single precision, the products added from the first pixel to the last, vertically and then
+ * horizontally; forward horizontally those of every second tap first, inverse those of the low pass first.
+ *
+ * **Overlap.** What is written must not overlap with what is read.
+ *
+ * **Statuses**, in the order of the tests. InitAlloc: null; vemiErrSize, a length below 2; vemiErrAnchor;
+ * vemiErrMemAlloc, no memory, or a buffer of 2^31 bytes or more. Free: null; vemiErrContext, a record of another kind.
+ * GetBufSize: null; vemiErrContext. Transforms: pSpec null; vemiErrContext, also of a record in which both anchors are
+ * 0; images or pBuffer null; size; step.
+ *
+ * **Threads.** All forms run in the calling thread.
+ *
+ *     const Vemi32f low[2] = {0.5f, 0.5f}, high[2] = {0.5f, -0.5f};
+ *     VemiWTFwdSpec_32f_C1R* spec;
+ *     int bytes;
+ *     vemiWTFwdInitAlloc_32f_C1R(&spec, low, 2, 1, high, 2, 1);
+ *     vemiWTFwdGetBufSize_C1R(spec, &bytes);
+ *     Vemi8u* buffer = malloc(bytes);
+ *     vemiWTFwd_32f_C1R(image, step, approx, half, x, half, y, half, xy, half, (VemiSize){320, 240}, spec, buffer);
+ *     vemiWTFwdFree_32f_C1R(spec);
+ * @{
+ */
+
+/** The record of a direction and a number of channels; what it holds is the library's business. */
+typedef struct VemiWTFwdSpec_32f_C1R VemiWTFwdSpec_32f_C1R;
+typedef struct VemiWTFwdSpec_32f_C3R VemiWTFwdSpec_32f_C3R; /**< the same */
+typedef struct VemiWTInvSpec_32f_C1R VemiWTInvSpec_32f_C1R; /**< the same */
+typedef struct VemiWTInvSpec_32f_C3R VemiWTInvSpec_32f_C3R; /**< the same */
+
+VEMI_API VemiStatus vemiWTFwdInitAlloc_32f_C1R(VemiWTFwdSpec_32f_C1R** pSpec, const Vemi32f* pTapsLow, int lenLow,
+                                               int anchorLow, const Vemi32f* pTapsHigh, int lenHigh, int anchorHigh);
+VEMI_API VemiStatus vemiWTFwdInitAlloc_32f_C3R(VemiWTFwdSpec_32f_C3R** pSpec, const Vemi32f* pTapsLow, int lenLow,
+                                               int anchorLow, const Vemi32f* pTapsHigh, int lenHigh, int anchorHigh);
+
+VEMI_API VemiStatus vemiWTInvInitAlloc_32f_C1R(VemiWTInvSpec_32f_C1R** pSpec, const Vemi32f* pTapsLow, int lenLow,
+                                               int anchorLow, const Vemi32f* pTapsHigh, int lenHigh, int anchorHigh);
+VEMI_API VemiStatus vemiWTInvInitAlloc_32f_C3R(VemiWTInvSpec_32f_C3R** pSpec, const Vemi32f* pTapsLow, int lenLow,
+                                               int anchorLow, const Vemi32f* pTapsHigh, int lenHigh, int anchorHigh);
+
+VEMI_API VemiStatus vemiWTFwdFree_32f_C1R(VemiWTFwdSpec_32f_C1R* pSpec);
+VEMI_API VemiStatus vemiWTFwdFree_32f_C3R(VemiWTFwdSpec_32f_C3R* pSpec);
+VEMI_API VemiStatus vemiWTInvFree_32f_C1R(VemiWTInvSpec_32f_C1R* pSpec);
+VEMI_API VemiStatus vemiWTInvFree_32f_C3R(VemiWTInvSpec_32f_C3R* pSpec);
+
+VEMI_API VemiStatus vemiWTFwdGetBufSize_C1R(const VemiWTFwdSpec_32f_C1R* pSpec, int* pSize);
+VEMI_API VemiStatus vemiWTFwdGetBufSize_C3R(const VemiWTFwdSpec_32f_C3R* pSpec, int* pSize);
+VEMI_API VemiStatus vemiWTInvGetBufSize_C1R(const VemiWTInvSpec_32f_C1R* pSpec, int* pSize);
+VEMI_API VemiStatus vemiWTInvGetBufSize_C3R(const VemiWTInvSpec_32f_C3R* pSpec, int* pSize);
+
+VEMI_API VemiStatus vemiWTFwd_32f_C1R(const Vemi32f* pSrc, int srcStep, Vemi32f* pApprox, int approxStep,
+                                      Vemi32f* pDetailX, int detailXStep, Vemi32f* pDetailY, int detailYStep,
+                                      Vemi32f* pDetailXY, int detailXYStep, VemiSize dstRoiSize,
+                                      const VemiWTFwdSpec_32f_C1R* pSpec, Vemi8u* pBuffer);
+VEMI_API VemiStatus vemiWTFwd_32f_C3R(const Vemi32f* pSrc, int srcStep, Vemi32f* pApprox, int approxStep,
+                                      Vemi32f* pDetailX, int detailXStep, Vemi32f* pDetailY, int detailYStep,
+                                      Vemi32f* pDetailXY, int detailXYStep, VemiSize dstRoiSize,
+                                      const VemiWTFwdSpec_32f_C3R* pSpec, Vemi8u* pBuffer);
+
+VEMI_API VemiStatus vemiWTInv_32f_C1R(const Vemi32f* pApprox, int approxStep, const Vemi32f* pDetailX, int detailXStep,
+                                      const Vemi32f* pDetailY, int detailYStep, const Vemi32f* pDetailXY,
+                                      int detailXYStep, VemiSize srcRoiSize, Vemi32f* pDst, int dstStep,
+                                      const VemiWTInvSpec_32f_C1R* pSpec, Vemi8u* pBuffer);
+VEMI_API VemiStatus vemiWTInv_32f_C3R(const Vemi32f* pApprox, int approxStep, const Vemi32f* pDetailX, int detailXStep,
+                                      const Vemi32f* pDetailY, int detailYStep, const Vemi32f* pDetailXY,
+                                      int detailXYStep, VemiSize srcRoiSize, Vemi32f* pDst, int dstStep,
+                                      const VemiWTInvSpec_32f_C3R* pSpec, Vemi8u* pBuffer);
+
+/** @} */
 
 /* ---- Packed spectra ---- */
 

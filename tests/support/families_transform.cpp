@@ -33,12 +33,15 @@ void sizeByFFT(Call& call) {
 
 /// Bytes that are floats from 2^-7 to 2^9 of either sign, wherever they begin: rows may overlap.
 void moderateFloats(Call& call) {
-  const View source = call.source();
-  if (source.element == Element::u8 || source.element == Element::s32) return;
-  for (int y = 0; y < source.size.height; ++y) {
-    for (int x = 0; x < source.size.width; ++x) {
-      for (ptrdiff_t i = 0; i < source.pixelBytes; ++i) {
-        source.at(x, y)[i] = static_cast<std::byte>(0x3c + call.random.below(8) + 0x80 * call.random.below(2));
+  for (Image& each : call.images) {
+    if (each.role != Role::image || each.written || each.element == Element::u8 || each.element == Element::s32)
+      continue;
+    const View view = each.view(&Image::Plane::before);
+    for (int y = -each.margin.top; y < view.size.height + each.margin.bottom; ++y) {
+      for (int x = -each.margin.left; x < view.size.width + each.margin.right; ++x) {
+        for (ptrdiff_t i = 0; i < view.pixelBytes; ++i) {
+          view.at(x, y)[i] = static_cast<std::byte>(0x3c + call.random.below(8) + 0x80 * call.random.below(2));
+        }
       }
     }
   }
@@ -49,6 +52,40 @@ void moderateFloats(Call& call) {
 // ---- Cosine transforms ----------------------------------------------------------------------------------------------
 
 // ---- Wavelets -------------------------------------------------------------------------------------------------------
+
+/// Of a few taps as a rule; of so many now and then that channels are worked on one by one.
+void pickFilters(Call& call) {
+  const bool isLong = call.random.below(40) == 0;
+  for (const std::string which : {"Low", "High"}) {
+    const int length = 2 + call.random.below(isLong ? 300 : 11);
+    std::vector<float> taps(static_cast<size_t>(length));
+    for (float& tap : taps) tap = static_cast<float>(call.random.below(513) - 256) / 256;
+    call.setArray("pTaps" + which, taps);
+    call.set("len" + which, length);
+    call.set("anchor" + which, call.random.below(length));
+  }
+  // Anchors of 0 in both filters are legal here, but not in a transform.
+  if (call.get<int>("anchorLow") == 0 && call.get<int>("anchorHigh") == 0) call.set("anchorLow", 1);
+}
+
+void surroundByFilters(Call& call) {
+  const Call& maker = call.record("pSpec");
+  const bool isForward = call.function.name.find("Fwd") != std::string::npos;
+  int before = 0, behind = 0;
+  for (const std::string which : {"Low", "High"}) {
+    const int length = maker.get<int>("len" + which), anchor = maker.get<int>("anchor" + which);
+    before = std::max(before, isForward ? length - 1 - anchor : (length - anchor) / 2);
+    behind = std::max(behind, isForward ? anchor - 1 : anchor / 2);
+  }
+  const VemiSize size = call.scenario.roiSize, doubled = {2 * size.width, 2 * size.height};
+  if (isForward) call.image("pSrc").size = doubled;
+  if (!isForward) call.image("pDst").size = doubled;
+  for (Image& each : call.images) {
+    if (each.role == Role::image && !each.written) each.margin = {before, before, behind, behind};
+  }
+  const std::string query = std::string("vemiWT") + (isForward ? "Fwd" : "Inv") + "GetBufSize_C";
+  call.setBuffer("pBuffer", call.sizeBy(query + (call.function.source.elements == 1 ? "1R" : "3R"), "pSpec"), false);
+}
 
 // ---- Packed spectra -------------------------------------------------------------------------------------------------
 
@@ -79,7 +116,21 @@ std::vector<Family> transformFamilies() {
 
       // Cosine transforms
 
-      // Wavelets
+      {"vemiWTFwdInitAlloc vemiWTInvInitAlloc",
+       ".*",
+       "null size anchor",
+       pickFilters,
+       {{"lenLow", 1, "size", vemiErrSize},
+        {"lenLow", INT_MIN, "size", vemiErrSize},
+        {"lenHigh", 1, "size", vemiErrSize},
+        {"anchorLow", -1, "anchor", vemiErrAnchor},
+        {"anchorLow", 602, "anchor", vemiErrAnchor},
+        {"anchorHigh", -1, "anchor", vemiErrAnchor},
+        {"anchorHigh", INT_MAX, "anchor", vemiErrAnchor}}},
+      {"vemiWTFwdFree vemiWTInvFree", ".*", "null tag"},
+      {"vemiWTFwdGetBufSize_C1R vemiWTFwdGetBufSize_C3R vemiWTInvGetBufSize_C1R vemiWTInvGetBufSize_C3R", ".*",
+       "null tag"},
+      {"vemiWTFwd vemiWTInv", ".*", "pSpec tag null size step", surroundByFilters, {}, moderateFloats},
 
       // Packed spectra
 
