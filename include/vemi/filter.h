@@ -966,6 +966,62 @@ VEMI_API VemiStatus vemiFilterMax_32f_AC4R(const Vemi32f* pSrc, int srcStep, Vem
 /** @} */
 
 /**
+ * @defgroup vemi_filter_median vemiFilterMedian: the median of a rectangle
+ *
+ *     pDst(x, y) = the middle one, in order of value, of pSrc(x + i - anchor.x, y + j - anchor.y)
+ *                  over i = 0..maskSize.width - 1, j = 0..maskSize.height - 1
+ *
+ * Both sides of the mask are odd, so there is a middle: of n pixels the one that n / 2 come before. Each channel by
+ * itself; AC4 forms leave the fourth channel of the destination as it is. A mask of one pixel copies.
+ *
+ * Squares of 3 and 5 pixels and lines of up to 5 are the fastest. Beyond them the time for a pixel does not depend on
+ * the mask for 8u, but for the first rows of the region, and grows with the mask's shorter side for 16s.
+ *
+ * **Pixels read around the region**: anchor.x columns to the left and maskSize.width - 1 - anchor.x to the right of it,
+ * anchor.y rows above and maskSize.height - 1 - anchor.y below it. All of them must exist.
+ *
+ * @param pSrc,srcStep  first pixel of the region in the source, and the bytes between its rows
+ * @param pDst,dstStep  the same of the destination, which shares no pixel with any that are read
+ * @param roiSize       size of the region in pixels
+ * @param maskSize      width and height of the rectangle, odd numbers
+ * @param anchor        where in the rectangle the pixel lies: from (0, 0), its top left pixel, to
+ *                      (maskSize.width - 1, maskSize.height - 1); {maskSize.width / 2, maskSize.height / 2} is the
+ *                      centre
+ *
+ * **Statuses**, in the order of the tests: null, size, step (see status.h); then
+ *
+ * - vemiErrMaskSize: a width or a height of the mask is below 1 or even
+ * - vemiErrAnchor: an anchor outside of the mask
+ * - vemiErrMemAlloc: no memory for rows or counts
+ *
+ * **Threads.** AC4 forms share regions of more than 4096 pixels in a team: 8u with any mask, 16s with squares and lines
+ * of up to 5 pixels. The others run in the calling thread.
+ *
+ *     vemiFilterMedian_8u_C3R(photo + step + 3, step, clean, cleanStep, inner, {3, 3}, {1, 1});
+ * @{
+ */
+
+VEMI_API VemiStatus vemiFilterMedian_8u_C1R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep,
+                                            VemiSize roiSize, VemiSize maskSize, VemiPoint anchor);
+VEMI_API VemiStatus vemiFilterMedian_8u_C3R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep,
+                                            VemiSize roiSize, VemiSize maskSize, VemiPoint anchor);
+VEMI_API VemiStatus vemiFilterMedian_8u_C4R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep,
+                                            VemiSize roiSize, VemiSize maskSize, VemiPoint anchor);
+VEMI_API VemiStatus vemiFilterMedian_8u_AC4R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep,
+                                             VemiSize roiSize, VemiSize maskSize, VemiPoint anchor);
+
+VEMI_API VemiStatus vemiFilterMedian_16s_C1R(const Vemi16s* pSrc, int srcStep, Vemi16s* pDst, int dstStep,
+                                             VemiSize roiSize, VemiSize maskSize, VemiPoint anchor);
+VEMI_API VemiStatus vemiFilterMedian_16s_C3R(const Vemi16s* pSrc, int srcStep, Vemi16s* pDst, int dstStep,
+                                             VemiSize roiSize, VemiSize maskSize, VemiPoint anchor);
+VEMI_API VemiStatus vemiFilterMedian_16s_C4R(const Vemi16s* pSrc, int srcStep, Vemi16s* pDst, int dstStep,
+                                             VemiSize roiSize, VemiSize maskSize, VemiPoint anchor);
+VEMI_API VemiStatus vemiFilterMedian_16s_AC4R(const Vemi16s* pSrc, int srcStep, Vemi16s* pDst, int dstStep,
+                                              VemiSize roiSize, VemiSize maskSize, VemiPoint anchor);
+
+/** @} */
+
+/**
  * @defgroup vemi_filter_median_lines vemiFilterMedianHoriz, vemiFilterMedianVert, vemiFilterMedianCross
  *
  * The median of the pixels around each pixel: that which comes in the middle when they are put in order. Single pixels

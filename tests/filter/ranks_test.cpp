@@ -58,6 +58,11 @@ void greatest(Call& call) {
   ofRank(call, pixels, pixels.size() - 1);
 }
 
+void medianOfRectangle(Call& call) {
+  const Pixels pixels = rectangleOf(call);
+  ofRank(call, pixels, pixels.size() / 2);
+}
+
 void medianOfLine(Call& call) {
   const Pixels pixels = lineOf(call);
   ofRank(call, pixels, pixels.size() / 2);
@@ -72,4 +77,62 @@ TEST(Ranks, MediansOfLinesAndCrosses) {
   expectDefinition(membersOf("vemiFilterMedianHoriz"), medianOfLine);
   expectDefinition(membersOf("vemiFilterMedianVert"), medianOfLine);
   expectDefinition(membersOf("vemiFilterMedianCross"), medianOfLine);
+}
+
+TEST(Ranks, MediansOfRectangles) { expectDefinition(membersOf("vemiFilterMedian"), medianOfRectangle); }
+
+// A network that finds the median of zeros and ones finds that of anything. A column counts by its ones alone.
+TEST(Ranks, NetworksOfSquaresByZerosAndOnes) {
+  for (const int side : {3, 5}) {
+    int patterns = 1;
+    for (int i = 0; i < side; ++i) patterns *= side + 1;
+    const int width = patterns * side;
+    std::vector<Vemi8u> image(static_cast<size_t>(width * side)), result(static_cast<size_t>(width));
+    std::vector<int> ones(static_cast<size_t>(patterns), 0);
+    for (int x = 0; x < width; ++x) {
+      int digits = x / side;
+      for (int i = 0; i < x % side; ++i) digits /= side + 1;
+      const int count = digits % (side + 1);
+      for (int j = 0; j < count; ++j) image[static_cast<size_t>((x + j) % side * width + x)] = 1;
+      ones[static_cast<size_t>(x / side)] += count;
+    }
+    const VemiSize region = {width - side + 1, 1};
+    ASSERT_EQ(vemiFilterMedian_8u_C1R(image.data(), width, result.data(), width, region, {side, side}, {0, 0}), vemiOk);
+    for (int i = 0; i < patterns; ++i) {
+      ASSERT_EQ(result[static_cast<size_t>(i * side)], ones[static_cast<size_t>(i)] > side * side / 2)
+          << side << ", " << i;
+    }
+  }
+}
+
+// More pixels than 16 bits count: of all bytes, or of all shorts of both signs, the middle one.
+TEST(Ranks, MediansOfLargeRectangles) {
+  const VemiSize mask = {261, 263}, region = {3, 2};
+  const int width = mask.width + region.width - 1, height = mask.height + region.height - 1;
+  const auto area = static_cast<size_t>(mask.width * mask.height);
+  std::vector<Vemi16s> shorts(static_cast<size_t>(width * height)), shortMedians(6);
+  std::vector<Vemi8u> bytes(shorts.size()), byteMedians(6);
+  for (size_t i = 0; i < shorts.size(); ++i) {
+    shorts[i] = static_cast<Vemi16s>(i * 40503);
+    bytes[i] = static_cast<Vemi8u>(shorts[i] >> 8);
+  }
+  EXPECT_EQ(vemiFilterMedian_16s_C1R(&shorts[static_cast<size_t>(width)], 2 * width, shortMedians.data(), 6, region,
+                                     mask, {0, 1}),
+            vemiOk);
+  EXPECT_EQ(
+      vemiFilterMedian_8u_C1R(&bytes[static_cast<size_t>(width)], width, byteMedians.data(), 3, region, mask, {0, 1}),
+      vemiOk);
+  const auto medianOf = [&](const auto& image, int x, int y) {
+    std::vector<int> values;
+    for (int j = y; j < y + mask.height; ++j) {
+      for (int i = x; i < x + mask.width; ++i) values.push_back(image[static_cast<size_t>(j * width + i)]);
+    }
+    std::nth_element(values.begin(), values.begin() + static_cast<ptrdiff_t>(area / 2), values.end());
+    return values[area / 2];
+  };
+  for (size_t i = 0; i < 6; ++i) {
+    const int x = static_cast<int>(i % 3), y = static_cast<int>(i / 3);
+    EXPECT_EQ(shortMedians[i], medianOf(shorts, x, y)) << i;
+    EXPECT_EQ(byteMedians[i], medianOf(bytes, x, y)) << i;
+  }
 }

@@ -224,6 +224,14 @@ void drawRectangle(Call& call) {
   setMask(call, {1 + call.random.below(large), 1 + call.random.below(large)});
 }
 
+/// Each of the masks that have a way of their own, and others, some of them long.
+void drawOddRectangle(Call& call) {
+  const VemiSize own[] = {{1, 1}, {3, 1}, {5, 1}, {1, 3}, {1, 5}, {3, 3}, {5, 5}};
+  const int kind = call.random.below(16), most = kind == 15 ? 20 : 5;
+  const auto odd = [&] { return 2 * call.random.below(most) + 1; };
+  setMask(call, kind < 7 ? own[kind] : kind == 7 ? VemiSize{1, 7 + odd() / 2 * 2} : VemiSize{odd(), odd()});
+}
+
 // ---- Noise ----------------------------------------------------------------------------------------------------------
 
 }  // namespace
@@ -307,6 +315,17 @@ std::vector<Family> filterFamilies() {
         {"anchor", 1000, "anchor", vemiErrAnchor},
         {"anchor", INT_MAX, "anchor", vemiErrAnchor}},
        takeOrdered},
+      {"vemiFilterMedian",
+       ".*",
+       "null size step mask anchor",
+       drawOddRectangle,
+       {{"maskSize", 0, "mask", vemiErrMaskSize},
+        {"maskSize", -1, "mask", vemiErrMaskSize},
+        {"maskSize", 4, "mask", vemiErrMaskSize},
+        {"maskSize", INT_MIN, "mask", vemiErrMaskSize},
+        {"anchor", -1, "anchor", vemiErrAnchor},
+        {"anchor", 1000, "anchor", vemiErrAnchor},
+        {"anchor", INT_MAX, "anchor", vemiErrAnchor}}},
       {"vemiFilterMedianHoriz", ".*", "null size step mask", drawLine, notHoriz},
       {"vemiFilterMedianVert", ".*", "null size step mask", drawColumn, notVert},
       {"vemiFilterMedianCross", ".*", "null size step mask", drawSquare, fixedMasks},
