@@ -32,6 +32,324 @@ enum {
 
 /* ---- Another size ---- */
 
+/**
+ * @defgroup vemi_resize Another size
+ *
+ * A region of an image, larger or smaller by a factor of its own in each direction. The same call gives the same pixels
+ * on every processor, in every build of this library.
+ *
+ * **Positions.** Each column of the destination has a position in the source, in source pixels, and so has each row.
+ * With the region's width w (what lies beyond the image is cut off), the step from column to column is
+ *
+ *     vemiResize, vemiResizeCenter, nearest    1 / xFactor
+ *     ... other interpolations                 (w - 1) / (w xFactor - 1), or 0 where w xFactor is at most 1
+ *     vemiResizeShift                          xFr
+ *
+ * and position(0) = srcRoi.x + xShift, for the nearest pixel srcRoi.x + (step / 2 + xShift); position(i + 1) =
+ * position(i) + step, added up in double precision. xShift is 0 but in vemiResizeShift and for vemiResizeCenter. Of all
+ * interpolations but the nearest pixel, the first and last pixels of the region are those of the result. The index and
+ * the fraction of a position p are i = trunc(p + 1e-7) and t = p - i; a position that lies a pixel or more outside of
+ * the image is that of its last (or first) column. Rows have the same rules.
+ *
+ * **Interpolations.** Columns first, then rows; each channel by itself.
+ *
+ * - vemiInterNearest: the pixel at i.
+ * - vemiInterLinear: (1 - t) p(i) + t p(i + 1). At the image's last column i is one less and t is 1. Pixels of the
+ * image beside the region take part. In single precision for 16u and 32f. In integers for 8u: with the weight w =
+ *   trunc(t * 16384 + 1e-7) in both directions,
+ *
+ *       h = ((16384 - w) p(i) + w p(i + 1) + 128) >> 8,   result = ((16384 - v) h0 + v h1 + 0x80000) >> 20
+ *
+ * - vemiInterCubic: the polynomial of third degree through p0 = p(i - 1), p(i), p(i + 1), p3 = p(i + 2),
+ *
+ *       p0 + a d1 + b d2 + c d3,   a = 1 + t, b = t a / 2, c = (t - 1) b / 3,
+ *       d1 = p1 - p0, d2 = (p2 - p1) - d1, d3 = p1 - 2 p2 + p3 - d2
+ *
+ *   in single precision, from left to right. At the image's first column, i is one more and t = p - i; at the last but
+ *   one, i is one less and t = p - i; at the last, i is two less and t is 2: the polynomial is that of the outermost
+ *   four pixels.
+ * - vemiInterLanczos: the sum of w(k) p(i + k) for k = -2..3, in this order and single precision; w(k) = L(|k - t|)
+ * with L(x) = sin(pi x) sin(pi x / 3) / (pi x)^2 * 3 below 3, linear between hundredths. The weights' sum is not
+ * exactly 1. Pixels that the image lacks repeat its edge.
+ * - vemiInterSuper, for factors of at most 1: the mean of the 1 / xFactor by 1 / yFactor source pixels that a
+ * destination pixel covers, those at its edges by the part that is covered; parts below 1e-7 are left out. The first
+ * rectangle begins with the region, each further one where the one before it ended. Sums are in single precision, rows
+ * first, multiplied at last by xFactor yFactor. What passes the image counts for its last pixel.
+ *
+ * Results of integers are rounded to nearest, ties to even (linear 8u as above), and limited to 0..255 or 0..65535;
+ * cubic and Lanczos results do leave the range of the pixels.
+ *
+ * **Small images.** If the source image (not the region) is less than 8 pixels wide or high, vemiInterLanczos is
+ * vemiInterCubic; if less than 4, vemiInterCubic is vemiInterLinear; if less than 2, everything is vemiInterNearest.
+ *
+ * **What is written.** trunc(w xFactor + 1e-7) columns, at least 1 and at most dstRoiSize.width; for vemiResizeShift
+ * trunc((w - 1) / xFr + 1e-7) + 1 of them, with the nearest pixel trunc(w / xFr + 1e-7). Other pixels of the
+ * destination stay as they are, and so does the fourth channel in AC4 forms.
+ *
+ * @param pSrc,srcStep    first pixel of the source *image*, and the bytes between its rows; the forms P3 and P4 take an
+ *                        array of planes with one step for all of them
+ * @param srcSize         size of the source image in pixels; no pixel outside of it is read
+ * @param srcRoi          the region of it; what passes the image on the right or at the bottom is cut off
+ * @param pDst,dstStep    first pixel of the destination, and the bytes between its rows; it shares no pixel with the
+ *                        source
+ * @param dstRoiSize      size of the destination in pixels
+ * @param xFactor,yFactor (vemiResize, vemiResizeCenter) destination pixels for each source pixel, above 0
+ * @param xFr,yFr         (vemiResizeShift) source pixels for each destination pixel, above 0
+ * @param xShift,yShift   (vemiResizeShift) added to the positions, in source pixels
+ * @param xCenter,yCenter (vemiResizeCenter) the point of the region, counted from its first pixel, that comes to lie in
+ *                        the middle of the destination
+ * @param interpolation   one of the above. vemiInterSuper only in vemiResize and vemiResizeCenter, for factors of at
+ *                        most 1
+ *
+ * **Statuses**, in the order of the tests: null, size of the source, step (see status.h); then
+ *
+ * - vemiErrSize: srcRoi.x or srcRoi.y is below 0, or srcRoi.width or srcRoi.height below 1
+ * - vemiWarnNoIntersection: the region begins outside the image; nothing is written
+ * - vemiErrSize: the destination's width or height is below 1
+ * - vemiErrResizeFactor: a factor, or xFr or yFr, is not above 0
+ * - vemiErrInterpolation: interpolation is none of those that the function takes
+ * - vemiWarnNoIntersection: (vemiResizeCenter) the region's place misses the destination; nothing is written
+ * - vemiErrMemAlloc: no memory for tables and rows, or a row of the region exceeds 2 GiB
+ *
+ * **Threads.** All forms run in the calling thread.
+ *
+ *     VemiRect all = {0, 0, photoSize.width, photoSize.height};
+ *     vemiResize_8u_C3R(photo, photoSize, photoStep, all, small, smallStep, smallSize, 0.25, 0.25, vemiInterSuper);
+ * @{
+ */
+
+/**
+ * @name vemiResize: by factors
+ * @{
+ */
+
+VEMI_API VemiStatus vemiResize_8u_C1R(const Vemi8u* pSrc, VemiSize srcSize, int srcStep, VemiRect srcRoi, Vemi8u* pDst,
+                                      int dstStep, VemiSize dstRoiSize, double xFactor, double yFactor,
+                                      int interpolation);
+VEMI_API VemiStatus vemiResize_8u_C3R(const Vemi8u* pSrc, VemiSize srcSize, int srcStep, VemiRect srcRoi, Vemi8u* pDst,
+                                      int dstStep, VemiSize dstRoiSize, double xFactor, double yFactor,
+                                      int interpolation);
+VEMI_API VemiStatus vemiResize_8u_C4R(const Vemi8u* pSrc, VemiSize srcSize, int srcStep, VemiRect srcRoi, Vemi8u* pDst,
+                                      int dstStep, VemiSize dstRoiSize, double xFactor, double yFactor,
+                                      int interpolation);
+VEMI_API VemiStatus vemiResize_8u_AC4R(const Vemi8u* pSrc, VemiSize srcSize, int srcStep, VemiRect srcRoi, Vemi8u* pDst,
+                                       int dstStep, VemiSize dstRoiSize, double xFactor, double yFactor,
+                                       int interpolation);
+VEMI_API VemiStatus vemiResize_8u_P3R(const Vemi8u* const pSrc[3], VemiSize srcSize, int srcStep, VemiRect srcRoi,
+                                      Vemi8u* const pDst[3], int dstStep, VemiSize dstRoiSize, double xFactor,
+                                      double yFactor, int interpolation);
+VEMI_API VemiStatus vemiResize_8u_P4R(const Vemi8u* const pSrc[4], VemiSize srcSize, int srcStep, VemiRect srcRoi,
+                                      Vemi8u* const pDst[4], int dstStep, VemiSize dstRoiSize, double xFactor,
+                                      double yFactor, int interpolation);
+
+VEMI_API VemiStatus vemiResize_16u_C1R(const Vemi16u* pSrc, VemiSize srcSize, int srcStep, VemiRect srcRoi,
+                                       Vemi16u* pDst, int dstStep, VemiSize dstRoiSize, double xFactor, double yFactor,
+                                       int interpolation);
+VEMI_API VemiStatus vemiResize_16u_C3R(const Vemi16u* pSrc, VemiSize srcSize, int srcStep, VemiRect srcRoi,
+                                       Vemi16u* pDst, int dstStep, VemiSize dstRoiSize, double xFactor, double yFactor,
+                                       int interpolation);
+VEMI_API VemiStatus vemiResize_16u_C4R(const Vemi16u* pSrc, VemiSize srcSize, int srcStep, VemiRect srcRoi,
+                                       Vemi16u* pDst, int dstStep, VemiSize dstRoiSize, double xFactor, double yFactor,
+                                       int interpolation);
+VEMI_API VemiStatus vemiResize_16u_AC4R(const Vemi16u* pSrc, VemiSize srcSize, int srcStep, VemiRect srcRoi,
+                                        Vemi16u* pDst, int dstStep, VemiSize dstRoiSize, double xFactor, double yFactor,
+                                        int interpolation);
+VEMI_API VemiStatus vemiResize_16u_P3R(const Vemi16u* const pSrc[3], VemiSize srcSize, int srcStep, VemiRect srcRoi,
+                                       Vemi16u* const pDst[3], int dstStep, VemiSize dstRoiSize, double xFactor,
+                                       double yFactor, int interpolation);
+VEMI_API VemiStatus vemiResize_16u_P4R(const Vemi16u* const pSrc[4], VemiSize srcSize, int srcStep, VemiRect srcRoi,
+                                       Vemi16u* const pDst[4], int dstStep, VemiSize dstRoiSize, double xFactor,
+                                       double yFactor, int interpolation);
+
+VEMI_API VemiStatus vemiResize_32f_C1R(const Vemi32f* pSrc, VemiSize srcSize, int srcStep, VemiRect srcRoi,
+                                       Vemi32f* pDst, int dstStep, VemiSize dstRoiSize, double xFactor, double yFactor,
+                                       int interpolation);
+VEMI_API VemiStatus vemiResize_32f_C3R(const Vemi32f* pSrc, VemiSize srcSize, int srcStep, VemiRect srcRoi,
+                                       Vemi32f* pDst, int dstStep, VemiSize dstRoiSize, double xFactor, double yFactor,
+                                       int interpolation);
+VEMI_API VemiStatus vemiResize_32f_C4R(const Vemi32f* pSrc, VemiSize srcSize, int srcStep, VemiRect srcRoi,
+                                       Vemi32f* pDst, int dstStep, VemiSize dstRoiSize, double xFactor, double yFactor,
+                                       int interpolation);
+VEMI_API VemiStatus vemiResize_32f_AC4R(const Vemi32f* pSrc, VemiSize srcSize, int srcStep, VemiRect srcRoi,
+                                        Vemi32f* pDst, int dstStep, VemiSize dstRoiSize, double xFactor, double yFactor,
+                                        int interpolation);
+VEMI_API VemiStatus vemiResize_32f_P3R(const Vemi32f* const pSrc[3], VemiSize srcSize, int srcStep, VemiRect srcRoi,
+                                       Vemi32f* const pDst[3], int dstStep, VemiSize dstRoiSize, double xFactor,
+                                       double yFactor, int interpolation);
+VEMI_API VemiStatus vemiResize_32f_P4R(const Vemi32f* const pSrc[4], VemiSize srcSize, int srcStep, VemiRect srcRoi,
+                                       Vemi32f* const pDst[4], int dstStep, VemiSize dstRoiSize, double xFactor,
+                                       double yFactor, int interpolation);
+
+/** @} */
+
+/**
+ * @name vemiResizeCenter: by factors, with a point of the region in the middle of the destination
+ *
+ * The region's left edge comes to x0 = dstRoiSize.width / 2 - xCenter xFactor, in double precision. Written are the
+ * columns from max(0, ceil(x0)) up to trunc(min(dstRoiSize.width, w xFactor + x0)); the first one lies
+ * (max(0, ceil(x0)) - x0) / xFactor source pixels behind the region's first. By the whole pixels of this the region
+ * begins later, and the rest is xShift; what is left is a vemiResize of that region, whose step is from its own width.
+ * @{
+ */
+
+VEMI_API VemiStatus vemiResizeCenter_8u_C1R(const Vemi8u* pSrc, VemiSize srcSize, int srcStep, VemiRect srcRoi,
+                                            Vemi8u* pDst, int dstStep, VemiSize dstRoiSize, double xFactor,
+                                            double yFactor, double xCenter, double yCenter, int interpolation);
+VEMI_API VemiStatus vemiResizeCenter_8u_C3R(const Vemi8u* pSrc, VemiSize srcSize, int srcStep, VemiRect srcRoi,
+                                            Vemi8u* pDst, int dstStep, VemiSize dstRoiSize, double xFactor,
+                                            double yFactor, double xCenter, double yCenter, int interpolation);
+VEMI_API VemiStatus vemiResizeCenter_8u_C4R(const Vemi8u* pSrc, VemiSize srcSize, int srcStep, VemiRect srcRoi,
+                                            Vemi8u* pDst, int dstStep, VemiSize dstRoiSize, double xFactor,
+                                            double yFactor, double xCenter, double yCenter, int interpolation);
+VEMI_API VemiStatus vemiResizeCenter_8u_AC4R(const Vemi8u* pSrc, VemiSize srcSize, int srcStep, VemiRect srcRoi,
+                                             Vemi8u* pDst, int dstStep, VemiSize dstRoiSize, double xFactor,
+                                             double yFactor, double xCenter, double yCenter, int interpolation);
+VEMI_API VemiStatus vemiResizeCenter_8u_P3R(const Vemi8u* const pSrc[3], VemiSize srcSize, int srcStep, VemiRect srcRoi,
+                                            Vemi8u* const pDst[3], int dstStep, VemiSize dstRoiSize, double xFactor,
+                                            double yFactor, double xCenter, double yCenter, int interpolation);
+VEMI_API VemiStatus vemiResizeCenter_8u_P4R(const Vemi8u* const pSrc[4], VemiSize srcSize, int srcStep, VemiRect srcRoi,
+                                            Vemi8u* const pDst[4], int dstStep, VemiSize dstRoiSize, double xFactor,
+                                            double yFactor, double xCenter, double yCenter, int interpolation);
+
+VEMI_API VemiStatus vemiResizeCenter_16u_C1R(const Vemi16u* pSrc, VemiSize srcSize, int srcStep, VemiRect srcRoi,
+                                             Vemi16u* pDst, int dstStep, VemiSize dstRoiSize, double xFactor,
+                                             double yFactor, double xCenter, double yCenter, int interpolation);
+VEMI_API VemiStatus vemiResizeCenter_16u_C3R(const Vemi16u* pSrc, VemiSize srcSize, int srcStep, VemiRect srcRoi,
+                                             Vemi16u* pDst, int dstStep, VemiSize dstRoiSize, double xFactor,
+                                             double yFactor, double xCenter, double yCenter, int interpolation);
+VEMI_API VemiStatus vemiResizeCenter_16u_C4R(const Vemi16u* pSrc, VemiSize srcSize, int srcStep, VemiRect srcRoi,
+                                             Vemi16u* pDst, int dstStep, VemiSize dstRoiSize, double xFactor,
+                                             double yFactor, double xCenter, double yCenter, int interpolation);
+VEMI_API VemiStatus vemiResizeCenter_16u_AC4R(const Vemi16u* pSrc, VemiSize srcSize, int srcStep, VemiRect srcRoi,
+                                              Vemi16u* pDst, int dstStep, VemiSize dstRoiSize, double xFactor,
+                                              double yFactor, double xCenter, double yCenter, int interpolation);
+VEMI_API VemiStatus vemiResizeCenter_16u_P3R(const Vemi16u* const pSrc[3], VemiSize srcSize, int srcStep,
+                                             VemiRect srcRoi, Vemi16u* const pDst[3], int dstStep, VemiSize dstRoiSize,
+                                             double xFactor, double yFactor, double xCenter, double yCenter,
+                                             int interpolation);
+VEMI_API VemiStatus vemiResizeCenter_16u_P4R(const Vemi16u* const pSrc[4], VemiSize srcSize, int srcStep,
+                                             VemiRect srcRoi, Vemi16u* const pDst[4], int dstStep, VemiSize dstRoiSize,
+                                             double xFactor, double yFactor, double xCenter, double yCenter,
+                                             int interpolation);
+
+VEMI_API VemiStatus vemiResizeCenter_32f_C1R(const Vemi32f* pSrc, VemiSize srcSize, int srcStep, VemiRect srcRoi,
+                                             Vemi32f* pDst, int dstStep, VemiSize dstRoiSize, double xFactor,
+                                             double yFactor, double xCenter, double yCenter, int interpolation);
+VEMI_API VemiStatus vemiResizeCenter_32f_C3R(const Vemi32f* pSrc, VemiSize srcSize, int srcStep, VemiRect srcRoi,
+                                             Vemi32f* pDst, int dstStep, VemiSize dstRoiSize, double xFactor,
+                                             double yFactor, double xCenter, double yCenter, int interpolation);
+VEMI_API VemiStatus vemiResizeCenter_32f_C4R(const Vemi32f* pSrc, VemiSize srcSize, int srcStep, VemiRect srcRoi,
+                                             Vemi32f* pDst, int dstStep, VemiSize dstRoiSize, double xFactor,
+                                             double yFactor, double xCenter, double yCenter, int interpolation);
+VEMI_API VemiStatus vemiResizeCenter_32f_AC4R(const Vemi32f* pSrc, VemiSize srcSize, int srcStep, VemiRect srcRoi,
+                                              Vemi32f* pDst, int dstStep, VemiSize dstRoiSize, double xFactor,
+                                              double yFactor, double xCenter, double yCenter, int interpolation);
+VEMI_API VemiStatus vemiResizeCenter_32f_P3R(const Vemi32f* const pSrc[3], VemiSize srcSize, int srcStep,
+                                             VemiRect srcRoi, Vemi32f* const pDst[3], int dstStep, VemiSize dstRoiSize,
+                                             double xFactor, double yFactor, double xCenter, double yCenter,
+                                             int interpolation);
+VEMI_API VemiStatus vemiResizeCenter_32f_P4R(const Vemi32f* const pSrc[4], VemiSize srcSize, int srcStep,
+                                             VemiRect srcRoi, Vemi32f* const pDst[4], int dstStep, VemiSize dstRoiSize,
+                                             double xFactor, double yFactor, double xCenter, double yCenter,
+                                             int interpolation);
+
+/** @} */
+
+/**
+ * @name vemiResizeShift: by steps, with shifted positions
+ *
+ * With steps by vemiGetResizeFract, and shifts for the place of each tile, large images are resized tile by tile. A
+ * shift below 0 gives the columns whose positions are less than a pixel before the image a negative fraction t: they go
+ * on beyond the image's first pixels.
+ * @{
+ */
+
+VEMI_API VemiStatus vemiResizeShift_8u_C1R(const Vemi8u* pSrc, VemiSize srcSize, int srcStep, VemiRect srcRoi,
+                                           Vemi8u* pDst, int dstStep, VemiSize dstRoiSize, double xFr, double yFr,
+                                           double xShift, double yShift, int interpolation);
+VEMI_API VemiStatus vemiResizeShift_8u_C3R(const Vemi8u* pSrc, VemiSize srcSize, int srcStep, VemiRect srcRoi,
+                                           Vemi8u* pDst, int dstStep, VemiSize dstRoiSize, double xFr, double yFr,
+                                           double xShift, double yShift, int interpolation);
+VEMI_API VemiStatus vemiResizeShift_8u_C4R(const Vemi8u* pSrc, VemiSize srcSize, int srcStep, VemiRect srcRoi,
+                                           Vemi8u* pDst, int dstStep, VemiSize dstRoiSize, double xFr, double yFr,
+                                           double xShift, double yShift, int interpolation);
+VEMI_API VemiStatus vemiResizeShift_8u_AC4R(const Vemi8u* pSrc, VemiSize srcSize, int srcStep, VemiRect srcRoi,
+                                            Vemi8u* pDst, int dstStep, VemiSize dstRoiSize, double xFr, double yFr,
+                                            double xShift, double yShift, int interpolation);
+VEMI_API VemiStatus vemiResizeShift_8u_P3R(const Vemi8u* const pSrc[3], VemiSize srcSize, int srcStep, VemiRect srcRoi,
+                                           Vemi8u* const pDst[3], int dstStep, VemiSize dstRoiSize, double xFr,
+                                           double yFr, double xShift, double yShift, int interpolation);
+VEMI_API VemiStatus vemiResizeShift_8u_P4R(const Vemi8u* const pSrc[4], VemiSize srcSize, int srcStep, VemiRect srcRoi,
+                                           Vemi8u* const pDst[4], int dstStep, VemiSize dstRoiSize, double xFr,
+                                           double yFr, double xShift, double yShift, int interpolation);
+
+VEMI_API VemiStatus vemiResizeShift_16u_C1R(const Vemi16u* pSrc, VemiSize srcSize, int srcStep, VemiRect srcRoi,
+                                            Vemi16u* pDst, int dstStep, VemiSize dstRoiSize, double xFr, double yFr,
+                                            double xShift, double yShift, int interpolation);
+VEMI_API VemiStatus vemiResizeShift_16u_C3R(const Vemi16u* pSrc, VemiSize srcSize, int srcStep, VemiRect srcRoi,
+                                            Vemi16u* pDst, int dstStep, VemiSize dstRoiSize, double xFr, double yFr,
+                                            double xShift, double yShift, int interpolation);
+VEMI_API VemiStatus vemiResizeShift_16u_C4R(const Vemi16u* pSrc, VemiSize srcSize, int srcStep, VemiRect srcRoi,
+                                            Vemi16u* pDst, int dstStep, VemiSize dstRoiSize, double xFr, double yFr,
+                                            double xShift, double yShift, int interpolation);
+VEMI_API VemiStatus vemiResizeShift_16u_AC4R(const Vemi16u* pSrc, VemiSize srcSize, int srcStep, VemiRect srcRoi,
+                                             Vemi16u* pDst, int dstStep, VemiSize dstRoiSize, double xFr, double yFr,
+                                             double xShift, double yShift, int interpolation);
+VEMI_API VemiStatus vemiResizeShift_16u_P3R(const Vemi16u* const pSrc[3], VemiSize srcSize, int srcStep,
+                                            VemiRect srcRoi, Vemi16u* const pDst[3], int dstStep, VemiSize dstRoiSize,
+                                            double xFr, double yFr, double xShift, double yShift, int interpolation);
+VEMI_API VemiStatus vemiResizeShift_16u_P4R(const Vemi16u* const pSrc[4], VemiSize srcSize, int srcStep,
+                                            VemiRect srcRoi, Vemi16u* const pDst[4], int dstStep, VemiSize dstRoiSize,
+                                            double xFr, double yFr, double xShift, double yShift, int interpolation);
+
+VEMI_API VemiStatus vemiResizeShift_32f_C1R(const Vemi32f* pSrc, VemiSize srcSize, int srcStep, VemiRect srcRoi,
+                                            Vemi32f* pDst, int dstStep, VemiSize dstRoiSize, double xFr, double yFr,
+                                            double xShift, double yShift, int interpolation);
+VEMI_API VemiStatus vemiResizeShift_32f_C3R(const Vemi32f* pSrc, VemiSize srcSize, int srcStep, VemiRect srcRoi,
+                                            Vemi32f* pDst, int dstStep, VemiSize dstRoiSize, double xFr, double yFr,
+                                            double xShift, double yShift, int interpolation);
+VEMI_API VemiStatus vemiResizeShift_32f_C4R(const Vemi32f* pSrc, VemiSize srcSize, int srcStep, VemiRect srcRoi,
+                                            Vemi32f* pDst, int dstStep, VemiSize dstRoiSize, double xFr, double yFr,
+                                            double xShift, double yShift, int interpolation);
+VEMI_API VemiStatus vemiResizeShift_32f_AC4R(const Vemi32f* pSrc, VemiSize srcSize, int srcStep, VemiRect srcRoi,
+                                             Vemi32f* pDst, int dstStep, VemiSize dstRoiSize, double xFr, double yFr,
+                                             double xShift, double yShift, int interpolation);
+VEMI_API VemiStatus vemiResizeShift_32f_P3R(const Vemi32f* const pSrc[3], VemiSize srcSize, int srcStep,
+                                            VemiRect srcRoi, Vemi32f* const pDst[3], int dstStep, VemiSize dstRoiSize,
+                                            double xFr, double yFr, double xShift, double yShift, int interpolation);
+VEMI_API VemiStatus vemiResizeShift_32f_P4R(const Vemi32f* const pSrc[4], VemiSize srcSize, int srcStep,
+                                            VemiRect srcRoi, Vemi32f* const pDst[4], int dstStep, VemiSize dstRoiSize,
+                                            double xFr, double yFr, double xShift, double yShift, int interpolation);
+
+/** @} */
+
+/**
+ * The steps of a resize by these factors, for vemiResizeShift:
+ *
+ *     vemiInterNearest    *pxFr = 1 / xFactor
+ *     others              *pxFr = (w - 1) / (w xFactor - 1), or 0 where w xFactor is at most 1
+ *
+ * and the same for y, with w what of srcRoi lies within the image. A small image changes no interpolation here.
+ *
+ * @param srcSize,srcRoi  size of the source image, and the region of it
+ * @param xFactor,yFactor destination pixels for each source pixel
+ * @param pxFr,pyFr       receive the steps
+ * @param interpolation   any but vemiInterSuper
+ *
+ * **Statuses**, in the order of the tests:
+ *
+ * - vemiErrSize: srcSize.width, srcSize.height, srcRoi.width or srcRoi.height is below 1, or srcRoi.x or srcRoi.y below
+ * 0
+ * - vemiWarnNoIntersection: the region begins outside the image; nothing is written
+ * - vemiErrResizeFactor: a factor is not above 0
+ * - vemiErrNullPtr: pxFr or pyFr is null
+ * - vemiErrInterpolation: interpolation is none of the four
+ */
+VEMI_API VemiStatus vemiGetResizeFract(VemiSize srcSize, VemiRect srcRoi, double xFactor, double yFactor, double* pxFr,
+                                       double* pyFr, int interpolation);
+
+/** @} */
+
 /* ---- Affine warps ---- */
 
 /* ---- Perspective and bilinear warps ---- */

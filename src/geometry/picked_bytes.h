@@ -1,0 +1,120 @@
+// Rows whose elements are made of bytes at computed, mostly close places of another row. A vector is put together by
+// blocks of 16 bytes, each of which is shuffled out of 16 bytes in memory, or out of several such windows where the
+// places of its parts lie too far apart for one. Which bytes, is a table of the columns: a call makes it once.
+#pragma once
+
+#include <cstdint>
+
+#include "core/lanes.h"
+#include "core/scratch.h"
+
+namespace vemi::geometry {
+
+/// Bytes behind the last one that is wanted which may be read.
+inline constexpr int windowSlack = 16;
+
+/// What an element of `bytes` (1, 2 or 4) takes: the bytes at its offset + pattern[0], + pattern[1], ...
+struct BytePattern {
+  int bytes;
+  uint8_t at[4];
+
+  /// Neighbouring samples of `sampleBytes`, `distance` bytes apart.
+  static BytePattern ofSamples(int bytes, int sampleBytes, int distance) {
+    BytePattern pattern = {bytes, {}};
+    for (int k = 0; k < bytes; ++k) {
+      pattern.at[k] = static_cast<uint8_t>(k / sampleBytes * distance + k % sampleBytes);
+    }
+    return pattern;
+  }
+};
+
+namespace detail {
+
+/// Of `windows` parts of a block, what lies outside of each: a lookup there gives zero.
+template <int windows>
+struct OutsideOfPart {
+  alignas(16) uint8_t index[windows][16];
+
+  constexpr OutsideOfPart() : index() {
+    for (int part = 0; part < windows; ++part) {
+      for (int i = 0; i < 16; ++i) index[part][i] = i / (16 / windows) == part ? 0 : 0x80;
+    }
+  }
+};
+
+template <int windows>
+inline constexpr OutsideOfPart<windows> outsideOfPart;
+
+/// A vector of bytes whose block b is read from at(b).
+template <class D, class At>
+HWY_INLINE hn::Vec<D> blocksFrom(D d, const At& at) {
+  if constexpr (hn::MaxLanes(D()) == 16) {
+    return hn::LoadU(d, at(0));
+  } else {
+    const hn::Half<D> dHalf;
+    constexpr ptrdiff_t half = hn::MaxLanes(decltype(dHalf)()) / 16;
+    const auto lower = blocksFrom(dHalf, at);
+    return hn::Combine(d, blocksFrom(dHalf, [&](ptrdiff_t b) HWY_ATTR { return at(b + half); }), lower);
+  }
+}
+
+}  // namespace detail
+
+/// The table of a row.
+class PickedBytes {
+ public:
+  struct Room {
+    Piece<int32_t> base;
+    Piece<uint8_t> place;
+  };
+
+  /// For so many elements, and as many more as a vector may have behind them.
+  static Room addTo(Pieces& pieces, Vemi64s elements, int bytes) {
+    const Vemi64s padded = elements + laneCount<uint8_t>;
+    return {pieces.add<int32_t>(padded), pieces.add<uint8_t>(limitedProduct(padded, bytes))};
+  }
+
+  PickedBytes(const Scratch& scratch, const Room& room) : base_(scratch[room.base]), place_(scratch[room.place]) {}
+
+  /// Offsets in bytes, of each element. Those of pixels never decrease.
+  void make(const int32_t* offset, ptrdiff_t elements, const BytePattern& pattern);
+
+  /// 1, 2, 4, 8 or 16.
+  int windows() const { return windows_; }
+
+  /// The vector of a row that begins with this block.
+  template <int windows>
+  HWY_INLINE hn::Vec<Lanes<uint8_t>> vector(const uint8_t* row, ptrdiff_t block) const {
+    const Lanes<uint8_t> d;
+    const auto place = hn::LoadU(d, place_ + 16 * block);
+    const int32_t* const base = base_ + windows * block;
+    const auto part = [&](auto w) HWY_ATTR {
+      const auto bytes = detail::blocksFrom(d, [&](ptrdiff_t b) HWY_ATTR { return row + base[windows * b + w]; });
+      if constexpr (windows == 1) return hn::TableLookupBytesOr0(bytes, place);
+      const auto outside = hn::LoadDup128(d, detail::outsideOfPart<windows>.index[w]);
+      return hn::TableLookupBytesOr0(bytes, hn::Or(place, outside));
+    };
+    auto all = part(std::integral_constant<int, 0>());
+    unrolled<windows - 1>([&](auto w) HWY_ATTR { all = hn::Or(all, part(std::integral_constant<int, w + 1>())); });
+    return all;
+  }
+
+  /// f(number of windows, as a constant), of which there are at most `most`.
+  template <int most, class F>
+  HWY_INLINE void withWindows(const F& f) const {
+    if (windows_ == 1) return f(std::integral_constant<int, 1>());
+    if (windows_ == 2) return f(std::integral_constant<int, 2>());
+    if (most == 4 || windows_ == 4) return f(std::integral_constant<int, 4>());
+    if constexpr (most >= 8) {
+      if (most == 8 || windows_ == 8) return f(std::integral_constant<int, 8>());
+    }
+    if constexpr (most == 16) return f(std::integral_constant<int, 16>());
+  }
+
+ private:
+  int windows_ = 1;
+  int32_t* base_;   // of each window of each block
+  uint8_t* place_;  // in its window, of each byte
+};
+
+}  // namespace vemi::geometry

@@ -1,0 +1,674 @@
+// The routine of a resize: rows are interpolated in x into rows of the destination's width, of which the last few are
+// held, and these in y. What the elements of a row are made of, is put together by tables of the columns that know
+// nothing of layouts (picked_bytes.h): behind them, every lane is an element.
+//
+// Single precision, each operation rounded by itself, in this order:
+//   linear   (1 - t) p0 + t p1
+//   cubic    ((p0 + a d1) + b d2) + c d3 with d1 = p1 - p0, d2 = (p2 - p1) - d1, d3 = ((p1 - (p2 + p2)) + p3) - d2,
+//            a = 1 + t, b = t a / 2, c = ((t - 1) b) / 3
+//   Lanczos  ((((w0 p0 + w1 p1) + w2 p2) + w3 p3) + w4 p4) + w5 p5
+//   area     sums from 0 on, the covered rows of a column from the top, then the columns from the left, each times its
+//            weight; at last times xFactor yFactor
+// Linear interpolation of bytes is one of integers: weights w of 16384,
+//   h = ((16384 - w) p0 + w p1 + 128) >> 8 in x, ((16384 - v) h0 + v h1 + 0x80000) >> 20 in y.
+#pragma once
+
+#include <algorithm>
+#include <limits>
+
+#include "core/lane_width.h"
+#include "core/map_row.h"
+#include "core/rounding.h"
+#include "core/windows.h"
+#include "geometry/resize.h"
+#include "geometry/resize_lines.h"
+
+namespace vemi::geometry {
+
+// ---- Filters --------------------------------------------------------------------------------------------------------
+
+struct LinearFilter {
+  static constexpr int taps = 2, weights = 1;
+  static constexpr auto nodeOf = linearNode;
+
+  static void weigh(float t, float (&weight)[weights]) { weight[0] = t; }
+
+  template <class D, class V>
+  HWY_INLINE static V apply(D d, const Vectors<V, taps>& p, const Vectors<V, weights>& w) {
+    const V t = w.v[0];
+    return hn::Add(hn::Mul(hn::Sub(hn::Set(d, 1.0f), t), p.v[0]), hn::Mul(t, p.v[1]));
+  }
+};
+
+struct CubicFilter {
+  static constexpr int taps = 4, weights = 3;
+  static constexpr auto nodeOf = cubicNode;
+
+  static void weigh(float t, float (&weight)[weights]) {
+    const float a = 1 + t, b = t * a / 2, c = (t - 1) * b / 3;
+    weight[0] = a;
+    weight[1] = b;
+    weight[2] = c;
+  }
+
+  template <class D, class V>
+  HWY_INLINE static V apply(D, const Vectors<V, taps>& p, const Vectors<V, weights>& w) {
+    const V d1 = hn::Sub(p.v[1], p.v[0]);
+    const V d2 = hn::Sub(hn::Sub(p.v[2], p.v[1]), d1);
+    const V d3 = hn::Sub(hn::Add(hn::Sub(p.v[1], hn::Add(p.v[2], p.v[2])), p.v[3]), d2);
+    const V first = hn::Add(p.v[0], hn::Mul(w.v[0], d1));
+    return hn::Add(hn::Add(first, hn::Mul(w.v[1], d2)), hn::Mul(w.v[2], d3));
+  }
+};
+
+struct LanczosFilter {
+  static constexpr int taps = 6, weights = 6;
+  static constexpr auto nodeOf = lanczosNode;
+
+  static void weigh(float t, float (&weight)[weights]) { lanczosWeights(t, weight); }
+
+  template <class D, class V>
+  HWY_INLINE static V apply(D, const Vectors<V, taps>& p, const Vectors<V, weights>& w) {
+    V sum = hn::Mul(w.v[0], p.v[0]);
+    unrolled<taps - 1>([&](auto k) HWY_ATTR { sum = hn::Add(sum, hn::Mul(w.v[k + 1], p.v[k + 1])); });
+    return sum;
+  }
+};
+
+// ---- Columns --------------------------------------------------------------------------------------------------------
+
+/// The first samples of all columns, and how far they reach: an interval of the source's columns, which may begin
+/// before the image's first one and end beyond its last one.
+struct ColumnRange {
+  int first, last;
+
+  template <class NodeOf>
+  static ColumnRange of(const Axis& x, const NodeOf& nodeOf, int taps) {
+    ColumnRange range = {std::numeric_limits<int>::max(), std::numeric_limits<int>::min()};
+    forNodes(x, nodeOf, [&](int, const Node& node) {
+      range.first = std::min(range.first, node.first);
+      range.last = std::max(range.last, node.first);
+    });
+    range.last += taps - 1;
+    return range;
+  }
+
+  Vemi64s columns() const { return Vemi64s{last} - first + 1; }
+  /// Offsets within a line are integers of 32 bits.
+  bool fits(ptrdiff_t pixelBytes) const {
+    return columns() * pixelBytes <= std::numeric_limits<int32_t>::max() - windowSlack;
+  }
+};
+
+/// The bytes of each element's first sample, for tables of picks.
+template <class T, class L>
+void setOffsets(int32_t* offset, int column, int sample) {
+  for (int c = 0; c < L::elements; ++c) {
+    offset[ptrdiff_t{column} * L::elements + c] =
+        static_cast<int32_t>((ptrdiff_t{sample} * L::elements + c) * ptrdiff_t{sizeof(T)});
+  }
+}
+
+/// So many elements of rows in memory of our own, with what a vector may have behind them.
+constexpr Vemi64s withVectorEnd(Vemi64s elements) { return elements + laneCount<uint8_t>; }
+
+// ---- Filters in single precision ------------------------------------------------------------------------------------
+
+/// A row of floats out of a source line: words of neighbouring samples, of which a group has 4 / sizeof(T).
+template <class F, class T, class L>
+class FloatAcross {
+ public:
+  using Element = float;
+
+  struct Room {
+    PickedBytes::Room picks;
+    Piece<int32_t> offset;
+    Piece<float> weight;
+
+    Room(Pieces& pieces, Vemi64s elements)
+        : picks(PickedBytes::addTo(pieces, elements, 4)),
+          offset(pieces.add<int32_t>(elements)),
+          weight(pieces.add<float>(limitedProduct(F::weights, withVectorEnd(elements)))) {}
+  };
+
+  FloatAcross(const Scratch& scratch, const Room& room, const Axis& x, int firstColumn)
+      : elements_(ptrdiff_t{x.count} * L::elements),
+        pitch_(withVectorEnd(elements_)),
+        picks_(scratch, room.picks),
+        weight_(scratch[room.weight]) {
+    int32_t* const offset = scratch[room.offset];
+    forNodes(x, F::nodeOf, [&](int column, const Node& node) {
+      setOffsets<T, L>(offset, column, node.first - firstColumn);
+      float weight[F::weights];
+      F::weigh(static_cast<float>(node.fraction), weight);
+      for (int k = 0; k < F::weights; ++k) {
+        std::fill_n(weight_ + k * pitch_ + ptrdiff_t{column} * L::elements, L::elements, weight[k]);
+      }
+    });
+    for (int k = 0; k < F::weights; ++k) std::fill_n(weight_ + k * pitch_ + elements_, laneCount<uint8_t>, 0.0f);
+    picks_.make(offset, elements_, BytePattern::ofSamples(4, sizeof(T), pixelBytes<T, L>));
+  }
+
+  void operator()(const uint8_t* line, float* out) const {
+    picks_.template withWindows<4>([&](auto windows) { run<windows>(line, out); });
+  }
+
+ private:
+  static constexpr int perWord = 4 / static_cast<int>(sizeof(T));
+
+  ptrdiff_t elements_, pitch_;
+  PickedBytes picks_;
+  float* weight_;
+
+  /// Sample k of each word, as a float.
+  template <int k, class D>
+  HWY_INLINE static hn::Vec<D> sample(D d, hn::Vec<Lanes<uint8_t>> words) {
+    if constexpr (sizeof(T) == 4) {
+      return hn::BitCast(d, words);
+    } else {
+      constexpr int bits = 8 * sizeof(T);
+      const hn::RebindToSigned<D> di;
+      const Lanes<uint32_t> dWords;
+      auto word = hn::BitCast(dWords, words);
+      if constexpr (k > 0) word = hn::ShiftRight<k * bits>(word);
+      if constexpr (k + 1 < perWord) word = hn::And(word, hn::Set(dWords, (1u << bits) - 1));
+      return hn::ConvertTo(d, hn::BitCast(di, word));
+    }
+  }
+
+  template <int windows>
+  HWY_NOINLINE void run(const uint8_t* line, float* out) const {
+    const Lanes<float> d;
+    using V = hn::Vec<Lanes<float>>;
+    constexpr ptrdiff_t N = laneCount<float>, groupBytes = 4 * L::elements;
+    const PickedBytes picks = picks_;
+    const float* const weights = weight_;
+    for (ptrdiff_t i = 0; i < elements_; i += N) {
+      Vectors<V, F::taps> p;
+      unrolled<(F::taps + perWord - 1) / perWord>([&](auto group) HWY_ATTR {
+        const auto words = picks.vector<windows>(line + group * groupBytes, i / 4);
+        unrolled<std::min(perWord, F::taps - group * perWord)>(
+            [&](auto k) HWY_ATTR { p.v[group * perWord + k] = sample<k>(d, words); });
+      });
+      Vectors<V, F::weights> w;
+      unrolled<F::weights>([&](auto k) HWY_ATTR { w.v[k] = hn::LoadU(d, weights + k * pitch_ + i); });
+      hn::StoreU(F::apply(d, p, w), d, out + i);
+    }
+  }
+};
+
+/// Lanes of T out of floats: as they are, or to nearest.
+template <class T, class D, class At>
+HWY_INLINE hn::Vec<D> elementsOf(D d, const At& at) {
+  if constexpr (sizeof(T) == 4) {
+    return at(0);
+  } else {
+    const Lanes<int32_t> di;
+    return packEach<int32_t>(d, [&](auto k) HWY_ATTR { return nearestOf<T>(di, at(k * laneCount<float>)); });
+  }
+}
+
+/// The stage in y: elements of a destination row.
+template <class F, class T>
+struct FloatDown {
+  static constexpr int vectors = sizeof(T) == 4 ? 2 : 1;
+
+  const float* row[F::taps];
+  float weight[F::weights];
+
+  template <class D>
+  HWY_INLINE auto operator()(D d, ptrdiff_t i) const {
+    const Lanes<float> df;
+    using V = hn::Vec<Lanes<float>>;
+    Vectors<V, F::weights> w;
+    unrolled<F::weights>([&](auto k) HWY_ATTR { w.v[k] = hn::Set(df, weight[k]); });
+    return elementsOf<T>(d, [&](ptrdiff_t place) HWY_ATTR {
+      Vectors<V, F::taps> p;
+      unrolled<F::taps>([&](auto k) HWY_ATTR { p.v[k] = hn::LoadU(df, row[k] + i + place); });
+      return F::apply(df, p, w);
+    });
+  }
+};
+
+template <class F, class T, class L>
+struct FloatStages {
+  using Filter = F;
+  using Across = FloatAcross<F, T, L>;
+
+  static void down(ptrdiff_t elements, const float* const* rows, const Node& node, bool, T* dst) {
+    FloatDown<F, T> stage;
+    std::copy_n(rows, F::taps, stage.row);
+    F::weigh(static_cast<float>(node.fraction), stage.weight);
+    mapPlaces<alphaOf<L>>(elements, eachPlace<FloatDown<F, T>::vectors>(stage), dst);
+  }
+};
+
+// ---- Linear interpolation of bytes
+// ------------------------------------------------------------------------------------
+
+/// h = 64 p0 + (w (p1 - p0) + 128 >> 8), which is the formula in lanes of 16 bits: the rounded product shifts by 15,
+/// seven of which the difference has in advance. It never leaves them, also where w is negative.
+template <class L>
+class ByteAcross {
+ public:
+  using Element = int16_t;
+
+  struct Room {
+    PickedBytes::Room picks;
+    Piece<int32_t> offset;
+    Piece<int16_t> weight;
+
+    Room(Pieces& pieces, Vemi64s elements)
+        : picks(PickedBytes::addTo(pieces, elements, 2)),
+          offset(pieces.add<int32_t>(elements)),
+          weight(pieces.add<int16_t>(withVectorEnd(elements))) {}
+  };
+
+  ByteAcross(const Scratch& scratch, const Room& room, const Axis& x, int firstColumn)
+      : elements_(ptrdiff_t{x.count} * L::elements), picks_(scratch, room.picks), weight_(scratch[room.weight]) {
+    int32_t* const offset = scratch[room.offset];
+    forNodes(x, linearNode, [&](int column, const Node& node) {
+      setOffsets<uint8_t, L>(offset, column, node.first - firstColumn);
+      std::fill_n(weight_ + ptrdiff_t{column} * L::elements, L::elements, static_cast<int16_t>(linearWeight(node)));
+    });
+    std::fill_n(weight_ + elements_, laneCount<uint8_t>, int16_t{0});
+    picks_.make(offset, elements_, BytePattern::ofSamples(2, 1, L::elements));
+  }
+
+  void operator()(const uint8_t* line, int16_t* out) const {
+    picks_.template withWindows<8>([&](auto windows) { run<windows>(line, out); });
+  }
+
+ private:
+  ptrdiff_t elements_;
+  PickedBytes picks_;
+  int16_t* weight_;
+
+  template <int windows>
+  HWY_NOINLINE void run(const uint8_t* line, int16_t* out) const {
+    const Lanes<int16_t> d;
+    const Lanes<uint16_t> dPairs;
+    constexpr ptrdiff_t N = laneCount<int16_t>;
+    const PickedBytes picks = picks_;
+    const int16_t* const weights = weight_;
+    for (ptrdiff_t i = 0; i < elements_; i += N) {
+      const auto pairs = hn::BitCast(dPairs, picks.vector<windows>(line, i / 8));
+      const auto p0 = hn::BitCast(d, hn::And(pairs, hn::Set(dPairs, uint16_t{255})));
+      const auto p1 = hn::BitCast(d, hn::ShiftRight<8>(pairs));
+      const auto product = hn::MulFixedPoint15(hn::ShiftLeft<7>(hn::Sub(p1, p0)), hn::LoadU(d, weights + i));
+      hn::StoreU(hn::Add(hn::ShiftLeft<6>(p0), product), d, out + i);
+    }
+  }
+};
+
+/// For rows and weights that do not go beyond the pixels: h0 + (v (h1 - h0) >> 14) + 32 >> 6, which is the formula, as
+/// what the first shift drops is less than one of the second one's units. 0 <= v < 16384.
+struct ByteDown {
+  const int16_t *row0, *row1;
+  int16_t doubledWeight;
+
+  template <class D>
+  HWY_INLINE auto operator()(D d, ptrdiff_t i) const {
+    const Lanes<int16_t> d16;
+    const auto at = [&](ptrdiff_t place) HWY_ATTR {
+      const auto h0 = hn::LoadU(d16, row0 + place);
+      const auto difference = hn::Sub(hn::LoadU(d16, row1 + place), h0);
+      const auto part = hn::MulHigh(hn::Add(difference, difference), hn::Set(d16, doubledWeight));
+      return hn::ShiftRight<6>(hn::Add(hn::Add(h0, part), hn::Set(d16, int16_t{32})));
+    };
+    return packInOrder(d, at(i), at(i + laneCount<int16_t>));
+  }
+};
+
+/// For any.
+struct ByteDownBeyond {
+  const int16_t *row0, *row1;
+  int weight;
+
+  template <class D>
+  HWY_INLINE auto operator()(D d, ptrdiff_t i) const {
+    const Lanes<int32_t> di;
+    return packEach<int32_t>(d, [&](auto k) HWY_ATTR {
+      const auto product = [&](const int16_t* row, int w) HWY_ATTR {
+        return hn::Mul(loadExtended(di, row + i + k * laneCount<int32_t>), hn::Set(di, w));
+      };
+      const auto sum = hn::Add(product(row0, 16384 - weight), product(row1, weight));
+      return hn::ShiftRight<20>(hn::Add(sum, hn::Set(di, 0x80000)));
+    });
+  }
+};
+
+template <class L>
+struct ByteStages {
+  using Filter = LinearFilter;
+  using Across = ByteAcross<L>;
+
+  /// `beyond`: the rows go beyond the pixels.
+  static void down(ptrdiff_t elements, const int16_t* const* rows, const Node& node, bool beyond, uint8_t* dst) {
+    const int weight = linearWeight(node);
+    if (beyond || weight < 0) {
+      return mapPlaces<alphaOf<L>>(elements, eachPlace<1>(ByteDownBeyond{rows[0], rows[1], weight}), dst);
+    }
+    // All of the second row is none of the first one.
+    const bool isSecond = weight == 16384;
+    const ByteDown stage = {rows[isSecond ? 1 : 0], rows[1], static_cast<int16_t>(isSecond ? 0 : 2 * weight)};
+    mapPlaces<alphaOf<L>>(elements, eachPlace(stage), dst);
+  }
+};
+
+// ---- Rows through both stages
+// -----------------------------------------------------------------------------------------
+
+template <class Stages, class T, class L>
+VemiStatus resizeByStages(const T* const* src, int srcStep, T* const* dst, int dstStep, int count,
+                          const ResizePlan& plan) {
+  using F = typename Stages::Filter;
+  using Across = typename Stages::Across;
+  using E = typename Across::Element;
+  const Vemi64s elements = Vemi64s{plan.x.count} * L::elements;
+  const ColumnRange range = ColumnRange::of(plan.x, F::nodeOf, F::taps);
+  SourceLines lines(range.first, range.columns(), pixelBytes<T, L>);
+  HeldRows<E, F::taps> held(elements);
+  Pieces pieces;
+  const typename Across::Room room(pieces, elements);
+  const auto copy = pieces.add<uint8_t>(lines.bytes());
+  const auto rowsOfStage = pieces.add<E>(held.elements());
+  const Scratch scratch(pieces);
+  if (!range.fits(pixelBytes<T, L>) || scratch.failed()) return vemiErrMemAlloc;
+  const Across across(scratch, room, plan.x, range.first);
+  lines.setCopy(scratch[copy]);
+  held.place(scratch[rowsOfStage]);
+  for (int n = 0; n < count; ++n) {
+    const Image<T> destination = {dst[n], dstStep};
+    lines.setSource(Image<const T>{src[n], srcStep}, plan.image);
+    held.forget();
+    forNodes(plan.y, F::nodeOf, [&](int y, const Node& node) {
+      const E* rows[F::taps];
+      for (int k = 0; k < F::taps; ++k) {
+        const int row = std::clamp(node.first + k, 0, plan.image.height - 1);
+        rows[k] = held.row(row, [&](E* out) { across(lines.row(row), out); });
+      }
+      Stages::down(static_cast<ptrdiff_t>(elements), rows, node, plan.x.start < 0, destination.row(y));
+    });
+  }
+  return vemiOk;
+}
+
+// ---- Nearest pixels
+// ---------------------------------------------------------------------------------------------------
+
+template <class T, class L>
+class NearestAcross {
+ public:
+  struct Room {
+    PickedBytes::Room picks;
+    Piece<int32_t> offset;
+
+    Room(Pieces& pieces, Vemi64s elements)
+        : picks(PickedBytes::addTo(pieces, elements, sizeof(T))), offset(pieces.add<int32_t>(elements)) {}
+  };
+
+  NearestAcross(const Scratch& scratch, const Room& room, const Axis& x, int firstColumn)
+      : elements_(ptrdiff_t{x.count} * L::elements), picks_(scratch, room.picks) {
+    int32_t* const offset = scratch[room.offset];
+    forNodes(x, nearestNode,
+             [&](int column, const Node& node) { setOffsets<T, L>(offset, column, node.first - firstColumn); });
+    picks_.make(offset, elements_, BytePattern::ofSamples(sizeof(T), sizeof(T), 0));
+  }
+
+  void operator()(const uint8_t* line, T* dst) const {
+    picks_.template withWindows<16 / sizeof(T)>([&](auto windows) { run<windows>(line, dst); });
+  }
+
+ private:
+  ptrdiff_t elements_;
+  PickedBytes picks_;
+
+  template <int windows>
+  HWY_NOINLINE void run(const uint8_t* line, T* dst) const {
+    const Lanes<T> d;
+    constexpr ptrdiff_t N = laneCount<T>;
+    const PickedBytes picks = picks_;
+    const auto store = [&](ptrdiff_t i, T* out) HWY_ATTR {
+      auto v = hn::BitCast(d, picks.vector<windows>(line, i * ptrdiff_t{sizeof(T)} / 16));
+      if constexpr (L::keepsAlpha) v = hn::IfThenElse(colourLanes(d), v, hn::LoadU(d, out));
+      hn::StoreU(v, d, out);
+    };
+    ptrdiff_t i = 0;
+    for (; i + N <= elements_; i += N) store(i, dst + i);
+    if (i < elements_) {
+      alignas(laneAlignment) T rest[N] = {};
+      const size_t bytes = static_cast<size_t>(elements_ - i) * sizeof(T);
+      std::memcpy(rest, dst + i, bytes);
+      store(i, rest);
+      std::memcpy(dst + i, rest, bytes);
+    }
+  }
+};
+
+template <class T, class L>
+VemiStatus resizeToNearest(const T* const* src, int srcStep, T* const* dst, int dstStep, int count,
+                           const ResizePlan& plan) {
+  const Vemi64s elements = Vemi64s{plan.x.count} * L::elements;
+  const ColumnRange range = ColumnRange::of(plan.x, nearestNode, 1);
+  SourceLines lines(range.first, range.columns(), pixelBytes<T, L>);
+  Pieces pieces;
+  const typename NearestAcross<T, L>::Room room(pieces, elements);
+  const auto copy = pieces.add<uint8_t>(lines.bytes());
+  const Scratch scratch(pieces);
+  if (!range.fits(pixelBytes<T, L>) || scratch.failed()) return vemiErrMemAlloc;
+  const NearestAcross<T, L> across(scratch, room, plan.x, range.first);
+  lines.setCopy(scratch[copy]);
+  for (int n = 0; n < count; ++n) {
+    const Image<T> destination = {dst[n], dstStep};
+    lines.setSource(Image<const T>{src[n], srcStep}, plan.image);
+    int last = -1;
+    forNodes(plan.y, nearestNode, [&](int y, const Node& node) {
+      if (node.first == last && !L::keepsAlpha) {
+        rowCopyBytes(destination.row(y - 1), destination.row(y),
+                     static_cast<ptrdiff_t>(elements) * ptrdiff_t{sizeof(T)});
+      } else {
+        across(lines.row(node.first), destination.row(y));
+        last = node.first;
+      }
+    });
+  }
+  return vemiOk;
+}
+
+// ---- Area averages
+// ----------------------------------------------------------------------------------------------------
+
+/// sum + weight sample, or the product alone plus zero, which has no negative zeros.
+struct Weighted {
+  float weight;
+
+  template <class D, class V, class In>
+  HWY_INLINE V operator()(D d, V sum, In in) const {
+    return hn::Add(sum, product(d, in));
+  }
+  template <class D, class In>
+  HWY_INLINE hn::Vec<D> operator()(D d, In in) const {
+    return hn::Add(hn::Zero(d), product(d, in));
+  }
+
+ private:
+  template <class D, class In>
+  HWY_INLINE auto product(D d, In in) const {
+    if constexpr (std::is_pointer_v<In>) {
+      return hn::Mul(loadExtended(d, in), hn::Set(d, weight));
+    } else {
+      return hn::Mul(in, hn::Set(d, weight));
+    }
+  }
+};
+
+/// Sums of a row's weighted elements, so many of each; a weight of zero stands where there is none.
+template <class L>
+class AreaAcross {
+ public:
+  struct Room {
+    PickedBytes::Room picks;
+    Piece<int32_t> offset;
+    Piece<float> weight;
+
+    Room(Pieces& pieces, Vemi64s elements, int taps)
+        : picks(PickedBytes::addTo(pieces, elements, 4)),
+          offset(pieces.add<int32_t>(elements)),
+          weight(pieces.add<float>(limitedProduct(taps, withVectorEnd(elements)))) {}
+  };
+
+  AreaAcross(const Scratch& scratch, const Room& room, const Axis& x, int firstColumn, int taps)
+      : elements_(ptrdiff_t{x.count} * L::elements),
+        pitch_(withVectorEnd(elements_)),
+        taps_(taps),
+        picks_(scratch, room.picks),
+        weight_(scratch[room.weight]) {
+    std::fill_n(weight_, taps * pitch_, 0.0f);
+    int32_t* const offset = scratch[room.offset];
+    double position = x.start;
+    for (int column = 0; column < x.count; ++column, position += x.step) {
+      int first = -1;
+      forCovered(position, x.step, x.image, [&](int index, float weight) {
+        if (first < 0) first = index;
+        std::fill_n(weight_ + (index - first) * pitch_ + ptrdiff_t{column} * L::elements, L::elements, weight);
+      });
+      setOffsets<float, L>(offset, column, first - firstColumn);
+    }
+    picks_.make(offset, elements_, BytePattern::ofSamples(4, 4, 0));
+  }
+
+  void operator()(const float* line, float* out) const {
+    picks_.template withWindows<4>([&](auto windows) { run<windows>(reinterpret_cast<const uint8_t*>(line), out); });
+  }
+
+ private:
+  ptrdiff_t elements_, pitch_;
+  int taps_;
+  PickedBytes picks_;
+  float* weight_;
+
+  template <int windows>
+  HWY_NOINLINE void run(const uint8_t* line, float* out) const {
+    const Lanes<float> d;
+    constexpr ptrdiff_t N = laneCount<float>;
+    const PickedBytes picks = picks_;
+    for (ptrdiff_t i = 0; i < elements_; i += N) {
+      auto sum = hn::Zero(d);
+      for (ptrdiff_t k = 0; k < taps_; ++k) {
+        const auto sample = hn::BitCast(d, picks.vector<windows>(line + k * pixelBytes<float, L>, i / 4));
+        const auto weight = hn::LoadU(d, weight_ + k * pitch_ + i);
+        const auto isThere = hn::Ne(weight, hn::Zero(d));
+        sum = hn::Add(sum, hn::IfThenElseZero(isThere, hn::Mul(weight, sample)));
+      }
+      hn::StoreU(sum, d, out + i);
+    }
+  }
+};
+
+/// Sums to means.
+template <class T>
+struct Scaled {
+  const float* row;
+  float scale;
+
+  template <class D>
+  HWY_INLINE auto operator()(D d, ptrdiff_t i) const {
+    const Lanes<float> df;
+    return elementsOf<T>(
+        d, [&](ptrdiff_t place) HWY_ATTR { return hn::Mul(hn::LoadU(df, row + i + place), hn::Set(df, scale)); });
+  }
+};
+
+/// The interval of columns that areas cover, and the most columns of one of them.
+struct AreaRange {
+  ColumnRange range = {std::numeric_limits<int>::max(), 0};
+  int taps = 0;
+
+  explicit AreaRange(const Axis& x) {
+    double position = x.start;
+    for (int column = 0; column < x.count; ++column, position += x.step) {
+      int first = -1;
+      forCovered(position, x.step, x.image, [&](int index, float) {
+        if (first < 0) first = index;
+        range.first = std::min(range.first, first);
+        range.last = std::max(range.last, index);
+        taps = std::max(taps, index - first + 1);
+      });
+    }
+  }
+};
+
+template <class T, class L>
+VemiStatus resizeByAreas(const T* const* src, int srcStep, T* const* dst, int dstStep, int count,
+                         const ResizePlan& plan) {
+  const Vemi64s elements = Vemi64s{plan.x.count} * L::elements;
+  const AreaRange area(plan.x);
+  const ColumnRange& range = area.range;
+  const Vemi64s lineElements = range.columns() * L::elements;
+  Pieces pieces;
+  const typename AreaAcross<L>::Room room(pieces, elements, area.taps);
+  const auto sumsOfRows = pieces.add<float>(lineElements + Vemi64s{area.taps} * L::elements + laneCount<float>);
+  const auto sumsOfAreas = pieces.add<float>(withVectorEnd(elements));
+  const Scratch scratch(pieces);
+  if (!range.fits(pixelBytes<float, L>) || scratch.failed()) return vemiErrMemAlloc;
+  const AreaAcross<L> across(scratch, room, plan.x, range.first, area.taps);
+  const auto length = static_cast<ptrdiff_t>(lineElements);
+  float* const line = scratch[sumsOfRows];
+  std::fill_n(line + length, area.taps * L::elements + laneCount<float>, 0.0f);
+  const Scaled<T> means = {scratch[sumsOfAreas], static_cast<float>(plan.xFactor * plan.yFactor)};
+  for (int n = 0; n < count; ++n) {
+    const Image<T> destination = {dst[n], dstStep};
+    const Image<const T> source = {src[n] + ptrdiff_t{range.first} * L::elements, srcStep};
+    double position = plan.y.start;
+    for (int y = 0; y < plan.y.count; ++y, position += plan.y.step) {
+      bool isFirst = true;
+      forCovered(position, plan.y.step, plan.y.image, [&](int row, float weight) {
+        const auto op = eachVector(Weighted{weight});
+        if (isFirst) {
+          mapElements<Alpha::none>(length, op, line, source.row(row));
+        } else {
+          mapElements<Alpha::none>(length, op, line, static_cast<const float*>(line), source.row(row));
+        }
+        isFirst = false;
+      });
+      across(line, scratch[sumsOfAreas]);
+      mapPlaces<alphaOf<L>>(static_cast<ptrdiff_t>(elements), eachPlace<1>(means), destination.row(y));
+    }
+  }
+  return vemiOk;
+}
+
+// ---- All of them
+// ------------------------------------------------------------------------------------------------------
+
+template <class T, class L>
+VemiStatus resizeImages(const T* const* src, int srcStep, T* const* dst, int dstStep, int count,
+                        const ResizePlan& plan) {
+  const auto by = [&](auto routine) { return routine(src, srcStep, dst, dstStep, count, plan); };
+  switch (plan.interpolation) {
+    case vemiInterNearest:
+      return by(resizeToNearest<T, L>);
+    case vemiInterLinear:
+      if constexpr (sizeof(T) == 1) {
+        return by(resizeByStages<ByteStages<L>, T, L>);
+      } else {
+        return by(resizeByStages<FloatStages<LinearFilter, T, L>, T, L>);
+      }
+    case vemiInterCubic:
+      return by(resizeByStages<FloatStages<CubicFilter, T, L>, T, L>);
+    case vemiInterSuper:
+      return by(resizeByAreas<T, L>);
+    default:
+      return by(resizeByStages<FloatStages<LanczosFilter, T, L>, T, L>);
+  }
+}
+
+}  // namespace vemi::geometry
+
+/// The routine's members of an element type.
+#define VEMI_RESIZE_LAYOUT(T, L)                                                                          \
+  template VemiStatus vemi::geometry::resizeImages<T, vemi::L>(const T* const*, int, T* const*, int, int, \
+                                                               const ResizePlan&);
+#define VEMI_RESIZE_TYPE(T) \
+  VEMI_RESIZE_LAYOUT(T, C1) VEMI_RESIZE_LAYOUT(T, C3) VEMI_RESIZE_LAYOUT(T, C4) VEMI_RESIZE_LAYOUT(T, AC4)
