@@ -40,5 +40,6 @@ void demoBox(const Demo& demo);
 void demoMorphology(const Demo& demo);
 void demoEdges(const Demo& demo);
 void demoFft(const Demo& demo);
+void demoWavelet(const Demo& demo);
 
 }  // namespace demo

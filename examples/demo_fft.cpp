@@ -15,18 +15,6 @@ namespace {
 constexpr int order = 8;
 constexpr VemiSize square = {1 << order, 1 << order};
 
-/// The green channel of the picture's middle, on a ground of its mean where the picture is smaller.
-Image8u squareOf(const Image8u& photo) {
-  Image8u grey(square, 1);
-  const VemiSize size = {std::min(square.width, photo.width()), std::min(square.height, photo.height())};
-  Vemi64f mean[3];
-  CALL(vemiMean_8u_C3R(photo.data(), photo.step(), photo.size(), mean));
-  CALL(vemiSet_8u_C1R(static_cast<Vemi8u>(mean[1]), grey.data(), grey.step(), square));
-  const int x = (photo.width() - size.width) / 2, y = (photo.height() - size.height) / 2;
-  CALL(vemiCopy_8u_C3C1R(photo.at(x, y) + 1, photo.step(), grey.data(), grey.step(), size));
-  return grey;
-}
-
 struct Part {
   float re, im;
 };
@@ -84,7 +72,7 @@ void weigh(Image<Vemi32f>& packed, Factor factor) {
 }  // namespace
 
 void demoFft(const Demo& demo) {
-  const Image8u grey = squareOf(demo.photo);
+  const Image8u grey = greenMiddleOf(demo.photo, square);
   Image<Vemi32f> image(square, 1), packed(square, 1), part(square, 1);
   Image8u result(square, 1);
   VemiFFTSpec_R_32f* made = nullptr;

@@ -1,6 +1,8 @@
 // Pictures made from others, for sections that combine two of them.
 #pragma once
 
+#include <algorithm>
+
 #include "shapes.h"
 
 namespace demo {
@@ -44,6 +46,18 @@ inline Image8u bordered(const Image8u& photo, int border) {
   CALL(vemiCopyReplicateBorder_8u_C3R(photo.data(), photo.step(), photo.size(), wide.data(), wide.step(), wide.size(),
                                       border, border));
   return wide;
+}
+
+/// The green channel of the picture's middle, on a ground of its mean where the picture is smaller.
+inline Image8u greenMiddleOf(const Image8u& photo, VemiSize whole) {
+  Image8u middle(whole, 1);
+  const VemiSize size = {std::min(whole.width, photo.width()), std::min(whole.height, photo.height())};
+  Vemi64f mean[3];
+  CALL(vemiMean_8u_C3R(photo.data(), photo.step(), photo.size(), mean));
+  CALL(vemiSet_8u_C1R(static_cast<Vemi8u>(mean[1]), middle.data(), middle.step(), whole));
+  const int x = (photo.width() - size.width) / 2, y = (photo.height() - size.height) / 2;
+  CALL(vemiCopy_8u_C3C1R(photo.at(x, y) + 1, photo.step(), middle.data(), middle.step(), size));
+  return middle;
 }
 
 inline void convert(const Image8u& from, Image<Vemi16s>& to) {
