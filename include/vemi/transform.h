@@ -174,7 +174,106 @@ VEMI_API VemiStatus vemiFFTInv_CToC_32fc_C1R(const Vemi32fc* pSrc, int srcStep, 
 
 /* ---- Fourier transforms of any size ---- */
 
-/* ---- Cosine transforms ---- */
+/**
+ * @defgroup vemi_dct8x8 vemiDCT8x8: cosine transforms of blocks
+ *
+ * Of blocks of 8 by 8 elements, as codecs for pictures and films cut them. With x, y and u, v from 0 to 7,
+ * c(0) = 1 / sqrt(8) and c(k) = 1 / 2 for others,
+ *
+ *     forward   F(u, v) = c(u) c(v) * sum of f(x, y) cos(pi (2x + 1) u / 16) cos(pi (2y + 1) v / 16)   over all x, y
+ *     inverse   f(x, y) = sum of c(u) c(v) F(u, v) cos(pi (2x + 1) u / 16) cos(pi (2y + 1) v / 16)     over all u, v
+ *
+ * so that there and back is the block, and a block of one value s has F(0, 0) = 8 s and nothing else.
+ *
+ * A block without a step is 64 elements, row after row. C1R forms have it on one side only: pixels of an image, with
+ * the bytes between its rows. I forms work in place; the others may do so too where both sides are blocks.
+ *
+ * | Function                     | From            | To              | Computes |
+ * |------------------------------|-----------------|-----------------|---------------------------------------------------|
+ * | vemiDCT8x8Fwd_32f            | block           | block           | F, as exact as floats are | | vemiDCT8x8Inv_32f
+ * | block           | block           | f                                                 | | vemiDCT8x8Fwd_16s, _8u16s
+ * | block, image    | block           | F in fixed point                                  | | vemiDCT8x8FwdLS_8u16s |
+ * image           | block           | F of the bytes plus addVal                        | | vemiDCT8x8Inv_16s, _16s8u
+ * | block           | block, image    | f in fixed point; bytes are limited to 0 to 255   | | vemiDCT8x8InvLSClip_16s8u
+ * | block           | image           | f plus addVal, limited to 0 to 255, then to at    | | |                 | |
+ * least clipMin, then to at most clipMax            | | vemiDCT8x8Inv_4x4, _2x2_16s  | block           | block | f, as
+ * if all F but those of u, v below 4 or 2     | |                              |                 |                 |
+ * were 0; they are not looked at                    |
+ *
+ * **Fixed point.** 16s forms are for sources from -256 to 255, bytes and differences of bytes, and for the coefficients
+ * from -2048 to 2047 that the forward ones make of them; F and f are off by less than 2. They are integer arithmetic,
+ * whose every bit is defined, also beyond these ranges: sums of elements saturate to 16 bits, products keep 16 bits,
+ * the results of rows are rounded and saturated. addVal is added modulo 2^16; a level shift is -128 on the way there
+ * and 128 on the way back.
+ *
+ * @param pSrc,pDst        64 elements, or the first of 8 rows of an image
+ * @param srcStep,dstStep  bytes between the rows of an image, 1 or more
+ * @param pSrcDst          a block that is overwritten
+ * @param addVal           what is added, see above
+ * @param clipMin,clipMax  bounds of the result; clipMax holds where they are in the wrong order
+ *
+ * **Statuses**, in the order of the tests: null; step.
+ *
+ * **Threads.** All forms run in the calling thread.
+ *
+ *     vemiDCT8x8FwdLS_8u16s_C1R(picture, pictureStep, block, -128);
+ *     vemiZigzagFwd8x8_16s_C1(block, scanned);
+ * @{
+ */
+
+VEMI_API VemiStatus vemiDCT8x8Fwd_32f_C1(const Vemi32f pSrc[64], Vemi32f pDst[64]);
+VEMI_API VemiStatus vemiDCT8x8Fwd_32f_C1I(Vemi32f pSrcDst[64]);
+VEMI_API VemiStatus vemiDCT8x8Inv_32f_C1(const Vemi32f pSrc[64], Vemi32f pDst[64]);
+VEMI_API VemiStatus vemiDCT8x8Inv_32f_C1I(Vemi32f pSrcDst[64]);
+
+VEMI_API VemiStatus vemiDCT8x8Fwd_16s_C1(const Vemi16s pSrc[64], Vemi16s pDst[64]);
+VEMI_API VemiStatus vemiDCT8x8Fwd_16s_C1I(Vemi16s pSrcDst[64]);
+VEMI_API VemiStatus vemiDCT8x8Fwd_16s_C1R(const Vemi16s* pSrc, int srcStep, Vemi16s pDst[64]);
+VEMI_API VemiStatus vemiDCT8x8Fwd_8u16s_C1R(const Vemi8u* pSrc, int srcStep, Vemi16s pDst[64]);
+VEMI_API VemiStatus vemiDCT8x8FwdLS_8u16s_C1R(const Vemi8u* pSrc, int srcStep, Vemi16s pDst[64], Vemi16s addVal);
+
+VEMI_API VemiStatus vemiDCT8x8Inv_16s_C1(const Vemi16s pSrc[64], Vemi16s pDst[64]);
+VEMI_API VemiStatus vemiDCT8x8Inv_16s_C1I(Vemi16s pSrcDst[64]);
+VEMI_API VemiStatus vemiDCT8x8Inv_16s_C1R(const Vemi16s pSrc[64], Vemi16s* pDst, int dstStep);
+VEMI_API VemiStatus vemiDCT8x8Inv_16s8u_C1R(const Vemi16s pSrc[64], Vemi8u* pDst, int dstStep);
+VEMI_API VemiStatus vemiDCT8x8InvLSClip_16s8u_C1R(const Vemi16s pSrc[64], Vemi8u* pDst, int dstStep, Vemi16s addVal,
+                                                  Vemi8u clipMin, Vemi8u clipMax);
+
+VEMI_API VemiStatus vemiDCT8x8Inv_4x4_16s_C1(const Vemi16s pSrc[64], Vemi16s pDst[64]);
+VEMI_API VemiStatus vemiDCT8x8Inv_4x4_16s_C1I(Vemi16s pSrcDst[64]);
+VEMI_API VemiStatus vemiDCT8x8Inv_2x2_16s_C1(const Vemi16s pSrc[64], Vemi16s pDst[64]);
+VEMI_API VemiStatus vemiDCT8x8Inv_2x2_16s_C1I(Vemi16s pSrcDst[64]);
+
+/** @} */
+
+/**
+ * @defgroup vemi_zigzag vemiZigzag: the order in which coefficients are coded
+ *
+ * Blocks of 64 elements between their rows and the scan of JPEG, from low frequencies to high ones along the diagonals:
+ *
+ *      0  1  5  6 14 15 27 28
+ *      2  4  7 13 16 26 29 42
+ *      3  8 12 17 25 30 41 43
+ *      9 11 18 24 31 40 44 53
+ *     10 19 23 32 39 45 52 54
+ *     20 22 33 38 46 51 55 60
+ *     21 34 37 47 50 56 59 61
+ *     35 36 48 49 57 58 62 63
+ *
+ * Fwd forms put the element of each place at the index that the table shows there; Inv forms go back.
+ *
+ * @param pSrc,pDst  64 elements each; they may not overlap
+ *
+ * **Statuses:** null. **Threads.** All forms run in the calling thread.
+ *
+ *     vemiZigzagFwd8x8_16s_C1(block, scanned);    // scanned[2] is block[8]
+ * @{
+ */
+
+VEMI_API VemiStatus vemiZigzagFwd8x8_16s_C1(const Vemi16s pSrc[64], Vemi16s pDst[64]);
+VEMI_API VemiStatus vemiZigzagInv8x8_16s_C1(const Vemi16s pSrc[64], Vemi16s pDst[64]);
+
+/** @} */
 
 /**
  * @defgroup vemi_wavelet vemiWTFwd, vemiWTInv: one level of a wavelet transform

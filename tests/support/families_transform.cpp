@@ -51,6 +51,18 @@ void moderateFloats(Call& call) {
 
 // ---- Cosine transforms ----------------------------------------------------------------------------------------------
 
+void moderateBlock(Call& call) {
+  const char* const block = call.function.inPlace ? "pSrcDst" : "pSrc";
+  for (int i = 0; i < 64; ++i)
+    storeNumber(Element::f32, call.constant(block, i), (call.random.below(20001) - 10000) / 32.0);
+}
+
+void sizeByBlock(Call& call) {
+  for (Image& image : call.images) {
+    if (image.role == Role::image) image.size = {8, 8};
+  }
+}
+
 // ---- Wavelets -------------------------------------------------------------------------------------------------------
 
 /// Of a few taps as a rule; of so many now and then that channels are worked on one by one.
@@ -115,6 +127,9 @@ std::vector<Family> transformFamilies() {
       // Fourier transforms of any size
 
       // Cosine transforms
+      {"vemiDCT8x8Fwd vemiDCT8x8Inv", "32f.*", "null", nullptr, {}, moderateBlock},
+      {"vemiDCT8x8Fwd vemiDCT8x8Inv vemiDCT8x8FwdLS vemiDCT8x8InvLSClip", ".*", "null step", sizeByBlock},
+      {"vemiDCT8x8Inv_4x4 vemiDCT8x8Inv_2x2 vemiZigzagFwd8x8 vemiZigzagInv8x8", ".*", "null", sizeByBlock},
 
       {"vemiWTFwdInitAlloc vemiWTInvInitAlloc",
        ".*",
