@@ -354,9 +354,161 @@ VEMI_API VemiStatus vemiGetResizeFract(VemiSize srcSize, VemiRect srcRoi, double
 
 /* ---- Perspective and bilinear warps ---- */
 
-/* ---- Maps of the user's ---- */
+/* ---- Maps of the user's ------------------------------------------------------------------------------------------ */
 
-/* ---- Mirrors ---- */
+/**
+ * @defgroup vemi_geometry_remap Maps of the user's
+ *
+ *     pDst(x, y) = pSrc(pxMap(x, y), pyMap(x, y))
+ *
+ * Two images of floats, as large as the destination's region, say for each of its pixels which column and row of the
+ * source it comes from: a lens is corrected so, or a picture rippled. 0 is the middle of the first pixel, 0.5 lies
+ * halfway to the next one.
+ *
+ * **Arguments.** `pSrc` is the first pixel of the whole source image, `srcSize` its size, and `srcRoi` the part of it
+ * that is used. A pixel whose x lies below srcRoi.x or above srcRoi.x + srcRoi.width - 1, whose y does so with rows, or
+ * of which one is a NaN or infinite, keeps what the destination holds. So does one that lies beyond the image, where
+ * `srcRoi` reaches over its edge. `pDst` is the first pixel that is written, `dstRoiSize` the size of all three of
+ * destination and maps. Planar forms take arrays of three or four planes with one step for all. Images do not overlap.
+ *
+ * **Interpolation**, with which neighbours of (x, y) come from the image around `srcRoi` too:
+ *   - vemiInterNearest: x and y are rounded to the nearest integer, ties to even.
+ *   - vemiInterLinear: with i = trunc(x), columns i and i + 1 are weighed by 1 - w and w, w = x - i; then rows in the
+ * same way. In the image's last column i is one less, and w is 1.
+ *   - vemiInterCubic: the polynomial through columns i - 1 to i + 2, then rows in the same way. Where such columns lie
+ *     beyond the image, the four next to its edge are taken.
+ *
+ * An image with one row or column is fetched by vemiInterNearest, and one with less than four of them not by
+ * vemiInterCubic, but by vemiInterLinear, whatever `interpolation` says.
+ *
+ * **Bytes** are made in fixed point. Linear: W = w rounded to 1/16384, as an integer; a row's value is
+ * h = (p0 * (16384 - W) + p1 * W) >> 8, and the result (h0 * (16384 - V) + h1 * V + 2^19) >> 20, V that of the rows.
+ * Cubic: x is rounded to 1/512 of a pixel, weights to 1/16384; a row's value is its sum >> 8, and the result
+ * (sum of rows + 2^19) >> 20, limited to 0..255.
+ *
+ * **Floats**: linear p0 * (1 - w) + p1 * w; cubic, with t = w (i moved: w plus or minus as much), a = 1 + t,
+ * b = t a / 2, c = (t - 1) b / 3: p0 + a d1 + b d2 + c d3, d1 = p1 - p0, d2 = (p2 - p1) - d1,
+ * d3 = p1 - 2 p2 + p3 - d2. All in single precision and to nearest, each operation rounded by itself.
+ *
+ * Each channel by itself; AC4 forms leave the fourth channel of the destination as it is. The calling thread does the
+ * work, whatever rounding mode it has set. The result is the same on every processor, to the bit.
+ *
+ *     vemiRemap_8u_C3R(src, srcSize, srcStep, whole, xs, 4 * w, ys, 4 * w, dst, dstStep, size, vemiInterLinear);
+ *
+ * @return vemiErrNullPtr; vemiErrSize, where a width or height is below 1, or srcRoi.x or srcRoi.y below 0;
+ *         vemiErrInterpolation for any other interpolation, also one with vemiSmoothEdge; vemiErrStep, where a step is
+ *         below 1: in this order.
+ * @{
+ */
+VEMI_API VemiStatus vemiRemap_8u_C1R(const Vemi8u* pSrc, VemiSize srcSize, int srcStep, VemiRect srcRoi,
+                                     const Vemi32f* pxMap, int xMapStep, const Vemi32f* pyMap, int yMapStep,
+                                     Vemi8u* pDst, int dstStep, VemiSize dstRoiSize, vemiInterpolation interpolation);
+VEMI_API VemiStatus vemiRemap_8u_C3R(const Vemi8u* pSrc, VemiSize srcSize, int srcStep, VemiRect srcRoi,
+                                     const Vemi32f* pxMap, int xMapStep, const Vemi32f* pyMap, int yMapStep,
+                                     Vemi8u* pDst, int dstStep, VemiSize dstRoiSize, vemiInterpolation interpolation);
+VEMI_API VemiStatus vemiRemap_8u_C4R(const Vemi8u* pSrc, VemiSize srcSize, int srcStep, VemiRect srcRoi,
+                                     const Vemi32f* pxMap, int xMapStep, const Vemi32f* pyMap, int yMapStep,
+                                     Vemi8u* pDst, int dstStep, VemiSize dstRoiSize, vemiInterpolation interpolation);
+VEMI_API VemiStatus vemiRemap_8u_AC4R(const Vemi8u* pSrc, VemiSize srcSize, int srcStep, VemiRect srcRoi,
+                                      const Vemi32f* pxMap, int xMapStep, const Vemi32f* pyMap, int yMapStep,
+                                      Vemi8u* pDst, int dstStep, VemiSize dstRoiSize, vemiInterpolation interpolation);
+VEMI_API VemiStatus vemiRemap_8u_P3R(const Vemi8u* const pSrc[3], VemiSize srcSize, int srcStep, VemiRect srcRoi,
+                                     const Vemi32f* pxMap, int xMapStep, const Vemi32f* pyMap, int yMapStep,
+                                     Vemi8u* const pDst[3], int dstStep, VemiSize dstRoiSize,
+                                     vemiInterpolation interpolation);
+VEMI_API VemiStatus vemiRemap_8u_P4R(const Vemi8u* const pSrc[4], VemiSize srcSize, int srcStep, VemiRect srcRoi,
+                                     const Vemi32f* pxMap, int xMapStep, const Vemi32f* pyMap, int yMapStep,
+                                     Vemi8u* const pDst[4], int dstStep, VemiSize dstRoiSize,
+                                     vemiInterpolation interpolation);
+VEMI_API VemiStatus vemiRemap_32f_C1R(const Vemi32f* pSrc, VemiSize srcSize, int srcStep, VemiRect srcRoi,
+                                      const Vemi32f* pxMap, int xMapStep, const Vemi32f* pyMap, int yMapStep,
+                                      Vemi32f* pDst, int dstStep, VemiSize dstRoiSize, vemiInterpolation interpolation);
+VEMI_API VemiStatus vemiRemap_32f_C3R(const Vemi32f* pSrc, VemiSize srcSize, int srcStep, VemiRect srcRoi,
+                                      const Vemi32f* pxMap, int xMapStep, const Vemi32f* pyMap, int yMapStep,
+                                      Vemi32f* pDst, int dstStep, VemiSize dstRoiSize, vemiInterpolation interpolation);
+VEMI_API VemiStatus vemiRemap_32f_C4R(const Vemi32f* pSrc, VemiSize srcSize, int srcStep, VemiRect srcRoi,
+                                      const Vemi32f* pxMap, int xMapStep, const Vemi32f* pyMap, int yMapStep,
+                                      Vemi32f* pDst, int dstStep, VemiSize dstRoiSize, vemiInterpolation interpolation);
+VEMI_API VemiStatus vemiRemap_32f_AC4R(const Vemi32f* pSrc, VemiSize srcSize, int srcStep, VemiRect srcRoi,
+                                       const Vemi32f* pxMap, int xMapStep, const Vemi32f* pyMap, int yMapStep,
+                                       Vemi32f* pDst, int dstStep, VemiSize dstRoiSize,
+                                       vemiInterpolation interpolation);
+VEMI_API VemiStatus vemiRemap_32f_P3R(const Vemi32f* const pSrc[3], VemiSize srcSize, int srcStep, VemiRect srcRoi,
+                                      const Vemi32f* pxMap, int xMapStep, const Vemi32f* pyMap, int yMapStep,
+                                      Vemi32f* const pDst[3], int dstStep, VemiSize dstRoiSize,
+                                      vemiInterpolation interpolation);
+VEMI_API VemiStatus vemiRemap_32f_P4R(const Vemi32f* const pSrc[4], VemiSize srcSize, int srcStep, VemiRect srcRoi,
+                                      const Vemi32f* pxMap, int xMapStep, const Vemi32f* pyMap, int yMapStep,
+                                      Vemi32f* const pDst[4], int dstStep, VemiSize dstRoiSize,
+                                      vemiInterpolation interpolation);
+/** @} */
+
+/* ---- Mirrors ----------------------------------------------------------------------------------------------------- */
+
+/** The axis about which an image is turned over. */
+typedef int vemiAxis;
+enum {
+  vemiAxisHorizontal = 0, /**< rows change places: what was at the top is at the bottom */
+  vemiAxisVertical = 1,   /**< columns change places: what was at the left is at the right */
+  vemiAxisBoth = 2        /**< both, which is half a turn */
+};
+
+/**
+ * @defgroup vemi_geometry_mirror Mirrors
+ *
+ *     vemiAxisHorizontal   pDst(x, h - 1 - y) = pSrc(x, y)
+ *     vemiAxisVertical     pDst(w - 1 - x, y) = pSrc(x, y)
+ *     vemiAxisBoth         pDst(w - 1 - x, h - 1 - y) = pSrc(x, y)
+ *
+ * for the w * h pixels of the region. Channels of a pixel stay in their order, and elements are moved as they are: 32s
+ * forms serve floats as well. AC4 forms leave the fourth channel of each destination pixel as it is.
+ *
+ * The I forms work in place and need no memory. In the others, source and destination do not overlap. The calling
+ * thread does the work.
+ *
+ *     vemiMirror_8u_C3IR(image, step, size, vemiAxisVertical);  // as in a mirror on the wall
+ *
+ * @return vemiErrNullPtr; vemiErrStep, where a step is below 1; vemiErrSize, where the width or height is below 1;
+ *         vemiErrMirrorFlip for any other axis: in this order, which has the steps ahead of the size.
+ * @{
+ */
+VEMI_API VemiStatus vemiMirror_8u_C1R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep, VemiSize roiSize,
+                                      vemiAxis flip);
+VEMI_API VemiStatus vemiMirror_8u_C3R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep, VemiSize roiSize,
+                                      vemiAxis flip);
+VEMI_API VemiStatus vemiMirror_8u_C4R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep, VemiSize roiSize,
+                                      vemiAxis flip);
+VEMI_API VemiStatus vemiMirror_8u_AC4R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep, VemiSize roiSize,
+                                       vemiAxis flip);
+VEMI_API VemiStatus vemiMirror_8u_C1IR(Vemi8u* pSrcDst, int srcDstStep, VemiSize roiSize, vemiAxis flip);
+VEMI_API VemiStatus vemiMirror_8u_C3IR(Vemi8u* pSrcDst, int srcDstStep, VemiSize roiSize, vemiAxis flip);
+VEMI_API VemiStatus vemiMirror_8u_C4IR(Vemi8u* pSrcDst, int srcDstStep, VemiSize roiSize, vemiAxis flip);
+VEMI_API VemiStatus vemiMirror_8u_AC4IR(Vemi8u* pSrcDst, int srcDstStep, VemiSize roiSize, vemiAxis flip);
+VEMI_API VemiStatus vemiMirror_16u_C1R(const Vemi16u* pSrc, int srcStep, Vemi16u* pDst, int dstStep, VemiSize roiSize,
+                                       vemiAxis flip);
+VEMI_API VemiStatus vemiMirror_16u_C3R(const Vemi16u* pSrc, int srcStep, Vemi16u* pDst, int dstStep, VemiSize roiSize,
+                                       vemiAxis flip);
+VEMI_API VemiStatus vemiMirror_16u_C4R(const Vemi16u* pSrc, int srcStep, Vemi16u* pDst, int dstStep, VemiSize roiSize,
+                                       vemiAxis flip);
+VEMI_API VemiStatus vemiMirror_16u_AC4R(const Vemi16u* pSrc, int srcStep, Vemi16u* pDst, int dstStep, VemiSize roiSize,
+                                        vemiAxis flip);
+VEMI_API VemiStatus vemiMirror_16u_C1IR(Vemi16u* pSrcDst, int srcDstStep, VemiSize roiSize, vemiAxis flip);
+VEMI_API VemiStatus vemiMirror_16u_C3IR(Vemi16u* pSrcDst, int srcDstStep, VemiSize roiSize, vemiAxis flip);
+VEMI_API VemiStatus vemiMirror_16u_C4IR(Vemi16u* pSrcDst, int srcDstStep, VemiSize roiSize, vemiAxis flip);
+VEMI_API VemiStatus vemiMirror_16u_AC4IR(Vemi16u* pSrcDst, int srcDstStep, VemiSize roiSize, vemiAxis flip);
+VEMI_API VemiStatus vemiMirror_32s_C1R(const Vemi32s* pSrc, int srcStep, Vemi32s* pDst, int dstStep, VemiSize roiSize,
+                                       vemiAxis flip);
+VEMI_API VemiStatus vemiMirror_32s_C3R(const Vemi32s* pSrc, int srcStep, Vemi32s* pDst, int dstStep, VemiSize roiSize,
+                                       vemiAxis flip);
+VEMI_API VemiStatus vemiMirror_32s_C4R(const Vemi32s* pSrc, int srcStep, Vemi32s* pDst, int dstStep, VemiSize roiSize,
+                                       vemiAxis flip);
+VEMI_API VemiStatus vemiMirror_32s_AC4R(const Vemi32s* pSrc, int srcStep, Vemi32s* pDst, int dstStep, VemiSize roiSize,
+                                        vemiAxis flip);
+VEMI_API VemiStatus vemiMirror_32s_C1IR(Vemi32s* pSrcDst, int srcDstStep, VemiSize roiSize, vemiAxis flip);
+VEMI_API VemiStatus vemiMirror_32s_C3IR(Vemi32s* pSrcDst, int srcDstStep, VemiSize roiSize, vemiAxis flip);
+VEMI_API VemiStatus vemiMirror_32s_C4IR(Vemi32s* pSrcDst, int srcDstStep, VemiSize roiSize, vemiAxis flip);
+VEMI_API VemiStatus vemiMirror_32s_AC4IR(Vemi32s* pSrcDst, int srcDstStep, VemiSize roiSize, vemiAxis flip);
+/** @} */
 
 /** @} */
 

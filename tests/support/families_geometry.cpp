@@ -6,6 +6,8 @@
 
 #include <cmath>
 
+#include "vemi/geometry.h"
+
 namespace vemi::test {
 namespace {
 
@@ -102,6 +104,45 @@ std::vector<OwnFault> resizeFaults(const char* x, const char* y) {
 
 // ---- Maps and mirrors -----------------------------------------------------------------------------------------------
 
+/// A source of its own size, maybe too small for the interpolation or with a region that reaches beyond it, and maps as
+/// large as the destination.
+void setRemap(Call& call) {
+  constexpr int kinds[] = {vemiInterNearest, vemiInterLinear, vemiInterCubic};
+  const VemiSize size = {1 + call.random.below(call.random.below(3) == 0 ? 4 : 40), 1 + call.random.below(9)};
+  VemiRect roi = {0, 0, size.width, size.height};
+  if (call.random.below(2) == 0) {
+    roi = {call.random.below(size.width + 1), call.random.below(size.height + 1), 1 + call.random.below(size.width + 3),
+           1 + call.random.below(size.height + 3)};
+  }
+  call.set("srcSize", size);
+  call.set("srcRoi", roi);
+  call.set("interpolation", kinds[call.random.below(3)]);
+  call.set("dstRoiSize", call.scenario.roiSize);
+  call.image("pSrc").size = size;
+  for (const char* const map : {"pxMap", "pyMap"}) call.image(map).layout = {};
+}
+
+/// Places in the source and a few beyond it, whole ones among them; random floats, of all kinds, where these are.
+void placesInMaps(Call& call) {
+  if (call.random.below(8) == 0) return;
+  const View images[] = {call.source(1), call.source(2)};
+  const VemiSize size = call.get<VemiSize>("srcSize");
+  const int pixels[] = {size.width, size.height};
+  for (int axis = 0; axis < 2; ++axis) {
+    const View map = images[axis];
+    for (int y = 0; y < map.size.height; ++y) {
+      for (int x = 0; x < map.size.width; ++x) {
+        const int kind = call.random.below(16);
+        const int part = kind < 4 ? 0 : call.random.below(1025);
+        const auto place = static_cast<float>(call.random.below(pixels[axis]) * 1024 + part) / 1024;
+        if (kind != 15) store(map.at(x, y), kind == 14 ? place - 1 : place);
+      }
+    }
+  }
+}
+
+void setAxis(Call& call) { call.set("flip", call.random.below(3)); }
+
 }  // namespace
 
 std::vector<Family> geometryFamilies() {
@@ -117,7 +158,20 @@ std::vector<Family> geometryFamilies() {
 
       // Perspective and bilinear warps
 
-      // Maps and mirrors
+      {"vemiRemap",
+       ".*",
+       "null size own step",
+       setRemap,
+       {{"interpolation", 0, "own", vemiErrInterpolation},
+        {"interpolation", 3, "own", vemiErrInterpolation},
+        {"interpolation", vemiInterSuper, "own", vemiErrInterpolation},
+        {"interpolation", vemiSmoothEdge + vemiInterLinear, "own", vemiErrInterpolation}},
+       placesInMaps},
+      {"vemiMirror",
+       ".*",
+       "null step size own",
+       setAxis,
+       {{"flip", -1, "own", vemiErrMirrorFlip}, {"flip", 3, "own", vemiErrMirrorFlip}}},
 
   };
 }
