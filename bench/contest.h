@@ -89,5 +89,6 @@ Family rowsFamily();
 Family boxFamily();
 Family morphologyFamily();
 Family fixedFilterFamily();
+Family ranksFamily();
 
 }  // namespace bench

@@ -31,6 +31,7 @@ constexpr FamilyTable families[] = {
     colorTwistFamily,    videoFamily,      swapChannelsFamily, grayFamily,         yccFamily,
     packedPixelsFamily,  boxFamily,        morphologyFamily,   reduceBitsFamily,   qualityFamily,
     fixedFilterFamily,   lumaChromaFamily, fftFamily,          waveletFamily,      rowsFamily,
+    ranksFamily,
 };
 
 constexpr const char* usage =

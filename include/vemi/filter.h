@@ -1101,6 +1101,57 @@ VEMI_API VemiStatus vemiFilterMedianCross_16s_AC4R(const Vemi16s* pSrc, int srcS
 
 /** @} */
 
+/**
+ * @defgroup vemi_filter_median_color vemiFilterMedianColor: the pixel nearest to its neighbours
+ *
+ * Medians of single channels can put colours together that no pixel has. Here a whole pixel is chosen, out of the
+ * square of 3x3 or 5x5 pixels around (x, y), by the sum of its distances to all pixels q of the square:
+ *
+ *     D(p) = sum of |p.r - q.r| + |p.g - q.g| + |p.b - q.b|
+ *
+ * The pixel with the least D is copied, its first three channels unchanged; of several with the same D it is the first
+ * one, row by row from the top left. AC4 forms leave the fourth channel out of account, and that of the destination as
+ * it is.
+ *
+ * D is exact for 8u and 16s. For 32f the differences and sums are rounded to single precision each, the distances added
+ * in the order of the pixels q, row by row. Where a D is not a number, it is not less than another one and no other one
+ * is less than it: with a NaN in the square the top left pixel is chosen.
+ *
+ * **Pixels read around the region**: one on each side for 3x3, two for 5x5. All of them must exist.
+ *
+ * @param pSrc,srcStep  first pixel of the region in the source, and the bytes between its rows
+ * @param pDst,dstStep  the same of the destination, which shares no pixel with any that are read
+ * @param roiSize       size of the region in pixels
+ * @param maskSize      vemiMask3x3 or vemiMask5x5
+ *
+ * **Statuses**, in the order of the tests: null, size, step (see status.h); then
+ *
+ * - vemiErrMaskSize: any other maskSize
+ * - vemiErrMemAlloc: no memory for rows of distances
+ *
+ * **Threads.** All forms run in the calling thread.
+ *
+ *     vemiFilterMedianColor_8u_C3R(photo + step + 3, step, clean, cleanStep, inner, vemiMask3x3);
+ * @{
+ */
+
+VEMI_API VemiStatus vemiFilterMedianColor_8u_C3R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep,
+                                                 VemiSize roiSize, int maskSize);
+VEMI_API VemiStatus vemiFilterMedianColor_8u_AC4R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep,
+                                                  VemiSize roiSize, int maskSize);
+
+VEMI_API VemiStatus vemiFilterMedianColor_16s_C3R(const Vemi16s* pSrc, int srcStep, Vemi16s* pDst, int dstStep,
+                                                  VemiSize roiSize, int maskSize);
+VEMI_API VemiStatus vemiFilterMedianColor_16s_AC4R(const Vemi16s* pSrc, int srcStep, Vemi16s* pDst, int dstStep,
+                                                   VemiSize roiSize, int maskSize);
+
+VEMI_API VemiStatus vemiFilterMedianColor_32f_C3R(const Vemi32f* pSrc, int srcStep, Vemi32f* pDst, int dstStep,
+                                                  VemiSize roiSize, int maskSize);
+VEMI_API VemiStatus vemiFilterMedianColor_32f_AC4R(const Vemi32f* pSrc, int srcStep, Vemi32f* pDst, int dstStep,
+                                                   VemiSize roiSize, int maskSize);
+
+/** @} */
+
 /* ---- Noise ---- */
 
 /** @} */

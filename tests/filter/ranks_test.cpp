@@ -3,6 +3,9 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <array>
+#include <cmath>
+#include <cstring>
 #include <vector>
 
 #include "support/check.h"
@@ -68,6 +71,45 @@ void medianOfLine(Call& call) {
   ofRank(call, pixels, pixels.size() / 2);
 }
 
+/// The whole pixel with the least sum of distances, of Sum, and the first of several.
+template <class Sum>
+void nearestColour(Call& call) {
+  const View source = call.source(), destination = call.destination();
+  const int side = call.get<int>("maskSize") / 10, reach = side / 2;
+  std::vector<std::array<Sum, 3>> square(static_cast<size_t>(side * side));
+  const auto distanceOf = [](const auto& p, const auto& q) {
+    return std::abs(p[0] - q[0]) + std::abs(p[1] - q[1]) + std::abs(p[2] - q[2]);
+  };
+  for (int y = 0; y < source.size.height; ++y) {
+    for (int x = 0; x < source.size.width; ++x) {
+      const auto at = [&](size_t p, int channel) {
+        const int place = static_cast<int>(p);
+        return source.at(x + place % side - reach, y + place / side - reach, channel);
+      };
+      for (size_t p = 0; p < square.size(); ++p) {
+        for (int c = 0; c < 3; ++c)
+          square[p][static_cast<size_t>(c)] = static_cast<Sum>(loadNumber(source.element, at(p, c)));
+      }
+      size_t nearest = 0;
+      Sum least = 0;
+      for (size_t p = 0; p < square.size(); ++p) {
+        Sum sum = 0;
+        for (const auto& q : square) sum += distanceOf(square[p], q);
+        if (p != 0 && !(sum < least)) continue;
+        least = sum;
+        nearest = p;
+      }
+      const auto bytes = static_cast<size_t>(bytesOf(source.element));
+      for (int c = 0; c < 3; ++c) std::memcpy(destination.at(x, y, c), at(nearest, c), bytes);
+    }
+  }
+}
+
+void nearestOfColours(Call& call) {
+  if (call.source().element == Element::f32) return nearestColour<float>(call);
+  nearestColour<int>(call);
+}
+
 }  // namespace
 
 TEST(Ranks, Min) { expectDefinition(membersOf("vemiFilterMin"), least); }
@@ -80,6 +122,8 @@ TEST(Ranks, MediansOfLinesAndCrosses) {
 }
 
 TEST(Ranks, MediansOfRectangles) { expectDefinition(membersOf("vemiFilterMedian"), medianOfRectangle); }
+
+TEST(Ranks, MediansOfColours) { expectDefinition(membersOf("vemiFilterMedianColor"), nearestOfColours); }
 
 // A network that finds the median of zeros and ones finds that of anything. A column counts by its ones alone.
 TEST(Ranks, NetworksOfSquaresByZerosAndOnes) {

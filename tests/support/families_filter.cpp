@@ -218,16 +218,32 @@ void drawLine(Call& call) { drawMask(call, {31, 51}); }
 void drawColumn(Call& call) { drawMask(call, {13, 15}); }
 void drawSquare(Call& call) { drawMask(call, {33, 55}); }
 
+/// Ties need colours that come again; all others are left at random, floats as they may be.
+void takeFewColours(Call& call) {
+  const int kind = call.random.below(4);
+  if (kind == 0) return;
+  if (kind == 1) return tameFloats(call);
+  const View source = call.source();
+  const Margin margin = call.image("pSrc").margin;
+  for (int y = -margin.top; y < source.size.height + margin.bottom; ++y) {
+    for (int x = -margin.left; x < source.size.width + margin.right; ++x) {
+      for (int channel = 0; channel < source.channels; ++channel) {
+        storeNumber(source.element, source.at(x, y, channel), call.random.below(kind));
+      }
+    }
+  }
+}
+
 /// Small rectangles mostly, some of them long.
 void drawRectangle(Call& call) {
-  const int large = call.random.below(16) == 0 ? 40 : 7;
+  const int large = call.random.below(32) == 0 ? 40 : 7;
   setMask(call, {1 + call.random.below(large), 1 + call.random.below(large)});
 }
 
 /// Each of the masks that have a way of their own, and others, some of them long.
 void drawOddRectangle(Call& call) {
   const VemiSize own[] = {{1, 1}, {3, 1}, {5, 1}, {1, 3}, {1, 5}, {3, 3}, {5, 5}};
-  const int kind = call.random.below(16), most = kind == 15 ? 20 : 5;
+  const int kind = call.random.below(16), most = kind == 15 ? 11 : 5;
   const auto odd = [&] { return 2 * call.random.below(most) + 1; };
   setMask(call, kind < 7 ? own[kind] : kind == 7 ? VemiSize{1, 7 + odd() / 2 * 2} : VemiSize{odd(), odd()});
 }
@@ -329,6 +345,7 @@ std::vector<Family> filterFamilies() {
       {"vemiFilterMedianHoriz", ".*", "null size step mask", drawLine, notHoriz},
       {"vemiFilterMedianVert", ".*", "null size step mask", drawColumn, notVert},
       {"vemiFilterMedianCross", ".*", "null size step mask", drawSquare, fixedMasks},
+      {"vemiFilterMedianColor", ".*", "null size step mask", drawSquare, fixedMasks, takeFewColours},
 
       // Noise
 
