@@ -172,7 +172,131 @@ VEMI_API VemiStatus vemiFFTInv_CToC_32fc_C1R(const Vemi32fc* pSrc, int srcStep, 
 
 /** @} */
 
-/* ---- Fourier transforms of any size ---- */
+/**
+ * @defgroup vemi_dft vemiDFT: the discrete Fourier transform of any size
+ *
+ * What vemiFFT is, without its powers of two: images of any width W and height H, with the formulas, the ways, the
+ * layouts and the flags that are told there, and N = W * H. Powers of two give what vemiFFT gives, up to rounding.
+ *
+ * **The packed array of odd sizes.** A line of odd length has no middle number:
+ *
+ *     Re X(0)   Re X(1) Im X(1)   Re X(2) Im X(2)   ...   Re X((N - 1) / 2) Im X((N - 1) / 2)
+ *
+ * Of an odd width there is no last column by itself: columns 2 u - 1 and 2 u are Re F(u, v) and Im F(u, v) up to u = (W
+ * - 1) / 2. Of 5 by 5, with R and I for the two parts:
+ *
+ *     R(0,0)   R(1,0)   I(1,0)   R(2,0)   I(2,0)
+ *     R(0,1)   R(1,1)   I(1,1)   R(2,1)   I(2,1)
+ *     I(0,1)   R(1,2)   I(1,2)   R(2,2)   I(2,2)
+ *     R(0,2)   R(1,3)   I(1,3)   R(2,3)   I(2,3)
+ *     I(0,2)   R(1,4)   I(1,4)   R(2,4)   I(2,4)
+ *
+ * @param ppSpec           where the record's address goes; not written unless the status is vemiOk
+ * @param roiSize          the size of the images
+ * @param flag             the scale, one of the flags of vemiFFT
+ * @param hint             any number; it changes nothing
+ * @param pSpec            the record. Transforms only read it: any number of threads may share it.
+ * @param pBufSize         the bytes of working memory that a transform wants
+ * @param pSrc,srcStep     first pixel of the source, and the bytes between its rows
+ * @param pDst,dstStep     first pixel of the destination, and the bytes between its rows. It may begin where the source
+ *                         does, with the same step; other overlaps are not allowed.
+ * @param scaleFactor      see vemi.h; any int
+ * @param pBuffer          working memory of the size that vemiDFTGetBufSize tells, at any address, of one call at a
+ * time; or null: then the call allocates and frees as much
+ *
+ * **Records.** As with vemiFFT: R_32f for 32f, R_32s for 8u32s and 32s8u, C_32fc for 32fc. vemiDFTFree frees a record
+ * and all that belongs to it.
+ *
+ * **Lengths and their cost.** A width or height is a product of prime factors. Those of 2, 3, 5 and 7 cost least, and a
+ * prime factor p from 11 to 149 about p / 2 times as much as a 2. A larger one makes the whole length a convolution of
+ * the next power of two above twice of it, about six times the work. So padding 1021 to 1024, or to 1050 = 2 * 3 * 5 *
+ * 5 * 7, pays where the image allows it; rows or columns of 480, 1000, 1080 and 1920 are as good as powers of two.
+ *
+ * **Exactness.** The root mean square of the errors is about 5e-8 * sqrt(log2(W * H)) of that of the results, or less,
+ * and with a prime factor above 149 twice that. The bits are the same in place and out of it, with a buffer and
+ * without, at any alignment.
+ *
+ * **Statuses**, in the order of the tests. vemiDFTInitAlloc: ppSpec null; size; vemiErrFftFlag, no flag of vemiFFT;
+ * vemiErrMemAlloc, no memory, or a buffer of 2^31 bytes or more (of lines of several million pixels, and of R_32s from
+ * about 2^27 pixels on). vemiDFTFree and vemiDFTGetBufSize: null; vemiErrContext, a record of another kind, those of
+ * vemiFFT included. Transforms: pSpec null; vemiErrContext; pSrc or pDst null; step; vemiErrMemAlloc, if pBuffer is
+ * null and there is no memory.
+ *
+ * **Threads.** All forms run in the calling thread.
+ *
+ * A photograph of 1000 by 750 bytes without its mean, through its spectrum and back:
+ *
+ *     VemiDFTSpec_R_32s* spec;
+ *     VemiSize size = {1000, 750};
+ *     vemiDFTInitAlloc_R_32s(&spec, size, vemiFftScaleSqrt, vemiHintNone);
+ *     vemiDFTFwd_RToPack_8u32s_C1RSfs(photo, 1000, spectrum, 4000, spec, -4, NULL);    // in sixteenths
+ *     spectrum[0] = 0;
+ *     vemiDFTInv_PackToR_32s8u_C1RSfs(spectrum, 4000, photo, 1000, spec, 4, NULL);
+ *     vemiDFTFree_R_32s(spec);
+ * @{
+ */
+
+/** The record of real transforms of floats; what it holds is the library's business. */
+typedef struct VemiDFTSpec_R_32f VemiDFTSpec_R_32f;
+/** The record of real transforms between integers. */
+typedef struct VemiDFTSpec_R_32s VemiDFTSpec_R_32s;
+/** The record of complex transforms. */
+typedef struct VemiDFTSpec_C_32fc VemiDFTSpec_C_32fc;
+
+VEMI_API VemiStatus vemiDFTInitAlloc_R_32f(VemiDFTSpec_R_32f** ppSpec, VemiSize roiSize, int flag, vemiHint hint);
+VEMI_API VemiStatus vemiDFTInitAlloc_R_32s(VemiDFTSpec_R_32s** ppSpec, VemiSize roiSize, int flag, vemiHint hint);
+VEMI_API VemiStatus vemiDFTInitAlloc_C_32fc(VemiDFTSpec_C_32fc** ppSpec, VemiSize roiSize, int flag, vemiHint hint);
+
+VEMI_API VemiStatus vemiDFTFree_R_32f(VemiDFTSpec_R_32f* pSpec);
+VEMI_API VemiStatus vemiDFTFree_R_32s(VemiDFTSpec_R_32s* pSpec);
+VEMI_API VemiStatus vemiDFTFree_C_32fc(VemiDFTSpec_C_32fc* pSpec);
+
+VEMI_API VemiStatus vemiDFTGetBufSize_R_32f(const VemiDFTSpec_R_32f* pSpec, int* pBufSize);
+VEMI_API VemiStatus vemiDFTGetBufSize_R_32s(const VemiDFTSpec_R_32s* pSpec, int* pBufSize);
+VEMI_API VemiStatus vemiDFTGetBufSize_C_32fc(const VemiDFTSpec_C_32fc* pSpec, int* pBufSize);
+
+VEMI_API VemiStatus vemiDFTFwd_RToPack_32f_C1R(const Vemi32f* pSrc, int srcStep, Vemi32f* pDst, int dstStep,
+                                               const VemiDFTSpec_R_32f* pSpec, Vemi8u* pBuffer);
+VEMI_API VemiStatus vemiDFTFwd_RToPack_32f_C3R(const Vemi32f* pSrc, int srcStep, Vemi32f* pDst, int dstStep,
+                                               const VemiDFTSpec_R_32f* pSpec, Vemi8u* pBuffer);
+VEMI_API VemiStatus vemiDFTFwd_RToPack_32f_C4R(const Vemi32f* pSrc, int srcStep, Vemi32f* pDst, int dstStep,
+                                               const VemiDFTSpec_R_32f* pSpec, Vemi8u* pBuffer);
+VEMI_API VemiStatus vemiDFTFwd_RToPack_32f_AC4R(const Vemi32f* pSrc, int srcStep, Vemi32f* pDst, int dstStep,
+                                                const VemiDFTSpec_R_32f* pSpec, Vemi8u* pBuffer);
+
+VEMI_API VemiStatus vemiDFTInv_PackToR_32f_C1R(const Vemi32f* pSrc, int srcStep, Vemi32f* pDst, int dstStep,
+                                               const VemiDFTSpec_R_32f* pSpec, Vemi8u* pBuffer);
+VEMI_API VemiStatus vemiDFTInv_PackToR_32f_C3R(const Vemi32f* pSrc, int srcStep, Vemi32f* pDst, int dstStep,
+                                               const VemiDFTSpec_R_32f* pSpec, Vemi8u* pBuffer);
+VEMI_API VemiStatus vemiDFTInv_PackToR_32f_C4R(const Vemi32f* pSrc, int srcStep, Vemi32f* pDst, int dstStep,
+                                               const VemiDFTSpec_R_32f* pSpec, Vemi8u* pBuffer);
+VEMI_API VemiStatus vemiDFTInv_PackToR_32f_AC4R(const Vemi32f* pSrc, int srcStep, Vemi32f* pDst, int dstStep,
+                                                const VemiDFTSpec_R_32f* pSpec, Vemi8u* pBuffer);
+
+VEMI_API VemiStatus vemiDFTFwd_RToPack_8u32s_C1RSfs(const Vemi8u* pSrc, int srcStep, Vemi32s* pDst, int dstStep,
+                                                    const VemiDFTSpec_R_32s* pSpec, int scaleFactor, Vemi8u* pBuffer);
+VEMI_API VemiStatus vemiDFTFwd_RToPack_8u32s_C3RSfs(const Vemi8u* pSrc, int srcStep, Vemi32s* pDst, int dstStep,
+                                                    const VemiDFTSpec_R_32s* pSpec, int scaleFactor, Vemi8u* pBuffer);
+VEMI_API VemiStatus vemiDFTFwd_RToPack_8u32s_C4RSfs(const Vemi8u* pSrc, int srcStep, Vemi32s* pDst, int dstStep,
+                                                    const VemiDFTSpec_R_32s* pSpec, int scaleFactor, Vemi8u* pBuffer);
+VEMI_API VemiStatus vemiDFTFwd_RToPack_8u32s_AC4RSfs(const Vemi8u* pSrc, int srcStep, Vemi32s* pDst, int dstStep,
+                                                     const VemiDFTSpec_R_32s* pSpec, int scaleFactor, Vemi8u* pBuffer);
+
+VEMI_API VemiStatus vemiDFTInv_PackToR_32s8u_C1RSfs(const Vemi32s* pSrc, int srcStep, Vemi8u* pDst, int dstStep,
+                                                    const VemiDFTSpec_R_32s* pSpec, int scaleFactor, Vemi8u* pBuffer);
+VEMI_API VemiStatus vemiDFTInv_PackToR_32s8u_C3RSfs(const Vemi32s* pSrc, int srcStep, Vemi8u* pDst, int dstStep,
+                                                    const VemiDFTSpec_R_32s* pSpec, int scaleFactor, Vemi8u* pBuffer);
+VEMI_API VemiStatus vemiDFTInv_PackToR_32s8u_C4RSfs(const Vemi32s* pSrc, int srcStep, Vemi8u* pDst, int dstStep,
+                                                    const VemiDFTSpec_R_32s* pSpec, int scaleFactor, Vemi8u* pBuffer);
+VEMI_API VemiStatus vemiDFTInv_PackToR_32s8u_AC4RSfs(const Vemi32s* pSrc, int srcStep, Vemi8u* pDst, int dstStep,
+                                                     const VemiDFTSpec_R_32s* pSpec, int scaleFactor, Vemi8u* pBuffer);
+
+VEMI_API VemiStatus vemiDFTFwd_CToC_32fc_C1R(const Vemi32fc* pSrc, int srcStep, Vemi32fc* pDst, int dstStep,
+                                             const VemiDFTSpec_C_32fc* pSpec, Vemi8u* pBuffer);
+VEMI_API VemiStatus vemiDFTInv_CToC_32fc_C1R(const Vemi32fc* pSrc, int srcStep, Vemi32fc* pDst, int dstStep,
+                                             const VemiDFTSpec_C_32fc* pSpec, Vemi8u* pBuffer);
+
+/** @} */
 
 /**
  * @defgroup vemi_dct8x8 vemiDCT8x8: cosine transforms of blocks

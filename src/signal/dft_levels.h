@@ -3,6 +3,7 @@
 // L); each r-th of it is then a transform of its own.
 #pragma once
 
+#include "core/image.h"
 #include "signal/fft_columns.h"
 
 namespace vemi::signal {
@@ -51,11 +52,26 @@ struct ShortTransform<3> {
   }
 };
 
+/// The cosines of a fifth and of two fifths of a turn are -1/4 plus and minus the root of 5/16.
 template <>
 struct ShortTransform<5> {
   template <class V>
   HWY_INLINE static void run(ComplexLanes<V>* z) {
-    primeTransform<5>(z, {1, 0.30901699f, -0.80901699f}, {0, 0.95105652f, 0.58778525f});
+    const hn::DFromV<V> d;
+    const auto times = [&](ComplexLanes<V> a, float factor) HWY_ATTR {
+      return ComplexLanes<V>{hn::Mul(a.re, hn::Set(d, factor)), hn::Mul(a.im, hn::Set(d, factor))};
+    };
+    constexpr float sine = 0.95105652f, sineOfTwo = 0.58778525f;
+    const auto sum1 = z[1] + z[4], sum2 = z[2] + z[3], difference1 = z[1] - z[4], difference2 = z[2] - z[3];
+    const auto sum = sum1 + sum2, mean = z[0] - times(sum, 0.25f), apart = times(sum1 - sum2, 0.55901699f);
+    const auto even1 = mean + apart, even2 = mean - apart;
+    const auto odd1 = times(difference1, sine) + times(difference2, sineOfTwo);
+    const auto odd2 = times(difference1, sineOfTwo) - times(difference2, sine);
+    z[0] = z[0] + sum;
+    z[1] = minusTurned(even1, odd1);
+    z[4] = plusTurned(even1, odd1);
+    z[2] = minusTurned(even2, odd2);
+    z[3] = plusTurned(even2, odd2);
   }
 };
 
@@ -70,24 +86,105 @@ struct ShortTransform<7> {
 /// Which frequency result n of ShortTransform<radix> is, and where frequency n is: powers of two have their bits
 /// reversed.
 constexpr int frequencyOf(int n, int radix) {
-  if (radix % 2 != 0) return n;
+  if ((radix & (radix - 1)) != 0) return n;
   int frequency = 0;
-  for (int bit = 1; bit < radix; bit *= 2) frequency = frequency * 2 + (n & bit ? 1 : 0);
+  for (int bit = 1; bit < radix; bit *= 2) frequency = frequency * 2 + ((n & bit) != 0 ? 1 : 0);
   return frequency;
 }
 
+/// The product of two radices without a common factor has no factors in between: number b i + a j, modulo a b, is i of
+/// a transform of a and j of one of b, and a frequency is what it is modulo a and modulo b.
+template <int a, int b>
+struct ProductTransform {
+  static constexpr int placeOf(int modA, int modB) {
+    int k = modA;
+    while (k % b != modB) k += a;
+    return k;
+  }
+
+  template <class V>
+  HWY_INLINE static void run(ComplexLanes<V>* z) {
+    ComplexLanes<V> byA[a][b];
+    unrolled<b>([&](auto j) HWY_ATTR {
+      ComplexLanes<V> own[a];
+      unrolled<a>([&](auto i) HWY_ATTR { own[i] = z[(b * i + a * j) % (a * b)]; });
+      ShortTransform<a>::run(own);
+      unrolled<a>([&](auto i) HWY_ATTR { byA[frequencyOf(i, a)][j] = own[i]; });
+    });
+    unrolled<a>([&](auto i) HWY_ATTR {
+      ShortTransform<b>::run(byA[i]);
+      unrolled<b>([&](auto j) HWY_ATTR { z[placeOf(i, frequencyOf(j, b))] = byA[i][j]; });
+    });
+  }
+};
+
+template <>
+struct ShortTransform<6> : ProductTransform<2, 3> {};
+template <>
+struct ShortTransform<10> : ProductTransform<2, 5> {};
+template <>
+struct ShortTransform<12> : ProductTransform<4, 3> {};
+template <>
+struct ShortTransform<15> : ProductTransform<3, 5> {};
+
+template <>
+struct ShortTransform<9> {
+  template <class V>
+  HWY_INLINE static void run(ComplexLanes<V>* z) {
+    const hn::DFromV<V> d;
+    const auto factor = [&](float re, float im) HWY_ATTR { return ComplexLanes<V>{hn::Set(d, re), hn::Set(d, im)}; };
+    ComplexLanes<V> part[3][3];  // of every third number
+    unrolled<3>([&](auto j) HWY_ATTR {
+      ComplexLanes<V> own[3] = {z[j], z[j + 3], z[j + 6]};
+      ShortTransform<3>::run(own);
+      unrolled<3>([&](auto i) HWY_ATTR { part[i][j] = own[i]; });
+    });
+    const auto w2 = factor(0.17364818f, -0.98480775f);
+    part[1][1] = part[1][1] * factor(0.76604444f, -0.64278761f);
+    part[1][2] = part[1][2] * w2;
+    part[2][1] = part[2][1] * w2;
+    part[2][2] = part[2][2] * factor(-0.93969262f, -0.34202014f);
+    unrolled<3>([&](auto i) HWY_ATTR {
+      ShortTransform<3>::run(part[i]);
+      unrolled<3>([&](auto j) HWY_ATTR { z[i + 3 * j] = part[i][j]; });
+    });
+  }
+};
+
+/// Where numbers n of sixteen real columns, or of the real and imaginary parts of eight, come from: rows of 16 floats.
+struct SixteenFloats {
+  using D = ColumnGroups::D;
+
+  Image<const float> rows;
+  bool areInverse;  // imaginary parts first
+
+  HWY_INLINE ColumnGroups::Numbers load(ptrdiff_t n, ptrdiff_t k) const {
+    constexpr ptrdiff_t ahead = 8;  // rows of a large image are pages apart: they are asked for in time
+    const float* const row = rows.row(n) + k * ColumnGroups::N;
+    __builtin_prefetch(rows.row(n + ahead));
+    __builtin_prefetch(rows.row(n + ahead) + 15);
+    return {hn::LoadU(D(), row + (areInverse ? 8 : 0)), hn::LoadU(D(), row + (areInverse ? 0 : 8))};
+  }
+};
+
+/// The groups of a block themselves, or for the first level what else they come from.
+inline ColumnGroups sourceOf(ColumnGroups data, ptrdiff_t first) { return data.from(first); }
+inline SixteenFloats sourceOf(SixteenFloats rows, ptrdiff_t /*first*/) { return rows; }
+
 /// One level of `blocks` transforms of radix * count numbers that follow each other. The last one has no factors.
-template <int radix>
-HWY_NOINLINE HWY_FLATTEN void levelOf(ColumnGroups data, ptrdiff_t count, ptrdiff_t blocks, const float* factors) {
+template <int radix, class From>
+HWY_NOINLINE HWY_FLATTEN void levelOf(ColumnGroups data, const From& from, ptrdiff_t count, ptrdiff_t blocks,
+                                      const float* factors) {
   using Numbers = ColumnGroups::Numbers;
   const ColumnGroups::D d;
   for (ptrdiff_t block = 0; block < blocks; ++block) {
     const ColumnGroups own = data.from(block * radix * count);
+    const From source = sourceOf(from, block * radix * count);
     const float* w = factors;
     for (ptrdiff_t j = 0; j < count; ++j, w += 2 * (radix - 1)) {
       unrolled<ColumnGroups::vectors>([&](auto k) HWY_ATTR {
         Numbers z[radix];
-        unrolled<radix>([&](auto i) HWY_ATTR { z[i] = own.load(j + i * count, k); });
+        unrolled<radix>([&](auto i) HWY_ATTR { z[i] = source.load(j + i * count, k); });
         ShortTransform<radix>::run(z);
         own.store(j, k, z[0]);
         unrolled<radix - 1>([&](auto i) HWY_ATTR {
@@ -103,8 +200,9 @@ HWY_NOINLINE HWY_FLATTEN void levelOf(ColumnGroups data, ptrdiff_t count, ptrdif
 /// The same of any prime, up to the longest of direct sums.
 inline constexpr int longestPrime = 179;
 
-HWY_NOINLINE HWY_FLATTEN inline void levelOfPrime(ColumnGroups data, int prime, ptrdiff_t count, ptrdiff_t blocks,
-                                                  const float* factors, const float* waves) {
+template <class From>
+HWY_NOINLINE HWY_FLATTEN void levelOfPrime(ColumnGroups data, const From& from, int prime, ptrdiff_t count,
+                                           ptrdiff_t blocks, const float* factors, const float* waves) {
   using Numbers = ColumnGroups::Numbers;
   using V = ColumnGroups::V;
   const ColumnGroups::D d;
@@ -113,13 +211,15 @@ HWY_NOINLINE HWY_FLATTEN inline void levelOfPrime(ColumnGroups data, int prime, 
   const ColumnGroups sums{memory[0]}, differences{memory[1]};
   for (ptrdiff_t block = 0; block < blocks; ++block) {
     const ColumnGroups own = data.from(block * prime * count);
+    const From source = sourceOf(from, block * prime * count);
     const float* w = factors;
     for (ptrdiff_t j = 0; j < count; ++j, w += ptrdiff_t{2} * (prime - 1)) {
       unrolled<ColumnGroups::vectors>([&](auto lanes) HWY_ATTR {
-        const Numbers first = own.load(j, lanes);
+        const Numbers first = source.load(j, lanes);
         Numbers sum = first;
         for (int i = 0; i < half; ++i) {
-          const Numbers a = own.load(j + (i + 1) * count, lanes), b = own.load(j + (prime - 1 - i) * count, lanes);
+          const Numbers a = source.load(j + (i + 1) * count, lanes),
+                        b = source.load(j + (prime - 1 - i) * count, lanes);
           sums.store(i, lanes, a + b);
           differences.store(i, lanes, a - b);
           sum = sum + (a + b);

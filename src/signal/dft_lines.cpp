@@ -5,6 +5,8 @@
 
 #include <algorithm>
 #include <bit>
+#include <climits>
+#include <iterator>
 
 #include "signal/dft_levels.h"
 
@@ -29,24 +31,55 @@ struct Factors {
   }
 };
 
-/// Small radices ahead, and of powers of two the largest behind: the last level has no factors to multiply by.
-int radicesOf(Vemi64s length, int* radix) {
-  const Factors factors(length);
-  int count = 0, twos = 0;
-  if (factors.rest > 1) radix[count++] = static_cast<int>(factors.rest);
-  for (int i = factors.count - 1; i >= 0; --i) {
-    if (factors.factor[i] == 2) {
-      ++twos;
-    } else {
-      radix[count++] = factors.factor[i];
+/// What there is code for, with the arithmetic and the memory traffic of a level for each number, of which levels of
+/// large radices have less together.
+struct Radix {
+  int radix, cost;
+};
+constexpr Radix radices[] = {{2, 140}, {3, 173}, {4, 160},  {5, 208},  {6, 203},  {7, 260},
+                             {8, 195}, {9, 263}, {10, 248}, {12, 243}, {15, 300}, {16, 265}};
+
+/// The cheapest product that a length without other factors is, radices in ascending order.
+struct CheapestRadices {
+  int radix[32], count = 0, cost = INT_MAX;
+
+  explicit CheapestRadices(Vemi64s length) { search(length, 0, 0, 0); }
+
+ private:
+  int chosen_[32];
+
+  void search(Vemi64s length, size_t from, int depth, int sum) {
+    if (sum >= cost) return;
+    if (length == 1) {
+      std::copy_n(chosen_, depth, radix);
+      count = depth;
+      cost = sum;
+      return;
+    }
+    for (size_t i = from; i < std::size(radices); ++i) {
+      if (length % radices[i].radix != 0) continue;
+      chosen_[depth] = radices[i].radix;
+      search(length / radices[i].radix, i, depth + 1, sum + radices[i].cost);
     }
   }
-  if (twos % 3 == 2) radix[count++] = 4;
-  if (twos == 1) radix[count++] = 2;
-  const bool endsWith16 = twos % 3 == 1 && twos > 1;
-  for (int i = 0; i < twos / 3 - (endsWith16 ? 1 : 0); ++i) radix[count++] = 8;
-  if (endsWith16) radix[count++] = 16;
-  return count;
+};
+
+bool isLongPrime(int radix) { return radix > 7 && radix % 2 != 0 && radix != 9 && radix != 15; }
+
+/// Long primes ahead and large radices behind: the last level has no factors to multiply by.
+int radicesOf(Vemi64s length, int* radix) {
+  const Factors factors(length);
+  int count = 0;
+  const auto takePrime = [&](Vemi64s prime) {
+    if (prime <= 7) return;
+    radix[count++] = static_cast<int>(prime);
+    length /= prime;
+  };
+  takePrime(factors.rest);
+  for (int i = 0; i < factors.count; ++i) takePrime(factors.factor[i]);
+  const CheapestRadices others(length);
+  std::copy_n(others.radix, others.count, radix + count);
+  return count + others.count;
 }
 
 void setPair(float* pair, Root root) {
@@ -161,7 +194,7 @@ void DFTLines::makeLevels() {
     level_[i] = {radix[i], count, nullptr, nullptr};
     count /= radix[i];
     factors[i] = pieces.add<float>(Vemi64s{2} * count * (radix[i] - 1));
-    waves[i] = pieces.add<float>(radix[i] % 2 == 0 ? 0 : Vemi64s{2} * (radix[i] / 2) * (radix[i] / 2));
+    waves[i] = pieces.add<float>(isLongPrime(radix[i]) ? Vemi64s{2} * (radix[i] / 2) * (radix[i] / 2) : 0);
   }
   tables_ = Scratch(pieces);
   const Scratch scratch(arrayBytes<float>(Vemi64s{2} * length_));
@@ -188,7 +221,7 @@ void DFTLines::makeLevels() {
     }
     float* wave = tables_[waves[i]];
     level_[i].waves = wave;
-    for (int k = 1; r % 2 != 0 && k <= r / 2; ++k) {
+    for (int k = 1; isLongPrime(r) && k <= r / 2; ++k) {
       for (int n = 1; n <= r / 2; ++n, wave += 2) {
         copyRoot(wave, Vemi64s{k} * n % r, length_ / r);
         wave[1] = -wave[1];
@@ -242,38 +275,55 @@ void DFTLines::makeChirp() {
   filter_ = filter;
 }
 
-void DFTLines::runLevels(ColumnGroups data, int first) const {
-  const ptrdiff_t length = level_[first].length;
-  const auto run = [&](const Level& level, ptrdiff_t blocks) {
-    const ptrdiff_t count = level.length / level.radix;
-    switch (level.radix) {
-      case 2:
-        return levelOf<2>(data, count, blocks, level.factors);
-      case 3:
-        return levelOf<3>(data, count, blocks, level.factors);
-      case 4:
-        return levelOf<4>(data, count, blocks, level.factors);
-      case 5:
-        return levelOf<5>(data, count, blocks, level.factors);
-      case 7:
-        return levelOf<7>(data, count, blocks, level.factors);
-      case 8:
-        return levelOf<8>(data, count, blocks, level.factors);
-      case 16:
-        return levelOf<16>(data, count, blocks, level.factors);
-      default:
-        return levelOfPrime(data, level.radix, count, blocks, level.factors, level.waves);
-    }
-  };
-  if (length > groupsInCache && first + 1 < levels_) {
-    run(level_[first], 1);
-    for (int i = 0; i < level_[first].radix; ++i) runLevels(data.from(i * level_[first + 1].length), first + 1);
-    return;
+template <class From>
+void DFTLines::runLevel(int index, ColumnGroups data, const From& from, ptrdiff_t blocks) const {
+  const Level& level = level_[index];
+  const ptrdiff_t count = level.length / level.radix;
+  const auto run = [&](auto levelOfRadix) { levelOfRadix(data, from, count, blocks, level.factors); };
+  switch (level.radix) {
+    case 2:
+      return run(levelOf<2, From>);
+    case 3:
+      return run(levelOf<3, From>);
+    case 4:
+      return run(levelOf<4, From>);
+    case 5:
+      return run(levelOf<5, From>);
+    case 6:
+      return run(levelOf<6, From>);
+    case 7:
+      return run(levelOf<7, From>);
+    case 8:
+      return run(levelOf<8, From>);
+    case 9:
+      return run(levelOf<9, From>);
+    case 10:
+      return run(levelOf<10, From>);
+    case 12:
+      return run(levelOf<12, From>);
+    case 15:
+      return run(levelOf<15, From>);
+    case 16:
+      return run(levelOf<16, From>);
+    default:
+      return levelOfPrime(data, from, level.radix, count, blocks, level.factors, level.waves);
   }
-  for (int i = first; i < levels_; ++i) run(level_[i], length / level_[i].length);
 }
 
-void DFTLines::convolve(ColumnGroups data) const {
+/// From one level on, in place: of as many blocks at once as the first cache holds.
+void DFTLines::runLevels(int first, ColumnGroups data, ptrdiff_t blocks) const {
+  if (first == levels_) return;
+  const ptrdiff_t length = level_[first].length;
+  if (blocks > 1 && blocks * length > groupsInCache) {
+    for (ptrdiff_t i = 0; i < blocks; ++i) runLevels(first, data.from(i * length), 1);
+    return;
+  }
+  runLevel(first, data, data, blocks);
+  runLevels(first + 1, data, blocks * level_[first].radix);
+}
+
+template <class From>
+void DFTLines::convolve(ColumnGroups data, const From& from) const {
   using Numbers = ColumnGroups::Numbers;
   const ColumnGroups::D d;
   const auto withChirp = [&](ptrdiff_t n, Numbers z) HWY_ATTR {
@@ -282,7 +332,7 @@ void DFTLines::convolve(ColumnGroups data) const {
   const int end = order_ % 2 == 0 ? 4 : 3;
   const ptrdiff_t quarter = groups_ / 4;
   levelByFour<AcrossLines>(data, roots_, order_, [&](ptrdiff_t n, auto k) HWY_ATTR {
-    return n < length_ ? withChirp(n, data.load(n, k)) : Numbers{hn::Zero(d), hn::Zero(d)};
+    return n < length_ ? withChirp(n, from.load(n, k)) : Numbers{hn::Zero(d), hn::Zero(d)};
   });
   for (int i = 0; i < 4; ++i) levelsByFour<AcrossLines>(data.from(i * quarter), roots_, order_ - 2, end);
   if (end == 4) {
@@ -297,17 +347,29 @@ void DFTLines::convolve(ColumnGroups data) const {
   });
 }
 
-void DFTLines::transform(ColumnGroups data) const {
+template <class From>
+void DFTLines::transformFrom(ColumnGroups data, const From& from) const {
   switch (method_) {
     case DFTMethod::powerOfTwo:
       return transformColumns(
-          data, roots_, order_, [&](ptrdiff_t group, auto k) HWY_ATTR { return data.load(group, k); },
+          data, roots_, order_, [&](ptrdiff_t group, auto k) HWY_ATTR { return from.load(group, k); },
           [&](ptrdiff_t place, ptrdiff_t, auto k, auto z) HWY_ATTR { data.store(place, k, z); });
     case DFTMethod::chirp:
-      return convolve(data);
+      return convolve(data, from);
     default:
-      if (levels_ > 0) runLevels(data, 0);
+      if (levels_ == 0) {
+        unrolled<ColumnGroups::vectors>([&](auto k) HWY_ATTR { data.store(0, k, from.load(0, k)); });
+      } else {
+        runLevel(0, data, from, 1);
+        runLevels(1, data, level_[0].radix);
+      }
   }
+}
+
+void DFTLines::transform(ColumnGroups data) const { transformFrom(data, data); }
+
+void DFTLines::transform(ColumnGroups data, Image<const float> rows, bool areInverse) const {
+  transformFrom(data, SixteenFloats{rows, areInverse});
 }
 
 }  // namespace vemi::signal

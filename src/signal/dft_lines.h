@@ -13,6 +13,7 @@
 //   data.load(lines.place(k), ...)            // frequency k
 #pragma once
 
+#include "core/image.h"
 #include "core/scratch.h"
 #include "signal/fft_columns.h"
 #include "signal/roots.h"
@@ -44,8 +45,17 @@ class DFTLines {
   ptrdiff_t length() const { return length_; }
   ptrdiff_t groups() const { return groups_; }
 
+  /// Of powers of two.
+  bool isPowerOfTwo() const { return method_ == DFTMethod::powerOfTwo; }
+  const Roots& roots() const { return roots_; }
+  int order() const { return order_; }
+
   /// In place. What the groups behind number N - 1 hold is of no account.
   void transform(ColumnGroups data) const;
+
+  /// The same of rows of 16 floats: 16 real columns, of which the first and the last 8 become one complex number each,
+  /// or the real and the imaginary parts of 8 complex columns; changed over where `areInverse` says so.
+  void transform(ColumnGroups data, Image<const float> rows, bool areInverse) const;
 
   /// Where frequency k stands afterwards.
   HWY_INLINE ptrdiff_t place(ptrdiff_t k) const {
@@ -60,7 +70,8 @@ class DFTLines {
     int radix;
     ptrdiff_t length;
     const float* factors;  // for j = 0, 1, ...: the factors of the results 1, 2, ... as they are stored
-    const float* waves;    // of primes: cos and sin of 2 pi i k / radix for i = 1 to radix / 2, for k = 1 to radix / 2
+    const float*
+        waves;  // of long primes: cos and sin of 2 pi i k / radix for i = 1 to radix / 2, for k = 1 to radix / 2
   };
 
   ptrdiff_t length_ = 0, groups_ = 0;
@@ -76,8 +87,13 @@ class DFTLines {
 
   void makeLevels();
   void makeChirp();
-  void runLevels(ColumnGroups data, int first) const;
-  void convolve(ColumnGroups data) const;
+  template <class From>
+  void transformFrom(ColumnGroups data, const From& from) const;
+  template <class From>
+  void runLevel(int index, ColumnGroups data, const From& from, ptrdiff_t blocks) const;
+  void runLevels(int first, ColumnGroups data, ptrdiff_t blocks) const;
+  template <class From>
+  void convolve(ColumnGroups data, const From& from) const;
 };
 
 }  // namespace vemi::signal

@@ -11,6 +11,68 @@
 #include "transform/packed.h"
 
 namespace vemi::transform {
+template <class L>
+HWY_NOINLINE HWY_FLATTEN void packLongLines(Image<float> dst, const Roots& roots, int order, PackedEdges edges,
+                                            float* memory) {
+  constexpr ptrdiff_t N = LineGroups::N;
+  constexpr int elements = L::elements;
+  const LineGroups::D d;
+  const hn::RebindToSigned<LineGroups::D> di;
+  const LineGroups line{memory};
+  const ptrdiff_t width = ptrdiff_t{1} << order, height = edges.height;
+  for (ptrdiff_t v = 0; v < linesOf(height); ++v) {
+    const LineRows<float> rows(dst, v, height);
+    for (int channel = 0; channel < L::channels; ++channel) {
+      const auto vectorOf = [&](const float* row, ptrdiff_t x) HWY_ATTR {
+        if constexpr (elements == 1) return hn::LoadU(d, row + x);
+        return hn::GatherIndex(d, row + x * elements + channel, hn::Mul(hn::Iota(di, 0), hn::Set(di, elements)));
+      };
+      signal::lineLevels(line, roots, order, [&](ptrdiff_t group, auto k) HWY_ATTR {
+        const ptrdiff_t x = 16 * group + k * N;
+        return LineGroups::Numbers{vectorOf(rows.top, x), vectorOf(rows.bottom, x)};
+      });
+      if (v == 0) {
+        signal::endLineInPlace(
+            line, order, [&](ptrdiff_t group, auto k, LineGroups::Numbers z) HWY_ATTR { line.store(group, k, z); });
+        const auto number = [&](ptrdiff_t u) {
+          const float* const at = line.at(u / 16, u % 16);
+          return ComplexNumber{at[0], at[N]};
+        };
+        for (int side = 0; side < 2; ++side) edges.setOfLine(side, channel, 0, number(side * (width / 2)));
+        packLineOfTwo(rows, elements, channel, width, number);
+        continue;
+      }
+      signal::endLine(line, order, [&](ptrdiff_t u, LineGroups::Numbers z) HWY_ATTR {
+        const bool isBelow = u >= width / 2;
+        if (isBelow) z.im = hn::Neg(z.im);
+        const ptrdiff_t atEdge = u == 0 || u == width / 2 ? 1 : 0;
+        if (elements > 1 || atEdge != 0) {
+          float re[N], im[N];
+          hn::StoreU(z.re, d, re);
+          hn::StoreU(z.im, d, im);
+          if (atEdge != 0) edges.set(isBelow ? 1 : 0, channel, v, {re[0], isBelow ? -im[0] : im[0]});
+          for (ptrdiff_t i = atEdge; i < N; ++i) {
+            const ptrdiff_t own = isBelow ? width - u - i : u + i;
+            float* const to = (isBelow ? rows.bottom : rows.top) + (2 * own - 1) * elements + channel;
+            setElement(to, re[i]);
+            setElement(to + elements, im[i]);
+          }
+        } else if (isBelow) {
+          hn::StoreInterleaved2(hn::Reverse(d, z.re), hn::Reverse(d, z.im), d,
+                                rows.bottom + 2 * (width - u - N + 1) - 1);
+        } else {
+          hn::StoreInterleaved2(z.re, z.im, d, rows.top + 2 * u - 1);
+        }
+      });
+    }
+  }
+}
+
+template void packLongLines<C1>(Image<float>, const Roots&, int, PackedEdges, float*);
+template void packLongLines<C3>(Image<float>, const Roots&, int, PackedEdges, float*);
+template void packLongLines<C4>(Image<float>, const Roots&, int, PackedEdges, float*);
+template void packLongLines<AC4>(Image<float>, const Roots&, int, PackedEdges, float*);
+
 namespace {
 
 template <class L>
@@ -49,19 +111,6 @@ HWY_NOINLINE HWY_FLATTEN void columns(Image<const float> src, Image<float> dst, 
         block.store<L>(dst, height - v, k, {hn::Mul(hn::Sub(z.im, m.im), half), hn::Mul(hn::Sub(m.re, z.re), half)});
       });
     }
-  }
-}
-
-/// Line 0 from its transform, number(u): Z(u) = F(u, 0) + i F(u, H / 2).
-template <class Number>
-void packLineOfTwo(LineRows<float> rows, int elements, int channel, ptrdiff_t width, const Number& number) {
-  for (ptrdiff_t u = 1; u < width / 2; ++u) {
-    const ComplexNumber z = number(u), m = number(width - u);
-    const ptrdiff_t at = (2 * u - 1) * elements + channel;
-    setElement(rows.top + at, (z.re + m.re) * 0.5f);
-    setElement(rows.top + at + elements, (z.im - m.im) * 0.5f);
-    setElement(rows.bottom + at, (z.im + m.im) * 0.5f);
-    setElement(rows.bottom + at + elements, (m.re - z.re) * 0.5f);
   }
 }
 
@@ -113,64 +162,6 @@ HWY_NOINLINE HWY_FLATTEN void shortLines(Image<float> dst, const FFTFloats& spec
   }
 }
 
-/// Widths from 256 on.
-template <class L>
-HWY_NOINLINE HWY_FLATTEN void longLines(Image<float> dst, const FFTFloats& spec, PackedEdges edges, float* memory) {
-  constexpr ptrdiff_t N = LineGroups::N;
-  constexpr int elements = L::elements;
-  const LineGroups::D d;
-  const hn::RebindToSigned<LineGroups::D> di;
-  const LineGroups line{memory};
-  const int order = spec.orderX;
-  const ptrdiff_t width = spec.width(), height = spec.height();
-  for (ptrdiff_t v = 0; v < height / 2; ++v) {
-    const LineRows<float> rows(dst, v, height);
-    for (int channel = 0; channel < L::channels; ++channel) {
-      const auto vectorOf = [&](const float* row, ptrdiff_t x) HWY_ATTR {
-        if constexpr (elements == 1) return hn::LoadU(d, row + x);
-        return hn::GatherIndex(d, row + x * elements + channel, hn::Mul(hn::Iota(di, 0), hn::Set(di, elements)));
-      };
-      signal::lineLevels(line, spec.realSpecX->roots, order, [&](ptrdiff_t group, auto k) HWY_ATTR {
-        const ptrdiff_t x = 16 * group + k * N;
-        return LineGroups::Numbers{vectorOf(rows.top, x), vectorOf(rows.bottom, x)};
-      });
-      if (v == 0) {
-        signal::endLineInPlace(
-            line, order, [&](ptrdiff_t group, auto k, LineGroups::Numbers z) HWY_ATTR { line.store(group, k, z); });
-        const auto number = [&](ptrdiff_t u) {
-          const float* const at = line.at(u / 16, u % 16);
-          return ComplexNumber{at[0], at[N]};
-        };
-        for (int side = 0; side < 2; ++side) edges.setOfLine(side, channel, 0, number(side * (width / 2)));
-        packLineOfTwo(rows, elements, channel, width, number);
-        continue;
-      }
-      signal::endLine(line, order, [&](ptrdiff_t u, LineGroups::Numbers z) HWY_ATTR {
-        const bool isBelow = u >= width / 2;
-        if (isBelow) z.im = hn::Neg(z.im);
-        const ptrdiff_t atEdge = u == 0 || u == width / 2 ? 1 : 0;
-        if (elements > 1 || atEdge != 0) {
-          float re[N], im[N];
-          hn::StoreU(z.re, d, re);
-          hn::StoreU(z.im, d, im);
-          if (atEdge != 0) edges.set(isBelow ? 1 : 0, channel, v, {re[0], isBelow ? -im[0] : im[0]});
-          for (ptrdiff_t i = atEdge; i < N; ++i) {
-            const ptrdiff_t own = isBelow ? width - u - i : u + i;
-            float* const to = (isBelow ? rows.bottom : rows.top) + (2 * own - 1) * elements + channel;
-            setElement(to, re[i]);
-            setElement(to + elements, im[i]);
-          }
-        } else if (isBelow) {
-          hn::StoreInterleaved2(hn::Reverse(d, z.re), hn::Reverse(d, z.im), d,
-                                rows.bottom + 2 * (width - u - N + 1) - 1);
-        } else {
-          hn::StoreInterleaved2(z.re, z.im, d, rows.top + 2 * u - 1);
-        }
-      });
-    }
-  }
-}
-
 template <class L>
 VemiStatus forward(Image<const float> src, Image<float> dst, const VemiFFTSpec_R_32f* spec, Vemi8u* buffer) {
   if (const VemiStatus bad = firstOf(checkRecord(spec, realFFTTag), checkNull(src, dst), checkStep(src, dst))) {
@@ -190,7 +181,7 @@ VemiStatus forward(Image<const float> src, Image<float> dst, const VemiFFTSpec_R
   } else {
     float* const memory = alignedToVectors(scratch.as<float>());
     const PackedEdges edges{memory + 2 * spec->width(), L::channels, spec->height()};
-    longLines<L>(dst, *spec, edges, memory);
+    packLongLines<L>(dst, spec->realSpecX->roots, spec->orderX, edges, memory);
     edges.writeTo<L::elements>(dst, spec->width());
   }
   return vemiOk;

@@ -1,136 +1,25 @@
-// vemiFFTFwd_RToPack and vemiFFTInv_PackToR between integers: to floats, the float transform in place, back to
-// integers. Checks: null record, tag, null images, step, the reserved word, memory.
-//
-// Floats have C1, C3 or C4; the colours of AC4 are C3. A result is multiplied by 2^-scaleFactor, rounded to nearest,
-// ties to even, and saturated; a zero stays one.
+// vemiFFTFwd_RToPack and vemiFFTInv_PackToR between integers.
 
-#include <algorithm>
-#include <cmath>
-#include <type_traits>
-
-#include "core/checks.h"
 #include "core/exports.h"
-#include "core/float_control.h"
-#include "core/map_row.h"
-#include "core/rounding.h"
 #include "transform/fft_spec.h"
-#include "vemi/core.h"
+#include "transform/integer_transform.h"
 
 namespace vemi::transform {
 namespace {
 
-/// Integers as floats, rounded to nearest where they are long.
-struct ToFloats {
-  template <class D>
-  HWY_INLINE hn::Vec<D> operator()(D d, const Vemi8u* in) const {
-    return loadExtended(d, in);
-  }
-  template <class D>
-  HWY_INLINE hn::Vec<D> operator()(D d, const Vemi32s* in) const {
-    return hn::ConvertTo(d, hn::LoadU(hn::Rebind<int32_t, D>(), in));
-  }
+struct FFTOfFloats {
+  static constexpr int integerTag = integerFFTTag;
+  static VemiSize sizeOf(const VemiFFTSpec_R_32s& spec) { return {1 << spec.orderX, 1 << spec.orderY}; }
+
+  template <class L>
+  static constexpr auto forward = L::channels == 1   ? vemiFFTFwd_RToPack_32f_C1R
+                                  : L::channels == 3 ? vemiFFTFwd_RToPack_32f_C3R
+                                                     : vemiFFTFwd_RToPack_32f_C4R;
+  template <class L>
+  static constexpr auto inverse = L::channels == 1   ? vemiFFTInv_PackToR_32f_C1R
+                                  : L::channels == 3 ? vemiFFTInv_PackToR_32f_C3R
+                                                     : vemiFFTInv_PackToR_32f_C4R;
 };
-
-/// The power of two has two factors that floats hold. Beyond 2^252 either way it makes no difference.
-struct ToIntegers {
-  float factor[2];
-
-  explicit ToIntegers(int scaleFactor) {
-    const int exponent = -std::clamp(scaleFactor, -252, 252);
-    factor[0] = std::ldexp(1.0f, exponent / 2);
-    factor[1] = std::ldexp(1.0f, exponent - exponent / 2);
-  }
-
-  template <class DF>
-  HWY_INLINE hn::Vec<DF> scaled(DF df, const float* in) const {
-    return hn::Mul(hn::Mul(hn::LoadU(df, in), hn::Set(df, factor[0])), hn::Set(df, factor[1]));
-  }
-  template <class D>
-  HWY_INLINE hn::Vec<D> operator()(D d, const float* in) const {
-    using T = hn::TFromD<D>;
-    const Lanes<float> df;
-    const Lanes<int32_t> di;
-    if constexpr (sizeof(T) == 4) {
-      return nearestOf<T>(di, scaled(df, in));
-    } else {
-      return packEach<float>(d,
-                             [&](auto k) HWY_ATTR { return nearestOf<T>(di, scaled(df, in + k * laneCount<float>)); });
-    }
-  }
-};
-
-// The public functions of a layout.
-
-template <class L>
-constexpr auto forwardFloats = L::channels == 1   ? vemiFFTFwd_RToPack_32f_C1R
-                               : L::channels == 3 ? vemiFFTFwd_RToPack_32f_C3R
-                                                  : vemiFFTFwd_RToPack_32f_C4R;
-template <class L>
-constexpr auto inverseFloats = L::channels == 1   ? vemiFFTInv_PackToR_32f_C1R
-                               : L::channels == 3 ? vemiFFTInv_PackToR_32f_C3R
-                                                  : vemiFFTInv_PackToR_32f_C4R;
-
-inline VemiStatus coloursOf(const Vemi8u* row, Vemi8u* colours, VemiSize size) {
-  return vemiCopy_8u_AC4C3R(row, size.width * 4, colours, size.width * 3, size);
-}
-inline VemiStatus coloursOf(const Vemi32s* row, Vemi32s* colours, VemiSize size) {
-  return vemiCopy_32f_AC4C3R(reinterpret_cast<const Vemi32f*>(row), size.width * 16,
-                             reinterpret_cast<Vemi32f*>(colours), size.width * 12, size);
-}
-inline VemiStatus setColours(const Vemi8u* colours, Vemi8u* row, VemiSize size) {
-  return vemiCopy_8u_C3AC4R(colours, size.width * 3, row, size.width * 4, size);
-}
-inline VemiStatus setColours(const Vemi32s* colours, Vemi32s* row, VemiSize size) {
-  return vemiCopy_32f_C3AC4R(reinterpret_cast<const Vemi32f*>(colours), size.width * 12,
-                             reinterpret_cast<Vemi32f*>(row), size.width * 16, size);
-}
-
-template <class L, class S, class T>
-VemiStatus byFloats(Image<const S> src, Image<T> dst, const VemiFFTSpec_R_32s* spec, int scaleFactor, Vemi8u* buffer) {
-  if (const VemiStatus bad = firstOf(checkRecord(spec, integerFFTTag), checkNull(src, dst), checkStep(src, dst))) {
-    return bad;
-  }
-  if (spec->reserved != 0) return vemiOk;
-  const Scratch scratch(spec->bufSize, buffer);
-  if (scratch.failed()) return vemiErrMemAlloc;
-
-  const ptrdiff_t width = ptrdiff_t{1} << spec->orderX, height = ptrdiff_t{1} << spec->orderY;
-  const VemiSize rowSize = {static_cast<int>(width), 1};
-  const ptrdiff_t floats = width * L::channels;
-  float* const image = scratch.as<float>();
-  float* const row = image + 4 * width * height;
-  auto* const rest = reinterpret_cast<Vemi8u*>(row + 4 * width);
-  for (ptrdiff_t y = 0; y < height; ++y) {
-    const S* integers = src.row(y);
-    if constexpr (L::keepsAlpha) {
-      S* const colours = reinterpret_cast<S*>(row);
-      if (const VemiStatus bad = coloursOf(integers, colours, rowSize)) return bad;
-      integers = colours;
-    }
-    mapElements<Alpha::none>(floats, eachVector(ToFloats()), image + y * floats, integers);
-  }
-  const auto transform = std::is_same_v<T, Vemi32s> ? forwardFloats<L> : inverseFloats<L>;
-  const int step = static_cast<int>(floats * ptrdiff_t{sizeof(float)});
-  if (const VemiStatus bad = transform(image, step, image, step, spec->floats.get(), rest)) return bad;
-  const ToIntegers toIntegers(scaleFactor);
-  for (ptrdiff_t y = 0; y < height; ++y) {
-    if constexpr (L::keepsAlpha) {
-      T* const colours = reinterpret_cast<T*>(row);
-      mapElements<Alpha::none>(floats, eachVector(toIntegers), colours, image + y * floats);
-      if (const VemiStatus bad = setColours(colours, dst.row(y), rowSize)) return bad;
-    } else {
-      mapElements<Alpha::none>(floats, eachVector(toIntegers), dst.row(y), image + y * floats);
-    }
-  }
-  return vemiOk;
-}
-
-/// Between integers, no rounding mode of the caller's counts.
-template <class L, class S, class T>
-VemiStatus integerFFT(Image<const S> src, Image<T> dst, const VemiFFTSpec_R_32s* spec, int scaleFactor,
-                      Vemi8u* buffer) {
-  return roundingToNearest([&] { return byFloats<L>(src, dst, spec, scaleFactor, buffer); });
-}
 
 }  // namespace
 }  // namespace vemi::transform
@@ -143,11 +32,11 @@ using namespace vemi::transform;
     Vemi8u* pBuffer),                                                                                  \
    (Image<const S>{pSrc, srcStep}, Image<T>{pDst, dstStep}, pSpec, scaleFactor, pBuffer))
 
-VEMI_DEFINE(vemiFFTFwd_RToPack_8u32s_C1RSfs, INTEGERS(Vemi8u, Vemi32s), integerFFT<C1>)
-VEMI_DEFINE(vemiFFTFwd_RToPack_8u32s_C3RSfs, INTEGERS(Vemi8u, Vemi32s), integerFFT<C3>)
-VEMI_DEFINE(vemiFFTFwd_RToPack_8u32s_C4RSfs, INTEGERS(Vemi8u, Vemi32s), integerFFT<C4>)
-VEMI_DEFINE(vemiFFTFwd_RToPack_8u32s_AC4RSfs, INTEGERS(Vemi8u, Vemi32s), integerFFT<AC4>)
-VEMI_DEFINE(vemiFFTInv_PackToR_32s8u_C1RSfs, INTEGERS(Vemi32s, Vemi8u), integerFFT<C1>)
-VEMI_DEFINE(vemiFFTInv_PackToR_32s8u_C3RSfs, INTEGERS(Vemi32s, Vemi8u), integerFFT<C3>)
-VEMI_DEFINE(vemiFFTInv_PackToR_32s8u_C4RSfs, INTEGERS(Vemi32s, Vemi8u), integerFFT<C4>)
-VEMI_DEFINE(vemiFFTInv_PackToR_32s8u_AC4RSfs, INTEGERS(Vemi32s, Vemi8u), integerFFT<AC4>)
+VEMI_DEFINE(vemiFFTFwd_RToPack_8u32s_C1RSfs, INTEGERS(Vemi8u, Vemi32s), (integerTransform<FFTOfFloats, C1>))
+VEMI_DEFINE(vemiFFTFwd_RToPack_8u32s_C3RSfs, INTEGERS(Vemi8u, Vemi32s), (integerTransform<FFTOfFloats, C3>))
+VEMI_DEFINE(vemiFFTFwd_RToPack_8u32s_C4RSfs, INTEGERS(Vemi8u, Vemi32s), (integerTransform<FFTOfFloats, C4>))
+VEMI_DEFINE(vemiFFTFwd_RToPack_8u32s_AC4RSfs, INTEGERS(Vemi8u, Vemi32s), (integerTransform<FFTOfFloats, AC4>))
+VEMI_DEFINE(vemiFFTInv_PackToR_32s8u_C1RSfs, INTEGERS(Vemi32s, Vemi8u), (integerTransform<FFTOfFloats, C1>))
+VEMI_DEFINE(vemiFFTInv_PackToR_32s8u_C3RSfs, INTEGERS(Vemi32s, Vemi8u), (integerTransform<FFTOfFloats, C3>))
+VEMI_DEFINE(vemiFFTInv_PackToR_32s8u_C4RSfs, INTEGERS(Vemi32s, Vemi8u), (integerTransform<FFTOfFloats, C4>))
+VEMI_DEFINE(vemiFFTInv_PackToR_32s8u_AC4RSfs, INTEGERS(Vemi32s, Vemi8u), (integerTransform<FFTOfFloats, AC4>))

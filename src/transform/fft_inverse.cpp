@@ -10,6 +10,82 @@
 #include "transform/packed.h"
 
 namespace vemi::transform {
+template <class L>
+HWY_NOINLINE HWY_FLATTEN void unpackLongLines(Image<const float> src, Image<float> dst, const Roots& roots, int order,
+                                              PackedEdges edges, float* memory) {
+  constexpr ptrdiff_t N = LineGroups::N;
+  constexpr int elements = L::elements;
+  const LineGroups::D d;
+  const hn::RebindToSigned<LineGroups::D> di;
+  const LineGroups line{memory};
+  const ptrdiff_t width = ptrdiff_t{1} << order, height = edges.height;
+  for (ptrdiff_t v = 0; v < linesOf(height); ++v) {
+    const LineRows<const float> from(src, v, height);
+    const LineRows<float> to(dst, v, height);
+    for (int channel = 0; channel < L::channels; ++channel) {
+      if (v == 0) {
+        const auto set = [&](ptrdiff_t u, ComplexNumber z) {
+          float* const at = line.at(u / 16, u % 16);
+          at[0] = z.im;
+          at[N] = z.re;
+        };
+        lineOfTwo(from, elements, channel, width, set);
+        for (int side = 0; side < 2; ++side) set(side * (width / 2), edges.ofLine(side, channel, 0));
+      }
+      const auto packed = [&](ptrdiff_t u) HWY_ATTR {
+        const bool isBelow = u >= width / 2;
+        LineGroups::Numbers z;
+        if (u == 0 || u == width / 2) {
+          float re[N], im[N];
+          const ComplexNumber edge = edges.get(isBelow ? 1 : 0, channel, v);
+          re[0] = edge.re;
+          im[0] = isBelow ? -edge.im : edge.im;
+          for (ptrdiff_t i = 1; i < N; ++i) {
+            const ptrdiff_t own = isBelow ? width - u - i : i;
+            const float* const at = (isBelow ? from.bottom : from.top) + (2 * own - 1) * elements + channel;
+            re[i] = elementOf(at);
+            im[i] = elementOf(at + elements);
+          }
+          z = {hn::LoadU(d, re), hn::LoadU(d, im)};
+        } else if constexpr (elements > 1) {
+          const ptrdiff_t own = isBelow ? width - u : u;
+          const float* const at = (isBelow ? from.bottom : from.top) + (2 * own - 1) * elements + channel;
+          const auto places = hn::Mul(hn::Iota(di, 0), hn::Set(di, isBelow ? -2 * elements : 2 * elements));
+          z = {hn::GatherIndex(d, at, places), hn::GatherIndex(d, at + elements, places)};
+        } else if (isBelow) {
+          hn::LoadInterleaved2(d, from.bottom + 2 * (width - u - N + 1) - 1, z.re, z.im);
+          z = {hn::Reverse(d, z.re), hn::Reverse(d, z.im)};
+        } else {
+          hn::LoadInterleaved2(d, from.top + 2 * u - 1, z.re, z.im);
+        }
+        return LineGroups::Numbers{isBelow ? hn::Neg(z.im) : z.im, z.re};
+      };
+      signal::lineLevels(line, roots, order, [&](ptrdiff_t group, auto k) HWY_ATTR {
+        return v == 0 ? line.load(group, k) : packed(16 * group + k * N);
+      });
+      signal::endLine(line, order, [&](ptrdiff_t x, LineGroups::Numbers z) HWY_ATTR {
+        if constexpr (elements == 1) {
+          hn::StoreU(z.im, d, to.top + x);
+          hn::StoreU(z.re, d, to.bottom + x);
+        } else {
+          float re[N], im[N];
+          hn::StoreU(z.im, d, re);
+          hn::StoreU(z.re, d, im);
+          for (ptrdiff_t i = 0; i < N; ++i) {
+            setElement(to.top + (x + i) * elements + channel, re[i]);
+            setElement(to.bottom + (x + i) * elements + channel, im[i]);
+          }
+        }
+      });
+    }
+  }
+}
+
+template void unpackLongLines<C1>(Image<const float>, Image<float>, const Roots&, int, PackedEdges, float*);
+template void unpackLongLines<C3>(Image<const float>, Image<float>, const Roots&, int, PackedEdges, float*);
+template void unpackLongLines<C4>(Image<const float>, Image<float>, const Roots&, int, PackedEdges, float*);
+template void unpackLongLines<AC4>(Image<const float>, Image<float>, const Roots&, int, PackedEdges, float*);
+
 namespace {
 
 template <class L>
@@ -41,18 +117,6 @@ HWY_NOINLINE HWY_FLATTEN void columns(Image<float> dst, const FFTFloats& spec, f
           askForRow(dst, y + rowsAhead, x);
           block.store<L>(dst, y, k, {hn::Mul(z.im, factor), hn::Mul(z.re, factor)});
         });
-  }
-}
-
-/// What line 0 is the transform of: set(u, F(u, 0) + i F(u, H / 2)).
-template <class Set>
-void lineOfTwo(LineRows<const float> rows, int elements, int channel, ptrdiff_t width, const Set& set) {
-  for (ptrdiff_t u = 1; u < width / 2; ++u) {
-    const ptrdiff_t at = (2 * u - 1) * elements + channel;
-    const ComplexNumber a = {elementOf(rows.top + at), elementOf(rows.top + at + elements)};
-    const ComplexNumber b = {elementOf(rows.bottom + at), elementOf(rows.bottom + at + elements)};
-    set(u, ComplexNumber{a.re - b.im, a.im + b.re});
-    set(width - u, ComplexNumber{a.re + b.im, b.re - a.im});
   }
 }
 
@@ -111,79 +175,6 @@ HWY_NOINLINE HWY_FLATTEN void shortLines(Image<const float> src, Image<float> ds
   }
 }
 
-/// Widths from 256 on.
-template <class L>
-HWY_NOINLINE HWY_FLATTEN void longLines(Image<const float> src, Image<float> dst, const FFTFloats& spec,
-                                        PackedEdges edges, float* memory) {
-  constexpr ptrdiff_t N = LineGroups::N;
-  constexpr int elements = L::elements;
-  const LineGroups::D d;
-  const hn::RebindToSigned<LineGroups::D> di;
-  const LineGroups line{memory};
-  const int order = spec.orderX;
-  const ptrdiff_t width = spec.width(), height = spec.height();
-  for (ptrdiff_t v = 0; v < height / 2; ++v) {
-    const LineRows<const float> from(src, v, height);
-    const LineRows<float> to(dst, v, height);
-    for (int channel = 0; channel < L::channels; ++channel) {
-      if (v == 0) {
-        const auto set = [&](ptrdiff_t u, ComplexNumber z) {
-          float* const at = line.at(u / 16, u % 16);
-          at[0] = z.im;
-          at[N] = z.re;
-        };
-        lineOfTwo(from, elements, channel, width, set);
-        for (int side = 0; side < 2; ++side) set(side * (width / 2), edges.ofLine(side, channel, 0));
-      }
-      const auto packed = [&](ptrdiff_t u) HWY_ATTR {
-        const bool isBelow = u >= width / 2;
-        LineGroups::Numbers z;
-        if (u == 0 || u == width / 2) {
-          float re[N], im[N];
-          const ComplexNumber edge = edges.get(isBelow ? 1 : 0, channel, v);
-          re[0] = edge.re;
-          im[0] = isBelow ? -edge.im : edge.im;
-          for (ptrdiff_t i = 1; i < N; ++i) {
-            const ptrdiff_t own = isBelow ? width - u - i : i;
-            const float* const at = (isBelow ? from.bottom : from.top) + (2 * own - 1) * elements + channel;
-            re[i] = elementOf(at);
-            im[i] = elementOf(at + elements);
-          }
-          z = {hn::LoadU(d, re), hn::LoadU(d, im)};
-        } else if constexpr (elements > 1) {
-          const ptrdiff_t own = isBelow ? width - u : u;
-          const float* const at = (isBelow ? from.bottom : from.top) + (2 * own - 1) * elements + channel;
-          const auto places = hn::Mul(hn::Iota(di, 0), hn::Set(di, isBelow ? -2 * elements : 2 * elements));
-          z = {hn::GatherIndex(d, at, places), hn::GatherIndex(d, at + elements, places)};
-        } else if (isBelow) {
-          hn::LoadInterleaved2(d, from.bottom + 2 * (width - u - N + 1) - 1, z.re, z.im);
-          z = {hn::Reverse(d, z.re), hn::Reverse(d, z.im)};
-        } else {
-          hn::LoadInterleaved2(d, from.top + 2 * u - 1, z.re, z.im);
-        }
-        return LineGroups::Numbers{isBelow ? hn::Neg(z.im) : z.im, z.re};
-      };
-      signal::lineLevels(line, spec.realSpecX->roots, order, [&](ptrdiff_t group, auto k) HWY_ATTR {
-        return v == 0 ? line.load(group, k) : packed(16 * group + k * N);
-      });
-      signal::endLine(line, order, [&](ptrdiff_t x, LineGroups::Numbers z) HWY_ATTR {
-        if constexpr (elements == 1) {
-          hn::StoreU(z.im, d, to.top + x);
-          hn::StoreU(z.re, d, to.bottom + x);
-        } else {
-          float re[N], im[N];
-          hn::StoreU(z.im, d, re);
-          hn::StoreU(z.re, d, im);
-          for (ptrdiff_t i = 0; i < N; ++i) {
-            setElement(to.top + (x + i) * elements + channel, re[i]);
-            setElement(to.bottom + (x + i) * elements + channel, im[i]);
-          }
-        }
-      });
-    }
-  }
-}
-
 template <class L>
 VemiStatus inverse(Image<const float> src, Image<float> dst, const VemiFFTSpec_R_32f* spec, Vemi8u* buffer) {
   if (const VemiStatus bad = firstOf(checkRecord(spec, realFFTTag), checkNull(src, dst), checkStep(src, dst))) {
@@ -202,7 +193,7 @@ VemiStatus inverse(Image<const float> src, Image<float> dst, const VemiFFTSpec_R
     float* const memory = alignedToVectors(scratch.as<float>());
     const PackedEdges edges{memory + 2 * spec->width(), L::channels, spec->height()};
     edges.readFrom<L::elements>(src, spec->width());
-    longLines<L>(src, dst, *spec, edges, memory);
+    unpackLongLines<L>(src, dst, spec->realSpecX->roots, spec->orderX, edges, memory);
   }
   columns<L>(dst, *spec, scaleOfImage(*spec->realSpecX, false, spec->orderX + spec->orderY),
              columnMemory(scratch, spec->orderY));

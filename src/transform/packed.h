@@ -1,9 +1,11 @@
 // What both directions of the real transforms share. Between them, column transforms leave V(x, v), v = 0 to H / 2, in
 // the rows of the destination: real parts in row v, imaginary parts in row H - v; V(x, 0) and V(x, H / 2), which are
 // real, in rows 0 and H / 2. So rows v and H - v are one complex line, and rows 0 and H / 2 another; the transform of
-// line v gives F(u, v) for all u, of which those beyond W / 2 are the conjugates of F(W - u, H - v), row H - v.
+// line v gives F(u, v) for all u, of which those beyond W / 2 are the conjugates of F(W - u, H - v), row H - v. Of an
+// odd height, row 0 goes with itself: both parts of its line are it, and give it.
 //
-// Columns 0 and W - 1 of the packed array hold numbers of other rows: they go by way of an array of their own.
+// Columns 0 and, of even widths, W - 1 of the packed array hold numbers of other rows: they go by way of an array of
+// their own.
 #pragma once
 
 #include <algorithm>
@@ -27,20 +29,29 @@ struct ComplexNumber {
   float re, im;
 };
 
-/// The two rows that are line v. Line 0 has those of v = 0 and v = H / 2.
+inline ptrdiff_t linesOf(ptrdiff_t height) { return (height + 1) / 2; }
+
+/// The row that is in a line with row v; for v = 0, that of v = H / 2.
+inline ptrdiff_t rowWith(ptrdiff_t v, ptrdiff_t height) {
+  if (v > 0) return height - v;
+  return height % 2 == 0 ? height / 2 : 0;
+}
+
+/// The two rows that are line v.
 template <class T>
 struct LineRows {
   T *top, *bottom;
 
-  LineRows(Image<T> image, ptrdiff_t v, ptrdiff_t height)
-      : top(image.row(v)), bottom(image.row(v == 0 ? height / 2 : height - v)) {}
+  LineRows(Image<T> image, ptrdiff_t v, ptrdiff_t height) : top(image.row(v)), bottom(image.row(rowWith(v, height))) {}
 };
 
-/// Columns 0 and W - 1 of the packed array, of each channel: F(0, v) and F(W / 2, v), packed along y.
+/// Columns 0 and, of even widths, W - 1 of the packed array, of each channel: F(0, v) and F(W / 2, v), packed along y.
 struct PackedEdges {
   float* memory;
   int channels;
   ptrdiff_t height;
+
+  static int sidesOf(ptrdiff_t width) { return width % 2 == 0 ? 2 : 1; }
 
   float* column(int side, int channel) const { return memory + (ptrdiff_t{side} * channels + channel) * height; }
 
@@ -60,16 +71,17 @@ struct PackedEdges {
   }
   /// Line 0 is F(u, 0) + i F(u, H / 2), of which both are real at the sides.
   ComplexNumber ofLine(int side, int channel, ptrdiff_t v) const {
-    return v == 0 ? ComplexNumber{get(side, channel, 0).re, get(side, channel, height / 2).re} : get(side, channel, v);
+    if (v > 0) return get(side, channel, v);
+    return {get(side, channel, 0).re, get(side, channel, rowWith(0, height)).re};
   }
   void setOfLine(int side, int channel, ptrdiff_t v, ComplexNumber z) const {
     set(side, channel, v, z);
-    if (v == 0) set(side, channel, height / 2, {z.im, 0});
+    if (v == 0) set(side, channel, rowWith(0, height), {z.im, 0});
   }
 
   template <int elements>
   void writeTo(Image<float> dst, ptrdiff_t width) const {
-    for (int side = 0; side < 2; ++side) {
+    for (int side = 0; side < sidesOf(width); ++side) {
       for (ptrdiff_t y = 0; y < height; ++y) {
         float* const pixel = dst.row(y) + (side == 0 ? 0 : width - 1) * elements;
         for (int channel = 0; channel < channels; ++channel) setElement(pixel + channel, column(side, channel)[y]);
@@ -78,7 +90,7 @@ struct PackedEdges {
   }
   template <int elements>
   void readFrom(Image<const float> src, ptrdiff_t width) const {
-    for (int side = 0; side < 2; ++side) {
+    for (int side = 0; side < sidesOf(width); ++side) {
       for (ptrdiff_t y = 0; y < height; ++y) {
         const float* const pixel = src.row(y) + (side == 0 ? 0 : width - 1) * elements;
         for (int channel = 0; channel < channels; ++channel) column(side, channel)[y] = elementOf(pixel + channel);
@@ -138,12 +150,44 @@ struct ShortLines {
 
 template <class T>
 EightRows<T> topRows(Image<T> image, ptrdiff_t firstLine, ptrdiff_t height) {
-  return {firstLine, height / 2, [&](ptrdiff_t v) { return LineRows<T>(image, v, height).top; }};
+  return {firstLine, linesOf(height), [&](ptrdiff_t v) { return LineRows<T>(image, v, height).top; }};
 }
 template <class T>
 EightRows<T> bottomRows(Image<T> image, ptrdiff_t firstLine, ptrdiff_t height) {
-  return {firstLine, height / 2, [&](ptrdiff_t v) { return LineRows<T>(image, v, height).bottom; }};
+  return {firstLine, linesOf(height), [&](ptrdiff_t v) { return LineRows<T>(image, v, height).bottom; }};
 }
+
+/// Line 0 from its transform, number(u): Z(u) = F(u, 0) + i F(u, H / 2).
+template <class Number>
+void packLineOfTwo(LineRows<float> rows, int elements, int channel, ptrdiff_t width, const Number& number) {
+  for (ptrdiff_t u = 1; 2 * u < width; ++u) {
+    const ComplexNumber z = number(u), m = number(width - u);
+    const ptrdiff_t at = (2 * u - 1) * elements + channel;
+    setElement(rows.top + at, (z.re + m.re) * 0.5f);
+    setElement(rows.top + at + elements, (z.im - m.im) * 0.5f);
+    setElement(rows.bottom + at, (z.im + m.im) * 0.5f);
+    setElement(rows.bottom + at + elements, (m.re - z.re) * 0.5f);
+  }
+}
+
+/// What line 0 is the transform of: set(u, F(u, 0) + i F(u, H / 2)).
+template <class Set>
+void lineOfTwo(LineRows<const float> rows, int elements, int channel, ptrdiff_t width, const Set& set) {
+  for (ptrdiff_t u = 1; 2 * u < width; ++u) {
+    const ptrdiff_t at = (2 * u - 1) * elements + channel;
+    const ComplexNumber a = {elementOf(rows.top + at), elementOf(rows.top + at + elements)};
+    const ComplexNumber b = {elementOf(rows.bottom + at), elementOf(rows.bottom + at + elements)};
+    set(u, ComplexNumber{a.re - b.im, a.im + b.re});
+    set(width - u, ComplexNumber{a.re + b.im, b.re - a.im});
+  }
+}
+
+/// The rows of 2^order pixels, from 256 on, of both directions: with as much memory as a complex line has.
+template <class L>
+void packLongLines(Image<float> dst, const Roots& roots, int order, PackedEdges edges, float* memory);
+template <class L>
+void unpackLongLines(Image<const float> src, Image<float> dst, const Roots& roots, int order, PackedEdges edges,
+                     float* memory);
 
 /// Images of one row or column: in a buffer, a channel at a time.
 template <class L, class Transform>

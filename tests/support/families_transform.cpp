@@ -22,13 +22,19 @@ void pickFFT(Call& call) {
   call.set("hint", call.random.below(4));
 }
 
-void sizeByFFT(Call& call) {
-  const Call& maker = call.record("pSpec");
-  call.image("pSrc").size = call.image("pDst").size = {1 << maker.get<int>("orderX"), 1 << maker.get<int>("orderY")};
+/// Images, and a buffer as vemiFFTGetBufSize or vemiDFTGetBufSize tells.
+void setImages(Call& call, VemiSize size) {
+  call.image("pSrc").size = call.image("pDst").size = size;
   const std::string type = call.function.name.find("32fc") != std::string::npos  ? "C_32fc"
                            : call.function.name.find("32s") != std::string::npos ? "R_32s"
                                                                                  : "R_32f";
-  call.setBuffer("pBuffer", call.sizeBy("vemiFFTGetBufSize_" + type, "pSpec"), true);
+  const std::string query = call.function.name.substr(0, 7) + "GetBufSize_" + type;
+  call.setBuffer("pBuffer", call.sizeBy(query, "pSpec"), true);
+}
+
+void sizeByFFT(Call& call) {
+  const Call& maker = call.record("pSpec");
+  setImages(call, {1 << maker.get<int>("orderX"), 1 << maker.get<int>("orderY")});
 }
 
 /// Bytes that are floats from 2^-7 to 2^9 of either sign, wherever they begin: rows may overlap.
@@ -48,6 +54,16 @@ void moderateFloats(Call& call) {
 }
 
 // ---- Fourier transforms of any size ---------------------------------------------------------------------------------
+
+/// The scenario's size, or one that is as high as that one is wide.
+void pickDFT(Call& call) {
+  const VemiSize size = call.scenario.roiSize;
+  if (call.random.below(4) == 0) call.set("roiSize", VemiSize{size.height, size.width});
+  call.set("flag", 1 << call.random.below(4));
+  call.set("hint", call.random.below(4));
+}
+
+void sizeByDFT(Call& call) { setImages(call, call.record("pSpec").get<VemiSize>("roiSize")); }
 
 // ---- Cosine transforms ----------------------------------------------------------------------------------------------
 
@@ -124,7 +140,20 @@ std::vector<Family> transformFamilies() {
        {},
        moderateFloats},
 
-      // Fourier transforms of any size
+      {"vemiDFTInitAlloc_R vemiDFTInitAlloc_C",
+       ".*",
+       "null size flag",
+       pickDFT,
+       {{"flag", 0, "flag", vemiErrFftFlag},
+        {"flag", 3, "flag", vemiErrFftFlag},
+        {"flag", 16, "flag", vemiErrFftFlag}}},
+      {"vemiDFTFree_R vemiDFTFree_C vemiDFTGetBufSize_R vemiDFTGetBufSize_C", ".*", "null tag"},
+      {"vemiDFTFwd_RToPack vemiDFTInv_PackToR vemiDFTFwd_CToC vemiDFTInv_CToC",
+       ".*",
+       "pSpec tag null step",
+       sizeByDFT,
+       {},
+       moderateFloats},
 
       // Cosine transforms
       {"vemiDCT8x8Fwd vemiDCT8x8Inv", "32f.*", "null", nullptr, {}, moderateBlock},
