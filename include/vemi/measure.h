@@ -1047,6 +1047,536 @@ VEMI_API VemiStatus vemiQualityIndex_32f_AC4R(const Vemi32f* pSrc1, int src1Step
 
 /* ---- Templates ---- */
 
+/**
+ * @defgroup vemi_match vemiCrossCorr and vemiSqrDistance: where a template matches an image
+ *
+ * A template is an image of w x h pixels, n = w h. It is laid over the source at each place; the result has an element
+ * for each, which says how well it matches. With P the pixels under the template there, t those of the template, m the
+ * mean of t, and all sums over the w x h pixels,
+ *
+ *     C = sum P t,  S2 = sum P^2,  S1 = sum P,  T = sqrt(sum t^2),  C' = sum P (t - m),  D = T^2 - m n m
+ *
+ *     vemiCrossCorr..._Norm        C / (max(T, e) sqrt(max(S2, e)))                    1 where P is a t, a > 0
+ *     vemiCrossCorr..._NormLevel   C' / sqrt(max(D, e) max(S2 - S1^2 / n, e))          1 where P is a t + b, a > 0
+ *     vemiSqrDistance..._Norm      (S2 - 2 C + T^2) / (max(T, e) sqrt(max(S2, e)))     0 where P is t
+ *
+ * The first does not mind how bright the image is, the second not even an even light upon it; the third minds both,
+ * and its best place is the smallest. e = 0.0005 for 32f and 1 for other types stands in where there is nothing to
+ * divide by: flat places are no error. A template of zeros matches nothing: exact zeros, and S2 / (e sqrt(max(S2, e)))
+ * for the distance.
+ *
+ * **Places.** The result's element (x, y) is that of the template with its first pixel on the source's (x - a, y - b);
+ * what lies outside of the source is 0.
+ *
+ *     Valid   a = 0, b = 0             (W - w + 1) x (H - h + 1)   places that lie within the source
+ *     Same    a = w >> 1, b = h >> 1   W x H                       the template's middle on each pixel
+ *     Full    a = w - 1, b = h - 1     (W + w - 1) x (H + h - 1)   all places that touch the source
+ *
+ * for a source of W x H. The middle of an even number of pixels is the one behind it. In all shapes the template must
+ * not be wider or higher than the source.
+ *
+ * **Types and layouts.** 32f, 8u32f and 8s32f store floats as they are. The 8u forms divide by 2^scaleFactor, round to
+ * nearest, ties to even, and saturate: with scaleFactor -7, a match of 1 is 128. The power of two has seven bits of
+ * scaleFactor and goes into the divisor of single precision; where that becomes 0, positive results are 255 and
+ * negative ones 0, and what is not a number is 255. The channels of C3 and C4 are matched one by one, each with its
+ * channel of the template; AC4 does so for three, and leaves the fourth element of the destination as it is.
+ *
+ * **Accuracy.** Windows are summed in double precision. Correlations come by way of Fourier transforms of tiles, in
+ * single precision: the error of C is about 1e-7 of the product of T and the norm of a tile, whose sides are about two
+ * to eight times those of the template. So places that are much darker than their neighbourhood have a larger error,
+ * and infinities and NaNs spoil all results of a tile.
+ *
+ * @param pSrc,srcStep   first pixel of the source, and the bytes between its rows
+ * @param srcRoiSize     size of the source in pixels
+ * @param pTpl,tplStep   the same of the template
+ * @param tplRoiSize     size of the template in pixels
+ * @param pDst,dstStep   the same of the destination, which has the size that is said above
+ * @param scaleFactor    8u forms: results are divided by 2^scaleFactor
+ *
+ * **Overlap.** Source and template may overlap in any way, and so may their rows; the destination lies outside of them.
+ *
+ * **Statuses**, in the order of the tests: null; size, also for a template that is larger than the source; step;
+ * vemiErrFftOrder for a template of more than 2^29 pixels across or down; vemiErrMemAlloc where working memory cannot
+ * be had. It takes some tiles of memory for each thread. Nothing is written then.
+ *
+ * **Threads.** All forms share tiles of the result among a team. Results do not depend on it.
+ *
+ *     // Where is the ball? The largest of the results.
+ *     vemiCrossCorrValid_NormLevel_8u32f_C1R(scene, sceneStep, sceneSize, ball, ballStep, ballSize, match, matchStep);
+ *     vemiMaxIndx_32f_C1R(match, matchStep, matchSize, &most, &x, &y);
+ * @{
+ */
+
+VEMI_API VemiStatus vemiCrossCorrFull_Norm_32f_C1R(const Vemi32f* pSrc, int srcStep, VemiSize srcRoiSize,
+                                                   const Vemi32f* pTpl, int tplStep, VemiSize tplRoiSize, Vemi32f* pDst,
+                                                   int dstStep);
+VEMI_API VemiStatus vemiCrossCorrFull_Norm_32f_C3R(const Vemi32f* pSrc, int srcStep, VemiSize srcRoiSize,
+                                                   const Vemi32f* pTpl, int tplStep, VemiSize tplRoiSize, Vemi32f* pDst,
+                                                   int dstStep);
+VEMI_API VemiStatus vemiCrossCorrFull_Norm_32f_C4R(const Vemi32f* pSrc, int srcStep, VemiSize srcRoiSize,
+                                                   const Vemi32f* pTpl, int tplStep, VemiSize tplRoiSize, Vemi32f* pDst,
+                                                   int dstStep);
+VEMI_API VemiStatus vemiCrossCorrFull_Norm_32f_AC4R(const Vemi32f* pSrc, int srcStep, VemiSize srcRoiSize,
+                                                    const Vemi32f* pTpl, int tplStep, VemiSize tplRoiSize,
+                                                    Vemi32f* pDst, int dstStep);
+
+VEMI_API VemiStatus vemiCrossCorrFull_Norm_8u32f_C1R(const Vemi8u* pSrc, int srcStep, VemiSize srcRoiSize,
+                                                     const Vemi8u* pTpl, int tplStep, VemiSize tplRoiSize,
+                                                     Vemi32f* pDst, int dstStep);
+VEMI_API VemiStatus vemiCrossCorrFull_Norm_8u32f_C3R(const Vemi8u* pSrc, int srcStep, VemiSize srcRoiSize,
+                                                     const Vemi8u* pTpl, int tplStep, VemiSize tplRoiSize,
+                                                     Vemi32f* pDst, int dstStep);
+VEMI_API VemiStatus vemiCrossCorrFull_Norm_8u32f_C4R(const Vemi8u* pSrc, int srcStep, VemiSize srcRoiSize,
+                                                     const Vemi8u* pTpl, int tplStep, VemiSize tplRoiSize,
+                                                     Vemi32f* pDst, int dstStep);
+VEMI_API VemiStatus vemiCrossCorrFull_Norm_8u32f_AC4R(const Vemi8u* pSrc, int srcStep, VemiSize srcRoiSize,
+                                                      const Vemi8u* pTpl, int tplStep, VemiSize tplRoiSize,
+                                                      Vemi32f* pDst, int dstStep);
+
+VEMI_API VemiStatus vemiCrossCorrFull_Norm_8s32f_C1R(const Vemi8s* pSrc, int srcStep, VemiSize srcRoiSize,
+                                                     const Vemi8s* pTpl, int tplStep, VemiSize tplRoiSize,
+                                                     Vemi32f* pDst, int dstStep);
+VEMI_API VemiStatus vemiCrossCorrFull_Norm_8s32f_C3R(const Vemi8s* pSrc, int srcStep, VemiSize srcRoiSize,
+                                                     const Vemi8s* pTpl, int tplStep, VemiSize tplRoiSize,
+                                                     Vemi32f* pDst, int dstStep);
+VEMI_API VemiStatus vemiCrossCorrFull_Norm_8s32f_C4R(const Vemi8s* pSrc, int srcStep, VemiSize srcRoiSize,
+                                                     const Vemi8s* pTpl, int tplStep, VemiSize tplRoiSize,
+                                                     Vemi32f* pDst, int dstStep);
+VEMI_API VemiStatus vemiCrossCorrFull_Norm_8s32f_AC4R(const Vemi8s* pSrc, int srcStep, VemiSize srcRoiSize,
+                                                      const Vemi8s* pTpl, int tplStep, VemiSize tplRoiSize,
+                                                      Vemi32f* pDst, int dstStep);
+
+VEMI_API VemiStatus vemiCrossCorrFull_Norm_8u_C1RSfs(const Vemi8u* pSrc, int srcStep, VemiSize srcRoiSize,
+                                                     const Vemi8u* pTpl, int tplStep, VemiSize tplRoiSize, Vemi8u* pDst,
+                                                     int dstStep, int scaleFactor);
+VEMI_API VemiStatus vemiCrossCorrFull_Norm_8u_C3RSfs(const Vemi8u* pSrc, int srcStep, VemiSize srcRoiSize,
+                                                     const Vemi8u* pTpl, int tplStep, VemiSize tplRoiSize, Vemi8u* pDst,
+                                                     int dstStep, int scaleFactor);
+VEMI_API VemiStatus vemiCrossCorrFull_Norm_8u_C4RSfs(const Vemi8u* pSrc, int srcStep, VemiSize srcRoiSize,
+                                                     const Vemi8u* pTpl, int tplStep, VemiSize tplRoiSize, Vemi8u* pDst,
+                                                     int dstStep, int scaleFactor);
+VEMI_API VemiStatus vemiCrossCorrFull_Norm_8u_AC4RSfs(const Vemi8u* pSrc, int srcStep, VemiSize srcRoiSize,
+                                                      const Vemi8u* pTpl, int tplStep, VemiSize tplRoiSize,
+                                                      Vemi8u* pDst, int dstStep, int scaleFactor);
+
+VEMI_API VemiStatus vemiCrossCorrSame_Norm_32f_C1R(const Vemi32f* pSrc, int srcStep, VemiSize srcRoiSize,
+                                                   const Vemi32f* pTpl, int tplStep, VemiSize tplRoiSize, Vemi32f* pDst,
+                                                   int dstStep);
+VEMI_API VemiStatus vemiCrossCorrSame_Norm_32f_C3R(const Vemi32f* pSrc, int srcStep, VemiSize srcRoiSize,
+                                                   const Vemi32f* pTpl, int tplStep, VemiSize tplRoiSize, Vemi32f* pDst,
+                                                   int dstStep);
+VEMI_API VemiStatus vemiCrossCorrSame_Norm_32f_C4R(const Vemi32f* pSrc, int srcStep, VemiSize srcRoiSize,
+                                                   const Vemi32f* pTpl, int tplStep, VemiSize tplRoiSize, Vemi32f* pDst,
+                                                   int dstStep);
+VEMI_API VemiStatus vemiCrossCorrSame_Norm_32f_AC4R(const Vemi32f* pSrc, int srcStep, VemiSize srcRoiSize,
+                                                    const Vemi32f* pTpl, int tplStep, VemiSize tplRoiSize,
+                                                    Vemi32f* pDst, int dstStep);
+
+VEMI_API VemiStatus vemiCrossCorrSame_Norm_8u32f_C1R(const Vemi8u* pSrc, int srcStep, VemiSize srcRoiSize,
+                                                     const Vemi8u* pTpl, int tplStep, VemiSize tplRoiSize,
+                                                     Vemi32f* pDst, int dstStep);
+VEMI_API VemiStatus vemiCrossCorrSame_Norm_8u32f_C3R(const Vemi8u* pSrc, int srcStep, VemiSize srcRoiSize,
+                                                     const Vemi8u* pTpl, int tplStep, VemiSize tplRoiSize,
+                                                     Vemi32f* pDst, int dstStep);
+VEMI_API VemiStatus vemiCrossCorrSame_Norm_8u32f_C4R(const Vemi8u* pSrc, int srcStep, VemiSize srcRoiSize,
+                                                     const Vemi8u* pTpl, int tplStep, VemiSize tplRoiSize,
+                                                     Vemi32f* pDst, int dstStep);
+VEMI_API VemiStatus vemiCrossCorrSame_Norm_8u32f_AC4R(const Vemi8u* pSrc, int srcStep, VemiSize srcRoiSize,
+                                                      const Vemi8u* pTpl, int tplStep, VemiSize tplRoiSize,
+                                                      Vemi32f* pDst, int dstStep);
+
+VEMI_API VemiStatus vemiCrossCorrSame_Norm_8s32f_C1R(const Vemi8s* pSrc, int srcStep, VemiSize srcRoiSize,
+                                                     const Vemi8s* pTpl, int tplStep, VemiSize tplRoiSize,
+                                                     Vemi32f* pDst, int dstStep);
+VEMI_API VemiStatus vemiCrossCorrSame_Norm_8s32f_C3R(const Vemi8s* pSrc, int srcStep, VemiSize srcRoiSize,
+                                                     const Vemi8s* pTpl, int tplStep, VemiSize tplRoiSize,
+                                                     Vemi32f* pDst, int dstStep);
+VEMI_API VemiStatus vemiCrossCorrSame_Norm_8s32f_C4R(const Vemi8s* pSrc, int srcStep, VemiSize srcRoiSize,
+                                                     const Vemi8s* pTpl, int tplStep, VemiSize tplRoiSize,
+                                                     Vemi32f* pDst, int dstStep);
+VEMI_API VemiStatus vemiCrossCorrSame_Norm_8s32f_AC4R(const Vemi8s* pSrc, int srcStep, VemiSize srcRoiSize,
+                                                      const Vemi8s* pTpl, int tplStep, VemiSize tplRoiSize,
+                                                      Vemi32f* pDst, int dstStep);
+
+VEMI_API VemiStatus vemiCrossCorrSame_Norm_8u_C1RSfs(const Vemi8u* pSrc, int srcStep, VemiSize srcRoiSize,
+                                                     const Vemi8u* pTpl, int tplStep, VemiSize tplRoiSize, Vemi8u* pDst,
+                                                     int dstStep, int scaleFactor);
+VEMI_API VemiStatus vemiCrossCorrSame_Norm_8u_C3RSfs(const Vemi8u* pSrc, int srcStep, VemiSize srcRoiSize,
+                                                     const Vemi8u* pTpl, int tplStep, VemiSize tplRoiSize, Vemi8u* pDst,
+                                                     int dstStep, int scaleFactor);
+VEMI_API VemiStatus vemiCrossCorrSame_Norm_8u_C4RSfs(const Vemi8u* pSrc, int srcStep, VemiSize srcRoiSize,
+                                                     const Vemi8u* pTpl, int tplStep, VemiSize tplRoiSize, Vemi8u* pDst,
+                                                     int dstStep, int scaleFactor);
+VEMI_API VemiStatus vemiCrossCorrSame_Norm_8u_AC4RSfs(const Vemi8u* pSrc, int srcStep, VemiSize srcRoiSize,
+                                                      const Vemi8u* pTpl, int tplStep, VemiSize tplRoiSize,
+                                                      Vemi8u* pDst, int dstStep, int scaleFactor);
+
+VEMI_API VemiStatus vemiCrossCorrValid_Norm_32f_C1R(const Vemi32f* pSrc, int srcStep, VemiSize srcRoiSize,
+                                                    const Vemi32f* pTpl, int tplStep, VemiSize tplRoiSize,
+                                                    Vemi32f* pDst, int dstStep);
+VEMI_API VemiStatus vemiCrossCorrValid_Norm_32f_C3R(const Vemi32f* pSrc, int srcStep, VemiSize srcRoiSize,
+                                                    const Vemi32f* pTpl, int tplStep, VemiSize tplRoiSize,
+                                                    Vemi32f* pDst, int dstStep);
+VEMI_API VemiStatus vemiCrossCorrValid_Norm_32f_C4R(const Vemi32f* pSrc, int srcStep, VemiSize srcRoiSize,
+                                                    const Vemi32f* pTpl, int tplStep, VemiSize tplRoiSize,
+                                                    Vemi32f* pDst, int dstStep);
+VEMI_API VemiStatus vemiCrossCorrValid_Norm_32f_AC4R(const Vemi32f* pSrc, int srcStep, VemiSize srcRoiSize,
+                                                     const Vemi32f* pTpl, int tplStep, VemiSize tplRoiSize,
+                                                     Vemi32f* pDst, int dstStep);
+
+VEMI_API VemiStatus vemiCrossCorrValid_Norm_8u32f_C1R(const Vemi8u* pSrc, int srcStep, VemiSize srcRoiSize,
+                                                      const Vemi8u* pTpl, int tplStep, VemiSize tplRoiSize,
+                                                      Vemi32f* pDst, int dstStep);
+VEMI_API VemiStatus vemiCrossCorrValid_Norm_8u32f_C3R(const Vemi8u* pSrc, int srcStep, VemiSize srcRoiSize,
+                                                      const Vemi8u* pTpl, int tplStep, VemiSize tplRoiSize,
+                                                      Vemi32f* pDst, int dstStep);
+VEMI_API VemiStatus vemiCrossCorrValid_Norm_8u32f_C4R(const Vemi8u* pSrc, int srcStep, VemiSize srcRoiSize,
+                                                      const Vemi8u* pTpl, int tplStep, VemiSize tplRoiSize,
+                                                      Vemi32f* pDst, int dstStep);
+VEMI_API VemiStatus vemiCrossCorrValid_Norm_8u32f_AC4R(const Vemi8u* pSrc, int srcStep, VemiSize srcRoiSize,
+                                                       const Vemi8u* pTpl, int tplStep, VemiSize tplRoiSize,
+                                                       Vemi32f* pDst, int dstStep);
+
+VEMI_API VemiStatus vemiCrossCorrValid_Norm_8s32f_C1R(const Vemi8s* pSrc, int srcStep, VemiSize srcRoiSize,
+                                                      const Vemi8s* pTpl, int tplStep, VemiSize tplRoiSize,
+                                                      Vemi32f* pDst, int dstStep);
+VEMI_API VemiStatus vemiCrossCorrValid_Norm_8s32f_C3R(const Vemi8s* pSrc, int srcStep, VemiSize srcRoiSize,
+                                                      const Vemi8s* pTpl, int tplStep, VemiSize tplRoiSize,
+                                                      Vemi32f* pDst, int dstStep);
+VEMI_API VemiStatus vemiCrossCorrValid_Norm_8s32f_C4R(const Vemi8s* pSrc, int srcStep, VemiSize srcRoiSize,
+                                                      const Vemi8s* pTpl, int tplStep, VemiSize tplRoiSize,
+                                                      Vemi32f* pDst, int dstStep);
+VEMI_API VemiStatus vemiCrossCorrValid_Norm_8s32f_AC4R(const Vemi8s* pSrc, int srcStep, VemiSize srcRoiSize,
+                                                       const Vemi8s* pTpl, int tplStep, VemiSize tplRoiSize,
+                                                       Vemi32f* pDst, int dstStep);
+
+VEMI_API VemiStatus vemiCrossCorrValid_Norm_8u_C1RSfs(const Vemi8u* pSrc, int srcStep, VemiSize srcRoiSize,
+                                                      const Vemi8u* pTpl, int tplStep, VemiSize tplRoiSize,
+                                                      Vemi8u* pDst, int dstStep, int scaleFactor);
+VEMI_API VemiStatus vemiCrossCorrValid_Norm_8u_C3RSfs(const Vemi8u* pSrc, int srcStep, VemiSize srcRoiSize,
+                                                      const Vemi8u* pTpl, int tplStep, VemiSize tplRoiSize,
+                                                      Vemi8u* pDst, int dstStep, int scaleFactor);
+VEMI_API VemiStatus vemiCrossCorrValid_Norm_8u_C4RSfs(const Vemi8u* pSrc, int srcStep, VemiSize srcRoiSize,
+                                                      const Vemi8u* pTpl, int tplStep, VemiSize tplRoiSize,
+                                                      Vemi8u* pDst, int dstStep, int scaleFactor);
+VEMI_API VemiStatus vemiCrossCorrValid_Norm_8u_AC4RSfs(const Vemi8u* pSrc, int srcStep, VemiSize srcRoiSize,
+                                                       const Vemi8u* pTpl, int tplStep, VemiSize tplRoiSize,
+                                                       Vemi8u* pDst, int dstStep, int scaleFactor);
+
+VEMI_API VemiStatus vemiCrossCorrFull_NormLevel_32f_C1R(const Vemi32f* pSrc, int srcStep, VemiSize srcRoiSize,
+                                                        const Vemi32f* pTpl, int tplStep, VemiSize tplRoiSize,
+                                                        Vemi32f* pDst, int dstStep);
+VEMI_API VemiStatus vemiCrossCorrFull_NormLevel_32f_C3R(const Vemi32f* pSrc, int srcStep, VemiSize srcRoiSize,
+                                                        const Vemi32f* pTpl, int tplStep, VemiSize tplRoiSize,
+                                                        Vemi32f* pDst, int dstStep);
+VEMI_API VemiStatus vemiCrossCorrFull_NormLevel_32f_C4R(const Vemi32f* pSrc, int srcStep, VemiSize srcRoiSize,
+                                                        const Vemi32f* pTpl, int tplStep, VemiSize tplRoiSize,
+                                                        Vemi32f* pDst, int dstStep);
+VEMI_API VemiStatus vemiCrossCorrFull_NormLevel_32f_AC4R(const Vemi32f* pSrc, int srcStep, VemiSize srcRoiSize,
+                                                         const Vemi32f* pTpl, int tplStep, VemiSize tplRoiSize,
+                                                         Vemi32f* pDst, int dstStep);
+
+VEMI_API VemiStatus vemiCrossCorrFull_NormLevel_8u32f_C1R(const Vemi8u* pSrc, int srcStep, VemiSize srcRoiSize,
+                                                          const Vemi8u* pTpl, int tplStep, VemiSize tplRoiSize,
+                                                          Vemi32f* pDst, int dstStep);
+VEMI_API VemiStatus vemiCrossCorrFull_NormLevel_8u32f_C3R(const Vemi8u* pSrc, int srcStep, VemiSize srcRoiSize,
+                                                          const Vemi8u* pTpl, int tplStep, VemiSize tplRoiSize,
+                                                          Vemi32f* pDst, int dstStep);
+VEMI_API VemiStatus vemiCrossCorrFull_NormLevel_8u32f_C4R(const Vemi8u* pSrc, int srcStep, VemiSize srcRoiSize,
+                                                          const Vemi8u* pTpl, int tplStep, VemiSize tplRoiSize,
+                                                          Vemi32f* pDst, int dstStep);
+VEMI_API VemiStatus vemiCrossCorrFull_NormLevel_8u32f_AC4R(const Vemi8u* pSrc, int srcStep, VemiSize srcRoiSize,
+                                                           const Vemi8u* pTpl, int tplStep, VemiSize tplRoiSize,
+                                                           Vemi32f* pDst, int dstStep);
+
+VEMI_API VemiStatus vemiCrossCorrFull_NormLevel_8s32f_C1R(const Vemi8s* pSrc, int srcStep, VemiSize srcRoiSize,
+                                                          const Vemi8s* pTpl, int tplStep, VemiSize tplRoiSize,
+                                                          Vemi32f* pDst, int dstStep);
+VEMI_API VemiStatus vemiCrossCorrFull_NormLevel_8s32f_C3R(const Vemi8s* pSrc, int srcStep, VemiSize srcRoiSize,
+                                                          const Vemi8s* pTpl, int tplStep, VemiSize tplRoiSize,
+                                                          Vemi32f* pDst, int dstStep);
+VEMI_API VemiStatus vemiCrossCorrFull_NormLevel_8s32f_C4R(const Vemi8s* pSrc, int srcStep, VemiSize srcRoiSize,
+                                                          const Vemi8s* pTpl, int tplStep, VemiSize tplRoiSize,
+                                                          Vemi32f* pDst, int dstStep);
+VEMI_API VemiStatus vemiCrossCorrFull_NormLevel_8s32f_AC4R(const Vemi8s* pSrc, int srcStep, VemiSize srcRoiSize,
+                                                           const Vemi8s* pTpl, int tplStep, VemiSize tplRoiSize,
+                                                           Vemi32f* pDst, int dstStep);
+
+VEMI_API VemiStatus vemiCrossCorrFull_NormLevel_8u_C1RSfs(const Vemi8u* pSrc, int srcStep, VemiSize srcRoiSize,
+                                                          const Vemi8u* pTpl, int tplStep, VemiSize tplRoiSize,
+                                                          Vemi8u* pDst, int dstStep, int scaleFactor);
+VEMI_API VemiStatus vemiCrossCorrFull_NormLevel_8u_C3RSfs(const Vemi8u* pSrc, int srcStep, VemiSize srcRoiSize,
+                                                          const Vemi8u* pTpl, int tplStep, VemiSize tplRoiSize,
+                                                          Vemi8u* pDst, int dstStep, int scaleFactor);
+VEMI_API VemiStatus vemiCrossCorrFull_NormLevel_8u_C4RSfs(const Vemi8u* pSrc, int srcStep, VemiSize srcRoiSize,
+                                                          const Vemi8u* pTpl, int tplStep, VemiSize tplRoiSize,
+                                                          Vemi8u* pDst, int dstStep, int scaleFactor);
+VEMI_API VemiStatus vemiCrossCorrFull_NormLevel_8u_AC4RSfs(const Vemi8u* pSrc, int srcStep, VemiSize srcRoiSize,
+                                                           const Vemi8u* pTpl, int tplStep, VemiSize tplRoiSize,
+                                                           Vemi8u* pDst, int dstStep, int scaleFactor);
+
+VEMI_API VemiStatus vemiCrossCorrSame_NormLevel_32f_C1R(const Vemi32f* pSrc, int srcStep, VemiSize srcRoiSize,
+                                                        const Vemi32f* pTpl, int tplStep, VemiSize tplRoiSize,
+                                                        Vemi32f* pDst, int dstStep);
+VEMI_API VemiStatus vemiCrossCorrSame_NormLevel_32f_C3R(const Vemi32f* pSrc, int srcStep, VemiSize srcRoiSize,
+                                                        const Vemi32f* pTpl, int tplStep, VemiSize tplRoiSize,
+                                                        Vemi32f* pDst, int dstStep);
+VEMI_API VemiStatus vemiCrossCorrSame_NormLevel_32f_C4R(const Vemi32f* pSrc, int srcStep, VemiSize srcRoiSize,
+                                                        const Vemi32f* pTpl, int tplStep, VemiSize tplRoiSize,
+                                                        Vemi32f* pDst, int dstStep);
+VEMI_API VemiStatus vemiCrossCorrSame_NormLevel_32f_AC4R(const Vemi32f* pSrc, int srcStep, VemiSize srcRoiSize,
+                                                         const Vemi32f* pTpl, int tplStep, VemiSize tplRoiSize,
+                                                         Vemi32f* pDst, int dstStep);
+
+VEMI_API VemiStatus vemiCrossCorrSame_NormLevel_8u32f_C1R(const Vemi8u* pSrc, int srcStep, VemiSize srcRoiSize,
+                                                          const Vemi8u* pTpl, int tplStep, VemiSize tplRoiSize,
+                                                          Vemi32f* pDst, int dstStep);
+VEMI_API VemiStatus vemiCrossCorrSame_NormLevel_8u32f_C3R(const Vemi8u* pSrc, int srcStep, VemiSize srcRoiSize,
+                                                          const Vemi8u* pTpl, int tplStep, VemiSize tplRoiSize,
+                                                          Vemi32f* pDst, int dstStep);
+VEMI_API VemiStatus vemiCrossCorrSame_NormLevel_8u32f_C4R(const Vemi8u* pSrc, int srcStep, VemiSize srcRoiSize,
+                                                          const Vemi8u* pTpl, int tplStep, VemiSize tplRoiSize,
+                                                          Vemi32f* pDst, int dstStep);
+VEMI_API VemiStatus vemiCrossCorrSame_NormLevel_8u32f_AC4R(const Vemi8u* pSrc, int srcStep, VemiSize srcRoiSize,
+                                                           const Vemi8u* pTpl, int tplStep, VemiSize tplRoiSize,
+                                                           Vemi32f* pDst, int dstStep);
+
+VEMI_API VemiStatus vemiCrossCorrSame_NormLevel_8s32f_C1R(const Vemi8s* pSrc, int srcStep, VemiSize srcRoiSize,
+                                                          const Vemi8s* pTpl, int tplStep, VemiSize tplRoiSize,
+                                                          Vemi32f* pDst, int dstStep);
+VEMI_API VemiStatus vemiCrossCorrSame_NormLevel_8s32f_C3R(const Vemi8s* pSrc, int srcStep, VemiSize srcRoiSize,
+                                                          const Vemi8s* pTpl, int tplStep, VemiSize tplRoiSize,
+                                                          Vemi32f* pDst, int dstStep);
+VEMI_API VemiStatus vemiCrossCorrSame_NormLevel_8s32f_C4R(const Vemi8s* pSrc, int srcStep, VemiSize srcRoiSize,
+                                                          const Vemi8s* pTpl, int tplStep, VemiSize tplRoiSize,
+                                                          Vemi32f* pDst, int dstStep);
+VEMI_API VemiStatus vemiCrossCorrSame_NormLevel_8s32f_AC4R(const Vemi8s* pSrc, int srcStep, VemiSize srcRoiSize,
+                                                           const Vemi8s* pTpl, int tplStep, VemiSize tplRoiSize,
+                                                           Vemi32f* pDst, int dstStep);
+
+VEMI_API VemiStatus vemiCrossCorrSame_NormLevel_8u_C1RSfs(const Vemi8u* pSrc, int srcStep, VemiSize srcRoiSize,
+                                                          const Vemi8u* pTpl, int tplStep, VemiSize tplRoiSize,
+                                                          Vemi8u* pDst, int dstStep, int scaleFactor);
+VEMI_API VemiStatus vemiCrossCorrSame_NormLevel_8u_C3RSfs(const Vemi8u* pSrc, int srcStep, VemiSize srcRoiSize,
+                                                          const Vemi8u* pTpl, int tplStep, VemiSize tplRoiSize,
+                                                          Vemi8u* pDst, int dstStep, int scaleFactor);
+VEMI_API VemiStatus vemiCrossCorrSame_NormLevel_8u_C4RSfs(const Vemi8u* pSrc, int srcStep, VemiSize srcRoiSize,
+                                                          const Vemi8u* pTpl, int tplStep, VemiSize tplRoiSize,
+                                                          Vemi8u* pDst, int dstStep, int scaleFactor);
+VEMI_API VemiStatus vemiCrossCorrSame_NormLevel_8u_AC4RSfs(const Vemi8u* pSrc, int srcStep, VemiSize srcRoiSize,
+                                                           const Vemi8u* pTpl, int tplStep, VemiSize tplRoiSize,
+                                                           Vemi8u* pDst, int dstStep, int scaleFactor);
+
+VEMI_API VemiStatus vemiCrossCorrValid_NormLevel_32f_C1R(const Vemi32f* pSrc, int srcStep, VemiSize srcRoiSize,
+                                                         const Vemi32f* pTpl, int tplStep, VemiSize tplRoiSize,
+                                                         Vemi32f* pDst, int dstStep);
+VEMI_API VemiStatus vemiCrossCorrValid_NormLevel_32f_C3R(const Vemi32f* pSrc, int srcStep, VemiSize srcRoiSize,
+                                                         const Vemi32f* pTpl, int tplStep, VemiSize tplRoiSize,
+                                                         Vemi32f* pDst, int dstStep);
+VEMI_API VemiStatus vemiCrossCorrValid_NormLevel_32f_C4R(const Vemi32f* pSrc, int srcStep, VemiSize srcRoiSize,
+                                                         const Vemi32f* pTpl, int tplStep, VemiSize tplRoiSize,
+                                                         Vemi32f* pDst, int dstStep);
+VEMI_API VemiStatus vemiCrossCorrValid_NormLevel_32f_AC4R(const Vemi32f* pSrc, int srcStep, VemiSize srcRoiSize,
+                                                          const Vemi32f* pTpl, int tplStep, VemiSize tplRoiSize,
+                                                          Vemi32f* pDst, int dstStep);
+
+VEMI_API VemiStatus vemiCrossCorrValid_NormLevel_8u32f_C1R(const Vemi8u* pSrc, int srcStep, VemiSize srcRoiSize,
+                                                           const Vemi8u* pTpl, int tplStep, VemiSize tplRoiSize,
+                                                           Vemi32f* pDst, int dstStep);
+VEMI_API VemiStatus vemiCrossCorrValid_NormLevel_8u32f_C3R(const Vemi8u* pSrc, int srcStep, VemiSize srcRoiSize,
+                                                           const Vemi8u* pTpl, int tplStep, VemiSize tplRoiSize,
+                                                           Vemi32f* pDst, int dstStep);
+VEMI_API VemiStatus vemiCrossCorrValid_NormLevel_8u32f_C4R(const Vemi8u* pSrc, int srcStep, VemiSize srcRoiSize,
+                                                           const Vemi8u* pTpl, int tplStep, VemiSize tplRoiSize,
+                                                           Vemi32f* pDst, int dstStep);
+VEMI_API VemiStatus vemiCrossCorrValid_NormLevel_8u32f_AC4R(const Vemi8u* pSrc, int srcStep, VemiSize srcRoiSize,
+                                                            const Vemi8u* pTpl, int tplStep, VemiSize tplRoiSize,
+                                                            Vemi32f* pDst, int dstStep);
+
+VEMI_API VemiStatus vemiCrossCorrValid_NormLevel_8s32f_C1R(const Vemi8s* pSrc, int srcStep, VemiSize srcRoiSize,
+                                                           const Vemi8s* pTpl, int tplStep, VemiSize tplRoiSize,
+                                                           Vemi32f* pDst, int dstStep);
+VEMI_API VemiStatus vemiCrossCorrValid_NormLevel_8s32f_C3R(const Vemi8s* pSrc, int srcStep, VemiSize srcRoiSize,
+                                                           const Vemi8s* pTpl, int tplStep, VemiSize tplRoiSize,
+                                                           Vemi32f* pDst, int dstStep);
+VEMI_API VemiStatus vemiCrossCorrValid_NormLevel_8s32f_C4R(const Vemi8s* pSrc, int srcStep, VemiSize srcRoiSize,
+                                                           const Vemi8s* pTpl, int tplStep, VemiSize tplRoiSize,
+                                                           Vemi32f* pDst, int dstStep);
+VEMI_API VemiStatus vemiCrossCorrValid_NormLevel_8s32f_AC4R(const Vemi8s* pSrc, int srcStep, VemiSize srcRoiSize,
+                                                            const Vemi8s* pTpl, int tplStep, VemiSize tplRoiSize,
+                                                            Vemi32f* pDst, int dstStep);
+
+VEMI_API VemiStatus vemiCrossCorrValid_NormLevel_8u_C1RSfs(const Vemi8u* pSrc, int srcStep, VemiSize srcRoiSize,
+                                                           const Vemi8u* pTpl, int tplStep, VemiSize tplRoiSize,
+                                                           Vemi8u* pDst, int dstStep, int scaleFactor);
+VEMI_API VemiStatus vemiCrossCorrValid_NormLevel_8u_C3RSfs(const Vemi8u* pSrc, int srcStep, VemiSize srcRoiSize,
+                                                           const Vemi8u* pTpl, int tplStep, VemiSize tplRoiSize,
+                                                           Vemi8u* pDst, int dstStep, int scaleFactor);
+VEMI_API VemiStatus vemiCrossCorrValid_NormLevel_8u_C4RSfs(const Vemi8u* pSrc, int srcStep, VemiSize srcRoiSize,
+                                                           const Vemi8u* pTpl, int tplStep, VemiSize tplRoiSize,
+                                                           Vemi8u* pDst, int dstStep, int scaleFactor);
+VEMI_API VemiStatus vemiCrossCorrValid_NormLevel_8u_AC4RSfs(const Vemi8u* pSrc, int srcStep, VemiSize srcRoiSize,
+                                                            const Vemi8u* pTpl, int tplStep, VemiSize tplRoiSize,
+                                                            Vemi8u* pDst, int dstStep, int scaleFactor);
+
+VEMI_API VemiStatus vemiSqrDistanceFull_Norm_32f_C1R(const Vemi32f* pSrc, int srcStep, VemiSize srcRoiSize,
+                                                     const Vemi32f* pTpl, int tplStep, VemiSize tplRoiSize,
+                                                     Vemi32f* pDst, int dstStep);
+VEMI_API VemiStatus vemiSqrDistanceFull_Norm_32f_C3R(const Vemi32f* pSrc, int srcStep, VemiSize srcRoiSize,
+                                                     const Vemi32f* pTpl, int tplStep, VemiSize tplRoiSize,
+                                                     Vemi32f* pDst, int dstStep);
+VEMI_API VemiStatus vemiSqrDistanceFull_Norm_32f_C4R(const Vemi32f* pSrc, int srcStep, VemiSize srcRoiSize,
+                                                     const Vemi32f* pTpl, int tplStep, VemiSize tplRoiSize,
+                                                     Vemi32f* pDst, int dstStep);
+VEMI_API VemiStatus vemiSqrDistanceFull_Norm_32f_AC4R(const Vemi32f* pSrc, int srcStep, VemiSize srcRoiSize,
+                                                      const Vemi32f* pTpl, int tplStep, VemiSize tplRoiSize,
+                                                      Vemi32f* pDst, int dstStep);
+
+VEMI_API VemiStatus vemiSqrDistanceFull_Norm_8u32f_C1R(const Vemi8u* pSrc, int srcStep, VemiSize srcRoiSize,
+                                                       const Vemi8u* pTpl, int tplStep, VemiSize tplRoiSize,
+                                                       Vemi32f* pDst, int dstStep);
+VEMI_API VemiStatus vemiSqrDistanceFull_Norm_8u32f_C3R(const Vemi8u* pSrc, int srcStep, VemiSize srcRoiSize,
+                                                       const Vemi8u* pTpl, int tplStep, VemiSize tplRoiSize,
+                                                       Vemi32f* pDst, int dstStep);
+VEMI_API VemiStatus vemiSqrDistanceFull_Norm_8u32f_C4R(const Vemi8u* pSrc, int srcStep, VemiSize srcRoiSize,
+                                                       const Vemi8u* pTpl, int tplStep, VemiSize tplRoiSize,
+                                                       Vemi32f* pDst, int dstStep);
+VEMI_API VemiStatus vemiSqrDistanceFull_Norm_8u32f_AC4R(const Vemi8u* pSrc, int srcStep, VemiSize srcRoiSize,
+                                                        const Vemi8u* pTpl, int tplStep, VemiSize tplRoiSize,
+                                                        Vemi32f* pDst, int dstStep);
+
+VEMI_API VemiStatus vemiSqrDistanceFull_Norm_8s32f_C1R(const Vemi8s* pSrc, int srcStep, VemiSize srcRoiSize,
+                                                       const Vemi8s* pTpl, int tplStep, VemiSize tplRoiSize,
+                                                       Vemi32f* pDst, int dstStep);
+VEMI_API VemiStatus vemiSqrDistanceFull_Norm_8s32f_C3R(const Vemi8s* pSrc, int srcStep, VemiSize srcRoiSize,
+                                                       const Vemi8s* pTpl, int tplStep, VemiSize tplRoiSize,
+                                                       Vemi32f* pDst, int dstStep);
+VEMI_API VemiStatus vemiSqrDistanceFull_Norm_8s32f_C4R(const Vemi8s* pSrc, int srcStep, VemiSize srcRoiSize,
+                                                       const Vemi8s* pTpl, int tplStep, VemiSize tplRoiSize,
+                                                       Vemi32f* pDst, int dstStep);
+VEMI_API VemiStatus vemiSqrDistanceFull_Norm_8s32f_AC4R(const Vemi8s* pSrc, int srcStep, VemiSize srcRoiSize,
+                                                        const Vemi8s* pTpl, int tplStep, VemiSize tplRoiSize,
+                                                        Vemi32f* pDst, int dstStep);
+
+VEMI_API VemiStatus vemiSqrDistanceFull_Norm_8u_C1RSfs(const Vemi8u* pSrc, int srcStep, VemiSize srcRoiSize,
+                                                       const Vemi8u* pTpl, int tplStep, VemiSize tplRoiSize,
+                                                       Vemi8u* pDst, int dstStep, int scaleFactor);
+VEMI_API VemiStatus vemiSqrDistanceFull_Norm_8u_C3RSfs(const Vemi8u* pSrc, int srcStep, VemiSize srcRoiSize,
+                                                       const Vemi8u* pTpl, int tplStep, VemiSize tplRoiSize,
+                                                       Vemi8u* pDst, int dstStep, int scaleFactor);
+VEMI_API VemiStatus vemiSqrDistanceFull_Norm_8u_C4RSfs(const Vemi8u* pSrc, int srcStep, VemiSize srcRoiSize,
+                                                       const Vemi8u* pTpl, int tplStep, VemiSize tplRoiSize,
+                                                       Vemi8u* pDst, int dstStep, int scaleFactor);
+VEMI_API VemiStatus vemiSqrDistanceFull_Norm_8u_AC4RSfs(const Vemi8u* pSrc, int srcStep, VemiSize srcRoiSize,
+                                                        const Vemi8u* pTpl, int tplStep, VemiSize tplRoiSize,
+                                                        Vemi8u* pDst, int dstStep, int scaleFactor);
+
+VEMI_API VemiStatus vemiSqrDistanceSame_Norm_32f_C1R(const Vemi32f* pSrc, int srcStep, VemiSize srcRoiSize,
+                                                     const Vemi32f* pTpl, int tplStep, VemiSize tplRoiSize,
+                                                     Vemi32f* pDst, int dstStep);
+VEMI_API VemiStatus vemiSqrDistanceSame_Norm_32f_C3R(const Vemi32f* pSrc, int srcStep, VemiSize srcRoiSize,
+                                                     const Vemi32f* pTpl, int tplStep, VemiSize tplRoiSize,
+                                                     Vemi32f* pDst, int dstStep);
+VEMI_API VemiStatus vemiSqrDistanceSame_Norm_32f_C4R(const Vemi32f* pSrc, int srcStep, VemiSize srcRoiSize,
+                                                     const Vemi32f* pTpl, int tplStep, VemiSize tplRoiSize,
+                                                     Vemi32f* pDst, int dstStep);
+VEMI_API VemiStatus vemiSqrDistanceSame_Norm_32f_AC4R(const Vemi32f* pSrc, int srcStep, VemiSize srcRoiSize,
+                                                      const Vemi32f* pTpl, int tplStep, VemiSize tplRoiSize,
+                                                      Vemi32f* pDst, int dstStep);
+
+VEMI_API VemiStatus vemiSqrDistanceSame_Norm_8u32f_C1R(const Vemi8u* pSrc, int srcStep, VemiSize srcRoiSize,
+                                                       const Vemi8u* pTpl, int tplStep, VemiSize tplRoiSize,
+                                                       Vemi32f* pDst, int dstStep);
+VEMI_API VemiStatus vemiSqrDistanceSame_Norm_8u32f_C3R(const Vemi8u* pSrc, int srcStep, VemiSize srcRoiSize,
+                                                       const Vemi8u* pTpl, int tplStep, VemiSize tplRoiSize,
+                                                       Vemi32f* pDst, int dstStep);
+VEMI_API VemiStatus vemiSqrDistanceSame_Norm_8u32f_C4R(const Vemi8u* pSrc, int srcStep, VemiSize srcRoiSize,
+                                                       const Vemi8u* pTpl, int tplStep, VemiSize tplRoiSize,
+                                                       Vemi32f* pDst, int dstStep);
+VEMI_API VemiStatus vemiSqrDistanceSame_Norm_8u32f_AC4R(const Vemi8u* pSrc, int srcStep, VemiSize srcRoiSize,
+                                                        const Vemi8u* pTpl, int tplStep, VemiSize tplRoiSize,
+                                                        Vemi32f* pDst, int dstStep);
+
+VEMI_API VemiStatus vemiSqrDistanceSame_Norm_8s32f_C1R(const Vemi8s* pSrc, int srcStep, VemiSize srcRoiSize,
+                                                       const Vemi8s* pTpl, int tplStep, VemiSize tplRoiSize,
+                                                       Vemi32f* pDst, int dstStep);
+VEMI_API VemiStatus vemiSqrDistanceSame_Norm_8s32f_C3R(const Vemi8s* pSrc, int srcStep, VemiSize srcRoiSize,
+                                                       const Vemi8s* pTpl, int tplStep, VemiSize tplRoiSize,
+                                                       Vemi32f* pDst, int dstStep);
+VEMI_API VemiStatus vemiSqrDistanceSame_Norm_8s32f_C4R(const Vemi8s* pSrc, int srcStep, VemiSize srcRoiSize,
+                                                       const Vemi8s* pTpl, int tplStep, VemiSize tplRoiSize,
+                                                       Vemi32f* pDst, int dstStep);
+VEMI_API VemiStatus vemiSqrDistanceSame_Norm_8s32f_AC4R(const Vemi8s* pSrc, int srcStep, VemiSize srcRoiSize,
+                                                        const Vemi8s* pTpl, int tplStep, VemiSize tplRoiSize,
+                                                        Vemi32f* pDst, int dstStep);
+
+VEMI_API VemiStatus vemiSqrDistanceSame_Norm_8u_C1RSfs(const Vemi8u* pSrc, int srcStep, VemiSize srcRoiSize,
+                                                       const Vemi8u* pTpl, int tplStep, VemiSize tplRoiSize,
+                                                       Vemi8u* pDst, int dstStep, int scaleFactor);
+VEMI_API VemiStatus vemiSqrDistanceSame_Norm_8u_C3RSfs(const Vemi8u* pSrc, int srcStep, VemiSize srcRoiSize,
+                                                       const Vemi8u* pTpl, int tplStep, VemiSize tplRoiSize,
+                                                       Vemi8u* pDst, int dstStep, int scaleFactor);
+VEMI_API VemiStatus vemiSqrDistanceSame_Norm_8u_C4RSfs(const Vemi8u* pSrc, int srcStep, VemiSize srcRoiSize,
+                                                       const Vemi8u* pTpl, int tplStep, VemiSize tplRoiSize,
+                                                       Vemi8u* pDst, int dstStep, int scaleFactor);
+VEMI_API VemiStatus vemiSqrDistanceSame_Norm_8u_AC4RSfs(const Vemi8u* pSrc, int srcStep, VemiSize srcRoiSize,
+                                                        const Vemi8u* pTpl, int tplStep, VemiSize tplRoiSize,
+                                                        Vemi8u* pDst, int dstStep, int scaleFactor);
+
+VEMI_API VemiStatus vemiSqrDistanceValid_Norm_32f_C1R(const Vemi32f* pSrc, int srcStep, VemiSize srcRoiSize,
+                                                      const Vemi32f* pTpl, int tplStep, VemiSize tplRoiSize,
+                                                      Vemi32f* pDst, int dstStep);
+VEMI_API VemiStatus vemiSqrDistanceValid_Norm_32f_C3R(const Vemi32f* pSrc, int srcStep, VemiSize srcRoiSize,
+                                                      const Vemi32f* pTpl, int tplStep, VemiSize tplRoiSize,
+                                                      Vemi32f* pDst, int dstStep);
+VEMI_API VemiStatus vemiSqrDistanceValid_Norm_32f_C4R(const Vemi32f* pSrc, int srcStep, VemiSize srcRoiSize,
+                                                      const Vemi32f* pTpl, int tplStep, VemiSize tplRoiSize,
+                                                      Vemi32f* pDst, int dstStep);
+VEMI_API VemiStatus vemiSqrDistanceValid_Norm_32f_AC4R(const Vemi32f* pSrc, int srcStep, VemiSize srcRoiSize,
+                                                       const Vemi32f* pTpl, int tplStep, VemiSize tplRoiSize,
+                                                       Vemi32f* pDst, int dstStep);
+
+VEMI_API VemiStatus vemiSqrDistanceValid_Norm_8u32f_C1R(const Vemi8u* pSrc, int srcStep, VemiSize srcRoiSize,
+                                                        const Vemi8u* pTpl, int tplStep, VemiSize tplRoiSize,
+                                                        Vemi32f* pDst, int dstStep);
+VEMI_API VemiStatus vemiSqrDistanceValid_Norm_8u32f_C3R(const Vemi8u* pSrc, int srcStep, VemiSize srcRoiSize,
+                                                        const Vemi8u* pTpl, int tplStep, VemiSize tplRoiSize,
+                                                        Vemi32f* pDst, int dstStep);
+VEMI_API VemiStatus vemiSqrDistanceValid_Norm_8u32f_C4R(const Vemi8u* pSrc, int srcStep, VemiSize srcRoiSize,
+                                                        const Vemi8u* pTpl, int tplStep, VemiSize tplRoiSize,
+                                                        Vemi32f* pDst, int dstStep);
+VEMI_API VemiStatus vemiSqrDistanceValid_Norm_8u32f_AC4R(const Vemi8u* pSrc, int srcStep, VemiSize srcRoiSize,
+                                                         const Vemi8u* pTpl, int tplStep, VemiSize tplRoiSize,
+                                                         Vemi32f* pDst, int dstStep);
+
+VEMI_API VemiStatus vemiSqrDistanceValid_Norm_8s32f_C1R(const Vemi8s* pSrc, int srcStep, VemiSize srcRoiSize,
+                                                        const Vemi8s* pTpl, int tplStep, VemiSize tplRoiSize,
+                                                        Vemi32f* pDst, int dstStep);
+VEMI_API VemiStatus vemiSqrDistanceValid_Norm_8s32f_C3R(const Vemi8s* pSrc, int srcStep, VemiSize srcRoiSize,
+                                                        const Vemi8s* pTpl, int tplStep, VemiSize tplRoiSize,
+                                                        Vemi32f* pDst, int dstStep);
+VEMI_API VemiStatus vemiSqrDistanceValid_Norm_8s32f_C4R(const Vemi8s* pSrc, int srcStep, VemiSize srcRoiSize,
+                                                        const Vemi8s* pTpl, int tplStep, VemiSize tplRoiSize,
+                                                        Vemi32f* pDst, int dstStep);
+VEMI_API VemiStatus vemiSqrDistanceValid_Norm_8s32f_AC4R(const Vemi8s* pSrc, int srcStep, VemiSize srcRoiSize,
+                                                         const Vemi8s* pTpl, int tplStep, VemiSize tplRoiSize,
+                                                         Vemi32f* pDst, int dstStep);
+
+VEMI_API VemiStatus vemiSqrDistanceValid_Norm_8u_C1RSfs(const Vemi8u* pSrc, int srcStep, VemiSize srcRoiSize,
+                                                        const Vemi8u* pTpl, int tplStep, VemiSize tplRoiSize,
+                                                        Vemi8u* pDst, int dstStep, int scaleFactor);
+VEMI_API VemiStatus vemiSqrDistanceValid_Norm_8u_C3RSfs(const Vemi8u* pSrc, int srcStep, VemiSize srcRoiSize,
+                                                        const Vemi8u* pTpl, int tplStep, VemiSize tplRoiSize,
+                                                        Vemi8u* pDst, int dstStep, int scaleFactor);
+VEMI_API VemiStatus vemiSqrDistanceValid_Norm_8u_C4RSfs(const Vemi8u* pSrc, int srcStep, VemiSize srcRoiSize,
+                                                        const Vemi8u* pTpl, int tplStep, VemiSize tplRoiSize,
+                                                        Vemi8u* pDst, int dstStep, int scaleFactor);
+VEMI_API VemiStatus vemiSqrDistanceValid_Norm_8u_AC4RSfs(const Vemi8u* pSrc, int srcStep, VemiSize srcRoiSize,
+                                                         const Vemi8u* pTpl, int tplStep, VemiSize tplRoiSize,
+                                                         Vemi8u* pDst, int dstStep, int scaleFactor);
+
+/** @} */
+
 /* ---- Convolution of images ---- */
 
 /** @} */

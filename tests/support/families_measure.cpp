@@ -204,6 +204,42 @@ void alikeImages(Call& call) {
 
 // ---- Templates ------------------------------------------------------------------------------------------------------
 
+/// One of the sizes up to the largest: often 1, the whole, or few.
+int partOf(Call& call, int largest) {
+  const int kind = call.random.below(8);
+  if (kind == 0) return largest;
+  return kind == 1 ? 1 : 1 + call.random.below(std::min(largest, kind < 6 ? 12 : 40));
+}
+
+void setTemplate(Call& call) {
+  const VemiSize image = call.scenario.roiSize;
+  const VemiSize tpl = {partOf(call, image.width), partOf(call, image.height)};
+  call.set("srcRoiSize", image);
+  call.set("tplRoiSize", tpl);
+  call.image("pTpl").size = tpl;
+  VemiSize& result = call.image("pDst").size;
+  if (call.function.name.find("Full") != std::string::npos) {
+    result = {image.width + tpl.width - 1, image.height + tpl.height - 1};
+  } else if (call.function.name.find("Valid") != std::string::npos) {
+    result = {image.width - tpl.width + 1, image.height - tpl.height + 1};
+  }
+}
+
+/// Bytes that are floats from 2^-7 to 2^9 of either sign, wherever they begin: rows may overlap.
+void moderateFloats(Call& call) {
+  for (int n = 0; n < 2; ++n) {
+    const View source = call.source(n);
+    if (source.element != Element::f32) return;
+    for (int y = 0; y < source.size.height; ++y) {
+      for (int x = 0; x < source.size.width; ++x) {
+        for (ptrdiff_t i = 0; i < source.pixelBytes; ++i) {
+          source.at(x, y)[i] = static_cast<std::byte>(0x3c + call.random.below(8) + 0x80 * call.random.below(2));
+        }
+      }
+    }
+  }
+}
+
 // ---- Convolution of images ------------------------------------------------------------------------------------------
 
 }  // namespace
@@ -266,7 +302,14 @@ std::vector<Family> measureFamilies() {
         {"nLevels", 0, "channels", vemiErrHistogramLevels},
         {"nLevels", INT_MIN, "channels", vemiErrHistogramLevels}}},
 
-      // Templates
+      {"vemiCrossCorrFull_Norm vemiCrossCorrSame_Norm vemiCrossCorrValid_Norm vemiCrossCorrFull_NormLevel "
+       "vemiCrossCorrSame_NormLevel vemiCrossCorrValid_NormLevel vemiSqrDistanceFull_Norm vemiSqrDistanceSame_Norm "
+       "vemiSqrDistanceValid_Norm",
+       ".*",
+       "null size step",
+       setTemplate,
+       {{"tplRoiSize", 100000, "size", vemiErrSize}, {"tplRoiSize", INT_MAX, "size", vemiErrSize}},
+       moderateFloats},
 
       // Convolution of images
 

@@ -1,0 +1,224 @@
+// vemiCrossCorrFull, Same and Valid: the members.
+
+#include "core/exports.h"
+#include "measure/match.h"
+#include "vemi/measure.h"
+
+using namespace vemi;
+using namespace vemi::measure;
+
+VEMI_DEFINE(vemiCrossCorrFull_Norm_32f_C1R, VEMI_MATCH(Vemi32f, Vemi32f),
+            matched<Measure::correlation, Shape::full, C1>)
+VEMI_DEFINE(vemiCrossCorrFull_Norm_32f_C3R, VEMI_MATCH(Vemi32f, Vemi32f),
+            matched<Measure::correlation, Shape::full, C3>)
+VEMI_DEFINE(vemiCrossCorrFull_Norm_32f_C4R, VEMI_MATCH(Vemi32f, Vemi32f),
+            matched<Measure::correlation, Shape::full, C4>)
+VEMI_DEFINE(vemiCrossCorrFull_Norm_32f_AC4R, VEMI_MATCH(Vemi32f, Vemi32f),
+            matched<Measure::correlation, Shape::full, AC4>)
+
+VEMI_DEFINE(vemiCrossCorrFull_Norm_8u32f_C1R, VEMI_MATCH(Vemi8u, Vemi32f),
+            matched<Measure::correlation, Shape::full, C1>)
+VEMI_DEFINE(vemiCrossCorrFull_Norm_8u32f_C3R, VEMI_MATCH(Vemi8u, Vemi32f),
+            matched<Measure::correlation, Shape::full, C3>)
+VEMI_DEFINE(vemiCrossCorrFull_Norm_8u32f_C4R, VEMI_MATCH(Vemi8u, Vemi32f),
+            matched<Measure::correlation, Shape::full, C4>)
+VEMI_DEFINE(vemiCrossCorrFull_Norm_8u32f_AC4R, VEMI_MATCH(Vemi8u, Vemi32f),
+            matched<Measure::correlation, Shape::full, AC4>)
+
+VEMI_DEFINE(vemiCrossCorrFull_Norm_8s32f_C1R, VEMI_MATCH(Vemi8s, Vemi32f),
+            matched<Measure::correlation, Shape::full, C1>)
+VEMI_DEFINE(vemiCrossCorrFull_Norm_8s32f_C3R, VEMI_MATCH(Vemi8s, Vemi32f),
+            matched<Measure::correlation, Shape::full, C3>)
+VEMI_DEFINE(vemiCrossCorrFull_Norm_8s32f_C4R, VEMI_MATCH(Vemi8s, Vemi32f),
+            matched<Measure::correlation, Shape::full, C4>)
+VEMI_DEFINE(vemiCrossCorrFull_Norm_8s32f_AC4R, VEMI_MATCH(Vemi8s, Vemi32f),
+            matched<Measure::correlation, Shape::full, AC4>)
+
+VEMI_DEFINE(vemiCrossCorrFull_Norm_8u_C1RSfs, VEMI_MATCH(Vemi8u, Vemi8u, VEMI_SFS),
+            matched<Measure::correlation, Shape::full, C1>)
+VEMI_DEFINE(vemiCrossCorrFull_Norm_8u_C3RSfs, VEMI_MATCH(Vemi8u, Vemi8u, VEMI_SFS),
+            matched<Measure::correlation, Shape::full, C3>)
+VEMI_DEFINE(vemiCrossCorrFull_Norm_8u_C4RSfs, VEMI_MATCH(Vemi8u, Vemi8u, VEMI_SFS),
+            matched<Measure::correlation, Shape::full, C4>)
+VEMI_DEFINE(vemiCrossCorrFull_Norm_8u_AC4RSfs, VEMI_MATCH(Vemi8u, Vemi8u, VEMI_SFS),
+            matched<Measure::correlation, Shape::full, AC4>)
+
+VEMI_DEFINE(vemiCrossCorrSame_Norm_32f_C1R, VEMI_MATCH(Vemi32f, Vemi32f),
+            matched<Measure::correlation, Shape::same, C1>)
+VEMI_DEFINE(vemiCrossCorrSame_Norm_32f_C3R, VEMI_MATCH(Vemi32f, Vemi32f),
+            matched<Measure::correlation, Shape::same, C3>)
+VEMI_DEFINE(vemiCrossCorrSame_Norm_32f_C4R, VEMI_MATCH(Vemi32f, Vemi32f),
+            matched<Measure::correlation, Shape::same, C4>)
+VEMI_DEFINE(vemiCrossCorrSame_Norm_32f_AC4R, VEMI_MATCH(Vemi32f, Vemi32f),
+            matched<Measure::correlation, Shape::same, AC4>)
+
+VEMI_DEFINE(vemiCrossCorrSame_Norm_8u32f_C1R, VEMI_MATCH(Vemi8u, Vemi32f),
+            matched<Measure::correlation, Shape::same, C1>)
+VEMI_DEFINE(vemiCrossCorrSame_Norm_8u32f_C3R, VEMI_MATCH(Vemi8u, Vemi32f),
+            matched<Measure::correlation, Shape::same, C3>)
+VEMI_DEFINE(vemiCrossCorrSame_Norm_8u32f_C4R, VEMI_MATCH(Vemi8u, Vemi32f),
+            matched<Measure::correlation, Shape::same, C4>)
+VEMI_DEFINE(vemiCrossCorrSame_Norm_8u32f_AC4R, VEMI_MATCH(Vemi8u, Vemi32f),
+            matched<Measure::correlation, Shape::same, AC4>)
+
+VEMI_DEFINE(vemiCrossCorrSame_Norm_8s32f_C1R, VEMI_MATCH(Vemi8s, Vemi32f),
+            matched<Measure::correlation, Shape::same, C1>)
+VEMI_DEFINE(vemiCrossCorrSame_Norm_8s32f_C3R, VEMI_MATCH(Vemi8s, Vemi32f),
+            matched<Measure::correlation, Shape::same, C3>)
+VEMI_DEFINE(vemiCrossCorrSame_Norm_8s32f_C4R, VEMI_MATCH(Vemi8s, Vemi32f),
+            matched<Measure::correlation, Shape::same, C4>)
+VEMI_DEFINE(vemiCrossCorrSame_Norm_8s32f_AC4R, VEMI_MATCH(Vemi8s, Vemi32f),
+            matched<Measure::correlation, Shape::same, AC4>)
+
+VEMI_DEFINE(vemiCrossCorrSame_Norm_8u_C1RSfs, VEMI_MATCH(Vemi8u, Vemi8u, VEMI_SFS),
+            matched<Measure::correlation, Shape::same, C1>)
+VEMI_DEFINE(vemiCrossCorrSame_Norm_8u_C3RSfs, VEMI_MATCH(Vemi8u, Vemi8u, VEMI_SFS),
+            matched<Measure::correlation, Shape::same, C3>)
+VEMI_DEFINE(vemiCrossCorrSame_Norm_8u_C4RSfs, VEMI_MATCH(Vemi8u, Vemi8u, VEMI_SFS),
+            matched<Measure::correlation, Shape::same, C4>)
+VEMI_DEFINE(vemiCrossCorrSame_Norm_8u_AC4RSfs, VEMI_MATCH(Vemi8u, Vemi8u, VEMI_SFS),
+            matched<Measure::correlation, Shape::same, AC4>)
+
+VEMI_DEFINE(vemiCrossCorrValid_Norm_32f_C1R, VEMI_MATCH(Vemi32f, Vemi32f),
+            matched<Measure::correlation, Shape::valid, C1>)
+VEMI_DEFINE(vemiCrossCorrValid_Norm_32f_C3R, VEMI_MATCH(Vemi32f, Vemi32f),
+            matched<Measure::correlation, Shape::valid, C3>)
+VEMI_DEFINE(vemiCrossCorrValid_Norm_32f_C4R, VEMI_MATCH(Vemi32f, Vemi32f),
+            matched<Measure::correlation, Shape::valid, C4>)
+VEMI_DEFINE(vemiCrossCorrValid_Norm_32f_AC4R, VEMI_MATCH(Vemi32f, Vemi32f),
+            matched<Measure::correlation, Shape::valid, AC4>)
+
+VEMI_DEFINE(vemiCrossCorrValid_Norm_8u32f_C1R, VEMI_MATCH(Vemi8u, Vemi32f),
+            matched<Measure::correlation, Shape::valid, C1>)
+VEMI_DEFINE(vemiCrossCorrValid_Norm_8u32f_C3R, VEMI_MATCH(Vemi8u, Vemi32f),
+            matched<Measure::correlation, Shape::valid, C3>)
+VEMI_DEFINE(vemiCrossCorrValid_Norm_8u32f_C4R, VEMI_MATCH(Vemi8u, Vemi32f),
+            matched<Measure::correlation, Shape::valid, C4>)
+VEMI_DEFINE(vemiCrossCorrValid_Norm_8u32f_AC4R, VEMI_MATCH(Vemi8u, Vemi32f),
+            matched<Measure::correlation, Shape::valid, AC4>)
+
+VEMI_DEFINE(vemiCrossCorrValid_Norm_8s32f_C1R, VEMI_MATCH(Vemi8s, Vemi32f),
+            matched<Measure::correlation, Shape::valid, C1>)
+VEMI_DEFINE(vemiCrossCorrValid_Norm_8s32f_C3R, VEMI_MATCH(Vemi8s, Vemi32f),
+            matched<Measure::correlation, Shape::valid, C3>)
+VEMI_DEFINE(vemiCrossCorrValid_Norm_8s32f_C4R, VEMI_MATCH(Vemi8s, Vemi32f),
+            matched<Measure::correlation, Shape::valid, C4>)
+VEMI_DEFINE(vemiCrossCorrValid_Norm_8s32f_AC4R, VEMI_MATCH(Vemi8s, Vemi32f),
+            matched<Measure::correlation, Shape::valid, AC4>)
+
+VEMI_DEFINE(vemiCrossCorrValid_Norm_8u_C1RSfs, VEMI_MATCH(Vemi8u, Vemi8u, VEMI_SFS),
+            matched<Measure::correlation, Shape::valid, C1>)
+VEMI_DEFINE(vemiCrossCorrValid_Norm_8u_C3RSfs, VEMI_MATCH(Vemi8u, Vemi8u, VEMI_SFS),
+            matched<Measure::correlation, Shape::valid, C3>)
+VEMI_DEFINE(vemiCrossCorrValid_Norm_8u_C4RSfs, VEMI_MATCH(Vemi8u, Vemi8u, VEMI_SFS),
+            matched<Measure::correlation, Shape::valid, C4>)
+VEMI_DEFINE(vemiCrossCorrValid_Norm_8u_AC4RSfs, VEMI_MATCH(Vemi8u, Vemi8u, VEMI_SFS),
+            matched<Measure::correlation, Shape::valid, AC4>)
+
+VEMI_DEFINE(vemiCrossCorrFull_NormLevel_32f_C1R, VEMI_MATCH(Vemi32f, Vemi32f),
+            matched<Measure::levelCorrelation, Shape::full, C1>)
+VEMI_DEFINE(vemiCrossCorrFull_NormLevel_32f_C3R, VEMI_MATCH(Vemi32f, Vemi32f),
+            matched<Measure::levelCorrelation, Shape::full, C3>)
+VEMI_DEFINE(vemiCrossCorrFull_NormLevel_32f_C4R, VEMI_MATCH(Vemi32f, Vemi32f),
+            matched<Measure::levelCorrelation, Shape::full, C4>)
+VEMI_DEFINE(vemiCrossCorrFull_NormLevel_32f_AC4R, VEMI_MATCH(Vemi32f, Vemi32f),
+            matched<Measure::levelCorrelation, Shape::full, AC4>)
+
+VEMI_DEFINE(vemiCrossCorrFull_NormLevel_8u32f_C1R, VEMI_MATCH(Vemi8u, Vemi32f),
+            matched<Measure::levelCorrelation, Shape::full, C1>)
+VEMI_DEFINE(vemiCrossCorrFull_NormLevel_8u32f_C3R, VEMI_MATCH(Vemi8u, Vemi32f),
+            matched<Measure::levelCorrelation, Shape::full, C3>)
+VEMI_DEFINE(vemiCrossCorrFull_NormLevel_8u32f_C4R, VEMI_MATCH(Vemi8u, Vemi32f),
+            matched<Measure::levelCorrelation, Shape::full, C4>)
+VEMI_DEFINE(vemiCrossCorrFull_NormLevel_8u32f_AC4R, VEMI_MATCH(Vemi8u, Vemi32f),
+            matched<Measure::levelCorrelation, Shape::full, AC4>)
+
+VEMI_DEFINE(vemiCrossCorrFull_NormLevel_8s32f_C1R, VEMI_MATCH(Vemi8s, Vemi32f),
+            matched<Measure::levelCorrelation, Shape::full, C1>)
+VEMI_DEFINE(vemiCrossCorrFull_NormLevel_8s32f_C3R, VEMI_MATCH(Vemi8s, Vemi32f),
+            matched<Measure::levelCorrelation, Shape::full, C3>)
+VEMI_DEFINE(vemiCrossCorrFull_NormLevel_8s32f_C4R, VEMI_MATCH(Vemi8s, Vemi32f),
+            matched<Measure::levelCorrelation, Shape::full, C4>)
+VEMI_DEFINE(vemiCrossCorrFull_NormLevel_8s32f_AC4R, VEMI_MATCH(Vemi8s, Vemi32f),
+            matched<Measure::levelCorrelation, Shape::full, AC4>)
+
+VEMI_DEFINE(vemiCrossCorrFull_NormLevel_8u_C1RSfs, VEMI_MATCH(Vemi8u, Vemi8u, VEMI_SFS),
+            matched<Measure::levelCorrelation, Shape::full, C1>)
+VEMI_DEFINE(vemiCrossCorrFull_NormLevel_8u_C3RSfs, VEMI_MATCH(Vemi8u, Vemi8u, VEMI_SFS),
+            matched<Measure::levelCorrelation, Shape::full, C3>)
+VEMI_DEFINE(vemiCrossCorrFull_NormLevel_8u_C4RSfs, VEMI_MATCH(Vemi8u, Vemi8u, VEMI_SFS),
+            matched<Measure::levelCorrelation, Shape::full, C4>)
+VEMI_DEFINE(vemiCrossCorrFull_NormLevel_8u_AC4RSfs, VEMI_MATCH(Vemi8u, Vemi8u, VEMI_SFS),
+            matched<Measure::levelCorrelation, Shape::full, AC4>)
+
+VEMI_DEFINE(vemiCrossCorrSame_NormLevel_32f_C1R, VEMI_MATCH(Vemi32f, Vemi32f),
+            matched<Measure::levelCorrelation, Shape::same, C1>)
+VEMI_DEFINE(vemiCrossCorrSame_NormLevel_32f_C3R, VEMI_MATCH(Vemi32f, Vemi32f),
+            matched<Measure::levelCorrelation, Shape::same, C3>)
+VEMI_DEFINE(vemiCrossCorrSame_NormLevel_32f_C4R, VEMI_MATCH(Vemi32f, Vemi32f),
+            matched<Measure::levelCorrelation, Shape::same, C4>)
+VEMI_DEFINE(vemiCrossCorrSame_NormLevel_32f_AC4R, VEMI_MATCH(Vemi32f, Vemi32f),
+            matched<Measure::levelCorrelation, Shape::same, AC4>)
+
+VEMI_DEFINE(vemiCrossCorrSame_NormLevel_8u32f_C1R, VEMI_MATCH(Vemi8u, Vemi32f),
+            matched<Measure::levelCorrelation, Shape::same, C1>)
+VEMI_DEFINE(vemiCrossCorrSame_NormLevel_8u32f_C3R, VEMI_MATCH(Vemi8u, Vemi32f),
+            matched<Measure::levelCorrelation, Shape::same, C3>)
+VEMI_DEFINE(vemiCrossCorrSame_NormLevel_8u32f_C4R, VEMI_MATCH(Vemi8u, Vemi32f),
+            matched<Measure::levelCorrelation, Shape::same, C4>)
+VEMI_DEFINE(vemiCrossCorrSame_NormLevel_8u32f_AC4R, VEMI_MATCH(Vemi8u, Vemi32f),
+            matched<Measure::levelCorrelation, Shape::same, AC4>)
+
+VEMI_DEFINE(vemiCrossCorrSame_NormLevel_8s32f_C1R, VEMI_MATCH(Vemi8s, Vemi32f),
+            matched<Measure::levelCorrelation, Shape::same, C1>)
+VEMI_DEFINE(vemiCrossCorrSame_NormLevel_8s32f_C3R, VEMI_MATCH(Vemi8s, Vemi32f),
+            matched<Measure::levelCorrelation, Shape::same, C3>)
+VEMI_DEFINE(vemiCrossCorrSame_NormLevel_8s32f_C4R, VEMI_MATCH(Vemi8s, Vemi32f),
+            matched<Measure::levelCorrelation, Shape::same, C4>)
+VEMI_DEFINE(vemiCrossCorrSame_NormLevel_8s32f_AC4R, VEMI_MATCH(Vemi8s, Vemi32f),
+            matched<Measure::levelCorrelation, Shape::same, AC4>)
+
+VEMI_DEFINE(vemiCrossCorrSame_NormLevel_8u_C1RSfs, VEMI_MATCH(Vemi8u, Vemi8u, VEMI_SFS),
+            matched<Measure::levelCorrelation, Shape::same, C1>)
+VEMI_DEFINE(vemiCrossCorrSame_NormLevel_8u_C3RSfs, VEMI_MATCH(Vemi8u, Vemi8u, VEMI_SFS),
+            matched<Measure::levelCorrelation, Shape::same, C3>)
+VEMI_DEFINE(vemiCrossCorrSame_NormLevel_8u_C4RSfs, VEMI_MATCH(Vemi8u, Vemi8u, VEMI_SFS),
+            matched<Measure::levelCorrelation, Shape::same, C4>)
+VEMI_DEFINE(vemiCrossCorrSame_NormLevel_8u_AC4RSfs, VEMI_MATCH(Vemi8u, Vemi8u, VEMI_SFS),
+            matched<Measure::levelCorrelation, Shape::same, AC4>)
+
+VEMI_DEFINE(vemiCrossCorrValid_NormLevel_32f_C1R, VEMI_MATCH(Vemi32f, Vemi32f),
+            matched<Measure::levelCorrelation, Shape::valid, C1>)
+VEMI_DEFINE(vemiCrossCorrValid_NormLevel_32f_C3R, VEMI_MATCH(Vemi32f, Vemi32f),
+            matched<Measure::levelCorrelation, Shape::valid, C3>)
+VEMI_DEFINE(vemiCrossCorrValid_NormLevel_32f_C4R, VEMI_MATCH(Vemi32f, Vemi32f),
+            matched<Measure::levelCorrelation, Shape::valid, C4>)
+VEMI_DEFINE(vemiCrossCorrValid_NormLevel_32f_AC4R, VEMI_MATCH(Vemi32f, Vemi32f),
+            matched<Measure::levelCorrelation, Shape::valid, AC4>)
+
+VEMI_DEFINE(vemiCrossCorrValid_NormLevel_8u32f_C1R, VEMI_MATCH(Vemi8u, Vemi32f),
+            matched<Measure::levelCorrelation, Shape::valid, C1>)
+VEMI_DEFINE(vemiCrossCorrValid_NormLevel_8u32f_C3R, VEMI_MATCH(Vemi8u, Vemi32f),
+            matched<Measure::levelCorrelation, Shape::valid, C3>)
+VEMI_DEFINE(vemiCrossCorrValid_NormLevel_8u32f_C4R, VEMI_MATCH(Vemi8u, Vemi32f),
+            matched<Measure::levelCorrelation, Shape::valid, C4>)
+VEMI_DEFINE(vemiCrossCorrValid_NormLevel_8u32f_AC4R, VEMI_MATCH(Vemi8u, Vemi32f),
+            matched<Measure::levelCorrelation, Shape::valid, AC4>)
+
+VEMI_DEFINE(vemiCrossCorrValid_NormLevel_8s32f_C1R, VEMI_MATCH(Vemi8s, Vemi32f),
+            matched<Measure::levelCorrelation, Shape::valid, C1>)
+VEMI_DEFINE(vemiCrossCorrValid_NormLevel_8s32f_C3R, VEMI_MATCH(Vemi8s, Vemi32f),
+            matched<Measure::levelCorrelation, Shape::valid, C3>)
+VEMI_DEFINE(vemiCrossCorrValid_NormLevel_8s32f_C4R, VEMI_MATCH(Vemi8s, Vemi32f),
+            matched<Measure::levelCorrelation, Shape::valid, C4>)
+VEMI_DEFINE(vemiCrossCorrValid_NormLevel_8s32f_AC4R, VEMI_MATCH(Vemi8s, Vemi32f),
+            matched<Measure::levelCorrelation, Shape::valid, AC4>)
+
+VEMI_DEFINE(vemiCrossCorrValid_NormLevel_8u_C1RSfs, VEMI_MATCH(Vemi8u, Vemi8u, VEMI_SFS),
+            matched<Measure::levelCorrelation, Shape::valid, C1>)
+VEMI_DEFINE(vemiCrossCorrValid_NormLevel_8u_C3RSfs, VEMI_MATCH(Vemi8u, Vemi8u, VEMI_SFS),
+            matched<Measure::levelCorrelation, Shape::valid, C3>)
+VEMI_DEFINE(vemiCrossCorrValid_NormLevel_8u_C4RSfs, VEMI_MATCH(Vemi8u, Vemi8u, VEMI_SFS),
+            matched<Measure::levelCorrelation, Shape::valid, C4>)
+VEMI_DEFINE(vemiCrossCorrValid_NormLevel_8u_AC4RSfs, VEMI_MATCH(Vemi8u, Vemi8u, VEMI_SFS),
+            matched<Measure::levelCorrelation, Shape::valid, AC4>)
