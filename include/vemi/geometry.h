@@ -350,7 +350,417 @@ VEMI_API VemiStatus vemiGetResizeFract(VemiSize srcSize, VemiRect srcRoi, double
 
 /** @} */
 
-/* ---- Affine warps ---- */
+/* ---- Affine warps ------------------------------------------------------------------------------------------------ */
+
+/**
+ * @defgroup vemi_geometry_affine Affine warps: rotation, shear, any six coefficients
+ *
+ * An affine map takes a source pixel (x, y) to the place
+ *
+ *     x' = c00 x + c01 y + c02
+ *     y' = c10 x + c11 y + c12        coeffs = {{c00, c01, c02}, {c10, c11, c12}}
+ *
+ * in the destination. It makes a parallelogram of the source region: of its pixels' middles, so that its corners are
+ * those of the pixels at the region's corners. All destination pixels whose middles lie in it, or on its edge, and in
+ * dstRoi, get what the inverse map fetches from the source; no other byte is written.
+ *
+ *     function                 map
+ *     vemiRotate               (cos a, sin a, xShift; -sin a, cos a, yShift): about the pixel (0, 0), then moved. On
+ *                              the screen, where y leads down, it turns counter-clockwise.
+ *     vemiRotateCenter         the same with the shift of vemiGetRotateShift: about (xCenter, yCenter)
+ *     vemiShear                (1, xShear, xShift; yShear, 1, yShift)
+ *     vemiWarpAffine           coeffs
+ *     vemiWarpAffineBack       the inverse of coeffs, which lead from the destination to the source here
+ *     vemiWarpAffineQuad       the map of corners 0, 1, 2 of srcQuad to those of dstQuad
+ *
+ * **Images.** pSrc is the first pixel of the source image, which has srcSize pixels, and srcRoi the region of it that
+ * is moved; what of the region lies beyond the image does not count. pDst is the first pixel of the destination image,
+ * and dstRoi the region of it that may be written, also in its coordinates. Nothing outside of the source image is
+ * read, and nothing outside of dstRoi is written. P3 and P4 forms take arrays of planes, all of one step. AC4 forms
+ * leave the fourth channel of the destination as it is. Source and destination do not overlap.
+ *
+ * **Angles** are degrees, and are reduced to 0..360 by whole turns. Sines and cosines of whole quarter turns are exact;
+ * others are those of a / 180 * 3.141592653589793, within a unit in the last place, with the same bits everywhere.
+ *
+ * **Interpolation.** vemiInterNearest, vemiInterLinear or vemiInterCubic. A region or an image with less than four
+ * columns or rows is fetched by vemiInterLinear in the place of vemiInterCubic. Pixels of the destination are put into
+ * spans, row by row. The source place of a span's first pixel is computed in doubles, x = c00 x' + c01 y' + c02 with
+ * the coefficients of the inverse, that of pixel i behind it is x + i c00, and is rounded to a float; y likewise.
+ *
+ *     nearest  the pixel at x and y, each rounded to the nearest integer, the even one of two.
+ *     linear   between columns i = trunc(x) and i + 1, then between two rows in the same way. Bytes: with weights
+ *              w = rint((x - i) 16384), each row gives h = (p0 (16384 - w) + p1 w) >> 8, and the result is
+ *              (h0 (16384 - v) + h1 v + 0x80000) >> 20. 16u and 32f: p0 (1 - w) + p1 w in floats.
+ *     cubic    by the polynomial of third degree through the columns i - 1 to i + 2, and the same of rows, which may be
+ *              pixels beside the region; at the image's edge through the outermost four. Bytes: with weights of 14 bits
+ *              for each 1/512 of a pixel, (sum of a row) >> 8, and (sum + 0x80000) >> 20. 16u and 32f: in floats.
+ *
+ * 16u results are rounded to nearest and limited to 0..65535. Places outside the region, where rounding leads there,
+ * are not fetched, and the pixel stays as it is. Results do not depend on the caller's rounding mode.
+ *
+ * **Smooth edges.** With vemiSmoothEdge beside the interpolation (vemiInterLinear | vemiSmoothEdge), pixels in the
+ * quadrangle that lie less than half a pixel from one of its edges are mixed with what was there: old (1 - a) + new a
+ * in floats, rounded to nearest, where a = 0.5 + the distance from the nearest edge, counted along x or y, whichever
+ * crosses the edge the more steeply. Sides of dstRoi that cut the quadrangle are no edges.
+ *
+ * **Quarter turns.** vemiRotate and vemiRotateCenter by 90, 180 or 270 degrees, with whole numbers as shifts, copy
+ * pixels. The interpolation is not looked at then.
+ *
+ * **Quadrangles** have their corners in the order of (left, top), (right, top), (right, bottom), (left, bottom), either
+ * way round. vemiWarpAffineQuad ignores the fourth corners where three do not settle them; it writes pixels that lie in
+ * dstQuad and come from srcQuad, and from the source region.
+ *
+ * **Threads.** The calling thread does the work, without memory of its own.
+ *
+ *     vemiRotateCenter_8u_C3R(src, size, srcStep, (VemiRect){0, 0, size.width, size.height}, dst, dstStep,
+ *                             (VemiRect){0, 0, size.width, size.height}, 30, (size.width - 1) / 2.0,
+ *                             (size.height - 1) / 2.0, vemiInterLinear);  // about the middle
+ *
+ * @param pSrc,srcSize,srcStep,srcRoi  the source: first pixel, size in pixels, bytes between rows, region
+ * @param pDst,dstStep,dstRoi          the destination: first pixel, bytes between rows, region
+ * @param angle                        degrees, counter-clockwise on the screen
+ * @param xShift,yShift                added to the map's x' and y'
+ * @param xCenter,yCenter              the point that a rotation leaves where it is
+ * @param xShear,yShear                by how much a pixel's y adds to its x', and its x to its y'
+ * @param coeffs                       two rows of three coefficients
+ * @param srcQuad,dstQuad              four corners (x, y) each
+ * @param interpolation                one of three, with or without vemiSmoothEdge
+ * @return The first of these that applies:
+ * - a null pointer: vemiErrNullPtr; null planes are found behind the interpolation
+ * - srcSize, srcRoi or dstRoi has a width or height below 1, or a region a negative position: vemiErrSize
+ * - a step below 1: vemiErrStep
+ * - another interpolation: vemiErrInterpolation
+ * - a determinant c00 c11 - c01 c10 that is 0 but for rounding (1e-12 of c00 c11): vemiErrQuad. vemiWarpAffineQuad: a
+ *   quadrangle that is degenerate or not convex: vemiErrCoeff
+ * - the source region begins beyond the image: vemiWarnNoIntersection
+ * - less than two columns or rows of it lie in the image: vemiErrRect
+ * - the map makes a degenerate quadrangle of it, or coefficients are no numbers: vemiErrQuad
+ * - the quadrangle misses dstRoi: vemiWarnQuadIntersection. vemiWarpAffineQuad: or srcQuad misses the source region
+ *
+ * When pixels are copied, null planes are found behind the steps; a source region that begins beyond the image is
+ * vemiOk then, and one that is turned out of dstRoi vemiWarnNoOperation. Nothing is written in any of these cases.
+ * @{
+ */
+VEMI_API VemiStatus vemiRotate_8u_C1R(const Vemi8u* pSrc, VemiSize srcSize, int srcStep, VemiRect srcRoi, Vemi8u* pDst,
+                                      int dstStep, VemiRect dstRoi, double angle, double xShift, double yShift,
+                                      vemiInterpolation interpolation);
+VEMI_API VemiStatus vemiRotate_8u_C3R(const Vemi8u* pSrc, VemiSize srcSize, int srcStep, VemiRect srcRoi, Vemi8u* pDst,
+                                      int dstStep, VemiRect dstRoi, double angle, double xShift, double yShift,
+                                      vemiInterpolation interpolation);
+VEMI_API VemiStatus vemiRotate_8u_C4R(const Vemi8u* pSrc, VemiSize srcSize, int srcStep, VemiRect srcRoi, Vemi8u* pDst,
+                                      int dstStep, VemiRect dstRoi, double angle, double xShift, double yShift,
+                                      vemiInterpolation interpolation);
+VEMI_API VemiStatus vemiRotate_8u_AC4R(const Vemi8u* pSrc, VemiSize srcSize, int srcStep, VemiRect srcRoi, Vemi8u* pDst,
+                                       int dstStep, VemiRect dstRoi, double angle, double xShift, double yShift,
+                                       vemiInterpolation interpolation);
+VEMI_API VemiStatus vemiRotate_8u_P3R(const Vemi8u* const pSrc[3], VemiSize srcSize, int srcStep, VemiRect srcRoi,
+                                      Vemi8u* const pDst[3], int dstStep, VemiRect dstRoi, double angle, double xShift,
+                                      double yShift, vemiInterpolation interpolation);
+VEMI_API VemiStatus vemiRotate_8u_P4R(const Vemi8u* const pSrc[4], VemiSize srcSize, int srcStep, VemiRect srcRoi,
+                                      Vemi8u* const pDst[4], int dstStep, VemiRect dstRoi, double angle, double xShift,
+                                      double yShift, vemiInterpolation interpolation);
+VEMI_API VemiStatus vemiRotate_16u_C1R(const Vemi16u* pSrc, VemiSize srcSize, int srcStep, VemiRect srcRoi,
+                                       Vemi16u* pDst, int dstStep, VemiRect dstRoi, double angle, double xShift,
+                                       double yShift, vemiInterpolation interpolation);
+VEMI_API VemiStatus vemiRotate_16u_C3R(const Vemi16u* pSrc, VemiSize srcSize, int srcStep, VemiRect srcRoi,
+                                       Vemi16u* pDst, int dstStep, VemiRect dstRoi, double angle, double xShift,
+                                       double yShift, vemiInterpolation interpolation);
+VEMI_API VemiStatus vemiRotate_16u_C4R(const Vemi16u* pSrc, VemiSize srcSize, int srcStep, VemiRect srcRoi,
+                                       Vemi16u* pDst, int dstStep, VemiRect dstRoi, double angle, double xShift,
+                                       double yShift, vemiInterpolation interpolation);
+VEMI_API VemiStatus vemiRotate_16u_AC4R(const Vemi16u* pSrc, VemiSize srcSize, int srcStep, VemiRect srcRoi,
+                                        Vemi16u* pDst, int dstStep, VemiRect dstRoi, double angle, double xShift,
+                                        double yShift, vemiInterpolation interpolation);
+VEMI_API VemiStatus vemiRotate_16u_P3R(const Vemi16u* const pSrc[3], VemiSize srcSize, int srcStep, VemiRect srcRoi,
+                                       Vemi16u* const pDst[3], int dstStep, VemiRect dstRoi, double angle,
+                                       double xShift, double yShift, vemiInterpolation interpolation);
+VEMI_API VemiStatus vemiRotate_16u_P4R(const Vemi16u* const pSrc[4], VemiSize srcSize, int srcStep, VemiRect srcRoi,
+                                       Vemi16u* const pDst[4], int dstStep, VemiRect dstRoi, double angle,
+                                       double xShift, double yShift, vemiInterpolation interpolation);
+VEMI_API VemiStatus vemiRotate_32f_C1R(const Vemi32f* pSrc, VemiSize srcSize, int srcStep, VemiRect srcRoi,
+                                       Vemi32f* pDst, int dstStep, VemiRect dstRoi, double angle, double xShift,
+                                       double yShift, vemiInterpolation interpolation);
+VEMI_API VemiStatus vemiRotate_32f_C3R(const Vemi32f* pSrc, VemiSize srcSize, int srcStep, VemiRect srcRoi,
+                                       Vemi32f* pDst, int dstStep, VemiRect dstRoi, double angle, double xShift,
+                                       double yShift, vemiInterpolation interpolation);
+VEMI_API VemiStatus vemiRotate_32f_C4R(const Vemi32f* pSrc, VemiSize srcSize, int srcStep, VemiRect srcRoi,
+                                       Vemi32f* pDst, int dstStep, VemiRect dstRoi, double angle, double xShift,
+                                       double yShift, vemiInterpolation interpolation);
+VEMI_API VemiStatus vemiRotate_32f_AC4R(const Vemi32f* pSrc, VemiSize srcSize, int srcStep, VemiRect srcRoi,
+                                        Vemi32f* pDst, int dstStep, VemiRect dstRoi, double angle, double xShift,
+                                        double yShift, vemiInterpolation interpolation);
+VEMI_API VemiStatus vemiRotate_32f_P3R(const Vemi32f* const pSrc[3], VemiSize srcSize, int srcStep, VemiRect srcRoi,
+                                       Vemi32f* const pDst[3], int dstStep, VemiRect dstRoi, double angle,
+                                       double xShift, double yShift, vemiInterpolation interpolation);
+VEMI_API VemiStatus vemiRotate_32f_P4R(const Vemi32f* const pSrc[4], VemiSize srcSize, int srcStep, VemiRect srcRoi,
+                                       Vemi32f* const pDst[4], int dstStep, VemiRect dstRoi, double angle,
+                                       double xShift, double yShift, vemiInterpolation interpolation);
+
+VEMI_API VemiStatus vemiRotateCenter_8u_C1R(const Vemi8u* pSrc, VemiSize srcSize, int srcStep, VemiRect srcRoi,
+                                            Vemi8u* pDst, int dstStep, VemiRect dstRoi, double angle, double xCenter,
+                                            double yCenter, vemiInterpolation interpolation);
+VEMI_API VemiStatus vemiRotateCenter_8u_C3R(const Vemi8u* pSrc, VemiSize srcSize, int srcStep, VemiRect srcRoi,
+                                            Vemi8u* pDst, int dstStep, VemiRect dstRoi, double angle, double xCenter,
+                                            double yCenter, vemiInterpolation interpolation);
+VEMI_API VemiStatus vemiRotateCenter_8u_C4R(const Vemi8u* pSrc, VemiSize srcSize, int srcStep, VemiRect srcRoi,
+                                            Vemi8u* pDst, int dstStep, VemiRect dstRoi, double angle, double xCenter,
+                                            double yCenter, vemiInterpolation interpolation);
+VEMI_API VemiStatus vemiRotateCenter_8u_AC4R(const Vemi8u* pSrc, VemiSize srcSize, int srcStep, VemiRect srcRoi,
+                                             Vemi8u* pDst, int dstStep, VemiRect dstRoi, double angle, double xCenter,
+                                             double yCenter, vemiInterpolation interpolation);
+VEMI_API VemiStatus vemiRotateCenter_8u_P3R(const Vemi8u* const pSrc[3], VemiSize srcSize, int srcStep, VemiRect srcRoi,
+                                            Vemi8u* const pDst[3], int dstStep, VemiRect dstRoi, double angle,
+                                            double xCenter, double yCenter, vemiInterpolation interpolation);
+VEMI_API VemiStatus vemiRotateCenter_8u_P4R(const Vemi8u* const pSrc[4], VemiSize srcSize, int srcStep, VemiRect srcRoi,
+                                            Vemi8u* const pDst[4], int dstStep, VemiRect dstRoi, double angle,
+                                            double xCenter, double yCenter, vemiInterpolation interpolation);
+VEMI_API VemiStatus vemiRotateCenter_16u_C1R(const Vemi16u* pSrc, VemiSize srcSize, int srcStep, VemiRect srcRoi,
+                                             Vemi16u* pDst, int dstStep, VemiRect dstRoi, double angle, double xCenter,
+                                             double yCenter, vemiInterpolation interpolation);
+VEMI_API VemiStatus vemiRotateCenter_16u_C3R(const Vemi16u* pSrc, VemiSize srcSize, int srcStep, VemiRect srcRoi,
+                                             Vemi16u* pDst, int dstStep, VemiRect dstRoi, double angle, double xCenter,
+                                             double yCenter, vemiInterpolation interpolation);
+VEMI_API VemiStatus vemiRotateCenter_16u_C4R(const Vemi16u* pSrc, VemiSize srcSize, int srcStep, VemiRect srcRoi,
+                                             Vemi16u* pDst, int dstStep, VemiRect dstRoi, double angle, double xCenter,
+                                             double yCenter, vemiInterpolation interpolation);
+VEMI_API VemiStatus vemiRotateCenter_16u_AC4R(const Vemi16u* pSrc, VemiSize srcSize, int srcStep, VemiRect srcRoi,
+                                              Vemi16u* pDst, int dstStep, VemiRect dstRoi, double angle, double xCenter,
+                                              double yCenter, vemiInterpolation interpolation);
+VEMI_API VemiStatus vemiRotateCenter_16u_P3R(const Vemi16u* const pSrc[3], VemiSize srcSize, int srcStep,
+                                             VemiRect srcRoi, Vemi16u* const pDst[3], int dstStep, VemiRect dstRoi,
+                                             double angle, double xCenter, double yCenter,
+                                             vemiInterpolation interpolation);
+VEMI_API VemiStatus vemiRotateCenter_16u_P4R(const Vemi16u* const pSrc[4], VemiSize srcSize, int srcStep,
+                                             VemiRect srcRoi, Vemi16u* const pDst[4], int dstStep, VemiRect dstRoi,
+                                             double angle, double xCenter, double yCenter,
+                                             vemiInterpolation interpolation);
+VEMI_API VemiStatus vemiRotateCenter_32f_C1R(const Vemi32f* pSrc, VemiSize srcSize, int srcStep, VemiRect srcRoi,
+                                             Vemi32f* pDst, int dstStep, VemiRect dstRoi, double angle, double xCenter,
+                                             double yCenter, vemiInterpolation interpolation);
+VEMI_API VemiStatus vemiRotateCenter_32f_C3R(const Vemi32f* pSrc, VemiSize srcSize, int srcStep, VemiRect srcRoi,
+                                             Vemi32f* pDst, int dstStep, VemiRect dstRoi, double angle, double xCenter,
+                                             double yCenter, vemiInterpolation interpolation);
+VEMI_API VemiStatus vemiRotateCenter_32f_C4R(const Vemi32f* pSrc, VemiSize srcSize, int srcStep, VemiRect srcRoi,
+                                             Vemi32f* pDst, int dstStep, VemiRect dstRoi, double angle, double xCenter,
+                                             double yCenter, vemiInterpolation interpolation);
+VEMI_API VemiStatus vemiRotateCenter_32f_AC4R(const Vemi32f* pSrc, VemiSize srcSize, int srcStep, VemiRect srcRoi,
+                                              Vemi32f* pDst, int dstStep, VemiRect dstRoi, double angle, double xCenter,
+                                              double yCenter, vemiInterpolation interpolation);
+VEMI_API VemiStatus vemiRotateCenter_32f_P3R(const Vemi32f* const pSrc[3], VemiSize srcSize, int srcStep,
+                                             VemiRect srcRoi, Vemi32f* const pDst[3], int dstStep, VemiRect dstRoi,
+                                             double angle, double xCenter, double yCenter,
+                                             vemiInterpolation interpolation);
+VEMI_API VemiStatus vemiRotateCenter_32f_P4R(const Vemi32f* const pSrc[4], VemiSize srcSize, int srcStep,
+                                             VemiRect srcRoi, Vemi32f* const pDst[4], int dstStep, VemiRect dstRoi,
+                                             double angle, double xCenter, double yCenter,
+                                             vemiInterpolation interpolation);
+
+VEMI_API VemiStatus vemiShear_8u_C1R(const Vemi8u* pSrc, VemiSize srcSize, int srcStep, VemiRect srcRoi, Vemi8u* pDst,
+                                     int dstStep, VemiRect dstRoi, double xShear, double yShear, double xShift,
+                                     double yShift, vemiInterpolation interpolation);
+VEMI_API VemiStatus vemiShear_8u_C3R(const Vemi8u* pSrc, VemiSize srcSize, int srcStep, VemiRect srcRoi, Vemi8u* pDst,
+                                     int dstStep, VemiRect dstRoi, double xShear, double yShear, double xShift,
+                                     double yShift, vemiInterpolation interpolation);
+VEMI_API VemiStatus vemiShear_8u_C4R(const Vemi8u* pSrc, VemiSize srcSize, int srcStep, VemiRect srcRoi, Vemi8u* pDst,
+                                     int dstStep, VemiRect dstRoi, double xShear, double yShear, double xShift,
+                                     double yShift, vemiInterpolation interpolation);
+VEMI_API VemiStatus vemiShear_8u_AC4R(const Vemi8u* pSrc, VemiSize srcSize, int srcStep, VemiRect srcRoi, Vemi8u* pDst,
+                                      int dstStep, VemiRect dstRoi, double xShear, double yShear, double xShift,
+                                      double yShift, vemiInterpolation interpolation);
+VEMI_API VemiStatus vemiShear_8u_P3R(const Vemi8u* const pSrc[3], VemiSize srcSize, int srcStep, VemiRect srcRoi,
+                                     Vemi8u* const pDst[3], int dstStep, VemiRect dstRoi, double xShear, double yShear,
+                                     double xShift, double yShift, vemiInterpolation interpolation);
+VEMI_API VemiStatus vemiShear_8u_P4R(const Vemi8u* const pSrc[4], VemiSize srcSize, int srcStep, VemiRect srcRoi,
+                                     Vemi8u* const pDst[4], int dstStep, VemiRect dstRoi, double xShear, double yShear,
+                                     double xShift, double yShift, vemiInterpolation interpolation);
+VEMI_API VemiStatus vemiShear_32f_C1R(const Vemi32f* pSrc, VemiSize srcSize, int srcStep, VemiRect srcRoi,
+                                      Vemi32f* pDst, int dstStep, VemiRect dstRoi, double xShear, double yShear,
+                                      double xShift, double yShift, vemiInterpolation interpolation);
+VEMI_API VemiStatus vemiShear_32f_C3R(const Vemi32f* pSrc, VemiSize srcSize, int srcStep, VemiRect srcRoi,
+                                      Vemi32f* pDst, int dstStep, VemiRect dstRoi, double xShear, double yShear,
+                                      double xShift, double yShift, vemiInterpolation interpolation);
+VEMI_API VemiStatus vemiShear_32f_C4R(const Vemi32f* pSrc, VemiSize srcSize, int srcStep, VemiRect srcRoi,
+                                      Vemi32f* pDst, int dstStep, VemiRect dstRoi, double xShear, double yShear,
+                                      double xShift, double yShift, vemiInterpolation interpolation);
+VEMI_API VemiStatus vemiShear_32f_AC4R(const Vemi32f* pSrc, VemiSize srcSize, int srcStep, VemiRect srcRoi,
+                                       Vemi32f* pDst, int dstStep, VemiRect dstRoi, double xShear, double yShear,
+                                       double xShift, double yShift, vemiInterpolation interpolation);
+VEMI_API VemiStatus vemiShear_32f_P3R(const Vemi32f* const pSrc[3], VemiSize srcSize, int srcStep, VemiRect srcRoi,
+                                      Vemi32f* const pDst[3], int dstStep, VemiRect dstRoi, double xShear,
+                                      double yShear, double xShift, double yShift, vemiInterpolation interpolation);
+VEMI_API VemiStatus vemiShear_32f_P4R(const Vemi32f* const pSrc[4], VemiSize srcSize, int srcStep, VemiRect srcRoi,
+                                      Vemi32f* const pDst[4], int dstStep, VemiRect dstRoi, double xShear,
+                                      double yShear, double xShift, double yShift, vemiInterpolation interpolation);
+
+VEMI_API VemiStatus vemiWarpAffine_8u_C1R(const Vemi8u* pSrc, VemiSize srcSize, int srcStep, VemiRect srcRoi,
+                                          Vemi8u* pDst, int dstStep, VemiRect dstRoi, const double coeffs[2][3],
+                                          vemiInterpolation interpolation);
+VEMI_API VemiStatus vemiWarpAffine_8u_C3R(const Vemi8u* pSrc, VemiSize srcSize, int srcStep, VemiRect srcRoi,
+                                          Vemi8u* pDst, int dstStep, VemiRect dstRoi, const double coeffs[2][3],
+                                          vemiInterpolation interpolation);
+VEMI_API VemiStatus vemiWarpAffine_8u_C4R(const Vemi8u* pSrc, VemiSize srcSize, int srcStep, VemiRect srcRoi,
+                                          Vemi8u* pDst, int dstStep, VemiRect dstRoi, const double coeffs[2][3],
+                                          vemiInterpolation interpolation);
+VEMI_API VemiStatus vemiWarpAffine_8u_AC4R(const Vemi8u* pSrc, VemiSize srcSize, int srcStep, VemiRect srcRoi,
+                                           Vemi8u* pDst, int dstStep, VemiRect dstRoi, const double coeffs[2][3],
+                                           vemiInterpolation interpolation);
+VEMI_API VemiStatus vemiWarpAffine_8u_P3R(const Vemi8u* const pSrc[3], VemiSize srcSize, int srcStep, VemiRect srcRoi,
+                                          Vemi8u* const pDst[3], int dstStep, VemiRect dstRoi,
+                                          const double coeffs[2][3], vemiInterpolation interpolation);
+VEMI_API VemiStatus vemiWarpAffine_8u_P4R(const Vemi8u* const pSrc[4], VemiSize srcSize, int srcStep, VemiRect srcRoi,
+                                          Vemi8u* const pDst[4], int dstStep, VemiRect dstRoi,
+                                          const double coeffs[2][3], vemiInterpolation interpolation);
+VEMI_API VemiStatus vemiWarpAffine_32f_C1R(const Vemi32f* pSrc, VemiSize srcSize, int srcStep, VemiRect srcRoi,
+                                           Vemi32f* pDst, int dstStep, VemiRect dstRoi, const double coeffs[2][3],
+                                           vemiInterpolation interpolation);
+VEMI_API VemiStatus vemiWarpAffine_32f_C3R(const Vemi32f* pSrc, VemiSize srcSize, int srcStep, VemiRect srcRoi,
+                                           Vemi32f* pDst, int dstStep, VemiRect dstRoi, const double coeffs[2][3],
+                                           vemiInterpolation interpolation);
+VEMI_API VemiStatus vemiWarpAffine_32f_C4R(const Vemi32f* pSrc, VemiSize srcSize, int srcStep, VemiRect srcRoi,
+                                           Vemi32f* pDst, int dstStep, VemiRect dstRoi, const double coeffs[2][3],
+                                           vemiInterpolation interpolation);
+VEMI_API VemiStatus vemiWarpAffine_32f_AC4R(const Vemi32f* pSrc, VemiSize srcSize, int srcStep, VemiRect srcRoi,
+                                            Vemi32f* pDst, int dstStep, VemiRect dstRoi, const double coeffs[2][3],
+                                            vemiInterpolation interpolation);
+VEMI_API VemiStatus vemiWarpAffine_32f_P3R(const Vemi32f* const pSrc[3], VemiSize srcSize, int srcStep, VemiRect srcRoi,
+                                           Vemi32f* const pDst[3], int dstStep, VemiRect dstRoi,
+                                           const double coeffs[2][3], vemiInterpolation interpolation);
+VEMI_API VemiStatus vemiWarpAffine_32f_P4R(const Vemi32f* const pSrc[4], VemiSize srcSize, int srcStep, VemiRect srcRoi,
+                                           Vemi32f* const pDst[4], int dstStep, VemiRect dstRoi,
+                                           const double coeffs[2][3], vemiInterpolation interpolation);
+
+VEMI_API VemiStatus vemiWarpAffineBack_8u_C1R(const Vemi8u* pSrc, VemiSize srcSize, int srcStep, VemiRect srcRoi,
+                                              Vemi8u* pDst, int dstStep, VemiRect dstRoi, const double coeffs[2][3],
+                                              vemiInterpolation interpolation);
+VEMI_API VemiStatus vemiWarpAffineBack_8u_C3R(const Vemi8u* pSrc, VemiSize srcSize, int srcStep, VemiRect srcRoi,
+                                              Vemi8u* pDst, int dstStep, VemiRect dstRoi, const double coeffs[2][3],
+                                              vemiInterpolation interpolation);
+VEMI_API VemiStatus vemiWarpAffineBack_8u_C4R(const Vemi8u* pSrc, VemiSize srcSize, int srcStep, VemiRect srcRoi,
+                                              Vemi8u* pDst, int dstStep, VemiRect dstRoi, const double coeffs[2][3],
+                                              vemiInterpolation interpolation);
+VEMI_API VemiStatus vemiWarpAffineBack_8u_AC4R(const Vemi8u* pSrc, VemiSize srcSize, int srcStep, VemiRect srcRoi,
+                                               Vemi8u* pDst, int dstStep, VemiRect dstRoi, const double coeffs[2][3],
+                                               vemiInterpolation interpolation);
+VEMI_API VemiStatus vemiWarpAffineBack_8u_P3R(const Vemi8u* const pSrc[3], VemiSize srcSize, int srcStep,
+                                              VemiRect srcRoi, Vemi8u* const pDst[3], int dstStep, VemiRect dstRoi,
+                                              const double coeffs[2][3], vemiInterpolation interpolation);
+VEMI_API VemiStatus vemiWarpAffineBack_8u_P4R(const Vemi8u* const pSrc[4], VemiSize srcSize, int srcStep,
+                                              VemiRect srcRoi, Vemi8u* const pDst[4], int dstStep, VemiRect dstRoi,
+                                              const double coeffs[2][3], vemiInterpolation interpolation);
+VEMI_API VemiStatus vemiWarpAffineBack_32f_C1R(const Vemi32f* pSrc, VemiSize srcSize, int srcStep, VemiRect srcRoi,
+                                               Vemi32f* pDst, int dstStep, VemiRect dstRoi, const double coeffs[2][3],
+                                               vemiInterpolation interpolation);
+VEMI_API VemiStatus vemiWarpAffineBack_32f_C3R(const Vemi32f* pSrc, VemiSize srcSize, int srcStep, VemiRect srcRoi,
+                                               Vemi32f* pDst, int dstStep, VemiRect dstRoi, const double coeffs[2][3],
+                                               vemiInterpolation interpolation);
+VEMI_API VemiStatus vemiWarpAffineBack_32f_C4R(const Vemi32f* pSrc, VemiSize srcSize, int srcStep, VemiRect srcRoi,
+                                               Vemi32f* pDst, int dstStep, VemiRect dstRoi, const double coeffs[2][3],
+                                               vemiInterpolation interpolation);
+VEMI_API VemiStatus vemiWarpAffineBack_32f_AC4R(const Vemi32f* pSrc, VemiSize srcSize, int srcStep, VemiRect srcRoi,
+                                                Vemi32f* pDst, int dstStep, VemiRect dstRoi, const double coeffs[2][3],
+                                                vemiInterpolation interpolation);
+VEMI_API VemiStatus vemiWarpAffineBack_32f_P3R(const Vemi32f* const pSrc[3], VemiSize srcSize, int srcStep,
+                                               VemiRect srcRoi, Vemi32f* const pDst[3], int dstStep, VemiRect dstRoi,
+                                               const double coeffs[2][3], vemiInterpolation interpolation);
+VEMI_API VemiStatus vemiWarpAffineBack_32f_P4R(const Vemi32f* const pSrc[4], VemiSize srcSize, int srcStep,
+                                               VemiRect srcRoi, Vemi32f* const pDst[4], int dstStep, VemiRect dstRoi,
+                                               const double coeffs[2][3], vemiInterpolation interpolation);
+
+VEMI_API VemiStatus vemiWarpAffineQuad_8u_C1R(const Vemi8u* pSrc, VemiSize srcSize, int srcStep, VemiRect srcRoi,
+                                              const double srcQuad[4][2], Vemi8u* pDst, int dstStep, VemiRect dstRoi,
+                                              const double dstQuad[4][2], vemiInterpolation interpolation);
+VEMI_API VemiStatus vemiWarpAffineQuad_8u_C3R(const Vemi8u* pSrc, VemiSize srcSize, int srcStep, VemiRect srcRoi,
+                                              const double srcQuad[4][2], Vemi8u* pDst, int dstStep, VemiRect dstRoi,
+                                              const double dstQuad[4][2], vemiInterpolation interpolation);
+VEMI_API VemiStatus vemiWarpAffineQuad_8u_C4R(const Vemi8u* pSrc, VemiSize srcSize, int srcStep, VemiRect srcRoi,
+                                              const double srcQuad[4][2], Vemi8u* pDst, int dstStep, VemiRect dstRoi,
+                                              const double dstQuad[4][2], vemiInterpolation interpolation);
+VEMI_API VemiStatus vemiWarpAffineQuad_8u_AC4R(const Vemi8u* pSrc, VemiSize srcSize, int srcStep, VemiRect srcRoi,
+                                               const double srcQuad[4][2], Vemi8u* pDst, int dstStep, VemiRect dstRoi,
+                                               const double dstQuad[4][2], vemiInterpolation interpolation);
+VEMI_API VemiStatus vemiWarpAffineQuad_8u_P3R(const Vemi8u* const pSrc[3], VemiSize srcSize, int srcStep,
+                                              VemiRect srcRoi, const double srcQuad[4][2], Vemi8u* const pDst[3],
+                                              int dstStep, VemiRect dstRoi, const double dstQuad[4][2],
+                                              vemiInterpolation interpolation);
+VEMI_API VemiStatus vemiWarpAffineQuad_8u_P4R(const Vemi8u* const pSrc[4], VemiSize srcSize, int srcStep,
+                                              VemiRect srcRoi, const double srcQuad[4][2], Vemi8u* const pDst[4],
+                                              int dstStep, VemiRect dstRoi, const double dstQuad[4][2],
+                                              vemiInterpolation interpolation);
+VEMI_API VemiStatus vemiWarpAffineQuad_32f_C1R(const Vemi32f* pSrc, VemiSize srcSize, int srcStep, VemiRect srcRoi,
+                                               const double srcQuad[4][2], Vemi32f* pDst, int dstStep, VemiRect dstRoi,
+                                               const double dstQuad[4][2], vemiInterpolation interpolation);
+VEMI_API VemiStatus vemiWarpAffineQuad_32f_C3R(const Vemi32f* pSrc, VemiSize srcSize, int srcStep, VemiRect srcRoi,
+                                               const double srcQuad[4][2], Vemi32f* pDst, int dstStep, VemiRect dstRoi,
+                                               const double dstQuad[4][2], vemiInterpolation interpolation);
+VEMI_API VemiStatus vemiWarpAffineQuad_32f_C4R(const Vemi32f* pSrc, VemiSize srcSize, int srcStep, VemiRect srcRoi,
+                                               const double srcQuad[4][2], Vemi32f* pDst, int dstStep, VemiRect dstRoi,
+                                               const double dstQuad[4][2], vemiInterpolation interpolation);
+VEMI_API VemiStatus vemiWarpAffineQuad_32f_AC4R(const Vemi32f* pSrc, VemiSize srcSize, int srcStep, VemiRect srcRoi,
+                                                const double srcQuad[4][2], Vemi32f* pDst, int dstStep, VemiRect dstRoi,
+                                                const double dstQuad[4][2], vemiInterpolation interpolation);
+VEMI_API VemiStatus vemiWarpAffineQuad_32f_P3R(const Vemi32f* const pSrc[3], VemiSize srcSize, int srcStep,
+                                               VemiRect srcRoi, const double srcQuad[4][2], Vemi32f* const pDst[3],
+                                               int dstStep, VemiRect dstRoi, const double dstQuad[4][2],
+                                               vemiInterpolation interpolation);
+VEMI_API VemiStatus vemiWarpAffineQuad_32f_P4R(const Vemi32f* const pSrc[4], VemiSize srcSize, int srcStep,
+                                               VemiRect srcRoi, const double srcQuad[4][2], Vemi32f* const pDst[4],
+                                               int dstStep, VemiRect dstRoi, const double dstQuad[4][2],
+                                               vemiInterpolation interpolation);
+/** @} */
+
+/**
+ * @defgroup vemi_geometry_affine_queries Where affine maps lead
+ *
+ * vemiGetRotateShift gives the shift with which a rotation leaves (xCenter, yCenter) where it is; vemiAddRotateShift
+ * adds it to what *pxShift and *pyShift hold:
+ *
+ *     xShift = xCenter - cos a xCenter - sin a yCenter
+ *     yShift = yCenter + sin a xCenter - cos a yCenter
+ *
+ * and for 0, 90, 180 and 270 degrees exactly (0, 0), (xc - yc, xc + yc), (2 xc, 2 yc), (xc + yc, yc - xc).
+ *
+ * vemiGet...Quad gives the places of a region's corner pixels: of (left, top), (right, top), (right, bottom), (left,
+ * bottom) with right = x + width - 1 and bottom = y + height - 1. vemiGet...Bound gives the least x and y of these,
+ * then the greatest: what a destination must hold. All are computed in doubles.
+ *
+ * vemiGetAffineTransform gives the coefficients of the map that takes the region's corners 0, 1, 2 to those of the
+ * quadrangle. With corners (x0, y0) to (x3, y3), w = width - 1 and h = height - 1:
+ *
+ *     c00 = (x1 - x0) / w,  c01 = (x2 - x1) / h,  c02 = x0 - c00 left - c01 top, and the same with y.
+ *
+ *     double bound[2][2];
+ *     vemiGetRotateBound(region, bound, 30, 0, 0);  // then rotate with xShift = -bound[0][0], yShift = -bound[0][1]
+ *
+ * @param srcRoi           a region of a source
+ * @param quad             four corners (x, y)
+ * @param bound            {{least x, least y}, {greatest x, greatest y}}
+ * @param angle            degrees, counter-clockwise on the screen
+ * @param xCenter,yCenter  the point that stays where it is
+ * @param xShear,yShear,xShift,yShift,coeffs  the map
+ * @param pxShift,pyShift  the shift
+ * @return The first of these that applies:
+ * - a negative position of the region, or a width or height below 1: vemiErrSize
+ * - a null pointer: vemiErrNullPtr
+ * - vemiGetRotateQuad, vemiGetShearQuad, vemiGetAffineQuad: the quadrangle is degenerate, or its corners are no
+ *   numbers: vemiErrQuad, and nothing is written. vemiGetShearBound, vemiGetAffineBound: the same, but the bound is
+ *   written
+ * - vemiGetAffineTransform: the quadrangle is degenerate or not convex: vemiErrCoeff; a region with a width or height
+ *   of 1: vemiErrRect; the quadrangle is no parallelogram: vemiWarnNotParallelogram, and the coefficients are those of
+ *   its first three corners
+ * @{
+ */
+VEMI_API VemiStatus vemiGetRotateShift(double xCenter, double yCenter, double angle, double* pxShift, double* pyShift);
+VEMI_API VemiStatus vemiAddRotateShift(double xCenter, double yCenter, double angle, double* pxShift, double* pyShift);
+VEMI_API VemiStatus vemiGetRotateQuad(VemiRect srcRoi, double quad[4][2], double angle, double xShift, double yShift);
+VEMI_API VemiStatus vemiGetRotateBound(VemiRect srcRoi, double bound[2][2], double angle, double xShift, double yShift);
+VEMI_API VemiStatus vemiGetShearQuad(VemiRect srcRoi, double quad[4][2], double xShear, double yShear, double xShift,
+                                     double yShift);
+VEMI_API VemiStatus vemiGetShearBound(VemiRect srcRoi, double bound[2][2], double xShear, double yShear, double xShift,
+                                      double yShift);
+VEMI_API VemiStatus vemiGetAffineQuad(VemiRect srcRoi, double quad[4][2], const double coeffs[2][3]);
+VEMI_API VemiStatus vemiGetAffineBound(VemiRect srcRoi, double bound[2][2], const double coeffs[2][3]);
+VEMI_API VemiStatus vemiGetAffineTransform(VemiRect srcRoi, const double quad[4][2], double coeffs[2][3]);
+/** @} */
 
 /* ---- Perspective and bilinear warps ---- */
 

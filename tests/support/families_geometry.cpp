@@ -100,6 +100,193 @@ std::vector<OwnFault> resizeFaults(const char* x, const char* y) {
 
 // ---- Affine warps ---------------------------------------------------------------------------------------------------
 
+struct Place {
+  double x, y;
+};
+
+/// Of the middle of a region.
+Place middleOf(VemiRect roi) { return {roi.x + (roi.width - 1) / 2.0, roi.y + (roi.height - 1) / 2.0}; }
+
+/// From -1 to 1, in small binary fractions or in many places.
+double fractionOf(Call& call) {
+  return call.random.below(2) == 0 ? (call.random.below(17) - 8) / 8.0 : (call.random.below(200001) - 100000) / 1e5;
+}
+
+/// Images and regions of a warp: small sources among them, and regions that reach beyond their image.
+void setWarp(Call& call) {
+  constexpr int kinds[] = {vemiInterNearest, vemiInterLinear, vemiInterCubic};
+  const bool small = call.random.below(8) == 0;
+  const VemiSize size = {2 + call.random.below(small ? 3 : 40), 2 + call.random.below(small ? 3 : 16)};
+  VemiRect src = {0, 0, size.width, size.height};
+  if (call.random.below(2) == 0) {
+    src = {call.random.below(size.width - 1), call.random.below(size.height - 1), 2 + call.random.below(size.width + 3),
+           2 + call.random.below(size.height + 3)};
+  }
+  const VemiSize roi = call.scenario.roiSize;
+  const VemiRect dst = {call.random.below(4), call.random.below(3), roi.width, roi.height};
+  call.set("srcSize", size);
+  call.set("srcRoi", src);
+  call.set("dstRoi", dst);
+  call.set("interpolation", kinds[call.random.below(3)] | (call.random.below(3) == 0 ? vemiSmoothEdge : 0));
+  call.image("pSrc").size = size;
+  call.image("pDst").size = {dst.x + dst.width, dst.y + dst.height};
+}
+
+/// The same in so many places that no edge meets a pixel's middle by accident. Where it may, all is in whole numbers
+/// and halves.
+double oddFractionOf(Call& call) { return (call.random.below(200001) - 100000) / 1e5 + 0.00000371; }
+
+/// A map that takes the one region's middle to the other's, or near it; as a rule not a singular one.
+void setAffineMap(Call& call, VemiRect from, VemiRect to) {
+  const bool plain = call.random.below(4) == 0;
+  const double scale = call.random.below(3) == 0 ? 4 : call.random.below(2) == 0 ? 0.5 : 1;
+  const double xx = scale * (plain ? 1 : fractionOf(call)), xy = plain ? 0 : scale * fractionOf(call);
+  const double yx = plain ? 0 : fractionOf(call), yy = plain ? 1 : fractionOf(call);
+  const Place a = middleOf(from), b = middleOf(to);
+  const auto shift = [&](double x) { return std::floor(x) + (plain ? 0 : oddFractionOf(call)); };
+  const double x = shift(b.x - xx * a.x - xy * a.y), y = shift(b.y - yx * a.x - yy * a.y);
+  call.setArray<double>("coeffs", {xx, xy, x, yx, yy, y});
+}
+
+void setWarpAffine(Call& call) {
+  setWarp(call);
+  setAffineMap(call, call.get<VemiRect>("srcRoi"), call.get<VemiRect>("dstRoi"));
+}
+
+void setWarpAffineBack(Call& call) {
+  setWarp(call);
+  setAffineMap(call, call.get<VemiRect>("dstRoi"), call.get<VemiRect>("srcRoi"));
+}
+
+/// Parallelograms about the regions' middles, now and then with a fourth corner that does not fit; or equal rectangles.
+void setWarpQuad(Call& call) {
+  setWarp(call);
+  const bool plain = call.random.below(4) == 0;
+  const VemiRect src = call.get<VemiRect>("srcRoi"), dst = call.get<VemiRect>("dstRoi");
+  const auto setQuad = [&](const char* quad, VemiRect roi) {
+    const Place middle = middleOf(roi);
+    const double half = 1 + roi.width / 2.0, across = half * (1 + fractionOf(call)) / 2 + 0.75;
+    const double lean = half * fractionOf(call) / 8, down = (roi.height + 1) * (1.25 + fractionOf(call)) / 2;
+    const double tilt = oddFractionOf(call) / 4, x = middle.x + oddFractionOf(call) / 4;
+    const double wrong = call.random.below(3) == 0 ? down / 8 * fractionOf(call) : 0;
+    const double left = roi.x, top = roi.y, right = left + src.width - 1, bottom = top + src.height - 1;
+    call.setArray<double>(quad,
+                          plain ? std::vector<double>{left, top, right, top, right, bottom, left, bottom}
+                                : std::vector<double>{x - across - lean, middle.y - down - tilt, x + across - lean,
+                                                      middle.y - down + tilt, x + across + lean, middle.y + down + tilt,
+                                                      x - across + lean, middle.y + down - tilt + wrong});
+  };
+  setQuad("srcQuad", src);
+  setQuad("dstQuad", dst);
+}
+
+/// Whole quarter turns, whole degrees and others.
+double angleOf(Call& call) {
+  const int kind = call.random.below(4);
+  return kind == 0 ? 90 * (call.random.below(9) - 4)
+                   : call.random.below(1441) - 720 + (kind == 1 ? call.random.below(1000) / 1e3 : 0);
+}
+
+void setRotation(Call& call) {
+  setWarp(call);
+  const double angle = angleOf(call), turn = angle / 180 * 3.14159265;
+  const Place from = middleOf(call.get<VemiRect>("srcRoi")), to = middleOf(call.get<VemiRect>("dstRoi"));
+  const bool whole = std::fmod(angle, 90) == 0 && call.random.below(2) == 0;
+  const double partX = whole ? 0 : oddFractionOf(call), partY = whole ? 0 : oddFractionOf(call);
+  call.setNumber("angle", angle);
+  call.setNumber("xShift", std::floor(to.x - std::cos(turn) * from.x - std::sin(turn) * from.y + 0.3) + partX);
+  call.setNumber("yShift", std::floor(to.y + std::sin(turn) * from.x - std::cos(turn) * from.y + 0.3) + partY);
+}
+
+void setCenterRotation(Call& call) {
+  setWarp(call);
+  const Place center = middleOf(call.get<VemiRect>(call.random.below(2) == 0 ? "srcRoi" : "dstRoi"));
+  const double angle = angleOf(call);
+  const bool whole = std::fmod(angle, 90) == 0 && call.random.below(2) == 0;
+  call.setNumber("angle", angle);
+  call.setNumber("xCenter", center.x + (whole ? 0 : oddFractionOf(call)));
+  call.setNumber("yCenter", center.y + (whole ? 0 : oddFractionOf(call)));
+}
+
+void setShear(Call& call) {
+  setWarp(call);
+  const Place from = middleOf(call.get<VemiRect>("srcRoi")), to = middleOf(call.get<VemiRect>("dstRoi"));
+  const bool plain = call.random.below(4) == 0;
+  const double xShear = plain ? call.random.below(5) / 2.0 - 1 : 2 * fractionOf(call);
+  const double yShear = plain ? 0 : fractionOf(call) / 2;
+  call.setNumber("xShear", xShear);
+  call.setNumber("yShear", yShear);
+  call.setNumber("xShift", std::floor(to.x - from.x - xShear * from.y) + (plain ? 0 : oddFractionOf(call)));
+  call.setNumber("yShift", std::floor(to.y - yShear * from.x - from.y) + (plain ? 0 : oddFractionOf(call)));
+}
+
+/// The arguments of a query: a region, and maps that may well be singular.
+void setAffineQuery(Call& call) {
+  for (const Parameter& parameter : call.function.parameters) {
+    if (parameter.role == Role::rect) {
+      call.set(parameter.name, VemiRect{call.random.below(50), call.random.below(50), 1 + call.random.below(40),
+                                        1 + call.random.below(40)});
+    } else if (parameter.name == "angle") {
+      call.setNumber("angle", angleOf(call));
+    } else if (parameter.role == Role::constant) {
+      call.setNumber(parameter.name, 8 * fractionOf(call));
+    } else if (parameter.role == Role::array && parameter.isConst) {
+      std::vector<double> numbers(static_cast<size_t>(parameter.bound));
+      const bool isQuad = parameter.bound == 8;
+      const double corners[] = {-1, -1, 1, -1, 1, 1, -1, 1};
+      for (size_t n = 0; n < numbers.size(); ++n) numbers[n] = 3 * fractionOf(call) + (isQuad ? 4 * corners[n] : 0);
+      if (isQuad && call.random.below(2) == 0) {
+        for (const size_t n : {6, 7}) numbers[n] = numbers[n - 6] + numbers[n - 2] - numbers[n - 4];
+      }
+      call.setArray<double>(parameter.name, numbers);
+    } else if (parameter.name == "pxShift" || parameter.name == "pyShift") {
+      call.setArray<double>(parameter.name, {fractionOf(call)});
+    }
+  }
+}
+
+bool badInterpolation(Call& call) {
+  if (call.function.indexOf("angle") >= 0) call.setNumber("angle", 30);  // a copy does not look at it
+  call.set("interpolation", vemiInterLinear | vemiInterNearest | vemiSmoothEdge);
+  return true;
+}
+
+bool noCoefficients(Call& call) {
+  if (call.function.indexOf("coeffs") < 0) return false;
+  for (int n = 0; n < 6; ++n) call.setNumber("coeffs", n == 2 ? 5 : 0, n);
+  return true;
+}
+
+bool fullShear(Call& call) {
+  call.set("xShear", 1.0);
+  call.set("yShear", 1.0);
+  return true;
+}
+
+bool crossedQuad(Call& call) {
+  const bool both = call.function.indexOf("srcQuad") >= 0;
+  const char* const quad = both ? "dstQuad" : "quad";
+  constexpr double crossed[] = {0, 0, 5, 5, 5, 0, 0, 5};
+  for (int n = 0; n < 8; ++n) call.setNumber(quad, crossed[n], n);
+  return true;
+}
+
+bool sourceBeyond(Call& call) {
+  if (call.function.indexOf("angle") >= 0) call.setNumber("angle", 30);
+  VemiRect roi = call.get<VemiRect>("srcRoi");
+  if (roi.y >= 0) roi.y = INT_MAX;
+  call.set("srcRoi", roi);
+  return true;
+}
+
+bool sourceColumn(Call& call) {
+  if (call.function.indexOf("angle") >= 0) call.setNumber("angle", 30);
+  VemiRect roi = call.get<VemiRect>("srcRoi");
+  if (roi.width > 0) roi.width = 1;
+  call.set("srcRoi", roi);
+  return true;
+}
+
 // ---- Perspective and bilinear warps ---------------------------------------------------------------------------------
 
 // ---- Maps and mirrors -----------------------------------------------------------------------------------------------
@@ -146,6 +333,17 @@ void setAxis(Call& call) { call.set("flip", call.random.below(3)); }
 }  // namespace
 
 std::vector<Family> geometryFamilies() {
+  // What all warps find at the same stages.
+  const std::vector<OwnFault> warpFaults = {
+      {"interpolation", 0, "interpolation", vemiErrInterpolation, badInterpolation},
+      {"intersection", 0, "intersection", vemiWarnNoIntersection, sourceBeyond},
+      {"column", 0, "region", vemiErrRect, sourceColumn}};
+  const auto with = [&](OwnFault fault) {
+    std::vector<OwnFault> faults = warpFaults;
+    faults.push_back(fault);
+    return faults;
+  };
+  const char* const warpOrder = "null size step interpolation planes map intersection region";
   return {
       {"vemiResize vemiResizeCenter", ".*", "null srcSize step srcRoi beside dstRoiSize factor interpolation",
        drawResize, resizeFaults("xFactor", "yFactor")},
@@ -155,6 +353,28 @@ std::vector<Family> geometryFamilies() {
        resizeFaults("xFactor", "yFactor")},
 
       // Affine warps
+
+      {"vemiWarpAffine", ".*", warpOrder, setWarpAffine, with({"coeffs", 0, "map", vemiErrQuad, noCoefficients})},
+      {"vemiWarpAffineBack", ".*", warpOrder, setWarpAffineBack,
+       with({"coeffs", 0, "map", vemiErrQuad, noCoefficients})},
+      {"vemiWarpAffineQuad", ".*", warpOrder, setWarpQuad, with({"dstQuad", 0, "map", vemiErrCoeff, crossedQuad})},
+      {"vemiRotate", ".*", warpOrder, setRotation, warpFaults},
+      {"vemiRotateCenter", ".*", warpOrder, setCenterRotation, warpFaults},
+      {"vemiShear", ".*", warpOrder, setShear, with({"xShear", 0, "map", vemiErrQuad, fullShear})},
+      {"vemiGetRotateShift vemiAddRotateShift vemiGetRotateQuad vemiGetRotateBound vemiGetShearQuad vemiGetAffineQuad",
+       ".*", "size null", setAffineQuery},
+      {"vemiGetShearBound vemiGetAffineBound",
+       ".*",
+       "size null",
+       setAffineQuery,
+       {},
+       nullptr,
+       {.lateError = vemiErrQuad}},
+      {"vemiGetAffineTransform",
+       ".*",
+       "size null quad",
+       setAffineQuery,
+       {{"quad", 0, "quad", vemiErrCoeff, crossedQuad}}},
 
       // Perspective and bilinear warps
 

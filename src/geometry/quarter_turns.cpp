@@ -1,0 +1,144 @@
+#include "geometry/quarter_turns.h"
+
+#include <cstring>
+
+namespace vemi::geometry {
+
+VemiStatus turnedPart(const Regions& regions, int quarterTurns, Point shift, TurnedPart& part) {
+  if (const VemiStatus bad = checkIntersection(regions.src, regions.srcSize)) return bad;
+  const VemiSize clipped = clippedSize(regions.src, regions.srcSize);
+  const Edges from(VemiRect{regions.src.x, regions.src.y, clipped.width, clipped.height}), to(regions.dst);
+  // Of destination pixel (x, y): quarter turns lead to source pixel (sy - y, x - sx), (sx - x, sy - y), (y - sy, sx -
+  // x).
+  const bool isHalf = quarterTurns == 2;
+  const bool rowsLeadRight = quarterTurns == 1, columnsLeadDown = quarterTurns == 3;
+  const double low = isHalf ? from.left : from.top, high = isHalf ? from.right : from.bottom;
+  const double lowDown = isHalf ? from.top : from.left, highDown = isHalf ? from.bottom : from.right;
+  const double left = std::max(to.left, rowsLeadRight ? shift.x + low : shift.x - high);
+  const double right = std::min(to.right, rowsLeadRight ? shift.x + high : shift.x - low);
+  const double top = std::max(to.top, columnsLeadDown ? shift.y + lowDown : shift.y - highDown);
+  const double bottom = std::min(to.bottom, columnsLeadDown ? shift.y + highDown : shift.y - lowDown);
+  if (!(left <= right && top <= bottom)) return vemiWarnNoOperation;
+  const int across = static_cast<int>(rowsLeadRight ? left - shift.x : shift.x - left);
+  const int down = static_cast<int>(columnsLeadDown ? top - shift.y : shift.y - top);
+  part.size = {static_cast<int>(right - left) + 1, static_cast<int>(bottom - top) + 1};
+  part.dst = {static_cast<int>(left), static_cast<int>(top)};
+  part.src = isHalf ? VemiPoint{across, down} : VemiPoint{down, across};
+  return vemiOk;
+}
+
+namespace {
+
+/// The block that begins with the row at(k) in its first 16 bytes.
+template <class D, class At>
+HWY_INLINE hn::Vec<D> blocksFrom(D d, const At& at) {
+  if constexpr (hn::MaxLanes(D()) * sizeof(hn::TFromD<D>) == 16) {
+    return hn::LoadU(d, at(0));
+  } else {
+    const hn::Half<D> dHalf;
+    constexpr int half = static_cast<int>(hn::MaxLanes(dHalf) * sizeof(hn::TFromD<D>) / 16);
+    return hn::Combine(d, blocksFrom(dHalf, [&](int k) HWY_ATTR { return at(k + half); }), blocksFrom(dHalf, at));
+  }
+}
+
+/// Bytes of pixels as lanes that are as wide as a pixel, in squares of 16 bytes by 16 bytes, as many side by side as a
+/// vector has.
+template <class Pixel, int written>
+struct Squares {
+  static constexpr int columns = 16 / sizeof(Pixel), rows = static_cast<int>(laneCount<Pixel>);
+
+  HWY_INLINE static void copy(const char* src, ptrdiff_t srcStep, char* dst, ptrdiff_t dstStep) {
+    const Lanes<Pixel> d;
+    using V = hn::Vec<Lanes<Pixel>>;
+    V v[columns];
+    unrolled<columns>([&](auto k) HWY_ATTR {
+      v[k] = blocksFrom(d, [&](int block) HWY_ATTR {
+        return reinterpret_cast<const Pixel*>(src + (k + ptrdiff_t{columns} * block) * srcStep);
+      });
+    });
+    for (int stage = 1; stage < columns; stage *= 2) {
+      V next[columns];
+      unrolled<columns / 2>([&](auto k) HWY_ATTR {
+        next[2 * k] = hn::InterleaveLower(d, v[k], v[k + columns / 2]);
+        next[2 * k + 1] = hn::InterleaveUpper(d, v[k], v[k + columns / 2]);
+      });
+      unrolled<columns>([&](auto k) HWY_ATTR { v[k] = next[k]; });
+    }
+    unrolled<columns>([&](auto k) HWY_ATTR {
+      auto* const out = reinterpret_cast<Pixel*>(dst + k * dstStep);
+      if constexpr (written < static_cast<int>(sizeof(Pixel))) {
+        const auto colours = hn::Set(d, static_cast<Pixel>((Pixel{1} << 8 * written) - 1));
+        v[k] = hn::Or(hn::And(v[k], colours), hn::AndNot(colours, hn::LoadU(d, out)));
+      }
+      hn::StoreU(v[k], d, out);
+    });
+  }
+};
+
+/// Pixels one by one.
+template <int pixelSize, int written>
+struct SinglePixels {
+  static constexpr int columns = 4, rows = 4;
+
+  HWY_INLINE static void copy(const char* src, ptrdiff_t srcStep, char* dst, ptrdiff_t dstStep) {
+    unrolled<columns>([&](auto j) {
+      unrolled<rows>([&](auto i) {
+        std::memcpy(dst + j * dstStep + ptrdiff_t{i} * pixelSize, src + i * srcStep + ptrdiff_t{j} * pixelSize,
+                    written);
+      });
+    });
+  }
+};
+
+template <int pixelSize, int written>
+using Block = std::conditional_t<
+    pixelSize == 1, Squares<uint8_t, written>,
+    std::conditional_t<pixelSize == 2, Squares<uint16_t, written>,
+                       std::conditional_t<pixelSize == 4, Squares<uint32_t, written>,
+                                          std::conditional_t<pixelSize == 8, Squares<uint64_t, written>,
+                                                             SinglePixels<pixelSize, written>>>>>;
+
+}  // namespace
+
+template <int pixelSize, int written>
+void copyTransposed(VemiSize size, const void* src, ptrdiff_t srcStep, void* dst, ptrdiff_t dstStep) {
+  using B = Block<pixelSize, written>;
+  const auto* const from = static_cast<const char*>(src);
+  auto* const to = static_cast<char*>(dst);
+  const ptrdiff_t width = size.width, height = size.height;
+  if (width < B::rows || height < B::columns) {
+    for (ptrdiff_t j = 0; j < height; ++j) {
+      for (ptrdiff_t i = 0; i < width; ++i) {
+        std::memcpy(to + j * dstStep + i * pixelSize, from + i * srcStep + j * pixelSize, written);
+      }
+    }
+    return;
+  }
+  // A tile touches few pages on either side, and a destination row of it is written in one go. The last blocks overlap
+  // the ones before.
+  constexpr ptrdiff_t tileRows = 256, tileColumns = 64;
+  for (ptrdiff_t left = 0; left < width; left += tileRows) {
+    for (ptrdiff_t top = 0; top < height; top += tileColumns) {
+      for (ptrdiff_t y = top; y < std::min(top + tileColumns, height); y += B::columns) {
+        for (ptrdiff_t x = left; x < std::min(left + tileRows, width); x += B::rows) {
+          const ptrdiff_t i = std::min(x, width - B::rows), j = std::min(y, height - B::columns);
+          B::copy(from + i * srcStep + j * pixelSize, srcStep, to + j * dstStep + i * pixelSize, dstStep);
+        }
+      }
+    }
+  }
+}
+
+template void copyTransposed<1, 1>(VemiSize, const void*, ptrdiff_t, void*, ptrdiff_t);
+template void copyTransposed<2, 2>(VemiSize, const void*, ptrdiff_t, void*, ptrdiff_t);
+template void copyTransposed<3, 3>(VemiSize, const void*, ptrdiff_t, void*, ptrdiff_t);
+template void copyTransposed<4, 3>(VemiSize, const void*, ptrdiff_t, void*, ptrdiff_t);
+template void copyTransposed<4, 4>(VemiSize, const void*, ptrdiff_t, void*, ptrdiff_t);
+template void copyTransposed<6, 6>(VemiSize, const void*, ptrdiff_t, void*, ptrdiff_t);
+template void copyTransposed<8, 6>(VemiSize, const void*, ptrdiff_t, void*, ptrdiff_t);
+template void copyTransposed<8, 8>(VemiSize, const void*, ptrdiff_t, void*, ptrdiff_t);
+template void copyTransposed<12, 12>(VemiSize, const void*, ptrdiff_t, void*, ptrdiff_t);
+template void copyTransposed<16, 12>(VemiSize, const void*, ptrdiff_t, void*, ptrdiff_t);
+template void copyTransposed<16, 16>(VemiSize, const void*, ptrdiff_t, void*, ptrdiff_t);
+
+}  // namespace vemi::geometry
