@@ -109,6 +109,11 @@ constexpr Section sections[] = {
      demoBox},
     {"Erosion and dilation",
      "The least or the greatest pixel of a shape around each pixel, which a mask of bytes selects.", demoMorphology},
+    {"Medians and extremes",
+     "The value in the middle of those around each pixel, or the least or greatest of them: nothing is computed, one "
+     "of "
+     "the values that are there is chosen.",
+     demoRanks},
     {"Edges, sharpening, Gauss",
      "Filters with fixed kernels of three by three or five by five pixels. Slopes have a sign, which 16-bit results "
      "keep; here middle grey is no slope.",

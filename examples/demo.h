@@ -38,6 +38,7 @@ void demoPacked(const Demo& demo);
 void demoLevels(const Demo& demo);
 void demoBox(const Demo& demo);
 void demoMorphology(const Demo& demo);
+void demoRanks(const Demo& demo);
 void demoEdges(const Demo& demo);
 void demoFft(const Demo& demo);
 void demoWavelet(const Demo& demo);
