@@ -122,6 +122,11 @@ constexpr Section sections[] = {
      "The fast Fourier transform tells what waves a picture is made of, packed into as many numbers as it has pixels. "
      "What is taken away there is missing when it goes back.",
      demoFft},
+    {"Cosines",
+     "Blocks of eight by eight pixels as sums of cosines: few of them make most of the picture, which is how codecs "
+     "save "
+     "space. Integers all the way, the same to the bit everywhere.",
+     demoDct},
     {"Wavelets",
      "Each level splits a picture into a smaller one and what that lacks: differences between neighbouring columns, "
      "between rows, and between both. The filters are the user's; here they are those of the 5/3 wavelet.",

@@ -41,6 +41,7 @@ void demoMorphology(const Demo& demo);
 void demoRanks(const Demo& demo);
 void demoEdges(const Demo& demo);
 void demoFft(const Demo& demo);
+void demoDct(const Demo& demo);
 void demoWavelet(const Demo& demo);
 
 }  // namespace demo

@@ -299,6 +299,89 @@ VEMI_API VemiStatus vemiDFTInv_CToC_32fc_C1R(const Vemi32fc* pSrc, int srcStep, 
 /** @} */
 
 /**
+ * @defgroup vemi_dct vemiDCT: the cosine transform
+ *
+ * Of images of W by H pixels, any size. With f(x, y) the image, c(0) = 1 / sqrt(N) and c(k) = sqrt(2 / N) for others, N
+ * being W for u and H for v,
+ *
+ *     forward   F(u, v) = c(u) c(v) * sum of f(x, y) cos(pi (2x + 1) u / 2W) cos(pi (2y + 1) v / 2H)   over all x, y
+ *     inverse   f(x, y) = sum of c(u) c(v) F(u, v) cos(pi (2x + 1) u / 2W) cos(pi (2y + 1) v / 2H)     over all u, v
+ *
+ * F(u, v) stands in column u of row v. There and back is the image, and both have the same sum of squares: F(0, 0) is
+ * sqrt(W H) times the mean. An image of one row or column has the transform along the other axis; that of one pixel is
+ * the pixel. Channels are transformed each by itself; AC4 forms leave the fourth element of each pixel as it is.
+ *
+ * The size is not an argument of a transform: it comes from a record, which a constructor makes once, one of the
+ * direction. Records of 8 by 8 pixels transform as vemiDCT8x8 does, to the bit.
+ *
+ * @param ppSpec           where the record's address goes; not written unless the status is vemiOk
+ * @param roiSize          W and H, from 1 on
+ * @param hint             vemiHintAccurate asks for more working memory where W or H is a power of two from 1024 on;
+ *                         results are the same
+ * @param pSpec            the record. Transforms only read it: any number of threads may share it.
+ * @param pSize            the bytes of working memory that a transform wants: about 16 to 48 for each pixel of the
+ * longer side
+ * @param pSrc,srcStep     first pixel of the source, and the bytes between its rows
+ * @param pDst,dstStep     first pixel of the destination, and the bytes between its rows. It may begin where the source
+ *                         does, with the same step; other overlaps are not allowed.
+ * @param pBuffer          working memory of the size that vemiDCTFwdGetBufSize or vemiDCTInvGetBufSize tells, at any
+ *                         address, of one call at a time; or null: then the call allocates and frees as much
+ *
+ * **Exactness.** The root mean square of the errors is about 4e-8 * sqrt(log2(W * H)) of that of the results. The bits
+ * are the same in place and out of it, with a buffer and without, at any alignment.
+ *
+ * **Speed.** The smaller the prime factors of W and H, the faster; sides with a prime factor above 150, odd sides above
+ * 1024 and powers of two from 4096 on are slower than their neighbours. A transform works in up to 64 KiB of the stack.
+ *
+ * **Statuses**, in the order of the tests. Constructors: ppSpec null; size; vemiErrMemAlloc, no memory, or a buffer of
+ * 2^31 bytes or more. Free and GetBufSize functions: null; vemiErrContext, no record of the direction. Transforms:
+ * pSpec null; vemiErrContext; pSrc or pDst null; step; vemiErrMemAlloc, if pBuffer is null and there is no memory.
+ *
+ * **Threads.** All forms run in the calling thread.
+ *
+ * An image without its high frequencies:
+ *
+ *     vemiDCTFwdInitAlloc_32f(&forward, size, vemiHintNone);
+ *     vemiDCTInvInitAlloc_32f(&inverse, size, vemiHintNone);
+ *     vemiDCTFwd_32f_C1R(image, step, image, step, forward, NULL);
+ *     vemiSet_32f_C1R(0, image + size.width / 2, step, (VemiSize){size.width - size.width / 2, size.height});
+ *     vemiDCTInv_32f_C1R(image, step, image, step, inverse, NULL);
+ * @{
+ */
+
+/** The record of cosine transforms, of one direction; what it holds is the library's business. */
+typedef struct VemiDCTSpec_32f VemiDCTSpec_32f;
+
+VEMI_API VemiStatus vemiDCTFwdInitAlloc_32f(VemiDCTSpec_32f** ppSpec, VemiSize roiSize, vemiHint hint);
+VEMI_API VemiStatus vemiDCTInvInitAlloc_32f(VemiDCTSpec_32f** ppSpec, VemiSize roiSize, vemiHint hint);
+
+VEMI_API VemiStatus vemiDCTFwdFree_32f(VemiDCTSpec_32f* pSpec);
+VEMI_API VemiStatus vemiDCTInvFree_32f(VemiDCTSpec_32f* pSpec);
+
+VEMI_API VemiStatus vemiDCTFwdGetBufSize_32f(const VemiDCTSpec_32f* pSpec, int* pSize);
+VEMI_API VemiStatus vemiDCTInvGetBufSize_32f(const VemiDCTSpec_32f* pSpec, int* pSize);
+
+VEMI_API VemiStatus vemiDCTFwd_32f_C1R(const Vemi32f* pSrc, int srcStep, Vemi32f* pDst, int dstStep,
+                                       const VemiDCTSpec_32f* pSpec, Vemi8u* pBuffer);
+VEMI_API VemiStatus vemiDCTFwd_32f_C3R(const Vemi32f* pSrc, int srcStep, Vemi32f* pDst, int dstStep,
+                                       const VemiDCTSpec_32f* pSpec, Vemi8u* pBuffer);
+VEMI_API VemiStatus vemiDCTFwd_32f_C4R(const Vemi32f* pSrc, int srcStep, Vemi32f* pDst, int dstStep,
+                                       const VemiDCTSpec_32f* pSpec, Vemi8u* pBuffer);
+VEMI_API VemiStatus vemiDCTFwd_32f_AC4R(const Vemi32f* pSrc, int srcStep, Vemi32f* pDst, int dstStep,
+                                        const VemiDCTSpec_32f* pSpec, Vemi8u* pBuffer);
+
+VEMI_API VemiStatus vemiDCTInv_32f_C1R(const Vemi32f* pSrc, int srcStep, Vemi32f* pDst, int dstStep,
+                                       const VemiDCTSpec_32f* pSpec, Vemi8u* pBuffer);
+VEMI_API VemiStatus vemiDCTInv_32f_C3R(const Vemi32f* pSrc, int srcStep, Vemi32f* pDst, int dstStep,
+                                       const VemiDCTSpec_32f* pSpec, Vemi8u* pBuffer);
+VEMI_API VemiStatus vemiDCTInv_32f_C4R(const Vemi32f* pSrc, int srcStep, Vemi32f* pDst, int dstStep,
+                                       const VemiDCTSpec_32f* pSpec, Vemi8u* pBuffer);
+VEMI_API VemiStatus vemiDCTInv_32f_AC4R(const Vemi32f* pSrc, int srcStep, Vemi32f* pDst, int dstStep,
+                                        const VemiDCTSpec_32f* pSpec, Vemi8u* pBuffer);
+
+/** @} */
+
+/**
  * @defgroup vemi_dct8x8 vemiDCT8x8: cosine transforms of blocks
  *
  * Of blocks of 8 by 8 elements, as codecs for pictures and films cut them. With x, y and u, v from 0 to 7,

@@ -1,5 +1,8 @@
 // Transforms.
 
+#include <algorithm>
+#include <utility>
+
 #include "support/families.h"
 
 namespace vemi::test {
@@ -66,6 +69,35 @@ void pickDFT(Call& call) {
 void sizeByDFT(Call& call) { setImages(call, call.record("pSpec").get<VemiSize>("roiSize")); }
 
 // ---- Cosine transforms ----------------------------------------------------------------------------------------------
+
+/// The scenario's size, either way; squares, blocks, and now and then lines of all methods that short ones do not take.
+void pickDCT(Call& call) {
+  VemiSize size = call.scenario.roiSize;
+  const int longest = std::max(size.width, size.height);
+  const int kind = call.random.below(200);
+  if (kind < 50) size = {size.height, size.width};
+  if (kind >= 50 && kind < 70) size = {8, 8};
+  if (kind >= 70 && kind < 100 && longest <= 70) size = {longest, longest};
+  if (kind >= 198) {
+    constexpr int lengths[] = {1025, 1031, 1042, 4096};
+    size = {lengths[call.random.below(4)], 1 + call.random.below(2)};
+    if (kind == 199) std::swap(size.width, size.height);
+  }
+  call.set("roiSize", size);
+  call.set("hint", call.random.below(4));
+}
+
+std::string directionOf(const Call& call) {
+  return call.function.name.find("Fwd") != std::string::npos ? "vemiDCTFwd" : "vemiDCTInv";
+}
+
+void nameDCT(Call& call) { call.record("pSpec", directionOf(call) + "InitAlloc_32f"); }
+
+void sizeByDCT(Call& call) {
+  const Call& maker = call.record("pSpec", directionOf(call) + "InitAlloc_32f");
+  call.image("pSrc").size = call.image("pDst").size = maker.get<VemiSize>("roiSize");
+  call.setBuffer("pBuffer", call.sizeBy(directionOf(call) + "GetBufSize_32f", "pSpec"), true);
+}
 
 void moderateBlock(Call& call) {
   const char* const block = call.function.inPlace ? "pSrcDst" : "pSrc";
@@ -156,6 +188,10 @@ std::vector<Family> transformFamilies() {
        moderateFloats},
 
       // Cosine transforms
+      {"vemiDCTFwdInitAlloc vemiDCTInvInitAlloc", ".*", "null size", pickDCT},
+      {"vemiDCTFwdFree vemiDCTInvFree", ".*", "null tag"},
+      {"vemiDCTFwdGetBufSize vemiDCTInvGetBufSize", ".*", "null tag", nameDCT},
+      {"vemiDCTFwd vemiDCTInv", ".*", "pSpec tag null step", sizeByDCT, {}, moderateFloats},
       {"vemiDCT8x8Fwd vemiDCT8x8Inv", "32f.*", "null", nullptr, {}, moderateBlock},
       {"vemiDCT8x8Fwd vemiDCT8x8Inv vemiDCT8x8FwdLS vemiDCT8x8InvLSClip", ".*", "null step", sizeByBlock},
       {"vemiDCT8x8Inv_4x4 vemiDCT8x8Inv_2x2 vemiZigzagFwd8x8 vemiZigzagInv8x8", ".*", "null", sizeByBlock},
