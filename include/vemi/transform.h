@@ -599,7 +599,211 @@ VEMI_API VemiStatus vemiWTInv_32f_C3R(const Vemi32f* pApprox, int approxStep, co
 
 /** @} */
 
-/* ---- Packed spectra ---- */
+/**
+ * @defgroup vemi_mul_pack vemiMulPack, vemiMulPackConj: products of packed spectra
+ *
+ * Packed spectra, as vemiFFT and vemiDFT make them, are multiplied number by number: the result packed is that of a
+ * convolution, or with Conj that of a correlation. Of any width W and height H, F(u, v) stands in
+ *
+ * |                                | real element                       | pair of real and imaginary part          |
+ * |--------------------------------|------------------------------------|------------------------------------------|
+ * | columns 1 to 2 ((W - 1) / 2)   |                                    | columns 2 u - 1 and 2 u of row v         |
+ * | column 0: u = 0                | row 0: v = 0; row H - 1: v = H / 2 | rows 2 v - 1 and 2 v                     |
+ * | column W - 1: u = W / 2        | the same                           | the same                                 |
+ *
+ * where column W - 1 is one of its own only if W is even, and a real element in row H - 1 only if H is even. Of 5 by 5:
+ *
+ *     R(0,0)   R(1,0) I(1,0)   R(2,0) I(2,0)
+ *     R(0,1)   R(1,1) I(1,1)   R(2,1) I(2,1)
+ *     I(0,1)   R(1,2) I(1,2)   R(2,2) I(2,2)
+ *     R(0,2)   R(1,3) I(1,3)   R(2,3) I(2,3)
+ *     I(0,2)   R(1,4) I(1,4)   R(2,4) I(2,4)
+ *
+ * Real elements are multiplied as such. A pair (a, b) of the first source and (c, d) of the second one, which in place
+ * is the destination, give
+ *
+ *     MulPack       a c - b d, a d + b c
+ *     MulPackConj   a c + b d, b c - a d       the conjugate is that of the image which is overwritten
+ *
+ * In 32f each product, sum and difference is rounded to single precision. Integer results are exact, times
+ * 2^-scaleFactor, rounded down where that is below 1, and limited to their type. Channels are multiplied each by
+ * itself; AC4 forms leave the fourth element of each pixel as it is.
+ *
+ * @param pSrc1,src1Step,pSrc2,src2Step,pSrc,srcStep  the sources
+ * @param pDst,dstStep,pSrcDst,srcDstStep             the destination, which may be a source; other overlaps are not
+ *                                                    allowed
+ * @param roiSize      W and H
+ * @param scaleFactor  any int
+ *
+ * **Statuses**, in the order of the tests: null, step, size.
+ *
+ * **Threads.** All forms run in the calling thread.
+ *
+ * How far `moved` lies from `picture`, two spectra of vemiFFTFwd_RToPack_32f_C1R: the largest pixel of the result, once
+ * it has gone back by vemiFFTInv_PackToR_32f_C1R, stands in the place to which (0, 0) has moved.
+ *
+ *     vemiMulPackConj_32f_C1IR(moved, step, picture, step, size);
+ * @{
+ */
+
+VEMI_API VemiStatus vemiMulPack_16s_C1RSfs(const Vemi16s* pSrc1, int src1Step, const Vemi16s* pSrc2, int src2Step,
+                                           Vemi16s* pDst, int dstStep, VemiSize roiSize, int scaleFactor);
+VEMI_API VemiStatus vemiMulPack_16s_C3RSfs(const Vemi16s* pSrc1, int src1Step, const Vemi16s* pSrc2, int src2Step,
+                                           Vemi16s* pDst, int dstStep, VemiSize roiSize, int scaleFactor);
+VEMI_API VemiStatus vemiMulPack_16s_C4RSfs(const Vemi16s* pSrc1, int src1Step, const Vemi16s* pSrc2, int src2Step,
+                                           Vemi16s* pDst, int dstStep, VemiSize roiSize, int scaleFactor);
+VEMI_API VemiStatus vemiMulPack_16s_AC4RSfs(const Vemi16s* pSrc1, int src1Step, const Vemi16s* pSrc2, int src2Step,
+                                            Vemi16s* pDst, int dstStep, VemiSize roiSize, int scaleFactor);
+VEMI_API VemiStatus vemiMulPack_16s_C1IRSfs(const Vemi16s* pSrc, int srcStep, Vemi16s* pSrcDst, int srcDstStep,
+                                            VemiSize roiSize, int scaleFactor);
+VEMI_API VemiStatus vemiMulPack_16s_C3IRSfs(const Vemi16s* pSrc, int srcStep, Vemi16s* pSrcDst, int srcDstStep,
+                                            VemiSize roiSize, int scaleFactor);
+VEMI_API VemiStatus vemiMulPack_16s_C4IRSfs(const Vemi16s* pSrc, int srcStep, Vemi16s* pSrcDst, int srcDstStep,
+                                            VemiSize roiSize, int scaleFactor);
+VEMI_API VemiStatus vemiMulPack_16s_AC4IRSfs(const Vemi16s* pSrc, int srcStep, Vemi16s* pSrcDst, int srcDstStep,
+                                             VemiSize roiSize, int scaleFactor);
+
+VEMI_API VemiStatus vemiMulPack_32s_C1RSfs(const Vemi32s* pSrc1, int src1Step, const Vemi32s* pSrc2, int src2Step,
+                                           Vemi32s* pDst, int dstStep, VemiSize roiSize, int scaleFactor);
+VEMI_API VemiStatus vemiMulPack_32s_C3RSfs(const Vemi32s* pSrc1, int src1Step, const Vemi32s* pSrc2, int src2Step,
+                                           Vemi32s* pDst, int dstStep, VemiSize roiSize, int scaleFactor);
+VEMI_API VemiStatus vemiMulPack_32s_C4RSfs(const Vemi32s* pSrc1, int src1Step, const Vemi32s* pSrc2, int src2Step,
+                                           Vemi32s* pDst, int dstStep, VemiSize roiSize, int scaleFactor);
+VEMI_API VemiStatus vemiMulPack_32s_AC4RSfs(const Vemi32s* pSrc1, int src1Step, const Vemi32s* pSrc2, int src2Step,
+                                            Vemi32s* pDst, int dstStep, VemiSize roiSize, int scaleFactor);
+VEMI_API VemiStatus vemiMulPack_32s_C1IRSfs(const Vemi32s* pSrc, int srcStep, Vemi32s* pSrcDst, int srcDstStep,
+                                            VemiSize roiSize, int scaleFactor);
+VEMI_API VemiStatus vemiMulPack_32s_C3IRSfs(const Vemi32s* pSrc, int srcStep, Vemi32s* pSrcDst, int srcDstStep,
+                                            VemiSize roiSize, int scaleFactor);
+VEMI_API VemiStatus vemiMulPack_32s_C4IRSfs(const Vemi32s* pSrc, int srcStep, Vemi32s* pSrcDst, int srcDstStep,
+                                            VemiSize roiSize, int scaleFactor);
+VEMI_API VemiStatus vemiMulPack_32s_AC4IRSfs(const Vemi32s* pSrc, int srcStep, Vemi32s* pSrcDst, int srcDstStep,
+                                             VemiSize roiSize, int scaleFactor);
+
+VEMI_API VemiStatus vemiMulPack_32f_C1R(const Vemi32f* pSrc1, int src1Step, const Vemi32f* pSrc2, int src2Step,
+                                        Vemi32f* pDst, int dstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiMulPack_32f_C3R(const Vemi32f* pSrc1, int src1Step, const Vemi32f* pSrc2, int src2Step,
+                                        Vemi32f* pDst, int dstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiMulPack_32f_C4R(const Vemi32f* pSrc1, int src1Step, const Vemi32f* pSrc2, int src2Step,
+                                        Vemi32f* pDst, int dstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiMulPack_32f_AC4R(const Vemi32f* pSrc1, int src1Step, const Vemi32f* pSrc2, int src2Step,
+                                         Vemi32f* pDst, int dstStep, VemiSize roiSize);
+VEMI_API VemiStatus vemiMulPack_32f_C1IR(const Vemi32f* pSrc, int srcStep, Vemi32f* pSrcDst, int srcDstStep,
+                                         VemiSize roiSize);
+VEMI_API VemiStatus vemiMulPack_32f_C3IR(const Vemi32f* pSrc, int srcStep, Vemi32f* pSrcDst, int srcDstStep,
+                                         VemiSize roiSize);
+VEMI_API VemiStatus vemiMulPack_32f_C4IR(const Vemi32f* pSrc, int srcStep, Vemi32f* pSrcDst, int srcDstStep,
+                                         VemiSize roiSize);
+VEMI_API VemiStatus vemiMulPack_32f_AC4IR(const Vemi32f* pSrc, int srcStep, Vemi32f* pSrcDst, int srcDstStep,
+                                          VemiSize roiSize);
+
+VEMI_API VemiStatus vemiMulPackConj_32f_C1IR(const Vemi32f* pSrc, int srcStep, Vemi32f* pSrcDst, int srcDstStep,
+                                             VemiSize roiSize);
+VEMI_API VemiStatus vemiMulPackConj_32f_C3IR(const Vemi32f* pSrc, int srcStep, Vemi32f* pSrcDst, int srcDstStep,
+                                             VemiSize roiSize);
+VEMI_API VemiStatus vemiMulPackConj_32f_C4IR(const Vemi32f* pSrc, int srcStep, Vemi32f* pSrcDst, int srcDstStep,
+                                             VemiSize roiSize);
+VEMI_API VemiStatus vemiMulPackConj_32f_AC4IR(const Vemi32f* pSrc, int srcStep, Vemi32f* pSrcDst, int srcDstStep,
+                                              VemiSize roiSize);
+
+/** @} */
+
+/**
+ * @defgroup vemi_magnitude vemiMagnitude, vemiPhase, vemiPackToCplxExtend, vemiPolarToCart: spectra as pictures
+ *
+ *     vemiMagnitude          sqrt(re^2 + im^2) of complex pixels
+ *     vemiPhase              the angle of (re, im), from -pi to pi, as the standard's atan2(im, re)
+ *     vemiMagnitudePack      the magnitudes of a packed spectrum's W by H numbers, frequency 0 in the first pixel
+ *     vemiPhasePack          their phases
+ *     vemiPackToCplxExtend   all W by H numbers of a packed spectrum: F(W - u, H - v) is the conjugate of F(u, v)
+ *     vemiPolarToCart        (m cos p, m sin p) of the magnitudes m in one plane and the phases p in another
+ *
+ * The packed layout is that of vemiMulPack. A pixel of C3 holds three complex numbers, or one element of three packed
+ * arrays.
+ *
+ * **Exactness.** In 32f the products, the sum and the root of a magnitude are rounded to single precision; phase, sine
+ * and cosine are within one unit in the last place of the correctly rounded value, for numbers of any size, and their
+ * bits are the same on all processors. Integer results are computed in double precision, times 2^-scaleFactor, rounded
+ * to nearest (ties to even) and limited to their type: (3, 4) at scale 1 is 2. The conjugate of a part -2^31 is 2^31 -
+ * 1 in vemiPackToCplxExtend, and exact in the others.
+ *
+ * @param pSrc,srcStep         first pixel of the source, and the bytes between its rows
+ * @param pSrcMagn,pSrcPhase   first pixels of magnitudes and phases; srcStep is the step of both
+ * @param pDst,dstStep         the same of the destination; it must not overlap with a source
+ * @param roiSize,dstRoiSize,srcSize  W and H
+ * @param scaleFactor          any int
+ *
+ * **Statuses**, in the order of the tests: null, size, step. vemiMagnitudePack and vemiPhasePack return vemiErrNullPtr
+ * too where memory for a row cannot be had.
+ *
+ * **Threads.** All forms run in the calling thread.
+ *
+ *     vemiMagnitudePack_32f_C1R(spectrum, step, magnitudes, step, size);
+ *     vemiLn_32f_C1IR(magnitudes, step, size);
+ * @{
+ */
+
+VEMI_API VemiStatus vemiMagnitudePack_16s_C1RSfs(const Vemi16s* pSrc, int srcStep, Vemi16s* pDst, int dstStep,
+                                                 VemiSize dstRoiSize, int scaleFactor);
+VEMI_API VemiStatus vemiMagnitudePack_16s_C3RSfs(const Vemi16s* pSrc, int srcStep, Vemi16s* pDst, int dstStep,
+                                                 VemiSize dstRoiSize, int scaleFactor);
+VEMI_API VemiStatus vemiMagnitudePack_32s_C1RSfs(const Vemi32s* pSrc, int srcStep, Vemi32s* pDst, int dstStep,
+                                                 VemiSize dstRoiSize, int scaleFactor);
+VEMI_API VemiStatus vemiMagnitudePack_32s_C3RSfs(const Vemi32s* pSrc, int srcStep, Vemi32s* pDst, int dstStep,
+                                                 VemiSize dstRoiSize, int scaleFactor);
+VEMI_API VemiStatus vemiMagnitudePack_32f_C1R(const Vemi32f* pSrc, int srcStep, Vemi32f* pDst, int dstStep,
+                                              VemiSize dstRoiSize);
+VEMI_API VemiStatus vemiMagnitudePack_32f_C3R(const Vemi32f* pSrc, int srcStep, Vemi32f* pDst, int dstStep,
+                                              VemiSize dstRoiSize);
+
+VEMI_API VemiStatus vemiPhasePack_16s_C1RSfs(const Vemi16s* pSrc, int srcStep, Vemi16s* pDst, int dstStep,
+                                             VemiSize dstRoiSize, int scaleFactor);
+VEMI_API VemiStatus vemiPhasePack_16s_C3RSfs(const Vemi16s* pSrc, int srcStep, Vemi16s* pDst, int dstStep,
+                                             VemiSize dstRoiSize, int scaleFactor);
+VEMI_API VemiStatus vemiPhasePack_32s_C1RSfs(const Vemi32s* pSrc, int srcStep, Vemi32s* pDst, int dstStep,
+                                             VemiSize dstRoiSize, int scaleFactor);
+VEMI_API VemiStatus vemiPhasePack_32s_C3RSfs(const Vemi32s* pSrc, int srcStep, Vemi32s* pDst, int dstStep,
+                                             VemiSize dstRoiSize, int scaleFactor);
+VEMI_API VemiStatus vemiPhasePack_32f_C1R(const Vemi32f* pSrc, int srcStep, Vemi32f* pDst, int dstStep,
+                                          VemiSize dstRoiSize);
+VEMI_API VemiStatus vemiPhasePack_32f_C3R(const Vemi32f* pSrc, int srcStep, Vemi32f* pDst, int dstStep,
+                                          VemiSize dstRoiSize);
+
+VEMI_API VemiStatus vemiMagnitude_16sc16s_C1RSfs(const Vemi16sc* pSrc, int srcStep, Vemi16s* pDst, int dstStep,
+                                                 VemiSize roiSize, int scaleFactor);
+VEMI_API VemiStatus vemiMagnitude_16sc16s_C3RSfs(const Vemi16sc* pSrc, int srcStep, Vemi16s* pDst, int dstStep,
+                                                 VemiSize roiSize, int scaleFactor);
+VEMI_API VemiStatus vemiMagnitude_32sc32s_C1RSfs(const Vemi32sc* pSrc, int srcStep, Vemi32s* pDst, int dstStep,
+                                                 VemiSize roiSize, int scaleFactor);
+VEMI_API VemiStatus vemiMagnitude_32sc32s_C3RSfs(const Vemi32sc* pSrc, int srcStep, Vemi32s* pDst, int dstStep,
+                                                 VemiSize roiSize, int scaleFactor);
+VEMI_API VemiStatus vemiMagnitude_32fc32f_C1R(const Vemi32fc* pSrc, int srcStep, Vemi32f* pDst, int dstStep,
+                                              VemiSize roiSize);
+VEMI_API VemiStatus vemiMagnitude_32fc32f_C3R(const Vemi32fc* pSrc, int srcStep, Vemi32f* pDst, int dstStep,
+                                              VemiSize roiSize);
+
+VEMI_API VemiStatus vemiPhase_16sc16s_C1RSfs(const Vemi16sc* pSrc, int srcStep, Vemi16s* pDst, int dstStep,
+                                             VemiSize roiSize, int scaleFactor);
+VEMI_API VemiStatus vemiPhase_16sc16s_C3RSfs(const Vemi16sc* pSrc, int srcStep, Vemi16s* pDst, int dstStep,
+                                             VemiSize roiSize, int scaleFactor);
+VEMI_API VemiStatus vemiPhase_32sc32s_C1RSfs(const Vemi32sc* pSrc, int srcStep, Vemi32s* pDst, int dstStep,
+                                             VemiSize roiSize, int scaleFactor);
+VEMI_API VemiStatus vemiPhase_32sc32s_C3RSfs(const Vemi32sc* pSrc, int srcStep, Vemi32s* pDst, int dstStep,
+                                             VemiSize roiSize, int scaleFactor);
+VEMI_API VemiStatus vemiPhase_32fc32f_C1R(const Vemi32fc* pSrc, int srcStep, Vemi32f* pDst, int dstStep,
+                                          VemiSize roiSize);
+VEMI_API VemiStatus vemiPhase_32fc32f_C3R(const Vemi32fc* pSrc, int srcStep, Vemi32f* pDst, int dstStep,
+                                          VemiSize roiSize);
+
+VEMI_API VemiStatus vemiPackToCplxExtend_32f32fc_C1R(const Vemi32f* pSrc, VemiSize srcSize, int srcStep, Vemi32fc* pDst,
+                                                     int dstStep);
+VEMI_API VemiStatus vemiPackToCplxExtend_32s32sc_C1R(const Vemi32s* pSrc, VemiSize srcSize, int srcStep, Vemi32sc* pDst,
+                                                     int dstStep);
+
+VEMI_API VemiStatus vemiPolarToCart_32f32fc_P2C1R(const Vemi32f* pSrcMagn, const Vemi32f* pSrcPhase, int srcStep,
+                                                  Vemi32fc* pDst, int dstStep, VemiSize roiSize);
+
+/** @} */
 
 /** @} */
 

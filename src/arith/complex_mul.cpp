@@ -1,7 +1,6 @@
 // vemiMul, vemiMulC of complex elements: (a.re b.re - a.im b.im, a.re b.im + a.im b.re). Integer products are formed
 // exactly, scaled, then saturated. Checks: null, size, step.
 
-#include <limits>
 #include <type_traits>
 
 #include "arith/complex_arithmetic.h"
@@ -10,14 +9,6 @@
 
 namespace vemi::arith {
 namespace {
-
-/// Wide lanes within the range of Part.
-template <class Part, class D, class V>
-HWY_INLINE V clampTo(D d, V v) {
-  const V low = hn::Set(d, std::numeric_limits<Part>::min());
-  const V high = hn::Set(d, std::numeric_limits<Part>::max());
-  return hn::IfThenElse(hn::Gt(v, high), high, hn::IfThenElse(hn::Lt(v, low), low, v));
-}
 
 /// Scale factors from 1 to the bits of a wide lane less 1.
 template <class Part>
@@ -33,58 +24,9 @@ struct ProductDown {
     const V tie = hn::Sub(hn::Set(d, Wide{1} << (shift - 1)), hn::And(quotient, one));
     return clampTo<Part>(d, hn::Sub(quotient, hn::VecFromMask(d, hn::Gt(rest, tie))));
   }
-};
-
-/// Scale factors of 0 and less: what saturates before the shift saturates after it, and a shift by the bits of a part
-/// saturates all but zeros.
-template <class Part>
-struct ProductUp {
-  int shift;
-
   template <class D, class V>
-  HWY_INLINE V operator()(D d, V v) const {
-    return clampTo<Part>(d, hn::ShiftLeftSame(clampTo<Part>(d, v), shift));
-  }
-};
-
-/// A sum of two products of lowest values is one more than a wide lane holds, and no other value wraps to the lowest.
-/// One less has the same result at every scale.
-template <class D, class V>
-HWY_INLINE V unwrapped(D d, V sum) {
-  const V lowest = hn::Set(d, std::numeric_limits<hn::TFromD<D>>::min());
-  return hn::Add(sum, hn::VecFromMask(d, hn::Eq(sum, lowest)));
-}
-
-template <class C, class Scale>
-struct ScaledProduct;
-
-template <class Scale>
-struct ScaledProduct<Vemi16sc, Scale> {
-  Scale scale;
-
-  template <class D, class V>
-  HWY_INLINE V operator()(D d, V a, V b) const {
-    const V aRe = hn::ShiftRight<16>(hn::ShiftLeft<16>(a)), aIm = hn::ShiftRight<16>(a);
-    const V bRe = hn::ShiftRight<16>(hn::ShiftLeft<16>(b)), bIm = hn::ShiftRight<16>(b);
-    const V re = hn::Sub(hn::Mul(aRe, bRe), hn::Mul(aIm, bIm));
-    const V im = unwrapped(d, hn::Add(hn::Mul(aRe, bIm), hn::Mul(aIm, bRe)));
-    return hn::Or(hn::And(scale(d, re), hn::Set(d, 0xffff)), hn::ShiftLeft<16>(scale(d, im)));
-  }
-};
-
-template <class Scale>
-struct ScaledProduct<Vemi32sc, Scale> {
-  Scale scale;
-
-  template <class D, class V>
-  HWY_INLINE V operator()(D d, V a, V b) const {
-    const hn::Repartition<int32_t, D> dParts;
-    const auto aRe = hn::BitCast(dParts, a), aIm = hn::Shuffle2301(aRe);  // in the lower halves
-    const auto bRe = hn::BitCast(dParts, b), bIm = hn::Shuffle2301(bRe);
-    const V re = hn::Sub(hn::MulEven(aRe, bRe), hn::MulEven(aIm, bIm));
-    const V im = unwrapped(d, hn::Add(hn::MulEven(aRe, bIm), hn::MulEven(aIm, bRe)));
-    const V upper = hn::ShiftLeft<32>(scale(d, im));
-    return hn::BitCast(d, hn::OddEven(hn::BitCast(dParts, upper), hn::BitCast(dParts, scale(d, re))));
+  HWY_INLINE V ofSum(D d, V sum) const {
+    return (*this)(d, unwrapped(d, sum));
   }
 };
 

@@ -24,6 +24,7 @@ struct OwnFault {
 struct Exceptions {
   bool wholeSteps = false;        // steps are rounded down to whole elements
   VemiStatus lateError = vemiOk;  // an error that leaves the destination written
+  VemiStatus noMemory = vemiErrMemAlloc;
 
   /// Whole steps for a family that rounds them.
   Rows suited(Rows rows) const { return wholeSteps && rows == Rows::odd ? Rows::padded : rows; }

@@ -147,8 +147,6 @@ void surroundByFilters(Call& call) {
   call.setBuffer("pBuffer", call.sizeBy(query + (call.function.source.elements == 1 ? "1R" : "3R"), "pSpec"), false);
 }
 
-// ---- Packed spectra -------------------------------------------------------------------------------------------------
-
 }  // namespace
 
 std::vector<Family> transformFamilies() {
@@ -212,7 +210,9 @@ std::vector<Family> transformFamilies() {
        "null tag"},
       {"vemiWTFwd vemiWTInv", ".*", "pSpec tag null size step", surroundByFilters, {}, moderateFloats},
 
-      // Packed spectra
+      {"vemiMulPack vemiMulPackConj", ".*", "null step size"},
+      {"vemiMagnitudePack vemiPhasePack", ".*", "null size step", nullptr, {}, nullptr, {.noMemory = vemiErrNullPtr}},
+      {"vemiMagnitude vemiPhase vemiPackToCplxExtend vemiPolarToCart", ".*", "null size step"},
 
   };
 }
