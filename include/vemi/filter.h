@@ -776,8 +776,7 @@ VEMI_API VemiStatus vemiDilate_32f_AC4IR(Vemi32f* pSrcDst, int srcDstStep, VemiS
 
 /** @} */
 
-/* ---- Kernels of the user's ----------------------------------------------------------------------------------------
- */
+/* ---- Kernels of the user's --------------------------------------------------------------------------------------- */
 
 /**
  * @defgroup vemi_filter_linear vemiFilter, vemiFilterRow, vemiFilterColumn: kernels of the user's
@@ -839,12 +838,31 @@ VEMI_API VemiStatus vemiDilate_32f_AC4IR(Vemi32f* pSrcDst, int srcDstStep, VemiS
  * and vemiFilterColumn32f look at roiSize.width ahead of all that. Other forms do without memory where there is none,
  * slowly.
  *
- * **Threads.** A team, with a band of rows for each thread; no result depends on its size.
+ * **Threads.** A team, with a band of rows for each thread, where there is work for one: 131072 products or more. No
+ * result depends on its size.
  *
  *     const Vemi32s emboss[9] = {2, 1, 0, 1, 1, -1, 0, -1, -2};
  *     vemiFilter_8u_C1R(photo + step + 1, step, relief, reliefStep, inner, emboss, {3, 3}, {1, 1}, 1);
  * @{
  */
+
+VEMI_API VemiStatus vemiFilter_8u_C1R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep, VemiSize roiSize,
+                                      const Vemi32s* pKernel, VemiSize kernelSize, VemiPoint anchor, int divisor);
+VEMI_API VemiStatus vemiFilter_8u_C3R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep, VemiSize roiSize,
+                                      const Vemi32s* pKernel, VemiSize kernelSize, VemiPoint anchor, int divisor);
+VEMI_API VemiStatus vemiFilter_8u_C4R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep, VemiSize roiSize,
+                                      const Vemi32s* pKernel, VemiSize kernelSize, VemiPoint anchor, int divisor);
+VEMI_API VemiStatus vemiFilter_8u_AC4R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep, VemiSize roiSize,
+                                       const Vemi32s* pKernel, VemiSize kernelSize, VemiPoint anchor, int divisor);
+
+VEMI_API VemiStatus vemiFilter_16s_C1R(const Vemi16s* pSrc, int srcStep, Vemi16s* pDst, int dstStep, VemiSize roiSize,
+                                       const Vemi32s* pKernel, VemiSize kernelSize, VemiPoint anchor, int divisor);
+VEMI_API VemiStatus vemiFilter_16s_C3R(const Vemi16s* pSrc, int srcStep, Vemi16s* pDst, int dstStep, VemiSize roiSize,
+                                       const Vemi32s* pKernel, VemiSize kernelSize, VemiPoint anchor, int divisor);
+VEMI_API VemiStatus vemiFilter_16s_C4R(const Vemi16s* pSrc, int srcStep, Vemi16s* pDst, int dstStep, VemiSize roiSize,
+                                       const Vemi32s* pKernel, VemiSize kernelSize, VemiPoint anchor, int divisor);
+VEMI_API VemiStatus vemiFilter_16s_AC4R(const Vemi16s* pSrc, int srcStep, Vemi16s* pDst, int dstStep, VemiSize roiSize,
+                                        const Vemi32s* pKernel, VemiSize kernelSize, VemiPoint anchor, int divisor);
 
 VEMI_API VemiStatus vemiFilter_32f_C1R(const Vemi32f* pSrc, int srcStep, Vemi32f* pDst, int dstStep, VemiSize roiSize,
                                        const Vemi32f* pKernel, VemiSize kernelSize, VemiPoint anchor);
@@ -855,6 +873,50 @@ VEMI_API VemiStatus vemiFilter_32f_C4R(const Vemi32f* pSrc, int srcStep, Vemi32f
 VEMI_API VemiStatus vemiFilter_32f_AC4R(const Vemi32f* pSrc, int srcStep, Vemi32f* pDst, int dstStep, VemiSize roiSize,
                                         const Vemi32f* pKernel, VemiSize kernelSize, VemiPoint anchor);
 
+VEMI_API VemiStatus vemiFilter32f_8u_C1R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep, VemiSize roiSize,
+                                         const Vemi32f* pKernel, VemiSize kernelSize, VemiPoint anchor);
+VEMI_API VemiStatus vemiFilter32f_8u_C3R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep, VemiSize roiSize,
+                                         const Vemi32f* pKernel, VemiSize kernelSize, VemiPoint anchor);
+VEMI_API VemiStatus vemiFilter32f_8u_C4R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep, VemiSize roiSize,
+                                         const Vemi32f* pKernel, VemiSize kernelSize, VemiPoint anchor);
+VEMI_API VemiStatus vemiFilter32f_8u_AC4R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep, VemiSize roiSize,
+                                          const Vemi32f* pKernel, VemiSize kernelSize, VemiPoint anchor);
+
+VEMI_API VemiStatus vemiFilter32f_16s_C1R(const Vemi16s* pSrc, int srcStep, Vemi16s* pDst, int dstStep,
+                                          VemiSize roiSize, const Vemi32f* pKernel, VemiSize kernelSize,
+                                          VemiPoint anchor);
+VEMI_API VemiStatus vemiFilter32f_16s_C3R(const Vemi16s* pSrc, int srcStep, Vemi16s* pDst, int dstStep,
+                                          VemiSize roiSize, const Vemi32f* pKernel, VemiSize kernelSize,
+                                          VemiPoint anchor);
+VEMI_API VemiStatus vemiFilter32f_16s_C4R(const Vemi16s* pSrc, int srcStep, Vemi16s* pDst, int dstStep,
+                                          VemiSize roiSize, const Vemi32f* pKernel, VemiSize kernelSize,
+                                          VemiPoint anchor);
+VEMI_API VemiStatus vemiFilter32f_16s_AC4R(const Vemi16s* pSrc, int srcStep, Vemi16s* pDst, int dstStep,
+                                           VemiSize roiSize, const Vemi32f* pKernel, VemiSize kernelSize,
+                                           VemiPoint anchor);
+
+VEMI_API VemiStatus vemiFilterRow_8u_C1R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep, VemiSize roiSize,
+                                         const Vemi32s* pKernel, int kernelSize, int xAnchor, int divisor);
+VEMI_API VemiStatus vemiFilterRow_8u_C3R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep, VemiSize roiSize,
+                                         const Vemi32s* pKernel, int kernelSize, int xAnchor, int divisor);
+VEMI_API VemiStatus vemiFilterRow_8u_C4R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep, VemiSize roiSize,
+                                         const Vemi32s* pKernel, int kernelSize, int xAnchor, int divisor);
+VEMI_API VemiStatus vemiFilterRow_8u_AC4R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep, VemiSize roiSize,
+                                          const Vemi32s* pKernel, int kernelSize, int xAnchor, int divisor);
+
+VEMI_API VemiStatus vemiFilterRow_16s_C1R(const Vemi16s* pSrc, int srcStep, Vemi16s* pDst, int dstStep,
+                                          VemiSize roiSize, const Vemi32s* pKernel, int kernelSize, int xAnchor,
+                                          int divisor);
+VEMI_API VemiStatus vemiFilterRow_16s_C3R(const Vemi16s* pSrc, int srcStep, Vemi16s* pDst, int dstStep,
+                                          VemiSize roiSize, const Vemi32s* pKernel, int kernelSize, int xAnchor,
+                                          int divisor);
+VEMI_API VemiStatus vemiFilterRow_16s_C4R(const Vemi16s* pSrc, int srcStep, Vemi16s* pDst, int dstStep,
+                                          VemiSize roiSize, const Vemi32s* pKernel, int kernelSize, int xAnchor,
+                                          int divisor);
+VEMI_API VemiStatus vemiFilterRow_16s_AC4R(const Vemi16s* pSrc, int srcStep, Vemi16s* pDst, int dstStep,
+                                           VemiSize roiSize, const Vemi32s* pKernel, int kernelSize, int xAnchor,
+                                           int divisor);
+
 VEMI_API VemiStatus vemiFilterRow_32f_C1R(const Vemi32f* pSrc, int srcStep, Vemi32f* pDst, int dstStep,
                                           VemiSize roiSize, const Vemi32f* pKernel, int kernelSize, int xAnchor);
 VEMI_API VemiStatus vemiFilterRow_32f_C3R(const Vemi32f* pSrc, int srcStep, Vemi32f* pDst, int dstStep,
@@ -864,6 +926,50 @@ VEMI_API VemiStatus vemiFilterRow_32f_C4R(const Vemi32f* pSrc, int srcStep, Vemi
 VEMI_API VemiStatus vemiFilterRow_32f_AC4R(const Vemi32f* pSrc, int srcStep, Vemi32f* pDst, int dstStep,
                                            VemiSize roiSize, const Vemi32f* pKernel, int kernelSize, int xAnchor);
 
+VEMI_API VemiStatus vemiFilterRow32f_8u_C1R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep,
+                                            VemiSize roiSize, const Vemi32f* pKernel, int kernelSize, int xAnchor);
+VEMI_API VemiStatus vemiFilterRow32f_8u_C3R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep,
+                                            VemiSize roiSize, const Vemi32f* pKernel, int kernelSize, int xAnchor);
+VEMI_API VemiStatus vemiFilterRow32f_8u_C4R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep,
+                                            VemiSize roiSize, const Vemi32f* pKernel, int kernelSize, int xAnchor);
+VEMI_API VemiStatus vemiFilterRow32f_8u_AC4R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep,
+                                             VemiSize roiSize, const Vemi32f* pKernel, int kernelSize, int xAnchor);
+
+VEMI_API VemiStatus vemiFilterRow32f_16s_C1R(const Vemi16s* pSrc, int srcStep, Vemi16s* pDst, int dstStep,
+                                             VemiSize roiSize, const Vemi32f* pKernel, int kernelSize, int xAnchor);
+VEMI_API VemiStatus vemiFilterRow32f_16s_C3R(const Vemi16s* pSrc, int srcStep, Vemi16s* pDst, int dstStep,
+                                             VemiSize roiSize, const Vemi32f* pKernel, int kernelSize, int xAnchor);
+VEMI_API VemiStatus vemiFilterRow32f_16s_C4R(const Vemi16s* pSrc, int srcStep, Vemi16s* pDst, int dstStep,
+                                             VemiSize roiSize, const Vemi32f* pKernel, int kernelSize, int xAnchor);
+VEMI_API VemiStatus vemiFilterRow32f_16s_AC4R(const Vemi16s* pSrc, int srcStep, Vemi16s* pDst, int dstStep,
+                                              VemiSize roiSize, const Vemi32f* pKernel, int kernelSize, int xAnchor);
+
+VEMI_API VemiStatus vemiFilterColumn_8u_C1R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep,
+                                            VemiSize roiSize, const Vemi32s* pKernel, int kernelSize, int yAnchor,
+                                            int divisor);
+VEMI_API VemiStatus vemiFilterColumn_8u_C3R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep,
+                                            VemiSize roiSize, const Vemi32s* pKernel, int kernelSize, int yAnchor,
+                                            int divisor);
+VEMI_API VemiStatus vemiFilterColumn_8u_C4R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep,
+                                            VemiSize roiSize, const Vemi32s* pKernel, int kernelSize, int yAnchor,
+                                            int divisor);
+VEMI_API VemiStatus vemiFilterColumn_8u_AC4R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep,
+                                             VemiSize roiSize, const Vemi32s* pKernel, int kernelSize, int yAnchor,
+                                             int divisor);
+
+VEMI_API VemiStatus vemiFilterColumn_16s_C1R(const Vemi16s* pSrc, int srcStep, Vemi16s* pDst, int dstStep,
+                                             VemiSize roiSize, const Vemi32s* pKernel, int kernelSize, int yAnchor,
+                                             int divisor);
+VEMI_API VemiStatus vemiFilterColumn_16s_C3R(const Vemi16s* pSrc, int srcStep, Vemi16s* pDst, int dstStep,
+                                             VemiSize roiSize, const Vemi32s* pKernel, int kernelSize, int yAnchor,
+                                             int divisor);
+VEMI_API VemiStatus vemiFilterColumn_16s_C4R(const Vemi16s* pSrc, int srcStep, Vemi16s* pDst, int dstStep,
+                                             VemiSize roiSize, const Vemi32s* pKernel, int kernelSize, int yAnchor,
+                                             int divisor);
+VEMI_API VemiStatus vemiFilterColumn_16s_AC4R(const Vemi16s* pSrc, int srcStep, Vemi16s* pDst, int dstStep,
+                                              VemiSize roiSize, const Vemi32s* pKernel, int kernelSize, int yAnchor,
+                                              int divisor);
+
 VEMI_API VemiStatus vemiFilterColumn_32f_C1R(const Vemi32f* pSrc, int srcStep, Vemi32f* pDst, int dstStep,
                                              VemiSize roiSize, const Vemi32f* pKernel, int kernelSize, int yAnchor);
 VEMI_API VemiStatus vemiFilterColumn_32f_C3R(const Vemi32f* pSrc, int srcStep, Vemi32f* pDst, int dstStep,
@@ -872,6 +978,24 @@ VEMI_API VemiStatus vemiFilterColumn_32f_C4R(const Vemi32f* pSrc, int srcStep, V
                                              VemiSize roiSize, const Vemi32f* pKernel, int kernelSize, int yAnchor);
 VEMI_API VemiStatus vemiFilterColumn_32f_AC4R(const Vemi32f* pSrc, int srcStep, Vemi32f* pDst, int dstStep,
                                               VemiSize roiSize, const Vemi32f* pKernel, int kernelSize, int yAnchor);
+
+VEMI_API VemiStatus vemiFilterColumn32f_8u_C1R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep,
+                                               VemiSize roiSize, const Vemi32f* pKernel, int kernelSize, int yAnchor);
+VEMI_API VemiStatus vemiFilterColumn32f_8u_C3R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep,
+                                               VemiSize roiSize, const Vemi32f* pKernel, int kernelSize, int yAnchor);
+VEMI_API VemiStatus vemiFilterColumn32f_8u_C4R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep,
+                                               VemiSize roiSize, const Vemi32f* pKernel, int kernelSize, int yAnchor);
+VEMI_API VemiStatus vemiFilterColumn32f_8u_AC4R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep,
+                                                VemiSize roiSize, const Vemi32f* pKernel, int kernelSize, int yAnchor);
+
+VEMI_API VemiStatus vemiFilterColumn32f_16s_C1R(const Vemi16s* pSrc, int srcStep, Vemi16s* pDst, int dstStep,
+                                                VemiSize roiSize, const Vemi32f* pKernel, int kernelSize, int yAnchor);
+VEMI_API VemiStatus vemiFilterColumn32f_16s_C3R(const Vemi16s* pSrc, int srcStep, Vemi16s* pDst, int dstStep,
+                                                VemiSize roiSize, const Vemi32f* pKernel, int kernelSize, int yAnchor);
+VEMI_API VemiStatus vemiFilterColumn32f_16s_C4R(const Vemi16s* pSrc, int srcStep, Vemi16s* pDst, int dstStep,
+                                                VemiSize roiSize, const Vemi32f* pKernel, int kernelSize, int yAnchor);
+VEMI_API VemiStatus vemiFilterColumn32f_16s_AC4R(const Vemi16s* pSrc, int srcStep, Vemi16s* pDst, int dstStep,
+                                                 VemiSize roiSize, const Vemi32f* pKernel, int kernelSize, int yAnchor);
 
 /** @} */
 
@@ -1152,7 +1276,116 @@ VEMI_API VemiStatus vemiFilterMedianColor_32f_AC4R(const Vemi32f* pSrc, int srcS
 
 /** @} */
 
-/* ---- Noise ---- */
+/* ---- Noise ------------------------------------------------------------------------------------------------------- */
+
+/**
+ * @defgroup vemi_filter_wiener vemiFilterWiener: noise taken out where there is nothing else
+ *
+ *     mean = S * r,  D = Q - S * S * r,  D' = max(D, N)
+ *     pDst(x, y) = mean + (D' - N) / D' * (pSrc(x, y) - mean)
+ *
+ * where S is the sum of the pixels of the window and Q that of their squares, r = 1 / (maskSize.width *
+ * maskSize.height), and N the power of the noise. So a window with no more variance than the noise becomes its mean,
+ * which is also said of one that has none (D = N = 0), and where the variance is much larger the pixel stays. Each
+ * channel by itself, with a noise of its own; AC4 forms leave the fourth channel of the destination as it is.
+ *
+ * **Noise.** pNoise[channel] is the noise's variance, relative to the square of the pixels' range:
+ *
+ *     N = pNoise[channel] * F * maskSize.width * maskSize.height,  F = 65025 (8u), 4294836224 (16s), 1 (32f)
+ *
+ * A noise of 0 is estimated: N is then the mean of D, not below 0, over all windows of the region, and pNoise[channel]
+ * becomes N * r * 1.53787e-5 (8u), N * r * 2.3283775e-10 (16s) or N * r (32f).
+ *
+ * **Numbers.** S and Q are exact, those of 32f sums of doubles: of each column from top to bottom, then of the columns
+ * from left to right. All else is in single precision, each operation rounded, products from left to right, and the
+ * quotient is a true one. 8u and 16s: the nearest integer, ties to even, limited to the type, whatever the rounding
+ * mode of the calling thread.
+ *
+ * **Pixels read around the region**: maskSize.width - 1 - anchor.x columns to its left and anchor.x to its right,
+ * maskSize.height - 1 - anchor.y rows above it and anchor.y below. They must exist.
+ *
+ * vemiFilterWienerGetBufferSize tells the size of pBuffer in bytes,
+ *
+ *     4 * n * 5 * T + 15,  n = (roiSize.width + maskSize.width + 6) & ~3  for one channel,
+ *                          n = (roiSize.width * channels + 6) & ~3        for three and four,
+ *
+ * with T the most threads that a team can have (omp_get_max_threads), which must not grow before the buffer is used; or
+ * the largest int where that is larger. AC4 forms have four channels here.
+ *
+ * @param pSrc,srcStep  first pixel of the region in the source, and the bytes between its rows
+ * @param pDst,dstStep  the same of the destination, which shares no pixel with any that are read
+ * @param roiSize       size of the region in pixels
+ * @param maskSize      width and height of the window, 2 or more each
+ * @param anchor        how many columns to its right (x) and rows below it (y) a pixel's window reaches: from (0, 0) to
+ *                      (maskSize.width - 1, maskSize.height - 1)
+ * @param pNoise        a noise for each channel that is worked on (1, 3 or 4), from 0 up to but not including 1; of
+ * those that are 0 the estimates
+ * @param pBuffer       working memory at any address; it holds nothing between calls
+ * @param channels      1, 3 or 4
+ * @param pBufferSize   receives the size
+ *
+ * **Statuses**, in the order of the tests: null (pNoise and pBuffer among the pointers), size (see status.h); then
+ *
+ * - vemiErrMaskSize: a width or a height of the mask is below 2
+ * - vemiErrAnchor: the anchor lies outside of the mask
+ * - vemiErrStep: a step is below 1
+ * - vemiErrNoiseValue: a noise is negative, not below 1, or a NaN
+ *
+ * vemiFilterWienerGetBufferSize: null, size; vemiErrChannelCount: channels is not 1, 3 or 4; vemiErrMaskSize.
+ *
+ * **Threads.** C1 forms run in the calling thread, the others in a team, with a band of rows for each thread, unless
+ * the region is small. No result depends on its size.
+ *
+ *     Vemi32f noise[3] = {0, 0, 0};  // to be estimated
+ *     int size;
+ *     vemiFilterWienerGetBufferSize(inner, {5, 5}, 3, &size);
+ *     vemiFilterWiener_8u_C3R(photo + 2 * step + 6, step, clean, cleanStep, inner, {5, 5}, {2, 2}, noise,
+ * malloc(size));
+ * @{
+ */
+
+VEMI_API VemiStatus vemiFilterWienerGetBufferSize(VemiSize roiSize, VemiSize maskSize, int channels, int* pBufferSize);
+
+VEMI_API VemiStatus vemiFilterWiener_8u_C1R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep,
+                                            VemiSize roiSize, VemiSize maskSize, VemiPoint anchor, Vemi32f* pNoise,
+                                            Vemi8u* pBuffer);
+VEMI_API VemiStatus vemiFilterWiener_8u_C3R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep,
+                                            VemiSize roiSize, VemiSize maskSize, VemiPoint anchor, Vemi32f* pNoise,
+                                            Vemi8u* pBuffer);
+VEMI_API VemiStatus vemiFilterWiener_8u_C4R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep,
+                                            VemiSize roiSize, VemiSize maskSize, VemiPoint anchor, Vemi32f* pNoise,
+                                            Vemi8u* pBuffer);
+VEMI_API VemiStatus vemiFilterWiener_8u_AC4R(const Vemi8u* pSrc, int srcStep, Vemi8u* pDst, int dstStep,
+                                             VemiSize roiSize, VemiSize maskSize, VemiPoint anchor, Vemi32f* pNoise,
+                                             Vemi8u* pBuffer);
+
+VEMI_API VemiStatus vemiFilterWiener_16s_C1R(const Vemi16s* pSrc, int srcStep, Vemi16s* pDst, int dstStep,
+                                             VemiSize roiSize, VemiSize maskSize, VemiPoint anchor, Vemi32f* pNoise,
+                                             Vemi8u* pBuffer);
+VEMI_API VemiStatus vemiFilterWiener_16s_C3R(const Vemi16s* pSrc, int srcStep, Vemi16s* pDst, int dstStep,
+                                             VemiSize roiSize, VemiSize maskSize, VemiPoint anchor, Vemi32f* pNoise,
+                                             Vemi8u* pBuffer);
+VEMI_API VemiStatus vemiFilterWiener_16s_C4R(const Vemi16s* pSrc, int srcStep, Vemi16s* pDst, int dstStep,
+                                             VemiSize roiSize, VemiSize maskSize, VemiPoint anchor, Vemi32f* pNoise,
+                                             Vemi8u* pBuffer);
+VEMI_API VemiStatus vemiFilterWiener_16s_AC4R(const Vemi16s* pSrc, int srcStep, Vemi16s* pDst, int dstStep,
+                                              VemiSize roiSize, VemiSize maskSize, VemiPoint anchor, Vemi32f* pNoise,
+                                              Vemi8u* pBuffer);
+
+VEMI_API VemiStatus vemiFilterWiener_32f_C1R(const Vemi32f* pSrc, int srcStep, Vemi32f* pDst, int dstStep,
+                                             VemiSize roiSize, VemiSize maskSize, VemiPoint anchor, Vemi32f* pNoise,
+                                             Vemi8u* pBuffer);
+VEMI_API VemiStatus vemiFilterWiener_32f_C3R(const Vemi32f* pSrc, int srcStep, Vemi32f* pDst, int dstStep,
+                                             VemiSize roiSize, VemiSize maskSize, VemiPoint anchor, Vemi32f* pNoise,
+                                             Vemi8u* pBuffer);
+VEMI_API VemiStatus vemiFilterWiener_32f_C4R(const Vemi32f* pSrc, int srcStep, Vemi32f* pDst, int dstStep,
+                                             VemiSize roiSize, VemiSize maskSize, VemiPoint anchor, Vemi32f* pNoise,
+                                             Vemi8u* pBuffer);
+VEMI_API VemiStatus vemiFilterWiener_32f_AC4R(const Vemi32f* pSrc, int srcStep, Vemi32f* pDst, int dstStep,
+                                              VemiSize roiSize, VemiSize maskSize, VemiPoint anchor, Vemi32f* pNoise,
+                                              Vemi8u* pBuffer);
+
+/** @} */
 
 /** @} */
 

@@ -50,6 +50,8 @@ bool isNull(const UserKernel<K>& kernel) {
   return kernel.taps == nullptr;
 }
 
+inline VemiStatus checkDivisor(int divisor) { return divisor == 0 ? vemiErrDivisor : vemiOk; }
+
 /// All that is tested of the images, but for pointers and sizes.
 template <class L, class T, class K>
 VemiStatus checkRows(Image<const T> src, Image<T> dst, VemiSize roiSize, const UserKernel<K>& kernel) {
@@ -91,6 +93,9 @@ template <class Weight>
 struct TapTable {
   const Tap<Weight>* first;
   const Tap<Weight>* const* end;
+  ptrdiff_t rows;
+
+  ptrdiff_t count() const { return end[rows - 1] - first; }
 };
 
 /// What may be left out of a table: a tap of 0 adds nothing to a sum of integers, or to one that becomes an integer.
@@ -119,7 +124,7 @@ class TapMemory {
       }
       scratch_[ends_][j] = tap;
     }
-    return {scratch_[taps_], scratch_[ends_]};
+    return {scratch_[taps_], scratch_[ends_], rows_};
   }
 
  private:
@@ -153,14 +158,13 @@ struct TapSums {
 
   const Row* const* rows;
   TapTable<typename Arithmetic::Weight> table;
-  int height;
 
   HWY_INLINE auto operator()(ptrdiff_t i) const {
     const Lanes<Row> d;
     Vectors<hn::Vec<decltype(d)>, vectors> sum;
     unrolled<vectors>([&](auto k) HWY_ATTR { sum.v[k] = hn::Zero(d); });
     const auto* tap = table.first;
-    for (int j = 0; j < height; ++j) {
+    for (ptrdiff_t j = 0; j < table.rows; ++j) {
       const Row* const row = rows[j] + i;
       for (const auto* const end = table.end[j]; tap != end; ++tap) {
         const auto factor = Arithmetic::factor(tap->weight);
@@ -215,20 +219,22 @@ VemiStatus filterBands(const LinearCall<T>& call, const TapTable<typename Arithm
                        const RowRing<typename Arithmetic::Row>& ring, const Window& window, const Finish& finish,
                        const Enter& enter) {
   using Sums = TapSums<Arithmetic>;
-  return forBands(TeamRows{false}, call.height, {.slice = roomOf(ring)}, [=](int first, int rows, Memory own) {
-    auto ownRing = ring;
-    placeRings(own, ownRing);
-    const auto row = [&](ptrdiff_t y) {
-      const Sums sums = {ownRing.rows(), table, window.height};
-      if constexpr (std::is_same_v<Finish, Unfinished>) {
-        mapPlaces<alpha>(call.width, PlainSums<Sums>{sums}, call.dst.row(y));
-      } else {
-        mapPlaces<alpha>(call.width, FinishedSums<T, Sums, Finish>{sums, finish}, call.dst.row(y));
-      }
-    };
-    forWindows(
-        window, first, rows, [&](ptrdiff_t y) { enter(ownRing, y); }, row);
-  });
+  const Vemi64s products = limitedProduct(Vemi64s{call.width} * call.height, table.count());
+  return forBands(TeamRows{products < 1 << 17}, call.height, {.slice = roomOf(ring)},
+                  [=](int first, int rows, Memory own) {
+                    auto ownRing = ring;
+                    placeRings(own, ownRing);
+                    const auto row = [&](ptrdiff_t y) {
+                      const Sums sums = {ownRing.rows(), table};
+                      if constexpr (std::is_same_v<Finish, Unfinished>) {
+                        mapPlaces<alpha>(call.width, PlainSums<Sums>{sums}, call.dst.row(y));
+                      } else {
+                        mapPlaces<alpha>(call.width, FinishedSums<T, Sums, Finish>{sums, finish}, call.dst.row(y));
+                      }
+                    };
+                    forWindows(
+                        window, first, rows, [&](ptrdiff_t y) { enter(ownRing, y); }, row);
+                  });
 }
 
 /// The source's elements as elements of the ring.
@@ -334,3 +340,12 @@ VemiStatus floatColumn(Image<const T> src, Image<T> dst, VemiSize roiSize, UserK
   ((const K* pKernel, int kernelSize, int xAnchor), (UserKernel<K>{pKernel, {kernelSize, 1}, {xAnchor, 0}}))
 #define VEMI_COLUMN_KERNEL(K) \
   ((const K* pKernel, int kernelSize, int yAnchor), (UserKernel<K>{pKernel, {1, kernelSize}, {0, yAnchor}}))
+#define VEMI_DIVIDED_KERNEL                                                      \
+  ((const Vemi32s* pKernel, VemiSize kernelSize, VemiPoint anchor, int divisor), \
+   (UserKernel<Vemi32s>{pKernel, kernelSize, anchor}, divisor))
+#define VEMI_DIVIDED_ROW_KERNEL                                        \
+  ((const Vemi32s* pKernel, int kernelSize, int xAnchor, int divisor), \
+   (UserKernel<Vemi32s>{pKernel, {kernelSize, 1}, {xAnchor, 0}}, divisor))
+#define VEMI_DIVIDED_COLUMN_KERNEL                                     \
+  ((const Vemi32s* pKernel, int kernelSize, int yAnchor, int divisor), \
+   (UserKernel<Vemi32s>{pKernel, {1, kernelSize}, {0, yAnchor}}, divisor))

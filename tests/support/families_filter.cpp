@@ -1,4 +1,5 @@
 #include "support/families.h"
+#include "vemi/filter.h"
 
 #include <limits.h>
 
@@ -250,6 +251,30 @@ void drawOddRectangle(Call& call) {
 
 // ---- Noise ----------------------------------------------------------------------------------------------------------
 
+void drawWiener(Call& call) {
+  const int most = call.random.below(16) == 0 ? 40 : 8;
+  setMask(call, {2 + call.random.below(most), 2 + call.random.below(most)});
+  Margin& margin = call.image("pSrc").margin;
+  std::swap(margin.left, margin.right);
+  std::swap(margin.top, margin.bottom);
+  const int channels = call.function.destination.channels, kind = call.random.below(3);
+  std::vector<float> noise;
+  for (int c = 0; c < channels; ++c) {
+    const bool estimated = kind == 0 || (kind == 1 && call.random.below(2) == 0);
+    noise.push_back(estimated ? 0.0f : static_cast<float>(1 + call.random.below(999)) / (kind == 1 ? 1e3f : 1e5f));
+  }
+  call.setArray("pNoise", noise);
+  int size = 0;
+  vemiFilterWienerGetBufferSize(call.scenario.roiSize, call.get<VemiSize>("maskSize"),
+                                channels == 1 ? 1 : call.function.destination.elements, &size);
+  call.setBuffer("pBuffer", size, false);
+}
+
+void drawWienerSize(Call& call) {
+  call.set("maskSize", VemiSize{2 + call.random.below(90), 2 + call.random.below(90)});
+  call.set("channels", 1 + call.random.below(2) * (2 + call.random.below(2)));
+}
+
 }  // namespace
 
 std::vector<Family> filterFamilies() {
@@ -265,8 +290,17 @@ std::vector<Family> filterFamilies() {
                                          {"maskSize", INT_MIN, "mask", vemiErrMaskSize}};
   const std::vector<OwnFault> kernelSteps = {{"step of the source", 0, "step", vemiErrStep, shortWindows},
                                              {"step of the destination", 0, "step", vemiErrStep, shortDestination}};
-  std::vector<OwnFault> rowFaults = kernelSteps;
-  for (const double size : {0., -1., double{INT_MIN}}) rowFaults.push_back({"kernelSize", size, "size", vemiErrSize});
+  const std::vector<OwnFault> noDivisor = {{"divisor", 0, "divisor", vemiErrDivisor}};
+  const auto with = [](std::vector<OwnFault> faults, const std::vector<OwnFault>& more) {
+    faults.insert(faults.end(), more.begin(), more.end());
+    return faults;
+  };
+  const auto noTaps = [](const char* stage) {
+    std::vector<OwnFault> faults;
+    for (const double size : {0., -1., double{INT_MIN}}) faults.push_back({"kernelSize", size, stage, vemiErrSize});
+    return faults;
+  };
+  const auto rowFaults = with(kernelSteps, noTaps("size")), earlyRowFaults = with(kernelSteps, noTaps("kernelSize"));
   return {
       {"vemiFilterSobelHoriz vemiFilterSobelVert vemiFilterSobelHorizSecond vemiFilterSobelVertSecond "
        "vemiFilterSobelCross",
@@ -315,10 +349,21 @@ std::vector<Family> filterFamilies() {
        takeNumbers},
 
       // Kernels of the user's
-      {"vemiFilter", "32f_.*", "null size step", drawLinear, kernelSteps, tameSums},
-      {"vemiFilterRow", "32f_.*", "null size step", drawLinear, rowFaults, tameSums},
-      {"vemiFilterColumn", "32f_C[34]R", "width null size step", drawLinear, rowFaults, tameSums},
-      {"vemiFilterColumn", "32f_.*", "null size step", drawLinear, rowFaults, tameSums},
+      {"vemiFilter", "8u_.*", "null size divisor step", drawLinear, with(kernelSteps, noDivisor)},
+      {"vemiFilterRow", "8u_.*", "null size divisor step", drawLinear, with(rowFaults, noDivisor)},
+      {"vemiFilterColumn", "8u_C[34]R", "width null size divisor step", drawLinear, with(rowFaults, noDivisor)},
+      {"vemiFilterColumn", "8u_.*", "null size divisor step", drawLinear, with(rowFaults, noDivisor)},
+      {"vemiFilter", "16s_.*", "pKernel kernelSize divisor null size step", drawLinear, with(kernelSteps, noDivisor)},
+      {"vemiFilterRow", "16s_.*", "pKernel kernelSize divisor null size step", drawLinear,
+       with(earlyRowFaults, noDivisor)},
+      {"vemiFilterColumn", "16s_C[34]R", "width pKernel kernelSize divisor null size step", drawLinear,
+       with(earlyRowFaults, noDivisor)},
+      {"vemiFilterColumn", "16s_.*", "pKernel kernelSize divisor null size step", drawLinear,
+       with(earlyRowFaults, noDivisor)},
+      {"vemiFilter vemiFilter32f", ".*", "null size step", drawLinear, kernelSteps, tameSums},
+      {"vemiFilterColumn vemiFilterColumn32f", ".*_C[34]R", "width null size step", drawLinear, rowFaults, tameSums},
+      {"vemiFilterRow vemiFilterRow32f vemiFilterColumn vemiFilterColumn32f", ".*", "null size step", drawLinear,
+       rowFaults, tameSums},
 
       // Ranks
       {"vemiFilterMin vemiFilterMax",
@@ -348,6 +393,29 @@ std::vector<Family> filterFamilies() {
       {"vemiFilterMedianColor", ".*", "null size step mask", drawSquare, fixedMasks, takeFewColours},
 
       // Noise
+      {"vemiFilterWiener",
+       ".*",
+       "null size mask anchor step noise",
+       drawWiener,
+       {{"maskSize", 1, "mask", vemiErrMaskSize},
+        {"maskSize", INT_MIN, "mask", vemiErrMaskSize},
+        {"anchor", -1, "anchor", vemiErrAnchor},
+        {"anchor", 1000, "anchor", vemiErrAnchor},
+        {"anchor", INT_MAX, "anchor", vemiErrAnchor},
+        {"pNoise", -1e-9, "noise", vemiErrNoiseValue},
+        {"pNoise", 1, "noise", vemiErrNoiseValue},
+        {"pNoise", NAN, "noise", vemiErrNoiseValue}},
+       tameSums},
+      {"vemiFilterWienerGetBufferSize",
+       ".*",
+       "null size count mask",
+       drawWienerSize,
+       {{"channels", 0, "count", vemiErrChannelCount},
+        {"channels", 2, "count", vemiErrChannelCount},
+        {"channels", 5, "count", vemiErrChannelCount},
+        {"channels", INT_MIN, "count", vemiErrChannelCount},
+        {"maskSize", 1, "mask", vemiErrMaskSize},
+        {"maskSize", INT_MIN, "mask", vemiErrMaskSize}}},
 
   };
 }
