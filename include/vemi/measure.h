@@ -1579,6 +1579,103 @@ VEMI_API VemiStatus vemiSqrDistanceValid_Norm_8u_AC4RSfs(const Vemi8u* pSrc, int
 
 /* ---- Convolution of images ---- */
 
+/**
+ * @defgroup vemi_convolve vemiConvFull and vemiConvValid: the convolution of two images
+ *
+ *     pDst(x, y) = sum over all (i, j) of pSrc1(i, j) pSrc2(x - i, y - j)
+ *
+ * with zeros outside of both images: each pixel of one image spreads out as the other one does. A photograph convolved
+ * with a disc is blurred as by a lens. The images may change places. Of images of W1 x H1 and W2 x H2, the results are
+ *
+ *     Full    (W1 + W2 - 1) x (H1 + H2 - 1)         all that is not 0
+ *     Valid   (|W1 - W2| + 1) x (|H1 - H2| + 1)     what is made of the whole smaller image; pDst begins with the
+ *                                                   element (w - 1, h - 1) of the full form, w x h the smaller size
+ *
+ * The valid form wants one image to be at least as wide and as high as the other, which is called the kernel here; the
+ * full form takes any two images. The channels of C3 are convolved one by one; AC4 does so for three, and leaves the
+ * fourth element of the destination as it is.
+ *
+ * **Whole numbers.** In 8u and 16s, the sum of the products is limited to 32 bits and divided by `divisor`:
+ *
+ *     a power of two from 2 on   to nearest, halves up
+ *     others                     S r, with r = 1 / divisor in single precision, to nearest, ties to even
+ *
+ * and then saturated. A negative divisor changes the sign. An example, with a kernel of ones: divisor = w h is the
+ * mean.
+ *
+ * **Methods**, which decide how exact a result is:
+ *
+ *     valid, w h < 144                        vemiFilter, whose arithmetic it is: in 8u the sums are exact, in 16s the
+ *                                             kernel's pixels are multiplied by r, and sums are floats, ties to even
+ *     valid, else, fewer than 49 results      sums in double precision: those of whole numbers are exact
+ *     all others                              Fourier transforms of tiles, in single precision: the error of a sum is
+ *                                             about 1e-7 of the product of the norms of kernel and tile, whose sides
+ * are about two to eight times those of the kernel; 8u and 16s sums are rounded to whole numbers before they are
+ * divided
+ *
+ * @param pSrc1,src1Step,src1Size  first pixel of one image, the bytes between its rows, its size in pixels
+ * @param pSrc2,src2Step,src2Size  the same of the other image
+ * @param pDst,dstStep             the same of the destination, which has the size that is said above
+ * @param divisor                  8u and 16s: what sums are divided by, not 0
+ *
+ * **Overlap.** The sources may be the same or overlap in any way, and so may their rows; the destination lies outside
+ * of them.
+ *
+ * **Statuses**, in the order of the tests: null; size; step; vemiErrDivisor for a divisor of 0; vemiErrSize in the
+ * valid form where neither image holds the other; vemiErrFftOrder for a kernel of more than 2^29 pixels across or down;
+ * vemiErrMemAlloc where working memory cannot be had. Nothing is written then.
+ *
+ * **Threads.** All forms share their work among a team, but for fewer than 49 results. Results do not depend on it.
+ *
+ *     vemiConvValid_32f_C1R(photo, photoStep, {640, 480}, disc, discStep, {31, 31}, blurred, blurredStep);  // 610 x
+ * 450
+ * @{
+ */
+
+VEMI_API VemiStatus vemiConvFull_32f_C1R(const Vemi32f* pSrc1, int src1Step, VemiSize src1Size, const Vemi32f* pSrc2,
+                                         int src2Step, VemiSize src2Size, Vemi32f* pDst, int dstStep);
+VEMI_API VemiStatus vemiConvFull_32f_C3R(const Vemi32f* pSrc1, int src1Step, VemiSize src1Size, const Vemi32f* pSrc2,
+                                         int src2Step, VemiSize src2Size, Vemi32f* pDst, int dstStep);
+VEMI_API VemiStatus vemiConvFull_32f_AC4R(const Vemi32f* pSrc1, int src1Step, VemiSize src1Size, const Vemi32f* pSrc2,
+                                          int src2Step, VemiSize src2Size, Vemi32f* pDst, int dstStep);
+
+VEMI_API VemiStatus vemiConvFull_8u_C1R(const Vemi8u* pSrc1, int src1Step, VemiSize src1Size, const Vemi8u* pSrc2,
+                                        int src2Step, VemiSize src2Size, Vemi8u* pDst, int dstStep, int divisor);
+VEMI_API VemiStatus vemiConvFull_8u_C3R(const Vemi8u* pSrc1, int src1Step, VemiSize src1Size, const Vemi8u* pSrc2,
+                                        int src2Step, VemiSize src2Size, Vemi8u* pDst, int dstStep, int divisor);
+VEMI_API VemiStatus vemiConvFull_8u_AC4R(const Vemi8u* pSrc1, int src1Step, VemiSize src1Size, const Vemi8u* pSrc2,
+                                         int src2Step, VemiSize src2Size, Vemi8u* pDst, int dstStep, int divisor);
+
+VEMI_API VemiStatus vemiConvFull_16s_C1R(const Vemi16s* pSrc1, int src1Step, VemiSize src1Size, const Vemi16s* pSrc2,
+                                         int src2Step, VemiSize src2Size, Vemi16s* pDst, int dstStep, int divisor);
+VEMI_API VemiStatus vemiConvFull_16s_C3R(const Vemi16s* pSrc1, int src1Step, VemiSize src1Size, const Vemi16s* pSrc2,
+                                         int src2Step, VemiSize src2Size, Vemi16s* pDst, int dstStep, int divisor);
+VEMI_API VemiStatus vemiConvFull_16s_AC4R(const Vemi16s* pSrc1, int src1Step, VemiSize src1Size, const Vemi16s* pSrc2,
+                                          int src2Step, VemiSize src2Size, Vemi16s* pDst, int dstStep, int divisor);
+
+VEMI_API VemiStatus vemiConvValid_32f_C1R(const Vemi32f* pSrc1, int src1Step, VemiSize src1Size, const Vemi32f* pSrc2,
+                                          int src2Step, VemiSize src2Size, Vemi32f* pDst, int dstStep);
+VEMI_API VemiStatus vemiConvValid_32f_C3R(const Vemi32f* pSrc1, int src1Step, VemiSize src1Size, const Vemi32f* pSrc2,
+                                          int src2Step, VemiSize src2Size, Vemi32f* pDst, int dstStep);
+VEMI_API VemiStatus vemiConvValid_32f_AC4R(const Vemi32f* pSrc1, int src1Step, VemiSize src1Size, const Vemi32f* pSrc2,
+                                           int src2Step, VemiSize src2Size, Vemi32f* pDst, int dstStep);
+
+VEMI_API VemiStatus vemiConvValid_8u_C1R(const Vemi8u* pSrc1, int src1Step, VemiSize src1Size, const Vemi8u* pSrc2,
+                                         int src2Step, VemiSize src2Size, Vemi8u* pDst, int dstStep, int divisor);
+VEMI_API VemiStatus vemiConvValid_8u_C3R(const Vemi8u* pSrc1, int src1Step, VemiSize src1Size, const Vemi8u* pSrc2,
+                                         int src2Step, VemiSize src2Size, Vemi8u* pDst, int dstStep, int divisor);
+VEMI_API VemiStatus vemiConvValid_8u_AC4R(const Vemi8u* pSrc1, int src1Step, VemiSize src1Size, const Vemi8u* pSrc2,
+                                          int src2Step, VemiSize src2Size, Vemi8u* pDst, int dstStep, int divisor);
+
+VEMI_API VemiStatus vemiConvValid_16s_C1R(const Vemi16s* pSrc1, int src1Step, VemiSize src1Size, const Vemi16s* pSrc2,
+                                          int src2Step, VemiSize src2Size, Vemi16s* pDst, int dstStep, int divisor);
+VEMI_API VemiStatus vemiConvValid_16s_C3R(const Vemi16s* pSrc1, int src1Step, VemiSize src1Size, const Vemi16s* pSrc2,
+                                          int src2Step, VemiSize src2Size, Vemi16s* pDst, int dstStep, int divisor);
+VEMI_API VemiStatus vemiConvValid_16s_AC4R(const Vemi16s* pSrc1, int src1Step, VemiSize src1Size, const Vemi16s* pSrc2,
+                                           int src2Step, VemiSize src2Size, Vemi16s* pDst, int dstStep, int divisor);
+
+/** @} */
+
 /** @} */
 
 #ifdef __cplusplus

@@ -7,6 +7,7 @@
 #include <cmath>
 #include <vector>
 
+#include "measure/plane.h"
 #include "support/check.h"
 #include "vemi/measure.h"
 
@@ -15,21 +16,6 @@ using namespace vemi::test;
 namespace {
 
 bool has(const Call& call, const char* word) { return call.function.name.find(word) != std::string::npos; }
-
-/// A channel as doubles; what is outside of it is 0.
-struct Plane {
-  int width, height;
-  std::vector<double> pixel;
-
-  Plane(const View& view, int channel) : width(view.size.width), height(view.size.height) {
-    for (int y = 0; y < height; ++y) {
-      for (int x = 0; x < width; ++x) pixel.push_back(loadNumber(view.element, view.at(x, y, channel)));
-    }
-  }
-  double at(int x, int y) const {
-    return x < 0 || y < 0 || x >= width || y >= height ? 0 : pixel[static_cast<size_t>(y) * width + x];
-  }
-};
 
 struct Sums {
   double ofProducts = 0, ofSquares = 0, ofValues = 0;
@@ -58,7 +44,7 @@ void matched(Call& call) {
     const int n = tpl.width * tpl.height;
     const int padX = isFull ? tpl.width - 1 : isSame ? tpl.width / 2 : 0;
     const int padY = isFull ? tpl.height - 1 : isSame ? tpl.height / 2 : 0;
-    const Sums ofTemplate = sumsAt(tpl, tpl, 0, 0, 0), ofImage = sumsAt(image, image, 0, 0, 0);
+    const Sums ofTemplate = sumsAt(tpl, tpl, 0, 0, 0);
     const double norm = std::sqrt(ofTemplate.ofSquares), mean = ofTemplate.ofValues / n;
     const double deviations = std::max(ofTemplate.ofSquares - mean * n * mean, floor);
     for (int y = 0; y < destination.size.height; ++y) {
@@ -72,7 +58,7 @@ void matched(Call& call) {
             numerator / (isLevel ? std::sqrt(deviations * energy) : std::max(norm, floor) * std::sqrt(energy));
         store(destination.at(x, y, channel), static_cast<float>(result));
         // Products are off by their share of both norms, energies by some units of the sums that they are made of.
-        const double off = std::sqrt(ofImage.ofSquares / energy) + sums.ofSquares / energy;
+        const double off = std::sqrt(image.energy / energy) + sums.ofSquares / energy;
         call.tolerance = std::max(call.tolerance, 4e-7 * off);
       }
     }

@@ -242,6 +242,47 @@ void moderateFloats(Call& call) {
 
 // ---- Convolution of images ------------------------------------------------------------------------------------------
 
+/// An image and a part of it, either way round.
+void setOperands(Call& call) {
+  const VemiSize image = call.scenario.roiSize;
+  const VemiSize kernel = {partOf(call, image.width), partOf(call, image.height)};
+  const bool isSwapped = call.random.below(3) == 0;
+  const VemiSize first = isSwapped ? kernel : image, second = isSwapped ? image : kernel;
+  call.set("src1Size", first);
+  call.set("src2Size", second);
+  call.image("pSrc1").size = first;
+  call.image("pSrc2").size = second;
+  const bool isFull = call.function.name.find("Full") != std::string::npos;
+  call.image("pDst").size = isFull ? VemiSize{image.width + kernel.width - 1, image.height + kernel.height - 1}
+                                   : VemiSize{image.width - kernel.width + 1, image.height - kernel.height + 1};
+  if (call.function.indexOf("divisor") < 0) return;
+  static const int divisors[] = {1, 2, 3, -7, 64, 99};
+  call.set("divisor", divisors[call.random.below(6)]);
+}
+
+/// Of the valid form: images of which neither holds the other.
+bool crossingImages(Call& call) {
+  const VemiSize other = call.get<VemiSize>("src2Size");
+  if (call.function.name.find("Full") != std::string::npos || other.width < 2) return false;
+  call.set("src1Size", VemiSize{other.width - 1, other.height + 1});
+  return true;
+}
+
+/// Whole numbers whose sums of products are whole numbers in single precision.
+void moderateNumbers(Call& call) {
+  for (int n = 0; n < 2; ++n) {
+    const View source = call.source(n);
+    for (int y = 0; y < source.size.height; ++y) {
+      for (int x = 0; x < source.size.width; ++x) {
+        for (int channel = 0; channel < source.channels; ++channel) {
+          const int number = call.random.below(31);
+          storeNumber(source.element, source.at(x, y, channel), source.element == Element::s16 ? number - 12 : number);
+        }
+      }
+    }
+  }
+}
+
 }  // namespace
 
 std::vector<Family> measureFamilies() {
@@ -311,7 +352,18 @@ std::vector<Family> measureFamilies() {
        {{"tplRoiSize", 100000, "size", vemiErrSize}, {"tplRoiSize", INT_MAX, "size", vemiErrSize}},
        moderateFloats},
 
-      // Convolution of images
+      {"vemiConvFull vemiConvValid",
+       "32f_.*",
+       "null size step result",
+       setOperands,
+       {{"src1Size", 0, "result", vemiErrSize, crossingImages}},
+       moderateFloats},
+      {"vemiConvFull vemiConvValid",
+       ".*",
+       "null size step divisor result",
+       setOperands,
+       {{"divisor", 0, "divisor", vemiErrDivisor}, {"src1Size", 0, "result", vemiErrSize, crossingImages}},
+       moderateNumbers},
 
   };
 }
