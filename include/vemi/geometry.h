@@ -762,7 +762,347 @@ VEMI_API VemiStatus vemiGetAffineBound(VemiRect srcRoi, double bound[2][2], cons
 VEMI_API VemiStatus vemiGetAffineTransform(VemiRect srcRoi, const double quad[4][2], double coeffs[2][3]);
 /** @} */
 
-/* ---- Perspective and bilinear warps ---- */
+/* ---- Perspective and bilinear warps ------------------------------------------------------------------------------ */
+
+/**
+ * @defgroup vemi_geometry_quad Perspective and bilinear warps
+ *
+ * Maps with which a rectangle becomes any convex quadrangle: as a photograph shows a page that is seen from the side,
+ * whose straight lines stay straight; or bilinear, by which only the lines along x and y do.
+ *
+ *     perspective   x' = (c00 x + c01 y + c02) / z,  y' = (c10 x + c11 y + c12) / z,  z = c20 x + c21 y + c22
+ *     bilinear      x' = c00 x y + c01 x + c02 y + c03,  y' = c10 x y + c11 x + c12 y + c13
+ *
+ *     function                    map
+ *     vemiWarpPerspective         coeffs, from the source to the destination
+ *     vemiWarpPerspectiveBack     coeffs lead from the destination to the source
+ *     vemiWarpPerspectiveQuad     the perspective map of srcQuad's four corners to those of dstQuad
+ *     vemiWarpBilinear            coeffs, from the source to the destination
+ *     vemiWarpBilinearBack        coeffs lead from the destination to the source
+ *     vemiWarpBilinearQuad        srcQuad to the unit square and on to dstQuad, each by its bilinear map
+ *
+ * Images, regions, interpolations, smooth edges and quadrangles are those of the affine warps: the pixels of dstRoi
+ * whose middles lie in the quadrangle that the map makes of the source region, or in dstQuad, get what the map fetches
+ * from the source, no other byte is written, and nothing outside of the source image is read. The `Quad` forms fetch
+ * nothing from outside of the source region. What vemiWarpBilinearBack fetches has curved edges in the destination:
+ * there, all pixels of dstRoi whose places lie in the source region are written.
+ *
+ * **Places** are computed in doubles and rounded to floats. Perspective: the numerators and z of pixel i of a span are
+ * those of its first pixel and i times c00, c10 and c20 of the inverse map. Bilinear forward maps are solved for each
+ * pixel, by the root that lies in the source region; vemiWarpBilinearBack takes x + i (c00 y' + c01), and y likewise.
+ *
+ * The calling thread does the work, without memory of its own, whatever rounding mode it has set.
+ *
+ *     const double page[4][2] = {{112, 40}, {601, 78}, {640, 803}, {71, 777}};  // as the photograph shows it
+ *     const double sheet[4][2] = {{0, 0}, {w - 1, 0}, {w - 1, h - 1}, {0, h - 1}};
+ *     vemiWarpPerspectiveQuad_8u_C3R(src, srcSize, srcStep, whole, page, dst, dstStep, (VemiRect){0, 0, w, h}, sheet,
+ *                                    vemiInterCubic);
+ *
+ * @param pSrc,srcSize,srcStep,srcRoi  the source: first pixel, size in pixels, bytes between rows, region
+ * @param pDst,dstStep,dstRoi          the destination: first pixel, bytes between rows, region
+ * @param coeffs                       three rows of three coefficients; two of four
+ * @param srcQuad,dstQuad              four corners (x, y) each
+ * @param interpolation                nearest, linear or cubic, with or without vemiSmoothEdge
+ * @return The first of these that applies:
+ * - a null pointer: vemiErrNullPtr; null planes are found behind the interpolation
+ * - srcSize, srcRoi or dstRoi has a width or height below 1, or a region a negative position: vemiErrSize
+ * - a step below 1: vemiErrStep
+ * - another interpolation: vemiErrInterpolation
+ * - perspective maps by coeffs: c00 c11 - c01 c10 is 0 but for rounding (1e-12 of c00 c11), or |c22| at most 1e-12;
+ *   vemiWarpBilinearBack: c01 c12 - c02 c11 is 0 but for rounding: vemiErrQuad. `Quad` forms: a quadrangle that is
+ *   degenerate or not convex: vemiErrCoeff
+ * - the source region begins beyond the image: vemiWarnNoIntersection
+ * - less than two columns or rows of it lie in the image: vemiErrRect
+ * - the map makes a degenerate quadrangle of it, or one that is not convex, or coefficients are no numbers (not looked
+ *   for by vemiWarpBilinearBack): vemiErrQuad
+ * - the quadrangle misses dstRoi, or srcQuad the source region: vemiWarnQuadIntersection, but vemiOk of `Back` forms
+ *
+ * Nothing is written in any of these cases.
+ * @{
+ */
+VEMI_API VemiStatus vemiWarpPerspective_8u_C1R(const Vemi8u* pSrc, VemiSize srcSize, int srcStep, VemiRect srcRoi,
+                                               Vemi8u* pDst, int dstStep, VemiRect dstRoi, const double coeffs[3][3],
+                                               vemiInterpolation interpolation);
+VEMI_API VemiStatus vemiWarpPerspective_8u_C3R(const Vemi8u* pSrc, VemiSize srcSize, int srcStep, VemiRect srcRoi,
+                                               Vemi8u* pDst, int dstStep, VemiRect dstRoi, const double coeffs[3][3],
+                                               vemiInterpolation interpolation);
+VEMI_API VemiStatus vemiWarpPerspective_8u_C4R(const Vemi8u* pSrc, VemiSize srcSize, int srcStep, VemiRect srcRoi,
+                                               Vemi8u* pDst, int dstStep, VemiRect dstRoi, const double coeffs[3][3],
+                                               vemiInterpolation interpolation);
+VEMI_API VemiStatus vemiWarpPerspective_8u_AC4R(const Vemi8u* pSrc, VemiSize srcSize, int srcStep, VemiRect srcRoi,
+                                                Vemi8u* pDst, int dstStep, VemiRect dstRoi, const double coeffs[3][3],
+                                                vemiInterpolation interpolation);
+VEMI_API VemiStatus vemiWarpPerspective_8u_P3R(const Vemi8u* const pSrc[3], VemiSize srcSize, int srcStep,
+                                               VemiRect srcRoi, Vemi8u* const pDst[3], int dstStep, VemiRect dstRoi,
+                                               const double coeffs[3][3], vemiInterpolation interpolation);
+VEMI_API VemiStatus vemiWarpPerspective_8u_P4R(const Vemi8u* const pSrc[4], VemiSize srcSize, int srcStep,
+                                               VemiRect srcRoi, Vemi8u* const pDst[4], int dstStep, VemiRect dstRoi,
+                                               const double coeffs[3][3], vemiInterpolation interpolation);
+VEMI_API VemiStatus vemiWarpPerspective_32f_C1R(const Vemi32f* pSrc, VemiSize srcSize, int srcStep, VemiRect srcRoi,
+                                                Vemi32f* pDst, int dstStep, VemiRect dstRoi, const double coeffs[3][3],
+                                                vemiInterpolation interpolation);
+VEMI_API VemiStatus vemiWarpPerspective_32f_C3R(const Vemi32f* pSrc, VemiSize srcSize, int srcStep, VemiRect srcRoi,
+                                                Vemi32f* pDst, int dstStep, VemiRect dstRoi, const double coeffs[3][3],
+                                                vemiInterpolation interpolation);
+VEMI_API VemiStatus vemiWarpPerspective_32f_C4R(const Vemi32f* pSrc, VemiSize srcSize, int srcStep, VemiRect srcRoi,
+                                                Vemi32f* pDst, int dstStep, VemiRect dstRoi, const double coeffs[3][3],
+                                                vemiInterpolation interpolation);
+VEMI_API VemiStatus vemiWarpPerspective_32f_AC4R(const Vemi32f* pSrc, VemiSize srcSize, int srcStep, VemiRect srcRoi,
+                                                 Vemi32f* pDst, int dstStep, VemiRect dstRoi, const double coeffs[3][3],
+                                                 vemiInterpolation interpolation);
+VEMI_API VemiStatus vemiWarpPerspective_32f_P3R(const Vemi32f* const pSrc[3], VemiSize srcSize, int srcStep,
+                                                VemiRect srcRoi, Vemi32f* const pDst[3], int dstStep, VemiRect dstRoi,
+                                                const double coeffs[3][3], vemiInterpolation interpolation);
+VEMI_API VemiStatus vemiWarpPerspective_32f_P4R(const Vemi32f* const pSrc[4], VemiSize srcSize, int srcStep,
+                                                VemiRect srcRoi, Vemi32f* const pDst[4], int dstStep, VemiRect dstRoi,
+                                                const double coeffs[3][3], vemiInterpolation interpolation);
+
+VEMI_API VemiStatus vemiWarpPerspectiveBack_8u_C1R(const Vemi8u* pSrc, VemiSize srcSize, int srcStep, VemiRect srcRoi,
+                                                   Vemi8u* pDst, int dstStep, VemiRect dstRoi,
+                                                   const double coeffs[3][3], vemiInterpolation interpolation);
+VEMI_API VemiStatus vemiWarpPerspectiveBack_8u_C3R(const Vemi8u* pSrc, VemiSize srcSize, int srcStep, VemiRect srcRoi,
+                                                   Vemi8u* pDst, int dstStep, VemiRect dstRoi,
+                                                   const double coeffs[3][3], vemiInterpolation interpolation);
+VEMI_API VemiStatus vemiWarpPerspectiveBack_8u_C4R(const Vemi8u* pSrc, VemiSize srcSize, int srcStep, VemiRect srcRoi,
+                                                   Vemi8u* pDst, int dstStep, VemiRect dstRoi,
+                                                   const double coeffs[3][3], vemiInterpolation interpolation);
+VEMI_API VemiStatus vemiWarpPerspectiveBack_8u_AC4R(const Vemi8u* pSrc, VemiSize srcSize, int srcStep, VemiRect srcRoi,
+                                                    Vemi8u* pDst, int dstStep, VemiRect dstRoi,
+                                                    const double coeffs[3][3], vemiInterpolation interpolation);
+VEMI_API VemiStatus vemiWarpPerspectiveBack_8u_P3R(const Vemi8u* const pSrc[3], VemiSize srcSize, int srcStep,
+                                                   VemiRect srcRoi, Vemi8u* const pDst[3], int dstStep, VemiRect dstRoi,
+                                                   const double coeffs[3][3], vemiInterpolation interpolation);
+VEMI_API VemiStatus vemiWarpPerspectiveBack_8u_P4R(const Vemi8u* const pSrc[4], VemiSize srcSize, int srcStep,
+                                                   VemiRect srcRoi, Vemi8u* const pDst[4], int dstStep, VemiRect dstRoi,
+                                                   const double coeffs[3][3], vemiInterpolation interpolation);
+VEMI_API VemiStatus vemiWarpPerspectiveBack_32f_C1R(const Vemi32f* pSrc, VemiSize srcSize, int srcStep, VemiRect srcRoi,
+                                                    Vemi32f* pDst, int dstStep, VemiRect dstRoi,
+                                                    const double coeffs[3][3], vemiInterpolation interpolation);
+VEMI_API VemiStatus vemiWarpPerspectiveBack_32f_C3R(const Vemi32f* pSrc, VemiSize srcSize, int srcStep, VemiRect srcRoi,
+                                                    Vemi32f* pDst, int dstStep, VemiRect dstRoi,
+                                                    const double coeffs[3][3], vemiInterpolation interpolation);
+VEMI_API VemiStatus vemiWarpPerspectiveBack_32f_C4R(const Vemi32f* pSrc, VemiSize srcSize, int srcStep, VemiRect srcRoi,
+                                                    Vemi32f* pDst, int dstStep, VemiRect dstRoi,
+                                                    const double coeffs[3][3], vemiInterpolation interpolation);
+VEMI_API VemiStatus vemiWarpPerspectiveBack_32f_AC4R(const Vemi32f* pSrc, VemiSize srcSize, int srcStep,
+                                                     VemiRect srcRoi, Vemi32f* pDst, int dstStep, VemiRect dstRoi,
+                                                     const double coeffs[3][3], vemiInterpolation interpolation);
+VEMI_API VemiStatus vemiWarpPerspectiveBack_32f_P3R(const Vemi32f* const pSrc[3], VemiSize srcSize, int srcStep,
+                                                    VemiRect srcRoi, Vemi32f* const pDst[3], int dstStep,
+                                                    VemiRect dstRoi, const double coeffs[3][3],
+                                                    vemiInterpolation interpolation);
+VEMI_API VemiStatus vemiWarpPerspectiveBack_32f_P4R(const Vemi32f* const pSrc[4], VemiSize srcSize, int srcStep,
+                                                    VemiRect srcRoi, Vemi32f* const pDst[4], int dstStep,
+                                                    VemiRect dstRoi, const double coeffs[3][3],
+                                                    vemiInterpolation interpolation);
+
+VEMI_API VemiStatus vemiWarpPerspectiveQuad_8u_C1R(const Vemi8u* pSrc, VemiSize srcSize, int srcStep, VemiRect srcRoi,
+                                                   const double srcQuad[4][2], Vemi8u* pDst, int dstStep,
+                                                   VemiRect dstRoi, const double dstQuad[4][2],
+                                                   vemiInterpolation interpolation);
+VEMI_API VemiStatus vemiWarpPerspectiveQuad_8u_C3R(const Vemi8u* pSrc, VemiSize srcSize, int srcStep, VemiRect srcRoi,
+                                                   const double srcQuad[4][2], Vemi8u* pDst, int dstStep,
+                                                   VemiRect dstRoi, const double dstQuad[4][2],
+                                                   vemiInterpolation interpolation);
+VEMI_API VemiStatus vemiWarpPerspectiveQuad_8u_C4R(const Vemi8u* pSrc, VemiSize srcSize, int srcStep, VemiRect srcRoi,
+                                                   const double srcQuad[4][2], Vemi8u* pDst, int dstStep,
+                                                   VemiRect dstRoi, const double dstQuad[4][2],
+                                                   vemiInterpolation interpolation);
+VEMI_API VemiStatus vemiWarpPerspectiveQuad_8u_AC4R(const Vemi8u* pSrc, VemiSize srcSize, int srcStep, VemiRect srcRoi,
+                                                    const double srcQuad[4][2], Vemi8u* pDst, int dstStep,
+                                                    VemiRect dstRoi, const double dstQuad[4][2],
+                                                    vemiInterpolation interpolation);
+VEMI_API VemiStatus vemiWarpPerspectiveQuad_8u_P3R(const Vemi8u* const pSrc[3], VemiSize srcSize, int srcStep,
+                                                   VemiRect srcRoi, const double srcQuad[4][2], Vemi8u* const pDst[3],
+                                                   int dstStep, VemiRect dstRoi, const double dstQuad[4][2],
+                                                   vemiInterpolation interpolation);
+VEMI_API VemiStatus vemiWarpPerspectiveQuad_8u_P4R(const Vemi8u* const pSrc[4], VemiSize srcSize, int srcStep,
+                                                   VemiRect srcRoi, const double srcQuad[4][2], Vemi8u* const pDst[4],
+                                                   int dstStep, VemiRect dstRoi, const double dstQuad[4][2],
+                                                   vemiInterpolation interpolation);
+VEMI_API VemiStatus vemiWarpPerspectiveQuad_32f_C1R(const Vemi32f* pSrc, VemiSize srcSize, int srcStep, VemiRect srcRoi,
+                                                    const double srcQuad[4][2], Vemi32f* pDst, int dstStep,
+                                                    VemiRect dstRoi, const double dstQuad[4][2],
+                                                    vemiInterpolation interpolation);
+VEMI_API VemiStatus vemiWarpPerspectiveQuad_32f_C3R(const Vemi32f* pSrc, VemiSize srcSize, int srcStep, VemiRect srcRoi,
+                                                    const double srcQuad[4][2], Vemi32f* pDst, int dstStep,
+                                                    VemiRect dstRoi, const double dstQuad[4][2],
+                                                    vemiInterpolation interpolation);
+VEMI_API VemiStatus vemiWarpPerspectiveQuad_32f_C4R(const Vemi32f* pSrc, VemiSize srcSize, int srcStep, VemiRect srcRoi,
+                                                    const double srcQuad[4][2], Vemi32f* pDst, int dstStep,
+                                                    VemiRect dstRoi, const double dstQuad[4][2],
+                                                    vemiInterpolation interpolation);
+VEMI_API VemiStatus vemiWarpPerspectiveQuad_32f_AC4R(const Vemi32f* pSrc, VemiSize srcSize, int srcStep,
+                                                     VemiRect srcRoi, const double srcQuad[4][2], Vemi32f* pDst,
+                                                     int dstStep, VemiRect dstRoi, const double dstQuad[4][2],
+                                                     vemiInterpolation interpolation);
+VEMI_API VemiStatus vemiWarpPerspectiveQuad_32f_P3R(const Vemi32f* const pSrc[3], VemiSize srcSize, int srcStep,
+                                                    VemiRect srcRoi, const double srcQuad[4][2], Vemi32f* const pDst[3],
+                                                    int dstStep, VemiRect dstRoi, const double dstQuad[4][2],
+                                                    vemiInterpolation interpolation);
+VEMI_API VemiStatus vemiWarpPerspectiveQuad_32f_P4R(const Vemi32f* const pSrc[4], VemiSize srcSize, int srcStep,
+                                                    VemiRect srcRoi, const double srcQuad[4][2], Vemi32f* const pDst[4],
+                                                    int dstStep, VemiRect dstRoi, const double dstQuad[4][2],
+                                                    vemiInterpolation interpolation);
+
+VEMI_API VemiStatus vemiWarpBilinear_8u_C1R(const Vemi8u* pSrc, VemiSize srcSize, int srcStep, VemiRect srcRoi,
+                                            Vemi8u* pDst, int dstStep, VemiRect dstRoi, const double coeffs[2][4],
+                                            vemiInterpolation interpolation);
+VEMI_API VemiStatus vemiWarpBilinear_8u_C3R(const Vemi8u* pSrc, VemiSize srcSize, int srcStep, VemiRect srcRoi,
+                                            Vemi8u* pDst, int dstStep, VemiRect dstRoi, const double coeffs[2][4],
+                                            vemiInterpolation interpolation);
+VEMI_API VemiStatus vemiWarpBilinear_8u_C4R(const Vemi8u* pSrc, VemiSize srcSize, int srcStep, VemiRect srcRoi,
+                                            Vemi8u* pDst, int dstStep, VemiRect dstRoi, const double coeffs[2][4],
+                                            vemiInterpolation interpolation);
+VEMI_API VemiStatus vemiWarpBilinear_8u_AC4R(const Vemi8u* pSrc, VemiSize srcSize, int srcStep, VemiRect srcRoi,
+                                             Vemi8u* pDst, int dstStep, VemiRect dstRoi, const double coeffs[2][4],
+                                             vemiInterpolation interpolation);
+VEMI_API VemiStatus vemiWarpBilinear_8u_P3R(const Vemi8u* const pSrc[3], VemiSize srcSize, int srcStep, VemiRect srcRoi,
+                                            Vemi8u* const pDst[3], int dstStep, VemiRect dstRoi,
+                                            const double coeffs[2][4], vemiInterpolation interpolation);
+VEMI_API VemiStatus vemiWarpBilinear_8u_P4R(const Vemi8u* const pSrc[4], VemiSize srcSize, int srcStep, VemiRect srcRoi,
+                                            Vemi8u* const pDst[4], int dstStep, VemiRect dstRoi,
+                                            const double coeffs[2][4], vemiInterpolation interpolation);
+VEMI_API VemiStatus vemiWarpBilinear_32f_C1R(const Vemi32f* pSrc, VemiSize srcSize, int srcStep, VemiRect srcRoi,
+                                             Vemi32f* pDst, int dstStep, VemiRect dstRoi, const double coeffs[2][4],
+                                             vemiInterpolation interpolation);
+VEMI_API VemiStatus vemiWarpBilinear_32f_C3R(const Vemi32f* pSrc, VemiSize srcSize, int srcStep, VemiRect srcRoi,
+                                             Vemi32f* pDst, int dstStep, VemiRect dstRoi, const double coeffs[2][4],
+                                             vemiInterpolation interpolation);
+VEMI_API VemiStatus vemiWarpBilinear_32f_C4R(const Vemi32f* pSrc, VemiSize srcSize, int srcStep, VemiRect srcRoi,
+                                             Vemi32f* pDst, int dstStep, VemiRect dstRoi, const double coeffs[2][4],
+                                             vemiInterpolation interpolation);
+VEMI_API VemiStatus vemiWarpBilinear_32f_AC4R(const Vemi32f* pSrc, VemiSize srcSize, int srcStep, VemiRect srcRoi,
+                                              Vemi32f* pDst, int dstStep, VemiRect dstRoi, const double coeffs[2][4],
+                                              vemiInterpolation interpolation);
+VEMI_API VemiStatus vemiWarpBilinear_32f_P3R(const Vemi32f* const pSrc[3], VemiSize srcSize, int srcStep,
+                                             VemiRect srcRoi, Vemi32f* const pDst[3], int dstStep, VemiRect dstRoi,
+                                             const double coeffs[2][4], vemiInterpolation interpolation);
+VEMI_API VemiStatus vemiWarpBilinear_32f_P4R(const Vemi32f* const pSrc[4], VemiSize srcSize, int srcStep,
+                                             VemiRect srcRoi, Vemi32f* const pDst[4], int dstStep, VemiRect dstRoi,
+                                             const double coeffs[2][4], vemiInterpolation interpolation);
+
+VEMI_API VemiStatus vemiWarpBilinearBack_8u_C1R(const Vemi8u* pSrc, VemiSize srcSize, int srcStep, VemiRect srcRoi,
+                                                Vemi8u* pDst, int dstStep, VemiRect dstRoi, const double coeffs[2][4],
+                                                vemiInterpolation interpolation);
+VEMI_API VemiStatus vemiWarpBilinearBack_8u_C3R(const Vemi8u* pSrc, VemiSize srcSize, int srcStep, VemiRect srcRoi,
+                                                Vemi8u* pDst, int dstStep, VemiRect dstRoi, const double coeffs[2][4],
+                                                vemiInterpolation interpolation);
+VEMI_API VemiStatus vemiWarpBilinearBack_8u_C4R(const Vemi8u* pSrc, VemiSize srcSize, int srcStep, VemiRect srcRoi,
+                                                Vemi8u* pDst, int dstStep, VemiRect dstRoi, const double coeffs[2][4],
+                                                vemiInterpolation interpolation);
+VEMI_API VemiStatus vemiWarpBilinearBack_8u_AC4R(const Vemi8u* pSrc, VemiSize srcSize, int srcStep, VemiRect srcRoi,
+                                                 Vemi8u* pDst, int dstStep, VemiRect dstRoi, const double coeffs[2][4],
+                                                 vemiInterpolation interpolation);
+VEMI_API VemiStatus vemiWarpBilinearBack_8u_P3R(const Vemi8u* const pSrc[3], VemiSize srcSize, int srcStep,
+                                                VemiRect srcRoi, Vemi8u* const pDst[3], int dstStep, VemiRect dstRoi,
+                                                const double coeffs[2][4], vemiInterpolation interpolation);
+VEMI_API VemiStatus vemiWarpBilinearBack_8u_P4R(const Vemi8u* const pSrc[4], VemiSize srcSize, int srcStep,
+                                                VemiRect srcRoi, Vemi8u* const pDst[4], int dstStep, VemiRect dstRoi,
+                                                const double coeffs[2][4], vemiInterpolation interpolation);
+VEMI_API VemiStatus vemiWarpBilinearBack_32f_C1R(const Vemi32f* pSrc, VemiSize srcSize, int srcStep, VemiRect srcRoi,
+                                                 Vemi32f* pDst, int dstStep, VemiRect dstRoi, const double coeffs[2][4],
+                                                 vemiInterpolation interpolation);
+VEMI_API VemiStatus vemiWarpBilinearBack_32f_C3R(const Vemi32f* pSrc, VemiSize srcSize, int srcStep, VemiRect srcRoi,
+                                                 Vemi32f* pDst, int dstStep, VemiRect dstRoi, const double coeffs[2][4],
+                                                 vemiInterpolation interpolation);
+VEMI_API VemiStatus vemiWarpBilinearBack_32f_C4R(const Vemi32f* pSrc, VemiSize srcSize, int srcStep, VemiRect srcRoi,
+                                                 Vemi32f* pDst, int dstStep, VemiRect dstRoi, const double coeffs[2][4],
+                                                 vemiInterpolation interpolation);
+VEMI_API VemiStatus vemiWarpBilinearBack_32f_AC4R(const Vemi32f* pSrc, VemiSize srcSize, int srcStep, VemiRect srcRoi,
+                                                  Vemi32f* pDst, int dstStep, VemiRect dstRoi,
+                                                  const double coeffs[2][4], vemiInterpolation interpolation);
+VEMI_API VemiStatus vemiWarpBilinearBack_32f_P3R(const Vemi32f* const pSrc[3], VemiSize srcSize, int srcStep,
+                                                 VemiRect srcRoi, Vemi32f* const pDst[3], int dstStep, VemiRect dstRoi,
+                                                 const double coeffs[2][4], vemiInterpolation interpolation);
+VEMI_API VemiStatus vemiWarpBilinearBack_32f_P4R(const Vemi32f* const pSrc[4], VemiSize srcSize, int srcStep,
+                                                 VemiRect srcRoi, Vemi32f* const pDst[4], int dstStep, VemiRect dstRoi,
+                                                 const double coeffs[2][4], vemiInterpolation interpolation);
+
+VEMI_API VemiStatus vemiWarpBilinearQuad_8u_C1R(const Vemi8u* pSrc, VemiSize srcSize, int srcStep, VemiRect srcRoi,
+                                                const double srcQuad[4][2], Vemi8u* pDst, int dstStep, VemiRect dstRoi,
+                                                const double dstQuad[4][2], vemiInterpolation interpolation);
+VEMI_API VemiStatus vemiWarpBilinearQuad_8u_C3R(const Vemi8u* pSrc, VemiSize srcSize, int srcStep, VemiRect srcRoi,
+                                                const double srcQuad[4][2], Vemi8u* pDst, int dstStep, VemiRect dstRoi,
+                                                const double dstQuad[4][2], vemiInterpolation interpolation);
+VEMI_API VemiStatus vemiWarpBilinearQuad_8u_C4R(const Vemi8u* pSrc, VemiSize srcSize, int srcStep, VemiRect srcRoi,
+                                                const double srcQuad[4][2], Vemi8u* pDst, int dstStep, VemiRect dstRoi,
+                                                const double dstQuad[4][2], vemiInterpolation interpolation);
+VEMI_API VemiStatus vemiWarpBilinearQuad_8u_AC4R(const Vemi8u* pSrc, VemiSize srcSize, int srcStep, VemiRect srcRoi,
+                                                 const double srcQuad[4][2], Vemi8u* pDst, int dstStep, VemiRect dstRoi,
+                                                 const double dstQuad[4][2], vemiInterpolation interpolation);
+VEMI_API VemiStatus vemiWarpBilinearQuad_8u_P3R(const Vemi8u* const pSrc[3], VemiSize srcSize, int srcStep,
+                                                VemiRect srcRoi, const double srcQuad[4][2], Vemi8u* const pDst[3],
+                                                int dstStep, VemiRect dstRoi, const double dstQuad[4][2],
+                                                vemiInterpolation interpolation);
+VEMI_API VemiStatus vemiWarpBilinearQuad_8u_P4R(const Vemi8u* const pSrc[4], VemiSize srcSize, int srcStep,
+                                                VemiRect srcRoi, const double srcQuad[4][2], Vemi8u* const pDst[4],
+                                                int dstStep, VemiRect dstRoi, const double dstQuad[4][2],
+                                                vemiInterpolation interpolation);
+VEMI_API VemiStatus vemiWarpBilinearQuad_32f_C1R(const Vemi32f* pSrc, VemiSize srcSize, int srcStep, VemiRect srcRoi,
+                                                 const double srcQuad[4][2], Vemi32f* pDst, int dstStep,
+                                                 VemiRect dstRoi, const double dstQuad[4][2],
+                                                 vemiInterpolation interpolation);
+VEMI_API VemiStatus vemiWarpBilinearQuad_32f_C3R(const Vemi32f* pSrc, VemiSize srcSize, int srcStep, VemiRect srcRoi,
+                                                 const double srcQuad[4][2], Vemi32f* pDst, int dstStep,
+                                                 VemiRect dstRoi, const double dstQuad[4][2],
+                                                 vemiInterpolation interpolation);
+VEMI_API VemiStatus vemiWarpBilinearQuad_32f_C4R(const Vemi32f* pSrc, VemiSize srcSize, int srcStep, VemiRect srcRoi,
+                                                 const double srcQuad[4][2], Vemi32f* pDst, int dstStep,
+                                                 VemiRect dstRoi, const double dstQuad[4][2],
+                                                 vemiInterpolation interpolation);
+VEMI_API VemiStatus vemiWarpBilinearQuad_32f_AC4R(const Vemi32f* pSrc, VemiSize srcSize, int srcStep, VemiRect srcRoi,
+                                                  const double srcQuad[4][2], Vemi32f* pDst, int dstStep,
+                                                  VemiRect dstRoi, const double dstQuad[4][2],
+                                                  vemiInterpolation interpolation);
+VEMI_API VemiStatus vemiWarpBilinearQuad_32f_P3R(const Vemi32f* const pSrc[3], VemiSize srcSize, int srcStep,
+                                                 VemiRect srcRoi, const double srcQuad[4][2], Vemi32f* const pDst[3],
+                                                 int dstStep, VemiRect dstRoi, const double dstQuad[4][2],
+                                                 vemiInterpolation interpolation);
+VEMI_API VemiStatus vemiWarpBilinearQuad_32f_P4R(const Vemi32f* const pSrc[4], VemiSize srcSize, int srcStep,
+                                                 VemiRect srcRoi, const double srcQuad[4][2], Vemi32f* const pDst[4],
+                                                 int dstStep, VemiRect dstRoi, const double dstQuad[4][2],
+                                                 vemiInterpolation interpolation);
+
+/** @} */
+
+/**
+ * @defgroup vemi_geometry_quad_queries Quadrangles of perspective and bilinear maps
+ *
+ * Where a map takes the corners of a rectangle, between the middles of its outermost pixels; the least and the greatest
+ * x and y of these; and the map that takes the rectangle to a quadrangle.
+ *
+ *     vemiGetPerspectiveQuad, vemiGetBilinearQuad              quad = the four corners' places
+ *     vemiGetPerspectiveBound, vemiGetBilinearBound            bound = {{least x, least y}, {greatest x, greatest y}}
+ *     vemiGetPerspectiveTransform, vemiGetBilinearTransform    coeffs of the map to quad
+ *
+ * With (x0, y0) to (x3, y3) the corners of quad, those of the rectangle from left to right and top to bottom,
+ * w = 1 / (right - left) and h = 1 / (bottom - top), the transforms are, in doubles:
+ *
+ *     perspective   dx1 = x1 - x2, dx2 = x3 - x2, dxs = x0 - x1 + x2 - x3, y likewise, D = 1 / (dx1 dy2 - dx2 dy1),
+ *                   g = (dxs dy2 - dx2 dys) D, k = (dx1 dys - dxs dy1) D;
+ *                   c00 = (x1 - x0 + g x1) w, c01 = (x3 - x0 + k x3) h, c02 = x0 - c00 left - c01 top, c10 to c12
+ *                   likewise, c20 = g w, c21 = k h, c22 = 1 - c20 left - c21 top
+ *     bilinear      c00 = -(x1 - x0 + x3 - x2) P, c01 = ((x1 - x0) bottom + (x3 - x2) top) P,
+ *                   c02 = ((x3 - x0) right - (x2 - x1) left) P, c03 = x0 - c01 left - c02 top - c00 left top, P = w h,
+ *                   c10 to c13 likewise
+ *
+ *     double coeffs[3][3];
+ *     vemiGetPerspectiveTransform((VemiRect){0, 0, 640, 480}, quad, coeffs);
+ *
+ * @return vemiErrSize, where the rectangle has a width or height below 1 or a negative position; vemiErrNullPtr; of a
+ *         quadrangle that is degenerate, crossed or not convex, vemiErrQuad, with nothing written by `Quad` queries and
+ *         with the bound written, or vemiErrCoeff of transforms; vemiErrRect of a transform of a rectangle with less
+ *         than two columns or rows: in this order.
+ * @{
+ */
+VEMI_API VemiStatus vemiGetPerspectiveQuad(VemiRect srcRoi, double quad[4][2], const double coeffs[3][3]);
+VEMI_API VemiStatus vemiGetPerspectiveBound(VemiRect srcRoi, double bound[2][2], const double coeffs[3][3]);
+VEMI_API VemiStatus vemiGetPerspectiveTransform(VemiRect srcRoi, const double quad[4][2], double coeffs[3][3]);
+VEMI_API VemiStatus vemiGetBilinearQuad(VemiRect srcRoi, double quad[4][2], const double coeffs[2][4]);
+VEMI_API VemiStatus vemiGetBilinearBound(VemiRect srcRoi, double bound[2][2], const double coeffs[2][4]);
+VEMI_API VemiStatus vemiGetBilinearTransform(VemiRect srcRoi, const double quad[4][2], double coeffs[2][4]);
+/** @} */
 
 /* ---- Maps of the user's ------------------------------------------------------------------------------------------ */
 

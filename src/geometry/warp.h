@@ -191,13 +191,14 @@ Images<T> imagesOf(Planes<T, count> planes) {
   return {{planes[0], planes[1], planes[2], planes[count - 1]}, count};
 }
 
-/// Fetches into the rows of destinations, with common coordinates.
-template <class T, class L>
+/// Fetches into the rows of destinations, with common coordinates. CoverageAt is Coverage, or what else gives the part
+/// of a pixel that counts as covered.
+template <class T, class L, class CoverageAt>
 struct Fetcher {
   FetchRow<T> fetch;
   FetchSource source[4];
   Images<T> dst;
-  const Coverage* coverage;  // null where edges are not smooth
+  const CoverageAt* coverage;  // null where edges are not smooth
 
   /// Of images whose first pixel is that of column 0, row 0.
   void run(Vemi64s row, Vemi64s column, ptrdiff_t count, const float* x, const float* y) const {
@@ -231,9 +232,9 @@ struct Fetcher {
 };
 
 /// The pixels of columns `first` to `last` of the row, parts of them at the ends mixed with what was there.
-template <class T, class L, class Generator>
-void warpSpan(const Fetcher<T, L>& fetcher, const Generator& generator, Vemi64s y, Vemi64s first, Vemi64s last,
-              PlaceArrays& places) {
+template <class T, class L, class CoverageAt, class Generator>
+void warpSpan(const Fetcher<T, L, CoverageAt>& fetcher, const Generator& generator, Vemi64s y, Vemi64s first,
+              Vemi64s last, PlaceArrays& places) {
   Vemi64s whole = first, end = last + 1;  // from `whole` to `end`, pixels are covered
   if (fetcher.coverage != nullptr) {
     const auto isWhole = [&](Vemi64s x) {
@@ -256,22 +257,29 @@ void warpSpan(const Fetcher<T, L>& fetcher, const Generator& generator, Vemi64s 
   pieces(end, last + 1, mixed);
 }
 
-/// The pixels of the destination that lie in a polygon, a part of the quadrangle: vemiWarnQuadIntersection where it
-/// does not meet the destination's region.
-template <class L, class T, class Generator>
-VemiStatus warp(const Images<const T>& src, const Images<T>& dst, const Regions& regions, const WarpSource& source,
-                const Quad& quad, const Polygon& polygon, const Generator& generator) {
+/// The pixels of the destination that lie in a polygon: vemiWarnQuadIntersection where it does not meet the
+/// destination's region.
+template <class L, class T, class Generator, class CoverageAt>
+VemiStatus warpWithin(const Images<const T>& src, const Images<T>& dst, const Regions& regions,
+                      const WarpSource& source, const Polygon& polygon, const Generator& generator,
+                      const CoverageAt& coverage) {
   Spans spans(polygon.clippedTo(regions.dst), regions.dst);
   if (spans.areEmpty()) return vemiWarnQuadIntersection;
   const auto from = [&](int n) { return FetchSource::of<L>(src.image[n], regions.srcSize, source.limits); };
-  const Coverage coverage(quad);
-  const Fetcher<T, L> fetcher = {fetchRow<T, L>(source.interpolation),
-                                 {from(0), from(1), from(2), from(3)},
-                                 dst,
-                                 source.hasSmoothEdge ? &coverage : nullptr};
+  const Fetcher<T, L, CoverageAt> fetcher = {fetchRow<T, L>(source.interpolation),
+                                             {from(0), from(1), from(2), from(3)},
+                                             dst,
+                                             source.hasSmoothEdge ? &coverage : nullptr};
   PlaceArrays places;
   while (spans.next()) warpSpan(fetcher, generator, spans.y, spans.first, spans.last, places);
   return vemiOk;
+}
+
+/// The same of a part of a quadrangle, whose edges may be smooth.
+template <class L, class T, class Generator>
+VemiStatus warp(const Images<const T>& src, const Images<T>& dst, const Regions& regions, const WarpSource& source,
+                const Quad& quad, const Polygon& polygon, const Generator& generator) {
+  return warpWithin<L>(src, dst, regions, source, polygon, generator, Coverage(quad));
 }
 
 }  // namespace vemi::geometry

@@ -74,6 +74,8 @@ struct ReferenceWarp {
   /// The source place of the pixel `i` columns behind the first one of its span.
   std::function<Spot(Spot first, double i)> placeOf;
   bool onlyRegion = false;  // coordinates stay in the region, whatever the interpolation
+  /// The covered part of a pixel, where the quadrangle does not tell it.
+  std::function<double(Spot)> coverage = {};
 };
 
 /// The status that the source region alone settles, and what is left of it.
@@ -94,15 +96,19 @@ inline int interpolationFor(Call& call) {
   return kind == vemiInterCubic && least < 4 ? vemiInterLinear : kind;
 }
 
-/// Mixes `fresh` into `old` by the coverage of the pixel.
-inline void mixElement(const View& image, const Corners& quad, Spot p, const std::byte* fresh, std::byte* old) {
-  if (std::memcmp(fresh, old, static_cast<size_t>(bytesOf(image.element))) == 0) return;
+inline double coverageBy(const Corners& quad, Spot p) {
   double covered = 1;
   for (size_t n = 0; n < 4; ++n) {
     const Spot a = quad[n], b = quad[(n + 1) % 4];
     const double longer = std::max(std::fabs(b.x - a.x), std::fabs(b.y - a.y));
     covered = std::min(covered, 0.5 + std::fabs(sideOf(a, b, p)) / longer);
   }
+  return covered;
+}
+
+/// Mixes `fresh` into `old` by the coverage of the pixel.
+inline void mixElement(const View& image, double covered, const std::byte* fresh, std::byte* old) {
+  if (std::memcmp(fresh, old, static_cast<size_t>(bytesOf(image.element))) == 0) return;
   if (covered >= 1) {
     std::memcpy(old, fresh, static_cast<size_t>(bytesOf(image.element)));
     return;
@@ -145,7 +151,8 @@ inline void warpByDefinition(Call& call, VemiRect region, const ReferenceWarp& w
         std::memcpy(fresh, out, static_cast<size_t>(bytesOf(destination.element)));
         fetchElement(source, kind, limits, static_cast<float>(place.x), static_cast<float>(place.y), channel, fresh);
         if (isSmooth) {
-          mixElement(destination, warp.quad, {double(x), double(y)}, fresh, out);
+          const Spot p = {double(x), double(y)};
+          mixElement(destination, warp.coverage ? warp.coverage(p) : coverageBy(warp.quad, p), fresh, out);
         } else {
           std::memcpy(out, fresh, static_cast<size_t>(bytesOf(destination.element)));
         }

@@ -137,7 +137,7 @@ void setWarp(Call& call) {
 double oddFractionOf(Call& call) { return (call.random.below(200001) - 100000) / 1e5 + 0.00000371; }
 
 /// A map that takes the one region's middle to the other's, or near it; as a rule not a singular one.
-void setAffineMap(Call& call, VemiRect from, VemiRect to) {
+std::vector<double> affineMap(Call& call, VemiRect from, VemiRect to) {
   const bool plain = call.random.below(4) == 0;
   const double scale = call.random.below(3) == 0 ? 4 : call.random.below(2) == 0 ? 0.5 : 1;
   const double xx = scale * (plain ? 1 : fractionOf(call)), xy = plain ? 0 : scale * fractionOf(call);
@@ -145,8 +145,10 @@ void setAffineMap(Call& call, VemiRect from, VemiRect to) {
   const Place a = middleOf(from), b = middleOf(to);
   const auto shift = [&](double x) { return std::floor(x) + (plain ? 0 : oddFractionOf(call)); };
   const double x = shift(b.x - xx * a.x - xy * a.y), y = shift(b.y - yx * a.x - yy * a.y);
-  call.setArray<double>("coeffs", {xx, xy, x, yx, yy, y});
+  return {xx, xy, x, yx, yy, y};
 }
+
+void setAffineMap(Call& call, VemiRect from, VemiRect to) { call.setArray("coeffs", affineMap(call, from, to)); }
 
 void setWarpAffine(Call& call) {
   setWarp(call);
@@ -289,6 +291,60 @@ bool sourceColumn(Call& call) {
 
 // ---- Perspective and bilinear warps ---------------------------------------------------------------------------------
 
+/// An affine map bent a little, or not at all, so that the plain ones stay in whole numbers. The denominators of
+/// perspective maps are positive about the region as a rule.
+template <bool perspective>
+void setBentMap(Call& call, VemiRect from, VemiRect to) {
+  const std::vector<double> c = affineMap(call, from, to);
+  const bool plain = std::floor(c[2]) == c[2] && std::floor(c[5]) == c[5];
+  const double x = plain ? 0 : fractionOf(call) / 2 / (from.x + from.width);
+  const double y = plain ? 0 : fractionOf(call) / 2 / (from.y + from.height);
+  if (perspective) {
+    call.setArray<double>("coeffs", {c[0], c[1], c[2], c[3], c[4], c[5], x, y, 1});
+  } else {
+    call.setArray<double>("coeffs", {y * c[0], c[0], c[1], c[2], x * c[4], c[3], c[4], c[5]});
+  }
+}
+
+template <bool perspective>
+void setWarpBent(Call& call) {
+  setWarp(call);
+  setBentMap<perspective>(call, call.get<VemiRect>("srcRoi"), call.get<VemiRect>("dstRoi"));
+}
+
+template <bool perspective>
+void setWarpBentBack(Call& call) {
+  setWarp(call);
+  setBentMap<perspective>(call, call.get<VemiRect>("dstRoi"), call.get<VemiRect>("srcRoi"));
+}
+
+/// Regions, maps and quadrangles, of which some are crossed or degenerate.
+template <bool perspective>
+void setBentQuery(Call& call) {
+  const VemiRect roi = {call.random.below(50), call.random.below(50), 1 + call.random.below(40),
+                        1 + call.random.below(40)};
+  call.set("srcRoi", roi);
+  if (call.function.indexOf("bound") < 0 && call.function.parameters[1].isConst) {
+    std::vector<double> quad = {0, 0, 20, 0, 20, 15, 0, 15};
+    const int kind = call.random.below(4);
+    for (double& each : quad) each += kind == 0 ? roi.x : 6 * fractionOf(call);
+    if (kind == 1) std::swap(quad[2], quad[4]);
+    call.setArray("quad", quad);
+  } else {
+    setBentMap<perspective>(call, roi, {3, 4, 20, 20});
+  }
+}
+
+bool noCoefficientC22(Call& call) {
+  call.setNumber("coeffs", 1e-12, 8);
+  return true;
+}
+
+bool noLinearPart(Call& call) {
+  for (const int n : {1, 2, 5, 6}) call.setNumber("coeffs", 0, n);
+  return true;
+}
+
 // ---- Maps and mirrors -----------------------------------------------------------------------------------------------
 
 /// A source of its own size, maybe too small for the interpolation or with a region that reaches beyond it, and maps as
@@ -377,6 +433,30 @@ std::vector<Family> geometryFamilies() {
        {{"quad", 0, "quad", vemiErrCoeff, crossedQuad}}},
 
       // Perspective and bilinear warps
+
+      {"vemiWarpPerspective", ".*", warpOrder, setWarpBent<true>,
+       with({"coeffs", 0, "map", vemiErrQuad, noCoefficients})},
+      {"vemiWarpPerspectiveBack", ".*", warpOrder, setWarpBentBack<true>,
+       with({"coeffs", 0, "map", vemiErrQuad, noCoefficientC22})},
+      {"vemiWarpBilinear", ".*", warpOrder, setWarpBent<false>, warpFaults},
+      {"vemiWarpBilinearBack", ".*", warpOrder, setWarpBentBack<false>,
+       with({"coeffs", 0, "map", vemiErrQuad, noLinearPart})},
+      {"vemiWarpPerspectiveQuad vemiWarpBilinearQuad", ".*", warpOrder, setWarpQuad,
+       with({"dstQuad", 0, "map", vemiErrCoeff, crossedQuad})},
+      {"vemiGetPerspectiveQuad", ".*", "size null", setBentQuery<true>},
+      {"vemiGetBilinearQuad", ".*", "size null", setBentQuery<false>},
+      {"vemiGetPerspectiveBound", ".*", "size null", setBentQuery<true>, {}, nullptr, {.lateError = vemiErrQuad}},
+      {"vemiGetBilinearBound", ".*", "size null", setBentQuery<false>, {}, nullptr, {.lateError = vemiErrQuad}},
+      {"vemiGetPerspectiveTransform",
+       ".*",
+       "size null quad",
+       setBentQuery<true>,
+       {{"quad", 0, "quad", vemiErrCoeff, crossedQuad}}},
+      {"vemiGetBilinearTransform",
+       ".*",
+       "size null quad",
+       setBentQuery<false>,
+       {{"quad", 0, "quad", vemiErrCoeff, crossedQuad}}},
 
       {"vemiRemap",
        ".*",
