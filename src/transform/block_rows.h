@@ -37,7 +37,7 @@ HWY_INLINE Row shiftedLeft(Row a) {
   return {hn::ShiftLeft<bits>(a.v)};
 }
 
-/// Rows of a block as groups of rows, and back; R is Row.
+/// Rows of a block as groups of rows, and back; V is RowsVector, R is Row.
 template <class R>
 HWY_INLINE RowsVector groupOf(const R* row) {
   if constexpr (rowsAtOnce == 2) {
@@ -46,8 +46,8 @@ HWY_INLINE RowsVector groupOf(const R* row) {
     return row[0].v;
   }
 }
-template <class R>
-HWY_INLINE void separate(RowsVector group, R* row) {
+template <class V, class R>
+HWY_INLINE void separate(V group, R* row) {
   if constexpr (rowsAtOnce == 2) {
     row[0] = {hn::LowerHalf(OneRow(), group)};
     row[1] = {hn::UpperHalf(OneRow(), group)};
