@@ -113,6 +113,7 @@ using namespace vemi;
 using namespace vemi::filter;
 
 #define RECTANGLE ((VemiSize maskSize, VemiPoint anchor), (maskSize, anchor))
+
 VEMI_DEFINE(vemiFilterMedian_8u_C1R, VEMI_SRC_DST(Vemi8u, RECTANGLE), rectangle<Vemi8u, C1>)
 VEMI_DEFINE(vemiFilterMedian_8u_C3R, VEMI_SRC_DST(Vemi8u, RECTANGLE), rectangle<Vemi8u, C3>)
 VEMI_DEFINE(vemiFilterMedian_8u_C4R, VEMI_SRC_DST(Vemi8u, RECTANGLE), rectangle<Vemi8u, C4>)

@@ -73,7 +73,7 @@ constexpr Single<Count> single;
 template <class Count>
 class Columns {
  public:
-  static Vemi64s length(Vemi64s columns) { return limitedProduct(columns, halves * (1 + halves)); }
+  static Vemi64s length(Vemi64s columns) { return limitedProduct(columns, Vemi64s{halves} * (1 + halves)); }
 
   Columns(Count* memory, ptrdiff_t columns) : upper_(memory), lower_(memory + columns * halves), columns_(columns) {
     std::fill_n(memory, length(columns), Count());

@@ -6,6 +6,7 @@
 // Checks: null, size, step, mask size.
 
 #include <algorithm>
+#include <cstdlib>
 #include <cstring>
 
 #include "core/checks.h"
@@ -53,11 +54,16 @@ struct Distances {
   RowRing<Sum> ring[side][across];  // of those by 0 rows the first half is empty
   RowRing<T> channel[3];
 
-  explicit Distances(ptrdiff_t reached) {
-    for (int dy = 0; dy < side; ++dy) {
-      for (int dx = dy == 0 ? 1 : -reach; dx <= reach; ++dx) of(dx, dy) = RowRing<Sum>(side - dy, reached);
-    }
+  explicit Distances(Vemi64s reached) {
+    forDirections([&](int dx, int dy) { of(dx, dy) = RowRing<Sum>(side - dy, reached); });
     for (auto& rows : channel) rows = RowRing<T>(side, reached);
+  }
+
+  template <class F>
+  static void forDirections(const F& f) {
+    for (int dy = 0; dy < side; ++dy) {
+      for (int dx = dy == 0 ? 1 : -reach; dx <= reach; ++dx) f(dx, dy);
+    }
   }
 
   RowRing<Sum>& of(int dx, int dy) { return ring[dy][dx + reach]; }
@@ -65,9 +71,7 @@ struct Distances {
   /// f(each ring that has rows)
   template <class F>
   void forRings(const F& f) {
-    for (int dy = 0; dy < side; ++dy) {
-      for (int dx = dy == 0 ? 1 : -reach; dx <= reach; ++dx) f(of(dx, dy));
-    }
+    forDirections([&](int dx, int dy) { f(of(dx, dy)); });
     for (auto& rows : channel) f(rows);
   }
 
@@ -80,13 +84,11 @@ struct Distances {
     const auto before = [&](int dy) {
       return Channels<T>{{channel[0].newest(dy), channel[1].newest(dy), channel[2].newest(dy)}};
     };
-    for (int dy = 0; dy < side && dy <= n; ++dy) {
-      for (int dx = dy == 0 ? 1 : -reach; dx <= reach; ++dx) {
-        if (std::abs(dx) >= width) continue;
-        const Distance<T> distance = {before(dy).from(std::max(-dx, 0)), before(0).from(std::max(dx, 0))};
-        mapPlaces(width - std::abs(dx), eachPlace(distance), of(dx, dy).turn());
-      }
-    }
+    forDirections([&](int dx, int dy) {
+      if (dy > n) return;
+      const Distance<T> distance = {before(dy).from(std::max(-dx, 0)), before(0).from(std::max(dx, 0))};
+      mapPlaces(width - std::abs(dx), eachPlace(distance), of(dx, dy).turn());
+    });
   }
 
   /// Between two pixels of the newest window, the first of which comes first row by row: a row for all windows.
@@ -133,7 +135,7 @@ VemiStatus medianOfColours(Image<const T> image, Image<T> dst, VemiSize roiSize)
   constexpr int pixels = side * side;
   constexpr Window window = {side, side, side / 2, side / 2};
   const ptrdiff_t width = roiSize.width;
-  Distances<side, T> distances(width + side - 1);
+  Distances<side, T> distances(Vemi64s{roiSize.width} + side - 1);
   RowRing<Index> indices(1, width);
   Pieces pieces;
   distances.forRings([&](auto& ring) { pieces.add<char>(ring.bytes()); });

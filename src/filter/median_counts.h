@@ -1,6 +1,8 @@
 // Medians of rectangles of any size, by counts of the values in them. One channel at a time; layouts are numbers here.
 #pragma once
 
+#include <cstdint>
+
 #include "core/image.h"
 #include "vemi/status.h"
 
@@ -23,7 +25,8 @@ VemiStatus medianByCounts(const MedianCall<Vemi16s>& call);
 /// run(a count) with the narrower type that holds the number of pixels in a window.
 template <class Call, class Run>
 VemiStatus withCountsOf(const Call& call, const Run& run) {
-  return call.area() <= 0xffff ? run(uint16_t()) : run(int64_t());
+  if (call.area() <= 0xffff) return run(uint16_t());
+  return run(int64_t());
 }
 
 }  // namespace vemi::filter
