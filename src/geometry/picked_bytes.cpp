@@ -19,24 +19,6 @@ Range rangeOf(const int32_t* offset, ptrdiff_t count) {
   return range;
 }
 
-/// How many windows a block needs, if `windows` do for all before it; an element's bytes always fit one.
-int windowsFor(const int32_t* offset, ptrdiff_t elements, int blockElements, int reach, int windows) {
-  for (ptrdiff_t i = 0; i < elements; i += blockElements) {
-    const ptrdiff_t end = std::min<ptrdiff_t>(elements, i + blockElements);
-    for (ptrdiff_t k = i; k < end;) {
-      const ptrdiff_t part = blockElements / windows;
-      const Range range = rangeOf(offset + k, std::min(part, end - k));
-      if (part > 1 && range.most - range.least > 16 - reach) {
-        windows *= 2;
-        k = i;
-      } else {
-        k += part;
-      }
-    }
-  }
-  return windows;
-}
-
 template <class Word>
 void fillPlaces(const int32_t* offset, ptrdiff_t count, int32_t base, Word pattern, uint8_t* place) {
   constexpr Word ones = static_cast<Word>(0x01010101);
@@ -48,10 +30,28 @@ void fillPlaces(const int32_t* offset, ptrdiff_t count, int32_t base, Word patte
 
 }  // namespace
 
+int PickedBytes::windowsFor(const int32_t* offset, ptrdiff_t elements, const BytePattern& pattern) {
+  const int blockElements = 16 / pattern.bytes;
+  int windows = 1;
+  for (ptrdiff_t block = 0; block < elements; block += blockElements) {
+    const ptrdiff_t end = std::min<ptrdiff_t>(elements, block + blockElements);
+    for (ptrdiff_t i = block; i < end;) {
+      const ptrdiff_t part = blockElements / windows;
+      const Range range = rangeOf(offset + i, std::min(part, end - i));
+      if (part > 1 && range.most - range.least > 16 - pattern.reach) {  // one element always fits
+        windows *= 2;
+        i = block;
+      } else {
+        i += part;
+      }
+    }
+  }
+  return windows;
+}
+
 void PickedBytes::make(const int32_t* offset, ptrdiff_t elements, const BytePattern& pattern) {
   const int blockElements = 16 / pattern.bytes;
-  const int reach = 1 + *std::max_element(pattern.at, pattern.at + pattern.bytes);
-  windows_ = windowsFor(offset, elements, blockElements, reach, 1);
+  windows_ = windowsFor(offset, elements, pattern);
   const ptrdiff_t part = blockElements / windows_;
   uint32_t word;
   std::memcpy(&word, pattern.at, sizeof word);

@@ -5,24 +5,28 @@
 
 #include <cstdint>
 
+#include "core/gather.h"
 #include "core/lanes.h"
 #include "core/scratch.h"
 
 namespace vemi::geometry {
 
-/// Bytes behind the last one that is wanted which may be read.
-inline constexpr int windowSlack = 16;
+/// Bytes behind the last one that is wanted which may be read: more than a window, or two vectors.
+inline constexpr int windowSlack = 2 * static_cast<int>(laneAlignment);
 
-/// What an element of `bytes` (1, 2 or 4) takes: the bytes at its offset + pattern[0], + pattern[1], ...
+/// What an element of `bytes` (1, 2 or 4) takes: the bytes at its offset + at[0], + at[1], ..., of which the last one
+/// is `reach` bytes long, and zeros.
 struct BytePattern {
   int bytes;
+  int reach;
   uint8_t at[4];
 
-  /// Neighbouring samples of `sampleBytes`, `distance` bytes apart.
-  static BytePattern ofSamples(int bytes, int sampleBytes, int distance) {
-    BytePattern pattern = {bytes, {}};
+  /// `samples` neighbours of `sampleBytes`, which stand `distance` bytes apart; behind them zeros.
+  static BytePattern ofSamples(int bytes, int samples, int sampleBytes, int distance) {
+    BytePattern pattern = {bytes, (samples - 1) * distance + sampleBytes, {}};
     for (int k = 0; k < bytes; ++k) {
-      pattern.at[k] = static_cast<uint8_t>(k / sampleBytes * distance + k % sampleBytes);
+      const bool isZero = k >= samples * sampleBytes;
+      pattern.at[k] = isZero ? 0x80 : static_cast<uint8_t>(k / sampleBytes * distance + k % sampleBytes);
     }
     return pattern;
   }
@@ -76,11 +80,13 @@ class PickedBytes {
 
   PickedBytes(const Scratch& scratch, const Room& room) : base_(scratch[room.base]), place_(scratch[room.place]) {}
 
-  /// Offsets in bytes, of each element. Those of pixels never decrease.
-  void make(const int32_t* offset, ptrdiff_t elements, const BytePattern& pattern);
+  /// Windows of each block: 1, 2, 4, 8 or 16. Offsets in bytes, of each element.
+  static int windowsFor(const int32_t* offset, ptrdiff_t elements, const BytePattern& pattern);
 
-  /// 1, 2, 4, 8 or 16.
-  int windows() const { return windows_; }
+  /// What the instructions of a vector with so many windows take, roughly.
+  static constexpr int costOf(int windows) { return 7 * windows - 4; }
+
+  void make(const int32_t* offset, ptrdiff_t elements, const BytePattern& pattern);
 
   /// The vector of a row that begins with this block.
   template <int windows>
@@ -97,6 +103,18 @@ class PickedBytes {
     auto all = part(std::integral_constant<int, 0>());
     unrolled<windows - 1>([&](auto w) HWY_ATTR { all = hn::Or(all, part(std::integral_constant<int, w + 1>())); });
     return all;
+  }
+
+  /// The same for elements of four neighbouring bytes.
+  template <int windows>
+  HWY_INLINE hn::Vec<Lanes<uint8_t>> words(const uint8_t* row, ptrdiff_t block) const {
+    if constexpr (windows == 4 && vemi::detail::gathersInLanes) {  // each element has its own
+      const Lanes<int32_t> d;
+      const auto* const first = reinterpret_cast<const int32_t*>(row);
+      return hn::BitCast(Lanes<uint8_t>(), hn::GatherOffset(d, first, hn::LoadU(d, base_ + 4 * block)));
+    } else {
+      return vector<windows>(row, block);
+    }
   }
 
   /// f(number of windows, as a constant), of which there are at most `most`.

@@ -14,10 +14,12 @@
 #pragma once
 
 #include <algorithm>
+#include <cmath>
 #include <limits>
 
 #include "core/lane_width.h"
 #include "core/map_row.h"
+#include "core/numbers.h"
 #include "core/rounding.h"
 #include "core/windows.h"
 #include "geometry/resize.h"
@@ -25,7 +27,7 @@
 
 namespace vemi::geometry {
 
-// ---- Filters --------------------------------------------------------------------------------------------------------
+// ---- Filters -------------------------------------------------------------------------------------------------------
 
 struct LinearFilter {
   static constexpr int taps = 2, weights = 1;
@@ -75,22 +77,20 @@ struct LanczosFilter {
   }
 };
 
-// ---- Columns --------------------------------------------------------------------------------------------------------
+// ---- Columns -------------------------------------------------------------------------------------------------------
 
 /// The first samples of all columns, and how far they reach: an interval of the source's columns, which may begin
 /// before the image's first one and end beyond its last one.
 struct ColumnRange {
   int first, last;
 
+  /// From the first column's node to the last one's: none between them lies outside.
   template <class NodeOf>
   static ColumnRange of(const Axis& x, const NodeOf& nodeOf, int taps) {
-    ColumnRange range = {std::numeric_limits<int>::max(), std::numeric_limits<int>::min()};
-    forNodes(x, nodeOf, [&](int, const Node& node) {
-      range.first = std::min(range.first, node.first);
-      range.last = std::max(range.last, node.first);
-    });
-    range.last += taps - 1;
-    return range;
+    const auto first = [&](double position) { return nodeOf(placeOf(position, x.image), x.image).first; };
+    double position = x.start;
+    for (int i = 1; i < x.count; ++i) position += x.step;
+    return {first(x.start), first(position) + taps - 1};
   }
 
   Vemi64s columns() const { return Vemi64s{last} - first + 1; }
@@ -112,7 +112,7 @@ void setOffsets(int32_t* offset, int column, int sample) {
 /// So many elements of rows in memory of our own, with what a vector may have behind them.
 constexpr Vemi64s withVectorEnd(Vemi64s elements) { return elements + laneCount<uint8_t>; }
 
-// ---- Filters in single precision ------------------------------------------------------------------------------------
+// ---- Filters in single precision -----------------------------------------------------------------------------------
 
 /// A row of floats out of a source line: words of neighbouring samples, of which a group has 4 / sizeof(T).
 template <class F, class T, class L>
@@ -146,22 +146,39 @@ class FloatAcross {
       }
     });
     for (int k = 0; k < F::weights; ++k) std::fill_n(weight_ + k * pitch_ + elements_, laneCount<uint8_t>, 0.0f);
-    picks_.make(offset, elements_, BytePattern::ofSamples(4, sizeof(T), pixelBytes<T, L>));
+    const auto pattern = [](int samples) {
+      return BytePattern::ofSamples(4, samples, sizeof(T), static_cast<int>(pixelBytes<T, L>));
+    };
+    const auto cost = [&](int samples) {
+      return wordsOf(samples) * PickedBytes::costOf(PickedBytes::windowsFor(offset, elements_, pattern(samples)));
+    };
+    inWords_ = most > 1 && cost(most) <= cost(1);
+    picks_.make(offset, elements_, pattern(inWords_ ? most : 1));
   }
 
   void operator()(const uint8_t* line, float* out) const {
-    picks_.template withWindows<4>([&](auto windows) { run<windows>(line, out); });
+    picks_.template withWindows<4>([&](auto windows) {
+      if (inWords_) {
+        run<windows, most>(line, out);
+      } else {
+        run<windows, 1>(line, out);
+      }
+    });
   }
 
  private:
-  static constexpr int perWord = 4 / static_cast<int>(sizeof(T));
+  /// Samples in a word. A word of one has closer places, so that fewer windows may do.
+  static constexpr int most = std::min(F::taps, 4 / static_cast<int>(sizeof(T)));
 
   ptrdiff_t elements_, pitch_;
   PickedBytes picks_;
   float* weight_;
+  bool inWords_;
+
+  static constexpr int wordsOf(int perWord) { return (F::taps + perWord - 1) / perWord; }
 
   /// Sample k of each word, as a float.
-  template <int k, class D>
+  template <int k, int perWord, class D>
   HWY_INLINE static hn::Vec<D> sample(D d, hn::Vec<Lanes<uint8_t>> words) {
     if constexpr (sizeof(T) == 4) {
       return hn::BitCast(d, words);
@@ -171,24 +188,26 @@ class FloatAcross {
       const Lanes<uint32_t> dWords;
       auto word = hn::BitCast(dWords, words);
       if constexpr (k > 0) word = hn::ShiftRight<k * bits>(word);
-      if constexpr (k + 1 < perWord) word = hn::And(word, hn::Set(dWords, (1u << bits) - 1));
+      if constexpr (perWord > 1 && (k + 1) * bits < 32) word = hn::And(word, hn::Set(dWords, (1u << bits) - 1));
       return hn::ConvertTo(d, hn::BitCast(di, word));
     }
   }
 
-  template <int windows>
+  template <int windows, int perWord>
   HWY_NOINLINE void run(const uint8_t* line, float* out) const {
     const Lanes<float> d;
     using V = hn::Vec<Lanes<float>>;
-    constexpr ptrdiff_t N = laneCount<float>, groupBytes = 4 * L::elements;
+    constexpr ptrdiff_t N = laneCount<float>, groupBytes = perWord * pixelBytes<T, L>;
+    constexpr bool areNeighbours = sizeof(T) == 4 || (L::elements == 1 && perWord * sizeof(T) == 4);
     const PickedBytes picks = picks_;
     const float* const weights = weight_;
     for (ptrdiff_t i = 0; i < elements_; i += N) {
       Vectors<V, F::taps> p;
-      unrolled<(F::taps + perWord - 1) / perWord>([&](auto group) HWY_ATTR {
-        const auto words = picks.vector<windows>(line + group * groupBytes, i / 4);
+      unrolled<wordsOf(perWord)>([&](auto group) HWY_ATTR {
+        const uint8_t* const first = line + group * groupBytes;
+        const auto words = areNeighbours ? picks.words<windows>(first, i / 4) : picks.vector<windows>(first, i / 4);
         unrolled<std::min(perWord, F::taps - group * perWord)>(
-            [&](auto k) HWY_ATTR { p.v[group * perWord + k] = sample<k>(d, words); });
+            [&](auto k) HWY_ATTR { p.v[group * perWord + k] = sample<k, perWord>(d, words); });
       });
       Vectors<V, F::weights> w;
       unrolled<F::weights>([&](auto k) HWY_ATTR { w.v[k] = hn::LoadU(d, weights + k * pitch_ + i); });
@@ -243,8 +262,7 @@ struct FloatStages {
   }
 };
 
-// ---- Linear interpolation of bytes
-// ------------------------------------------------------------------------------------
+// ---- Linear interpolation of bytes ---------------------------------------------------------------------------------
 
 /// h = 64 p0 + (w (p1 - p0) + 128 >> 8), which is the formula in lanes of 16 bits: the rounded product shifts by 15,
 /// seven of which the difference has in advance. It never leaves them, also where w is negative.
@@ -272,19 +290,24 @@ class ByteAcross {
       std::fill_n(weight_ + ptrdiff_t{column} * L::elements, L::elements, static_cast<int16_t>(linearWeight(node)));
     });
     std::fill_n(weight_ + elements_, laneCount<uint8_t>, int16_t{0});
-    picks_.make(offset, elements_, BytePattern::ofSamples(2, 1, L::elements));
+    const auto pattern = [](int samples) { return BytePattern::ofSamples(2, samples, 1, L::elements); };
+    const auto windows = [&](int samples) { return PickedBytes::windowsFor(offset, elements_, pattern(samples)); };
+    inPairs_ = windows(2) == 1 || windows(1) > 1;
+    picks_.make(offset, elements_, pattern(inPairs_ ? 2 : 1));
   }
 
   void operator()(const uint8_t* line, int16_t* out) const {
-    picks_.template withWindows<8>([&](auto windows) { run<windows>(line, out); });
+    if (!inPairs_) return run<1, false>(line, out);
+    picks_.template withWindows<8>([&](auto windows) { run<windows, true>(line, out); });
   }
 
  private:
   ptrdiff_t elements_;
   PickedBytes picks_;
   int16_t* weight_;
+  bool inPairs_;  // or both samples by themselves, where a pair just exceeds a window
 
-  template <int windows>
+  template <int windows, bool inPairs>
   HWY_NOINLINE void run(const uint8_t* line, int16_t* out) const {
     const Lanes<int16_t> d;
     const Lanes<uint16_t> dPairs;
@@ -292,9 +315,15 @@ class ByteAcross {
     const PickedBytes picks = picks_;
     const int16_t* const weights = weight_;
     for (ptrdiff_t i = 0; i < elements_; i += N) {
-      const auto pairs = hn::BitCast(dPairs, picks.vector<windows>(line, i / 8));
-      const auto p0 = hn::BitCast(d, hn::And(pairs, hn::Set(dPairs, uint16_t{255})));
-      const auto p1 = hn::BitCast(d, hn::ShiftRight<8>(pairs));
+      const auto picked = hn::BitCast(dPairs, picks.vector<windows>(line, i / 8));
+      auto first = picked, second = picked;
+      if constexpr (inPairs) {
+        first = hn::And(picked, hn::Set(dPairs, uint16_t{255}));
+        second = hn::ShiftRight<8>(picked);
+      } else {
+        second = hn::BitCast(dPairs, picks.vector<windows>(line + L::elements, i / 8));
+      }
+      const auto p0 = hn::BitCast(d, first), p1 = hn::BitCast(d, second);
       const auto product = hn::MulFixedPoint15(hn::ShiftLeft<7>(hn::Sub(p1, p0)), hn::LoadU(d, weights + i));
       hn::StoreU(hn::Add(hn::ShiftLeft<6>(p0), product), d, out + i);
     }
@@ -356,8 +385,7 @@ struct ByteStages {
   }
 };
 
-// ---- Rows through both stages
-// -----------------------------------------------------------------------------------------
+// ---- Rows through both stages --------------------------------------------------------------------------------------
 
 template <class Stages, class T, class L>
 VemiStatus resizeByStages(const T* const* src, int srcStep, T* const* dst, int dstStep, int count,
@@ -394,8 +422,29 @@ VemiStatus resizeByStages(const T* const* src, int srcStep, T* const* dst, int d
   return vemiOk;
 }
 
-// ---- Nearest pixels
-// ---------------------------------------------------------------------------------------------------
+// ---- Straight from the source to the destination -------------------------------------------------------------------
+
+/// A row of vectors that begin at multiples of their length: at(d, first element).
+template <class L, class T, class At>
+HWY_INLINE void storeVectors(ptrdiff_t elements, T* dst, const At& at) {
+  const Lanes<T> d;
+  constexpr ptrdiff_t N = laneCount<T>;
+  const auto store = [&](ptrdiff_t i, T* out) HWY_ATTR {
+    auto v = at(d, i);
+    if constexpr (L::keepsAlpha) v = hn::IfThenElse(colourLanes(d), v, hn::LoadU(d, out));
+    hn::StoreU(v, d, out);
+  };
+  ptrdiff_t i = 0;
+  for (; i + N <= elements; i += N) store(i, dst + i);
+  if (i == elements) return;
+  alignas(laneAlignment) T rest[N] = {};
+  const size_t bytes = static_cast<size_t>(elements - i) * sizeof(T);
+  std::memcpy(rest, dst + i, bytes);
+  store(i, rest);
+  std::memcpy(dst + i, rest, bytes);
+}
+
+// ---- Nearest pixels ------------------------------------------------------------------------------------------------
 
 template <class T, class L>
 class NearestAcross {
@@ -413,7 +462,7 @@ class NearestAcross {
     int32_t* const offset = scratch[room.offset];
     forNodes(x, nearestNode,
              [&](int column, const Node& node) { setOffsets<T, L>(offset, column, node.first - firstColumn); });
-    picks_.make(offset, elements_, BytePattern::ofSamples(sizeof(T), sizeof(T), 0));
+    picks_.make(offset, elements_, BytePattern::ofSamples(sizeof(T), 1, sizeof(T), 0));
   }
 
   void operator()(const uint8_t* line, T* dst) const {
@@ -426,23 +475,10 @@ class NearestAcross {
 
   template <int windows>
   HWY_NOINLINE void run(const uint8_t* line, T* dst) const {
-    const Lanes<T> d;
-    constexpr ptrdiff_t N = laneCount<T>;
     const PickedBytes picks = picks_;
-    const auto store = [&](ptrdiff_t i, T* out) HWY_ATTR {
-      auto v = hn::BitCast(d, picks.vector<windows>(line, i * ptrdiff_t{sizeof(T)} / 16));
-      if constexpr (L::keepsAlpha) v = hn::IfThenElse(colourLanes(d), v, hn::LoadU(d, out));
-      hn::StoreU(v, d, out);
-    };
-    ptrdiff_t i = 0;
-    for (; i + N <= elements_; i += N) store(i, dst + i);
-    if (i < elements_) {
-      alignas(laneAlignment) T rest[N] = {};
-      const size_t bytes = static_cast<size_t>(elements_ - i) * sizeof(T);
-      std::memcpy(rest, dst + i, bytes);
-      store(i, rest);
-      std::memcpy(dst + i, rest, bytes);
-    }
+    storeVectors<L>(elements_, dst, [&](auto d, ptrdiff_t i) HWY_ATTR {
+      return hn::BitCast(d, picks.vector<windows>(line, i * ptrdiff_t{sizeof(T)} / 16));
+    });
   }
 };
 
@@ -476,8 +512,7 @@ VemiStatus resizeToNearest(const T* const* src, int srcStep, T* const* dst, int 
   return vemiOk;
 }
 
-// ---- Area averages
-// ----------------------------------------------------------------------------------------------------
+// ---- Area averages -------------------------------------------------------------------------------------------------
 
 /// sum + weight sample, or the product alone plus zero, which has no negative zeros.
 struct Weighted {
@@ -535,7 +570,7 @@ class AreaAcross {
       });
       setOffsets<float, L>(offset, column, first - firstColumn);
     }
-    picks_.make(offset, elements_, BytePattern::ofSamples(4, 4, 0));
+    picks_.make(offset, elements_, BytePattern::ofSamples(4, 1, 4, 0));
   }
 
   void operator()(const float* line, float* out) const {
@@ -556,7 +591,7 @@ class AreaAcross {
     for (ptrdiff_t i = 0; i < elements_; i += N) {
       auto sum = hn::Zero(d);
       for (ptrdiff_t k = 0; k < taps_; ++k) {
-        const auto sample = hn::BitCast(d, picks.vector<windows>(line + k * pixelBytes<float, L>, i / 4));
+        const auto sample = hn::BitCast(d, picks.words<windows>(line + k * pixelBytes<float, L>, i / 4));
         const auto weight = hn::LoadU(d, weight_ + k * pitch_ + i);
         const auto isThere = hn::Ne(weight, hn::Zero(d));
         sum = hn::Add(sum, hn::IfThenElseZero(isThere, hn::Mul(weight, sample)));
@@ -599,6 +634,144 @@ struct AreaRange {
   }
 };
 
+/// Areas of two by two whole pixels: sums of integers are exact, so their order does not matter, and a quarter to
+/// nearest is a shift; those of floats have the order of all areas.
+template <class T, class L>
+class QuartersAcross {
+ public:
+  using Room = typename NearestAcross<T, L>::Room;
+
+  /// Whether all areas are such.
+  static bool suits(const Axis& x) {
+    return x.step == 2 && x.start == std::trunc(x.start) && x.start + 2.0 * x.count <= x.image;
+  }
+
+  QuartersAcross(const Scratch& scratch, const Room& room, const Axis& x)
+      : elements_(ptrdiff_t{x.count} * L::elements), picks_(scratch, room.picks) {
+    int32_t* const offset = scratch[room.offset];
+    for (int column = 0; column < x.count; ++column) setOffsets<T, L>(offset, column, 2 * column);
+    picks_.make(offset, elements_, BytePattern::ofSamples(wordBytes, sizeof(T) == 1 ? 2 : 1, sizeof(T), pixel));
+  }
+
+  void operator()(const uint8_t* line0, const uint8_t* line1, T* dst) const {
+    picks_.template withWindows<sizeof(T) == 1 ? 8 : 4>([&](auto windows) { run<windows>(line0, line1, dst); });
+  }
+
+ private:
+  static constexpr int pixel = static_cast<int>(pixelBytes<T, L>);
+  static constexpr int wordBytes = sizeof(T) == 1 ? 2 : 4;
+  /// Blocks hold whole pairs of pixels, so that no table is needed.
+  static constexpr bool byBlocks = L::elements == 4;
+
+  ptrdiff_t elements_;
+  PickedBytes picks_;
+
+  template <int windows>
+  HWY_NOINLINE void run(const uint8_t* line0, const uint8_t* line1, T* dst) const {
+    const PickedBytes picks = picks_;
+    if constexpr (sizeof(T) == 4) {
+      storeVectors<L>(elements_, dst, [&](auto d, ptrdiff_t i) HWY_ATTR {
+        const auto sum = [&](auto upper, auto lower) HWY_ATTR { return hn::Add(hn::Add(hn::Zero(d), upper), lower); };
+        hn::Vec<decltype(d)> left, right;
+        if constexpr (L::elements == 1) {
+          const auto at = [&](const uint8_t* line, ptrdiff_t k) HWY_ATTR {
+            return hn::LoadU(d, reinterpret_cast<const float*>(line) + 2 * i + k * laneCount<float>);
+          };
+          const auto first = sum(at(line0, 0), at(line1, 0)), second = sum(at(line0, 1), at(line1, 1));
+          left = hn::ConcatEven(d, second, first);
+          right = hn::ConcatOdd(d, second, first);
+        } else {
+          const auto at = [&](const uint8_t* line)
+                              HWY_ATTR { return hn::BitCast(d, picks.words<windows>(line, i / 4)); };
+          left = sum(at(line0), at(line1));
+          right = sum(at(line0 + pixel), at(line1 + pixel));
+        }
+        return hn::Mul(hn::Add(hn::Add(hn::Zero(d), left), right), hn::Set(d, 0.25f));
+      });
+    } else {
+      using Wide = std::conditional_t<sizeof(T) == 1, int16_t, int32_t>;
+      using Words = std::make_unsigned_t<Wide>;
+      const Lanes<Wide> dWide;
+      const Lanes<Words> dWords;
+      storeVectors<L>(elements_, dst, [&](auto d, ptrdiff_t i) HWY_ATTR {
+        const auto means = [&](ptrdiff_t element) HWY_ATTR {
+          const auto pairs = [&](const uint8_t* line) HWY_ATTR { return sumsOfPairs<windows>(picks, line, element); };
+          return hn::BitCast(dWide, roundShift(dWords, hn::Add(pairs(line0), pairs(line1)), 2));
+        };
+        return packInOrder(d, means(i), means(i + laneCount<Wide>));
+      });
+    }
+  }
+
+  /// Of integers that are neighbours in x, from an element on.
+  template <int windows>
+  HWY_INLINE static auto sumsOfPairs(const PickedBytes& picks, const uint8_t* line, ptrdiff_t element) {
+    using Words = hwy::UnsignedFromSize<wordBytes>;
+    const Lanes<Words> d;
+    constexpr int bits = 8 * sizeof(T);
+    const ptrdiff_t byte = element * wordBytes;
+    const auto sums = [&](auto pairs) HWY_ATTR {
+      const auto words = hn::BitCast(d, pairs);
+      return hn::Add(hn::And(words, hn::Set(d, std::numeric_limits<T>::max())), hn::ShiftRight<bits>(words));
+    };
+    const Lanes<uint8_t> dBytes;
+    if constexpr (L::elements == 1) {
+      return sums(hn::LoadU(dBytes, line + byte));
+    } else if constexpr (byBlocks) {
+      const auto order = hn::LoadDup128(dBytes, pairsOfBlock.index);
+      return sums(hn::TableLookupBytes(hn::LoadU(dBytes, line + byte), order));
+    } else if constexpr (sizeof(T) == 1) {
+      return sums(picks.vector<windows>(line, byte / 16));
+    } else {  // each sample by itself needs fewer windows
+      const auto at = [&](const uint8_t* from)
+                          HWY_ATTR { return hn::BitCast(d, picks.vector<windows>(from, byte / 16)); };
+      return hn::Add(at(line), at(line + pixel));
+    }
+  }
+
+  struct PairsOfBlock {
+    alignas(16) uint8_t index[16];
+
+    constexpr PairsOfBlock() : index() {
+      constexpr int size = sizeof(T);
+      for (int i = 0; i < 16; ++i) {
+        const int pair = i / (2 * size), sample = i / size % 2, byte = i % size;
+        index[i] = static_cast<uint8_t>(pair / 4 * 8 * size + sample * 4 * size + pair % 4 * size + byte);
+      }
+    }
+  };
+
+  static constexpr PairsOfBlock pairsOfBlock = {};
+};
+
+template <class T, class L>
+VemiStatus resizeToHalf(const T* const* src, int srcStep, T* const* dst, int dstStep, int count,
+                        const ResizePlan& plan) {
+  const auto firstOf = [](const Axis& axis) { return static_cast<int>(axis.start); };
+  const Vemi64s elements = Vemi64s{plan.x.count} * L::elements;
+  const ColumnRange range = {firstOf(plan.x), firstOf(plan.x) + 2 * plan.x.count - 1};
+  SourceLines upper(range.first, range.columns(), pixelBytes<T, L>), lower = upper;
+  Pieces pieces;
+  const typename QuartersAcross<T, L>::Room room(pieces, elements);
+  const auto upperCopy = pieces.add<uint8_t>(upper.bytes()), lowerCopy = pieces.add<uint8_t>(lower.bytes());
+  const Scratch scratch(pieces);
+  if (!range.fits(pixelBytes<T, L>) || scratch.failed()) return vemiErrMemAlloc;
+  const QuartersAcross<T, L> across(scratch, room, plan.x);
+  upper.setCopy(scratch[upperCopy]);
+  lower.setCopy(scratch[lowerCopy]);
+  for (int n = 0; n < count; ++n) {
+    const Image<T> destination = {dst[n], dstStep};
+    const Image<const T> source = {src[n], srcStep};
+    upper.setSource(source, plan.image);
+    lower.setSource(source, plan.image);
+    for (int y = 0; y < plan.y.count; ++y) {
+      const ptrdiff_t row = firstOf(plan.y) + ptrdiff_t{2} * y;
+      across(upper.row(row), lower.row(row + 1), destination.row(y));
+    }
+  }
+  return vemiOk;
+}
+
 template <class T, class L>
 VemiStatus resizeByAreas(const T* const* src, int srcStep, T* const* dst, int dstStep, int count,
                          const ResizePlan& plan) {
@@ -639,8 +812,7 @@ VemiStatus resizeByAreas(const T* const* src, int srcStep, T* const* dst, int ds
   return vemiOk;
 }
 
-// ---- All of them
-// ------------------------------------------------------------------------------------------------------
+// ---- All of them ---------------------------------------------------------------------------------------------------
 
 template <class T, class L>
 VemiStatus resizeImages(const T* const* src, int srcStep, T* const* dst, int dstStep, int count,
@@ -658,6 +830,7 @@ VemiStatus resizeImages(const T* const* src, int srcStep, T* const* dst, int dst
     case vemiInterCubic:
       return by(resizeByStages<FloatStages<CubicFilter, T, L>, T, L>);
     case vemiInterSuper:
+      if (QuartersAcross<T, L>::suits(plan.x) && QuartersAcross<T, L>::suits(plan.y)) return by(resizeToHalf<T, L>);
       return by(resizeByAreas<T, L>);
     default:
       return by(resizeByStages<FloatStages<LanczosFilter, T, L>, T, L>);

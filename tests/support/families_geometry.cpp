@@ -53,8 +53,9 @@ void drawResize(Call& call) {
   const VemiRect region = drawSourceRegion(call);
   const VemiSize size = call.scenario.roiSize;
   const double most = kind == vemiInterSuper ? 1 : 50;
-  const double x = drawFactor(call, region.width, size.width, most);
-  const double y = drawFactor(call, region.height, size.height, most);
+  const bool halves = kind == vemiInterSuper && call.random.below(3) == 0;
+  const double x = halves ? 0.5 : drawFactor(call, region.width, size.width, most);
+  const double y = halves ? 0.5 : drawFactor(call, region.height, size.height, most);
   call.set("interpolation", kind);
   call.set(bySteps ? "xFr" : "xFactor", bySteps ? 1 / x : x);
   call.set(bySteps ? "yFr" : "yFactor", bySteps ? 1 / y : y);
