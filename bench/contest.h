@@ -91,5 +91,6 @@ Family boxFamily();
 Family morphologyFamily();
 Family fixedFilterFamily();
 Family ranksFamily();
+Family resizeFamily();
 
 }  // namespace bench

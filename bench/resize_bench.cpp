@@ -1,0 +1,120 @@
+// Images in another size. The peers place the middles of the outermost pixels elsewhere, so that results are not
+// compared; OpenCV's Lanczos filter has eight taps to our six, its cubic one four fixed weights. libyuv weighs with
+// seven bits. Times are those of one destination pixel: sizes are the destination's.
+
+#include <algorithm>
+#include <cmath>
+
+#include "peers.h"
+
+#ifdef VEMI_BENCH_LIBYUV
+#include <libyuv/scale.h>
+#include <libyuv/scale_argb.h>
+#endif
+
+namespace bench {
+namespace {
+
+template <class T>
+using Resize = VemiStatus(const T*, VemiSize, int, VemiRect, T*, int, VemiSize, double, double, int);
+
+/// The source of a destination that is `factor` times as large.
+template <class T, int channels, Resize<T>* resize>
+Contest contest(VemiSize size, double factor, int interpolation,
+                const std::function<std::function<void()>(const Image<T>&, const Image<T>&)>& peer) {
+  const auto reduced = [&](int extent) { return std::max(8, static_cast<int>(std::lround(extent / factor))); };
+  const VemiSize from = {reduced(size.width), reduced(size.height)};
+  const Image<T> src = randomImage<T>(from, channels);
+  const Image<T> dst = blankImage<T>(size, channels);
+  const double x = static_cast<double>(size.width) / from.width, y = static_cast<double>(size.height) / from.height;
+  const auto ours = [=] {
+    return resize(src.data(), src.size, src.step, VemiRect{0, 0, from.width, from.height}, dst.data(), dst.step, size,
+                  x, y, interpolation);
+  };
+  return {ours, peer(src, dst), {}};
+}
+
+std::string percent(double factor) { return std::to_string(std::lround(factor * 100)) + " %"; }
+
+#ifdef VEMI_BENCH_OPENCV
+
+template <class T, int channels, Resize<T>* resize>
+void add(std::vector<Row>& rows, const std::string& images, std::initializer_list<double> factors, int interpolation,
+         int flag, const std::string& kind) {
+  for (const double factor : factors) {
+    const auto prepare = [=](VemiSize size) {
+      return contest<T, channels, resize>(size, factor, interpolation,
+                                          [=](const Image<T>& src, const Image<T>& dst) -> std::function<void()> {
+                                            return [=, from = mat(src), to = mat(dst)]() mutable {
+                                              static_cast<void>(src), static_cast<void>(dst);
+                                              cv::resize(from, to, to.size(), 0, 0, flag);
+                                            };
+                                          });
+    };
+    rows.push_back({"Resize " + kind + " " + images + " " + percent(factor), "OpenCV resize", prepare});
+  }
+}
+
+template <class T, int channels, Resize<T>* resize>
+void addKinds(std::vector<Row>& rows, const std::string& images) {
+  add<T, channels, resize>(rows, images, {0.5, 1.5, 2}, vemiInterNearest, cv::INTER_NEAREST, "nearest");
+  add<T, channels, resize>(rows, images, {0.5, 0.75, 2}, vemiInterLinear, cv::INTER_LINEAR, "linear");
+  add<T, channels, resize>(rows, images, {0.5, 2}, vemiInterCubic, cv::INTER_CUBIC, "cubic");
+  add<T, channels, resize>(rows, images, {0.5, 2}, vemiInterLanczos, cv::INTER_LANCZOS4, "Lanczos");
+  add<T, channels, resize>(rows, images, {0.3, 0.5, 0.75}, vemiInterSuper, cv::INTER_AREA, "area");
+}
+
+#endif
+#ifdef VEMI_BENCH_LIBYUV
+
+void addLibyuv(std::vector<Row>& rows, double factor, int interpolation, libyuv::FilterMode mode,
+               const std::string& kind) {
+  const auto planes = [=](VemiSize size) {
+    return contest<Vemi8u, 1, vemiResize_8u_C1R>(
+        size, factor, interpolation, [=](const Image<Vemi8u>& src, const Image<Vemi8u>& dst) -> std::function<void()> {
+          return [=] {
+            libyuv::ScalePlane(src.data(), src.step, src.size.width, src.size.height, dst.data(), dst.step,
+                               dst.size.width, dst.size.height, mode);
+          };
+        });
+  };
+  rows.push_back({"Resize " + kind + " 8u C1 " + percent(factor), "libyuv ScalePlane", planes});
+  const auto pixels = [=](VemiSize size) {
+    return contest<Vemi8u, 4, vemiResize_8u_C4R>(
+        size, factor, interpolation, [=](const Image<Vemi8u>& src, const Image<Vemi8u>& dst) -> std::function<void()> {
+          return [=] {
+            libyuv::ARGBScale(src.data(), src.step, src.size.width, src.size.height, dst.data(), dst.step,
+                              dst.size.width, dst.size.height, mode);
+          };
+        });
+  };
+  rows.push_back({"Resize " + kind + " 8u C4 " + percent(factor), "libyuv ARGBScale", pixels});
+}
+
+#endif
+
+std::vector<Row> rows() {
+  std::vector<Row> all;
+#ifdef VEMI_BENCH_OPENCV
+  addKinds<Vemi8u, 1, vemiResize_8u_C1R>(all, "8u C1");
+  addKinds<Vemi8u, 3, vemiResize_8u_C3R>(all, "8u C3");
+  addKinds<Vemi8u, 4, vemiResize_8u_C4R>(all, "8u C4");
+  addKinds<Vemi16u, 1, vemiResize_16u_C1R>(all, "16u C1");
+  addKinds<Vemi16u, 3, vemiResize_16u_C3R>(all, "16u C3");
+  addKinds<Vemi32f, 1, vemiResize_32f_C1R>(all, "32f C1");
+  addKinds<Vemi32f, 3, vemiResize_32f_C3R>(all, "32f C3");
+#endif
+#ifdef VEMI_BENCH_LIBYUV
+  for (const double factor : {0.5, 0.75, 2.0}) {
+    addLibyuv(all, factor, vemiInterLinear, libyuv::kFilterBilinear, "linear");
+    if (factor < 1) addLibyuv(all, factor, vemiInterSuper, libyuv::kFilterBox, "area");
+  }
+#endif
+  return all;
+}
+
+}  // namespace
+
+Family resizeFamily() { return {"resize", rows()}; }
+
+}  // namespace bench
