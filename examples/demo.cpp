@@ -131,6 +131,9 @@ constexpr Section sections[] = {
      "Each level splits a picture into a smaller one and what that lacks: differences between neighbouring columns, "
      "between rows, and between both. The filters are the user's; here they are those of the 5/3 wavelet.",
      demoWavelet},
+    {"Another size",
+     "Enlarged by four interpolations, reduced by means: the same call gives the same pixels on every processor.",
+     demoResize},
 };
 
 Options optionsFrom(int argc, char** argv) {

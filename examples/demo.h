@@ -43,5 +43,6 @@ void demoEdges(const Demo& demo);
 void demoFft(const Demo& demo);
 void demoDct(const Demo& demo);
 void demoWavelet(const Demo& demo);
+void demoResize(const Demo& demo);
 
 }  // namespace demo
