@@ -319,19 +319,20 @@ VEMI_API VemiStatus vemiDFTInv_CToC_32fc_C1R(const Vemi32fc* pSrc, int srcStep, 
  * @param hint             vemiHintAccurate asks for more working memory where W or H is a power of two from 1024 on;
  *                         results are the same
  * @param pSpec            the record. Transforms only read it: any number of threads may share it.
- * @param pSize            the bytes of working memory that a transform wants: about 16 to 48 for each pixel of the
- * longer side
+ * @param pSize            the bytes of working memory that a transform wants: about 20 to 48 for each pixel of the
+ *                         longer side
  * @param pSrc,srcStep     first pixel of the source, and the bytes between its rows
  * @param pDst,dstStep     first pixel of the destination, and the bytes between its rows. It may begin where the source
  *                         does, with the same step; other overlaps are not allowed.
  * @param pBuffer          working memory of the size that vemiDCTFwdGetBufSize or vemiDCTInvGetBufSize tells, at any
  *                         address, of one call at a time; or null: then the call allocates and frees as much
  *
- * **Exactness.** The root mean square of the errors is about 4e-8 * sqrt(log2(W * H)) of that of the results. The bits
- * are the same in place and out of it, with a buffer and without, at any alignment.
+ * **Exactness.** The root mean square of the errors is below 7e-8 * sqrt(2 + log2(W * H)) of that of the results. The
+ * bits are the same in place and out of it, with a buffer and without, at any alignment.
  *
  * **Speed.** The smaller the prime factors of W and H, the faster; sides with a prime factor above 150, odd sides above
- * 1024 and powers of two from 4096 on are slower than their neighbours. A transform works in up to 64 KiB of the stack.
+ * 2048 and powers of two from 8192 on are slower than their neighbours. A transform works in up to 128 KiB of the
+ * stack.
  *
  * **Statuses**, in the order of the tests. Constructors: ppSpec null; size; vemiErrMemAlloc, no memory, or a buffer of
  * 2^31 bytes or more. Free and GetBufSize functions: null; vemiErrContext, no record of the direction. Transforms:

@@ -42,8 +42,8 @@ Vemi64s workBytesOfDCT(int length, int hint);
 
 VemiStatus sigDCTInitAlloc_32f(RecordPtr<SigDCTSpec>& spec, int tag, int length, int hint);
 
-/// As many groups fit the stack.
-inline constexpr ptrdiff_t cosineGroupsOnStack = 1024;
+/// As many groups may be asked of the stack.
+inline constexpr ptrdiff_t cosineGroupsOnStack = 2048;
 
 /// 8 lines side by side, of odd length 16, in place: element n at data.first + spec.in[n], result k at spec.out[k]. Of
 /// lines of odd length the second eight stand ColumnGroups::N floats behind the first.

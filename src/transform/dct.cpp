@@ -95,18 +95,19 @@ void block(Image<const float> src, Image<float> dst) {
 /// are better than one, as they are what a cache line holds.
 class Lines {
  public:
-  Lines(const SigDCTSpec& spec, float* onStack, float* buffer)
-      : spec_(spec), data_{onStack}, in_(spec.in), out_(spec.out) {
-    const ptrdiff_t groups = spec.lines.groups();
-    hasTwo_ = !spec.isEven() || 2 * groups <= signal::cosineGroupsOnStack;
-    if (groups > signal::cosineGroupsOnStack) data_.first = alignedToVectors(buffer);
-    distance_ = spec.isEven() ? groups * data_.stride : vectorLanes;
-  }
+  Lines(const SigDCTSpec& spec, float* memory)
+      : spec_(spec),
+        data_{memory},
+        in_(spec.in),
+        out_(spec.out),
+        distance_(spec.isEven() ? spec.lines.groups() * data_.stride : vectorLanes),
+        octetsAtOnce_(!spec.isEven() || 2 * spec.lines.groups() <= signal::cosineGroupsOnStack ? 2 : 1) {}
 
-  ptrdiff_t octetsAtOnce() const { return hasTwo_ ? 2 : 1; }
+  ptrdiff_t groups() const { return spec_.lines.groups() * (spec_.isEven() ? octetsAtOnce_ : 1); }
+  ptrdiff_t octetsAtOnce() const { return octetsAtOnce_; }
   /// Where `left` lines are left. Behind the last octet it stands once more.
   ptrdiff_t octetsFor(ptrdiff_t left, ptrdiff_t linesOfOctet) const {
-    return spec_.isEven() ? std::min(octetsAtOnce(), (left + linesOfOctet - 1) / linesOfOctet) : 2;
+    return spec_.isEven() ? std::min(octetsAtOnce_, (left + linesOfOctet - 1) / linesOfOctet) : 2;
   }
 
   void transform(ptrdiff_t octets) const {
@@ -127,8 +128,7 @@ class Lines {
   const SigDCTSpec& spec_;
   ColumnGroups data_;
   const Vemi32s *in_, *out_;
-  ptrdiff_t distance_;
-  bool hasTwo_;
+  ptrdiff_t distance_, octetsAtOnce_;
 };
 
 /// Eight columns of floats. The last ones of an image overlap those before them, which stay; of fewer than eight
@@ -184,9 +184,8 @@ struct ColumnOctet {
 
 template <class L>
 HWY_NOINLINE HWY_FLATTEN void columns(Image<const float> src, Image<float> dst, const SigDCTSpec& spec,
-                                      ptrdiff_t floats, float* buffer) {
-  alignas(laneAlignment) float onStack[ColumnGroups{}.stride * signal::cosineGroupsOnStack];
-  const Lines lines(spec, onStack, buffer);
+                                      ptrdiff_t floats, float* memory) {
+  const Lines lines(spec, memory);
   for (ptrdiff_t x = 0; x < floats; x += 8 * lines.octetsAtOnce()) {
     const ColumnOctet octet[2] = {ColumnOctet::at<L>(x, floats), ColumnOctet::at<L>(x + 8, floats)};
     const ptrdiff_t octets = lines.octetsFor(floats - x, 8);
@@ -276,9 +275,8 @@ requires(L::elements > 1) struct RowOctet<L> {
 
 template <class L>
 HWY_NOINLINE HWY_FLATTEN void rows(Image<const float> src, Image<float> dst, const SigDCTSpec& spec, ptrdiff_t height,
-                                   float* buffer) {
-  alignas(laneAlignment) float onStack[ColumnGroups{}.stride * signal::cosineGroupsOnStack];
-  const Lines lines(spec, onStack, buffer);
+                                   float* memory) {
+  const Lines lines(spec, memory);
   constexpr ptrdiff_t atOnce = RowOctet<L>::rows;
   for (ptrdiff_t y = 0; y < height; y += atOnce * lines.octetsAtOnce()) {
     const ptrdiff_t octets = lines.octetsFor(height - y, atOnce);
@@ -324,9 +322,26 @@ ptrdiff_t elementIndex(ptrdiff_t n) {
   return n / L::channels * L::elements + n % L::channels;
 }
 
+template <ptrdiff_t groups, class Work>
+HWY_NOINLINE void onStack(const Work& work) {
+  alignas(laneAlignment) float memory[groups * ColumnGroups{}.stride];
+  work(memory);
+}
+
+/// work(memory) with the groups that lines side by side need: on the stack, or in the buffer.
+template <class Work>
+void withGroups(const SigDCTSpec& spec, float* buffer, const Work& work) {
+  const ptrdiff_t groups = Lines(spec, nullptr).groups();
+  constexpr ptrdiff_t most = signal::cosineGroupsOnStack;
+  if (groups > most) return work(alignedToVectors(buffer));
+  groups > most / 2 ? onStack<most>(work) : onStack<most / 2>(work);
+}
+
 template <class L>
 void linesAlongX(Image<const float> src, Image<float> dst, const SigDCTSpec& spec, ptrdiff_t height, float* buffer) {
-  if (spec.isSideBySide()) return rows<L>(src, dst, spec, height, buffer);
+  if (spec.isSideBySide()) {
+    return withGroups(spec, buffer, [&](float* memory) { rows<L>(src, dst, spec, height, memory); });
+  }
   longLines<L>(src, dst, spec, height * L::channels, buffer, [](auto image, ptrdiff_t line, ptrdiff_t x) {
     return image.row(line / L::channels) + x * L::elements + line % L::channels;
   });
@@ -334,7 +349,9 @@ void linesAlongX(Image<const float> src, Image<float> dst, const SigDCTSpec& spe
 
 template <class L>
 void linesAlongY(Image<const float> src, Image<float> dst, const SigDCTSpec& spec, ptrdiff_t width, float* buffer) {
-  if (spec.isSideBySide()) return columns<L>(src, dst, spec, width * L::elements, buffer);
+  if (spec.isSideBySide()) {
+    return withGroups(spec, buffer, [&](float* memory) { columns<L>(src, dst, spec, width * L::elements, memory); });
+  }
   longLines<L>(src, dst, spec, width * L::channels, buffer,
                [](auto image, ptrdiff_t line, ptrdiff_t y) { return image.row(y) + elementIndex<L>(line); });
 }

@@ -79,7 +79,7 @@ void pickDCT(Call& call) {
   if (kind >= 50 && kind < 70) size = {8, 8};
   if (kind >= 70 && kind < 100 && longest <= 70) size = {longest, longest};
   if (kind >= 198) {
-    constexpr int lengths[] = {1025, 1031, 1042, 4096};
+    constexpr int lengths[] = {1031, 2062, 4096, 5000};
     size = {lengths[call.random.below(4)], 1 + call.random.below(2)};
     if (kind == 199) std::swap(size.width, size.height);
   }
