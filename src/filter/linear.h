@@ -190,6 +190,17 @@ struct PlainSums {
   }
 };
 
+/// From pointers, by which it is handed over in registers.
+template <class Arithmetic>
+struct PlainSumsOf {
+  using Taps = Tap<typename Arithmetic::Weight>;
+
+  auto operator()(const typename Arithmetic::Row* const* rows, const Taps* first, const Taps* const* end,
+                  ptrdiff_t count) const {
+    return PlainSums<TapSums<Arithmetic>>{{rows, {first, end, count}}};
+  }
+};
+
 /// finish(lanes of the sum's width, sum): integers, which are saturated to the pixel's type.
 template <class T, class Sums, class Finish>
 struct FinishedSums {
@@ -218,23 +229,23 @@ template <class Arithmetic, Alpha alpha, class T, class Finish, class Enter>
 VemiStatus filterBands(const LinearCall<T>& call, const TapTable<typename Arithmetic::Weight>& table,
                        const RowRing<typename Arithmetic::Row>& ring, const Window& window, const Finish& finish,
                        const Enter& enter) {
-  using Sums = TapSums<Arithmetic>;
   const Vemi64s products = limitedProduct(Vemi64s{call.width} * call.height, table.count());
-  return forBands(TeamRows{products < 1 << 17}, call.height, {.slice = roomOf(ring)},
-                  [=](int first, int rows, Memory own) {
-                    auto ownRing = ring;
-                    placeRings(own, ownRing);
-                    const auto row = [&](ptrdiff_t y) {
-                      const Sums sums = {ownRing.rows(), table};
-                      if constexpr (std::is_same_v<Finish, Unfinished>) {
-                        mapPlaces<alpha>(call.width, PlainSums<Sums>{sums}, call.dst.row(y));
-                      } else {
-                        mapPlaces<alpha>(call.width, FinishedSums<T, Sums, Finish>{sums, finish}, call.dst.row(y));
-                      }
-                    };
-                    forWindows(
-                        window, first, rows, [&](ptrdiff_t y) { enter(ownRing, y); }, row);
-                  });
+  const auto band = [=](int first, int rows, Memory own) {
+    auto ownRing = ring;
+    placeRings(own, ownRing);
+    const auto take = [&](ptrdiff_t y) { enter(ownRing, y); };
+    const auto row = [&](ptrdiff_t y) {
+      if constexpr (std::is_same_v<Finish, Unfinished>) {
+        mapPlacesOf<alpha, PlainSumsOf<Arithmetic>>(call.width, call.dst.row(y), ownRing.rows(), table.first, table.end,
+                                                    table.rows);
+      } else {
+        const FinishedSums<T, TapSums<Arithmetic>, Finish> stage = {{ownRing.rows(), table}, finish};
+        mapPlaces<alpha>(call.width, stage, call.dst.row(y));
+      }
+    };
+    forWindows(window, first, rows, take, row);
+  };
+  return forBands(TeamRows{products < 1 << 17}, call.height, {.slice = roomOf(ring)}, band);
 }
 
 /// The source's elements as elements of the ring.

@@ -99,14 +99,48 @@ void convolution(Call& call) {
 
 }  // namespace
 
-TEST(Linear, KernelsOfTheMembersKind) {
+TEST(Linear, EveryMember) {
   for (const char* const operation : {"vemiFilter", "vemiFilterRow", "vemiFilterColumn"}) {
     expectDefinition(membersOf(operation), convolution);
   }
 }
 
-TEST(Linear, FloatKernelsOnIntegers) {
+TEST(Linear, FloatTapsOnIntegers) {
   for (const char* const operation : {"vemiFilter32f", "vemiFilterRow32f", "vemiFilterColumn32f"}) {
     expectDefinition(membersOf(operation), convolution);
   }
+}
+
+// One tap on a pixel of 1: powers of two round halves up, all else to even; sums wrap.
+TEST(Linear, Division) {
+  const auto quotientOf = [](Vemi32s tap, int divisor) {
+    const Vemi8u one = 1;
+    Vemi8u result = 99;
+    EXPECT_EQ(vemiFilter_8u_C1R(&one, 1, &result, 1, {1, 1}, &tap, {1, 1}, {0, 0}, divisor), vemiOk);
+    return static_cast<int>(result);
+  };
+  EXPECT_EQ(quotientOf(3, 2), 2);
+  EXPECT_EQ(quotientOf(5, 2), 3);
+  EXPECT_EQ(quotientOf(-5, -2), 2);
+  EXPECT_EQ(quotientOf(-7, -2), 4);
+  EXPECT_EQ(quotientOf(5, -2), 0);
+  EXPECT_EQ(quotientOf(INT32_MIN, INT32_MIN), 1);
+  EXPECT_EQ(quotientOf(INT32_MAX, 2), 255);
+  EXPECT_EQ(quotientOf(INT32_MAX, 1 << 30), 2);
+  const Vemi8u two = 2;
+  const Vemi32s half = 1 << 30;
+  Vemi8u result = 99;
+  EXPECT_EQ(vemiFilterRow_8u_C1R(&two, 1, &result, 1, {1, 1}, &half, 1, 0, 1), vemiOk);
+  EXPECT_EQ(result, 0);
+}
+
+// The first tap meets the right neighbour, the last one the left.
+TEST(Linear, TheKernelIsTurned) {
+  const Vemi8u pixels[5] = {0, 0, 1, 0, 0};
+  const Vemi32f taps[3] = {10, 20, 30};
+  Vemi8u result[3];
+  EXPECT_EQ(vemiFilterRow32f_8u_C1R(pixels + 1, 5, result, 3, {3, 1}, taps, 3, 1), vemiOk);
+  EXPECT_EQ(result[0], 10);
+  EXPECT_EQ(result[1], 20);
+  EXPECT_EQ(result[2], 30);
 }
