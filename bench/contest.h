@@ -84,6 +84,7 @@ Family yccFamily();
 Family reduceBitsFamily();
 Family qualityFamily();
 Family fftFamily();
+Family dftFamily();
 Family dctFamily();
 Family waveletFamily();
 Family rowsFamily();

@@ -31,7 +31,7 @@ constexpr FamilyTable families[] = {
     colorTwistFamily,    videoFamily,      swapChannelsFamily, grayFamily,         yccFamily,
     packedPixelsFamily,  boxFamily,        morphologyFamily,   reduceBitsFamily,   qualityFamily,
     fixedFilterFamily,   lumaChromaFamily, fftFamily,          waveletFamily,      rowsFamily,
-    ranksFamily,         dctFamily,        resizeFamily,
+    ranksFamily,         dctFamily,        resizeFamily,       dftFamily,
 };
 
 constexpr const char* usage =

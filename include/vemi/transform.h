@@ -224,15 +224,14 @@ VEMI_API VemiStatus vemiFFTInv_CToC_32fc_C1R(const Vemi32fc* pSrc, int srcStep, 
  *
  * **Threads.** All forms run in the calling thread.
  *
- * A photograph of 1000 by 750 bytes without its mean, through its spectrum and back:
+ * Upright stripes, 40 pixels apart, taken out of an image of 1000 by 750 floats: they are F(25, 0) and its conjugate.
  *
- *     VemiDFTSpec_R_32s* spec;
- *     VemiSize size = {1000, 750};
- *     vemiDFTInitAlloc_R_32s(&spec, size, vemiFftScaleSqrt, vemiHintNone);
- *     vemiDFTFwd_RToPack_8u32s_C1RSfs(photo, 1000, spectrum, 4000, spec, -4, NULL);    // in sixteenths
- *     spectrum[0] = 0;
- *     vemiDFTInv_PackToR_32s8u_C1RSfs(spectrum, 4000, photo, 1000, spec, 4, NULL);
- *     vemiDFTFree_R_32s(spec);
+ *     VemiDFTSpec_R_32f* spec;
+ *     vemiDFTInitAlloc_R_32f(&spec, (VemiSize){1000, 750}, vemiFftScaleInv, vemiHintNone);
+ *     vemiDFTFwd_RToPack_32f_C1R(image, 4000, image, 4000, spec, NULL);
+ *     image[49] = image[50] = 0;
+ *     vemiDFTInv_PackToR_32f_C1R(image, 4000, image, 4000, spec, NULL);
+ *     vemiDFTFree_R_32f(spec);
  * @{
  */
 

@@ -28,7 +28,7 @@ VemiStatus initAlloc(RecordPtr<SigDFTSpec>& spec, int length, int flag, int hint
   made->scale = flag == 8 ? 0 : static_cast<float>(dftScale(flag, flag != 2, length));
   made->hint = hint;
   made->workBytes = static_cast<int>(isReal ? workBytesOfRealDFT(length) : workBytesOfComplexDFT(length));
-  made->lines = DFTLines(length, isReal ? longestDirectReal : longestDirect);
+  made->lines = DFTLines(length, isReal ? longestDirectReal : longestDirect, DFTEntry::permuted);
   if (made->lines.failed()) return vemiErrMemAlloc;
   if (isReal && methodOf(length) == DFTMethod::powerOfTwo) {
     if (const VemiStatus bad = sigFFTInitAlloc_R_32f(made->realFFT, orderOf(length), flag, hint)) return bad;

@@ -50,8 +50,9 @@ HWY_NOINLINE void transformLine(const DFTLines& lines, float* buffer, const Load
   std::fill_n(data.first, data.stride * length, 0.0f);
   for (ptrdiff_t n = 0; n < length; ++n) {
     const LineNumber z = load(n);
-    data.at(n, 0)[0] = z.re;
-    data.at(n, 0)[ColumnGroups::N] = z.im;
+    float* const at = data.at(lines.entry(n), 0);
+    at[0] = z.re;
+    at[ColumnGroups::N] = z.im;
   }
   lines.transform(data);
   for (ptrdiff_t k = 0; k < length; ++k) {

@@ -156,13 +156,17 @@ struct SixteenFloats {
   using D = ColumnGroups::D;
 
   Image<const float> rows;
-  bool areInverse;  // imaginary parts first
+  bool areInverse;         // imaginary parts first
+  const Vemi32s* numbers;  // of groups, and of as many more as are asked for ahead; or null: in order
 
-  HWY_INLINE ColumnGroups::Numbers load(ptrdiff_t n, ptrdiff_t k) const {
-    constexpr ptrdiff_t ahead = 8;  // rows of a large image are pages apart: they are asked for in time
-    const float* const row = rows.row(n) + k * ColumnGroups::N;
-    __builtin_prefetch(rows.row(n + ahead));
-    __builtin_prefetch(rows.row(n + ahead) + 15);
+  static constexpr ptrdiff_t ahead = 8;  // rows of a large image are pages apart: they are asked for in time
+
+  HWY_INLINE ptrdiff_t numberOf(ptrdiff_t group) const { return numbers != nullptr ? numbers[group] : group; }
+  HWY_INLINE ColumnGroups::Numbers load(ptrdiff_t group, ptrdiff_t k) const {
+    const float* const row = rows.row(numberOf(group)) + k * ColumnGroups::N;
+    const float* const later = rows.row(numberOf(group + ahead));
+    __builtin_prefetch(later);
+    __builtin_prefetch(later + 15);
     return {hn::LoadU(D(), row + (areInverse ? 8 : 0)), hn::LoadU(D(), row + (areInverse ? 0 : 8))};
   }
 };
@@ -171,7 +175,7 @@ struct SixteenFloats {
 inline ColumnGroups sourceOf(ColumnGroups data, ptrdiff_t first) { return data.from(first); }
 inline SixteenFloats sourceOf(SixteenFloats rows, ptrdiff_t /*first*/) { return rows; }
 
-/// One level of `blocks` transforms of radix * count numbers that follow each other. The last one has no factors.
+/// One level of `blocks` transforms of radix * count numbers that follow each other. Factors may be null: all are 1.
 template <int radix, class From>
 HWY_NOINLINE HWY_FLATTEN void levelOf(ColumnGroups data, const From& from, ptrdiff_t count, ptrdiff_t blocks,
                                       const float* factors) {
@@ -189,7 +193,7 @@ HWY_NOINLINE HWY_FLATTEN void levelOf(ColumnGroups data, const From& from, ptrdi
         own.store(j, k, z[0]);
         unrolled<radix - 1>([&](auto i) HWY_ATTR {
           Numbers result = z[i + 1];
-          if (count > 1) result = result * Numbers{hn::Set(d, w[2 * i]), hn::Set(d, w[2 * i + 1])};
+          if (factors != nullptr) result = result * Numbers{hn::Set(d, w[2 * i]), hn::Set(d, w[2 * i + 1])};
           own.store(j + (i + 1) * count, k, result);
         });
       });
@@ -235,7 +239,7 @@ HWY_NOINLINE HWY_FLATTEN void levelOfPrime(ColumnGroups data, const From& from, 
             odd = {hn::Add(odd.re, hn::Mul(b.re, s)), hn::Add(odd.im, hn::Mul(b.im, s))};
           }
           Numbers upper = minusTurned(even, odd), lower = plusTurned(even, odd);
-          if (count > 1) {
+          if (factors != nullptr) {
             const float* const of = w + 2 * (k - 1);
             const float* const mirrored = w + 2 * (prime - k - 1);
             upper = upper * Numbers{hn::Set(d, of[0]), hn::Set(d, of[1])};

@@ -7,6 +7,7 @@
 #include <bit>
 #include <climits>
 #include <iterator>
+#include <numeric>
 
 #include "signal/dft_levels.h"
 
@@ -31,56 +32,75 @@ struct Factors {
   }
 };
 
-/// What there is code for, with the arithmetic and the memory traffic of a level for each number, of which levels of
-/// large radices have less together.
+/// What there is code for, with the arithmetic and the memory traffic of a level for each number.
 struct Radix {
   int radix, cost;
 };
 constexpr Radix radices[] = {{2, 140}, {3, 173}, {4, 160},  {5, 208},  {6, 203},  {7, 260},
                              {8, 195}, {9, 263}, {10, 248}, {12, 243}, {15, 300}, {16, 265}};
+constexpr int costOfFactors = 70;
 
-/// The cheapest product that a length without other factors is, radices in ascending order.
-struct CheapestRadices {
-  int radix[32], count = 0, cost = INT_MAX;
+bool isLongPrime(int radix) { return radix > 7 && radix % 2 != 0 && radix != 9 && radix != 15; }
 
-  explicit CheapestRadices(Vemi64s length) { search(length, 0, 0, 0); }
+/// The levels of a length. Ahead are those that have no common divisor with the product of those behind them, if that
+/// is of use, and behind are large radices: the last level has no factors to multiply by.
+struct Radices {
+  int radix[32], count = 0, free = 0;  // `free` of them ahead have no factors
 
- private:
-  int chosen_[32];
-
-  void search(Vemi64s length, size_t from, int depth, int sum) {
-    if (sum >= cost) return;
-    if (length == 1) {
-      std::copy_n(chosen_, depth, radix);
-      count = depth;
-      cost = sum;
-      return;
-    }
-    for (size_t i = from; i < std::size(radices); ++i) {
-      if (length % radices[i].radix != 0) continue;
-      chosen_[depth] = radices[i].radix;
-      search(length / radices[i].radix, i, depth + 1, sum + radices[i].cost);
+  Radices() = default;
+  Radices(const int* ascending, int size, Vemi64s length, bool mayPermute) : count(size) {
+    std::copy_n(ascending, size, radix);
+    while (mayPermute && free < count) {
+      int* const end = radix + count;
+      int* const next = std::find_if(radix + free, end, [&](int r) { return std::gcd(r, length / r) == 1; });
+      if (next == end) break;
+      length /= *next;
+      std::rotate(radix + free, next, next + 1);
+      ++free;
     }
   }
 };
 
-bool isLongPrime(int radix) { return radix > 7 && radix % 2 != 0 && radix != 9 && radix != 15; }
+/// The cheapest of the products that a length is.
+struct CheapestRadices {
+  Radices best;
 
-/// Long primes ahead and large radices behind: the last level has no factors to multiply by.
-int radicesOf(Vemi64s length, int* radix) {
-  const Factors factors(length);
-  int count = 0;
-  const auto takePrime = [&](Vemi64s prime) {
-    if (prime <= 7) return;
-    radix[count++] = static_cast<int>(prime);
-    length /= prime;
-  };
-  takePrime(factors.rest);
-  for (int i = 0; i < factors.count; ++i) takePrime(factors.factor[i]);
-  const CheapestRadices others(length);
-  std::copy_n(others.radix, others.count, radix + count);
-  return count + others.count;
-}
+  CheapestRadices(Vemi64s length, bool mayPermute) : length_(length), mayPermute_(mayPermute) {
+    const Factors factors(length);
+    int primes = 0;
+    const auto takePrime = [&](Vemi64s prime) {
+      if (prime <= 7) return;
+      chosen_[primes++] = static_cast<int>(prime);
+      length /= prime;
+    };
+    takePrime(factors.rest);
+    for (int i = 0; i < factors.count; ++i) takePrime(factors.factor[i]);
+    search(length, 0, primes, 0);
+  }
+
+ private:
+  Vemi64s length_;
+  bool mayPermute_;
+  int chosen_[32], cost_ = INT_MAX;
+
+  void search(Vemi64s rest, size_t from, int depth, int cost) {
+    if (cost - costOfFactors * depth >= cost_) return;
+    if (rest == 1) {
+      const Radices found(chosen_, depth, length_, mayPermute_);
+      cost -= costOfFactors * std::min(found.free + 1, depth);
+      if (cost < cost_) {
+        cost_ = cost;
+        best = found;
+      }
+      return;
+    }
+    for (size_t i = from; i < std::size(radices); ++i) {
+      if (rest % radices[i].radix != 0) continue;
+      chosen_[depth] = radices[i].radix;
+      search(rest / radices[i].radix, i, depth + 1, cost + radices[i].cost);
+    }
+  }
+};
 
 void setPair(float* pair, Root root) {
   pair[0] = static_cast<float>(root.re);
@@ -170,7 +190,7 @@ Vemi64s groupsOf(Vemi64s length, DFTMethod method) {
   return method == DFTMethod::chirp ? Vemi64s{1} << orderOfChirp(length) : length;
 }
 
-DFTLines::DFTLines(Vemi64s length, int longestDirectSum)
+DFTLines::DFTLines(Vemi64s length, int longestDirectSum, DFTEntry entry)
     : length_(static_cast<ptrdiff_t>(length)), method_(methodOf(length, longestDirectSum)) {
   groups_ = static_cast<ptrdiff_t>(groupsOf(length, method_));
   if (method_ == DFTMethod::powerOfTwo || method_ == DFTMethod::chirp) {
@@ -179,22 +199,56 @@ DFTLines::DFTLines(Vemi64s length, int longestDirectSum)
     failed_ = roots_.failed();
     if (method_ == DFTMethod::chirp && !failed_) makeChirp();
   } else {
-    makeLevels();
+    makeLevels(entry == DFTEntry::permuted);
   }
 }
 
-void DFTLines::makeLevels() {
-  int radix[mostLevels];
-  levels_ = length_ == 1 ? 0 : radicesOf(length_, radix);
+ptrdiff_t DFTLines::entryFrom(int level, ptrdiff_t n) const {
+  ptrdiff_t group = 0;
+  for (; level < levels_; ++level) {
+    const Level& own = level_[level];
+    const ptrdiff_t part = own.length / own.radix;
+    const bool isFree = own.partInverse != 0;
+    group += (isFree ? static_cast<ptrdiff_t>(Vemi64s{n} * own.partInverse % own.radix) : n / part) * part;
+    n = isFree ? static_cast<ptrdiff_t>(Vemi64s{n} * own.radixInverse % part) : n % part;
+  }
+  return group;
+}
+
+ptrdiff_t DFTLines::placeOf(ptrdiff_t k) const {
+  ptrdiff_t group = 0;
+  for (int level = 0; level < levels_; ++level) {
+    const Level& own = level_[level];
+    const ptrdiff_t part = own.length / own.radix;
+    group += frequencyOf(static_cast<int>(k % own.radix), own.radix) * part;
+    k = own.partInverse != 0 ? k % part : k / own.radix;
+  }
+  return group;
+}
+
+void DFTLines::makeLevels(bool mayPermute) {
+  const CheapestRadices cheapest(length_, mayPermute);
+  const Radices& chosen = cheapest.best;
+  levels_ = chosen.count;
+  const bool isPermuted = chosen.free > 0 && levels_ > 1;
   Pieces pieces;
-  const auto places = pieces.add<Vemi32s>(length_);
+  const auto places = pieces.add<Vemi32s>(length_), entries = pieces.add<Vemi32s>(isPermuted ? length_ : 0),
+             numbers = pieces.add<Vemi32s>(isPermuted ? length_ + SixteenFloats::ahead : 0);
   Piece<float> factors[mostLevels], waves[mostLevels];
-  ptrdiff_t count = length_;
+  ptrdiff_t part = length_;
   for (int i = 0; i < levels_; ++i) {
-    level_[i] = {radix[i], count, nullptr, nullptr};
-    count /= radix[i];
-    factors[i] = pieces.add<float>(Vemi64s{2} * count * (radix[i] - 1));
-    waves[i] = pieces.add<float>(isLongPrime(radix[i]) ? Vemi64s{2} * (radix[i] / 2) * (radix[i] / 2) : 0);
+    const int r = chosen.radix[i];
+    level_[i] = {r, part, 0, 0, nullptr, nullptr};
+    part /= r;
+    const bool isFree = i < chosen.free || part == 1;
+    if (isFree && part > 1) {
+      ptrdiff_t inverse = 1;
+      while (part % r * inverse % r != 1) ++inverse;
+      level_[i].partInverse = inverse;
+      level_[i].radixInverse = part - static_cast<ptrdiff_t>((Vemi64s{part} * inverse - 1) / r % part);
+    }
+    factors[i] = pieces.add<float>(isFree ? 0 : Vemi64s{2} * part * (r - 1));
+    waves[i] = pieces.add<float>(isLongPrime(r) ? Vemi64s{2} * (r / 2) * (r / 2) : 0);
   }
   tables_ = Scratch(pieces);
   const Scratch scratch(arrayBytes<float>(Vemi64s{2} * length_));
@@ -204,38 +258,45 @@ void DFTLines::makeLevels() {
   float* const root = scratch.as<float>();
   for (ptrdiff_t k = 0; k < length_; ++k) setPair(root + 2 * k, rootOfLength(k, length_));
   const auto copyRoot = [&](float* to, Vemi64s k, Vemi64s step) {
-    const ptrdiff_t at = static_cast<ptrdiff_t>(k * step % length_);
+    const auto at = static_cast<ptrdiff_t>(k * step % length_);
     to[0] = root[2 * at];
     to[1] = root[2 * at + 1];
   };
-  Vemi32s* const place = tables_[places];
-  place[0] = 0;
-  ptrdiff_t step = 1;  // roots of this level among those of the length
   for (int i = 0; i < levels_; ++i) {
-    const int r = radix[i];
-    const ptrdiff_t part = level_[i].length / r;
-    float* factor = tables_[factors[i]];
-    level_[i].factors = factor;
-    for (ptrdiff_t j = 0; j < part; ++j) {
-      for (int n = 1; n < r; ++n, factor += 2) copyRoot(factor, Vemi64s{j} * frequencyOf(n, r), step);
+    Level& own = level_[i];
+    const int r = own.radix;
+    part = own.length / r;
+    if (i >= chosen.free && part > 1) {
+      float* const factor = tables_[factors[i]];
+      own.factors = factor;
+      for (ptrdiff_t n = 0; n < part; ++n) {
+        float* const ofNumber = factor + ptrdiff_t{2} * (r - 1) * entryFrom(i + 1, n);
+        for (int k = 1; k < r; ++k) {
+          copyRoot(ofNumber + 2 * (k - 1), Vemi64s{n} * frequencyOf(k, r), length_ / own.length);
+        }
+      }
     }
+    if (!isLongPrime(r)) continue;
     float* wave = tables_[waves[i]];
-    level_[i].waves = wave;
-    for (int k = 1; isLongPrime(r) && k <= r / 2; ++k) {
+    own.waves = wave;
+    for (int k = 1; k <= r / 2; ++k) {
       for (int n = 1; n <= r / 2; ++n, wave += 2) {
         copyRoot(wave, Vemi64s{k} * n % r, length_ / r);
         wave[1] = -wave[1];
       }
     }
-    // Frequencies below `step` have their places; those of the same lower digits follow a part behind each other.
-    for (int n = 1; n < r; ++n) {
-      for (ptrdiff_t k = 0; k < step; ++k) {
-        place[k + n * step] = place[k] + static_cast<Vemi32s>(frequencyOf(n, r) * part);
-      }
-    }
-    step *= r;
   }
-  places_ = place;
+  for (ptrdiff_t k = 0; k < length_; ++k) tables_[places][k] = static_cast<Vemi32s>(placeOf(k));
+  places_ = tables_[places];
+  if (!isPermuted) return;
+  std::fill_n(tables_[numbers], length_ + SixteenFloats::ahead, 0);
+  for (ptrdiff_t n = 0; n < length_; ++n) {
+    const ptrdiff_t group = entryFrom(0, n);
+    tables_[entries][n] = static_cast<Vemi32s>(group);
+    tables_[numbers][group] = static_cast<Vemi32s>(n);
+  }
+  entries_ = tables_[entries];
+  numbers_ = tables_[numbers];
 }
 
 void DFTLines::makeChirp() {
@@ -369,7 +430,7 @@ void DFTLines::transformFrom(ColumnGroups data, const From& from) const {
 void DFTLines::transform(ColumnGroups data) const { transformFrom(data, data); }
 
 void DFTLines::transform(ColumnGroups data, Image<const float> rows, bool areInverse) const {
-  transformFrom(data, SixteenFloats{rows, areInverse});
+  transformFrom(data, SixteenFloats{rows, areInverse, numbers_});
 }
 
 }  // namespace vemi::signal

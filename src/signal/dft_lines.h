@@ -8,7 +8,8 @@
 //
 //   const DFTLines lines(1080);
 //   if (lines.failed()) return vemiErrMemAlloc;
-//   ...                                       // lines.groups() groups of 16 floats, number n of each line in group n
+//   ...                                       // lines.groups() groups of 16 floats
+//   data.store(lines.entry(n), ...)           // number n
 //   lines.transform(data);                    // in place
 //   data.load(lines.place(k), ...)            // frequency k
 #pragma once
@@ -36,10 +37,14 @@ int orderOfChirp(Vemi64s length);
 /// Groups that transform() works in; more than the length for chirps.
 Vemi64s groupsOf(Vemi64s length, DFTMethod method);
 
+/// Where numbers are put before a transform: number n in group n; or where factors without a common divisor need no
+/// multiplications in between, which is faster and more exact.
+enum class DFTEntry { inOrder, permuted };
+
 class DFTLines {
  public:
   DFTLines() = default;
-  explicit DFTLines(Vemi64s length, int longestDirectSum = longestDirect);
+  explicit DFTLines(Vemi64s length, int longestDirectSum = longestDirect, DFTEntry entry = DFTEntry::inOrder);
 
   bool failed() const { return failed_; }
   ptrdiff_t length() const { return length_; }
@@ -57,6 +62,9 @@ class DFTLines {
   /// or the real and the imaginary parts of 8 complex columns; changed over where `areInverse` says so.
   void transform(ColumnGroups data, Image<const float> rows, bool areInverse) const;
 
+  /// Where number n is put.
+  HWY_INLINE ptrdiff_t entry(ptrdiff_t n) const { return entries_ != nullptr ? entries_[n] : n; }
+
   /// Where frequency k stands afterwards.
   HWY_INLINE ptrdiff_t place(ptrdiff_t k) const {
     return places_ != nullptr ? places_[k] : method_ == DFTMethod::powerOfTwo ? bitsReversed(k, order_) : k;
@@ -66,10 +74,13 @@ class DFTLines {
   static constexpr int mostLevels = 20;
 
   /// `radix` numbers a radix-th of `length` apart are combined and multiplied by powers of w = exp(-2 pi i / length).
+  /// Where the radix and that part of the length have no common divisor, number n is n / part modulo the radix of the
+  /// ones combined and n / radix modulo the part of what they are parts of, and nothing is multiplied.
   struct Level {
     int radix;
     ptrdiff_t length;
-    const float* factors;  // for j = 0, 1, ...: the factors of the results 1, 2, ... as they are stored
+    ptrdiff_t partInverse, radixInverse;  // of each other, modulo the other one; or 0
+    const float* factors;  // for j = 0, 1, ...: the factors of the results 1, 2, ... as they are stored; or null
     const float*
         waves;  // of long primes: cos and sin of 2 pi i k / radix for i = 1 to radix / 2, for k = 1 to radix / 2
   };
@@ -82,10 +93,12 @@ class DFTLines {
   Level level_[mostLevels] = {};
   Scratch tables_;
   Roots roots_;
-  const Vemi32s* places_ = nullptr;
+  const Vemi32s *places_ = nullptr, *entries_ = nullptr, *numbers_ = nullptr;  // the last two are each other's inverse
   const float *chirp_ = nullptr, *filter_ = nullptr;  // pairs; the filter with its bits reversed
 
-  void makeLevels();
+  void makeLevels(bool mayPermute);
+  ptrdiff_t entryFrom(int level, ptrdiff_t n) const;
+  ptrdiff_t placeOf(ptrdiff_t k) const;
   void makeChirp();
   template <class From>
   void transformFrom(ColumnGroups data, const From& from) const;

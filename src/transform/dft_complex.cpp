@@ -41,8 +41,8 @@ HWY_NOINLINE HWY_FLATTEN void rows(Floats image, ptrdiff_t height, const DFTLine
   for (ptrdiff_t y = 0; y < height; y += 8) {
     const EightRows<const float> from(y, height, [&](ptrdiff_t i) { return image.src.row(i); });
     const EightRows<float> to(y, height, [&](ptrdiff_t i) { return image.dst.row(i); });
-    from.load(2 * width,
-              [&](ptrdiff_t e, auto first, auto v) HWY_ATTR { hn::StoreU(v, d, part(e / 2, first, e % 2 != 0)); });
+    from.load(2 * width, [&](ptrdiff_t e, auto first, auto v)
+                             HWY_ATTR { hn::StoreU(v, d, part(lines.entry(e / 2), first, e % 2 != 0)); });
     lines.transform(data);
     to.store<Alpha::none>(2 * width, [&](ptrdiff_t e, auto first) HWY_ATTR {
       const bool isEight = e < inEights;
@@ -71,7 +71,7 @@ HWY_NOINLINE HWY_FLATTEN void columns(Floats image, ptrdiff_t width, const DFTLi
         unrolled<ColumnGroups::vectors>([&](auto k) HWY_ATTR {
           ColumnGroups::Numbers z;
           hn::LoadInterleaved2(d, numbers + 2 * k * N, z.re, z.im);
-          data.store(y, k, turnedTo<isForward>(z));
+          data.store(lines.entry(y), k, turnedTo<isForward>(z));
         });
       }
       lines.transform(data);

@@ -23,7 +23,7 @@ HWY_NOINLINE HWY_FLATTEN void columns(Image<const float> src, Image<float> dst, 
       lines.transform(data, {src.first + x, src.step}, false);
     } else {
       for (ptrdiff_t y = 0; y < height; ++y) {
-        unrolled<ColumnGroups::vectors>([&](auto k) HWY_ATTR { data.store(y, k, block.load(src, y, k)); });
+        unrolled<ColumnGroups::vectors>([&](auto k) HWY_ATTR { data.store(lines.entry(y), k, block.load(src, y, k)); });
       }
       lines.transform(data);
     }
@@ -55,9 +55,11 @@ HWY_NOINLINE HWY_FLATTEN void packLines(Image<float> dst, const DFTFloats& spec,
   const ptrdiff_t width = spec.width, height = spec.height;
   for (ptrdiff_t v0 = 0; v0 < linesOf(height); v0 += 8) {
     const auto top = topRows(dst, v0, height), bottom = bottomRows(dst, v0, height);
-    loadChannel<elements>(top, width, [&](ptrdiff_t x, ptrdiff_t lane) { return LanePlace{data.at(x, lane), false}; });
+    loadChannel<elements>(top, width, [&](ptrdiff_t x, ptrdiff_t lane) {
+      return LanePlace{data.at(lines.entry(x), lane), false};
+    });
     loadChannel<elements>(bottom, width, [&](ptrdiff_t x, ptrdiff_t lane) {
-      return LanePlace{data.at(x, lane) + columnLanes, false};
+      return LanePlace{data.at(lines.entry(x), lane) + columnLanes, false};
     });
     lines.transform(data);
     const auto number = [&](ptrdiff_t u, ptrdiff_t lane) {

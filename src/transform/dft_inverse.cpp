@@ -22,17 +22,19 @@ HWY_NOINLINE HWY_FLATTEN void columns(Image<float> dst, const DFTFloats& spec, f
   for (ptrdiff_t x = 0; x < floats; x += columnsAtOnce) {
     const ColumnBlock block(x, floats);
     const auto loadReal = [&](ptrdiff_t v) HWY_ATTR {
-      unrolled<ColumnGroups::vectors>([&](auto k) HWY_ATTR { data.store(v, k, swapped(block.load(src, v, k))); });
+      unrolled<ColumnGroups::vectors>([&](auto k)
+                                          HWY_ATTR { data.store(lines.entry(v), k, swapped(block.load(src, v, k))); });
     };
     loadReal(0);
     if (height % 2 == 0) loadReal(height / 2);
     for (ptrdiff_t v = 1; 2 * v < height; ++v) {
       askForRow(src, v + rowsAhead, x);
       askForRow(src, height - v - rowsAhead, x);
+      const ptrdiff_t entry = lines.entry(v), mirrored = lines.entry(height - v);
       unrolled<ColumnGroups::vectors>([&](auto k) HWY_ATTR {
         const auto re = block.load(src, v, k), im = block.load(src, height - v, k);  // of columns of both halves
-        data.store(v, k, {hn::Add(im.re, re.im), hn::Sub(re.re, im.im)});
-        data.store(height - v, k, {hn::Sub(re.im, im.re), hn::Add(re.re, im.im)});
+        data.store(entry, k, {hn::Add(im.re, re.im), hn::Sub(re.re, im.im)});
+        data.store(mirrored, k, {hn::Sub(re.im, im.re), hn::Add(re.re, im.im)});
       });
     }
     lines.transform(data);
@@ -57,13 +59,13 @@ HWY_NOINLINE HWY_FLATTEN void unpackLines(Image<const float> src, Image<float> d
     const auto packed = [&](bool isBelow) {
       return [&, isBelow](ptrdiff_t x, ptrdiff_t lane) HWY_ATTR {
         const PackedNumber f(x, width, isBelow);
-        return LanePlace{data.at(f.u, lane) + (f.isImaginary ? 0 : columnLanes), isBelow && f.isImaginary};
+        return LanePlace{data.at(lines.entry(f.u), lane) + (f.isImaginary ? 0 : columnLanes), isBelow && f.isImaginary};
       };
     };
     loadChannel<elements>(topRows(src, v0, height), width, packed(false));
     loadChannel<elements>(bottomRows(src, v0, height), width, packed(true));
     const auto setNumber = [&](ptrdiff_t u, ptrdiff_t lane, ComplexNumber z) {
-      float* const at = data.at(u, lane);
+      float* const at = data.at(lines.entry(u), lane);
       at[0] = z.im;
       at[columnLanes] = z.re;
     };

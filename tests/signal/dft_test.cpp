@@ -53,39 +53,40 @@ TEST(DFTLines, AgainstSums) {
   std::vector<int> lengths = {149, 151, 179, 181, 256, 298,  302,  360,  453,
                               480, 512, 513, 514, 625, 1000, 1021, 1080, 2187};
   for (int length = 1; length <= 132; ++length) lengths.push_back(length);
-  for (const int length : lengths) {
-    const DFTLines lines(length, longestDirectReal);
-    ASSERT_FALSE(lines.failed());
-    std::vector<float> memory(static_cast<size_t>(16 * lines.groups()), NAN);
-    const ColumnGroups data{memory.data()};
-    test::Random random(static_cast<unsigned>(length));
-    std::vector<Complex> line[8];
-    for (ptrdiff_t n = 0; n < length; ++n) {
-      for (ptrdiff_t i = 0; i < 8; ++i) {
-        float* const at = data.at(n, i);
-        at[0] = static_cast<float>(random.below(20001) - 10000) / 1000;
-        at[ColumnGroups::N] = static_cast<float>(random.below(20001) - 10000) / 1000;
-        line[i].emplace_back(at[0], at[ColumnGroups::N]);
-      }
-    }
-    std::vector<Complex> root;
-    for (int k = 0; k < length; ++k) root.push_back(turned(k, length));
-    lines.transform(data);
-    double error = 0, whole = 0;
-    for (int k = 0; k < length; ++k) {
-      // All lines of short transforms, and one of long ones.
-      for (ptrdiff_t i = length > 200 ? 6 : 0; i < (length > 200 ? 7 : 8); ++i) {
-        Complex sum = 0;
-        for (int n = 0; n < length; ++n) {
-          sum += line[i][static_cast<size_t>(n)] * root[static_cast<size_t>(Vemi64s{n} * k % length)];
+  for (const int length : lengths)
+    for (const DFTEntry entry : {DFTEntry::inOrder, DFTEntry::permuted}) {
+      const DFTLines lines(length, longestDirectReal, entry);
+      ASSERT_FALSE(lines.failed());
+      std::vector<float> memory(static_cast<size_t>(16 * lines.groups()), NAN);
+      const ColumnGroups data{memory.data()};
+      test::Random random(static_cast<unsigned>(length));
+      std::vector<Complex> line[8];
+      for (ptrdiff_t n = 0; n < length; ++n) {
+        for (ptrdiff_t i = 0; i < 8; ++i) {
+          float* const at = data.at(lines.entry(n), i);
+          at[0] = static_cast<float>(random.below(20001) - 10000) / 1000;
+          at[ColumnGroups::N] = static_cast<float>(random.below(20001) - 10000) / 1000;
+          line[i].emplace_back(at[0], at[ColumnGroups::N]);
         }
-        const float* const at = data.at(lines.place(k), i);
-        error += std::norm(Complex{at[0], at[ColumnGroups::N]} - sum);
-        whole += std::norm(sum);
       }
+      std::vector<Complex> root;
+      for (int k = 0; k < length; ++k) root.push_back(turned(k, length));
+      lines.transform(data);
+      double error = 0, whole = 0;
+      for (int k = 0; k < length; ++k) {
+        // All lines of short transforms, and one of long ones.
+        for (ptrdiff_t i = length > 200 ? 6 : 0; i < (length > 200 ? 7 : 8); ++i) {
+          Complex sum = 0;
+          for (int n = 0; n < length; ++n) {
+            sum += line[i][static_cast<size_t>(n)] * root[static_cast<size_t>(Vemi64s{n} * k % length)];
+          }
+          const float* const at = data.at(lines.place(k), i);
+          error += std::norm(Complex{at[0], at[ColumnGroups::N]} - sum);
+          whole += std::norm(sum);
+        }
+      }
+      EXPECT_LE(std::sqrt(error / whole), 1.2e-7 * std::sqrt(1 + std::log2(length))) << length;
     }
-    EXPECT_LE(std::sqrt(error / whole), 1.2e-7 * std::sqrt(1 + std::log2(length))) << length;
-  }
 }
 
 }  // namespace
