@@ -87,6 +87,7 @@ Family fftFamily();
 Family dftFamily();
 Family dctFamily();
 Family waveletFamily();
+Family packedSpectraFamily();
 Family rowsFamily();
 Family boxFamily();
 Family morphologyFamily();

@@ -30,8 +30,8 @@ constexpr FamilyTable families[] = {
     gammaFamily,         countsFamily,     noiseFamily,        generatedFamily,    perceptualFamily,
     colorTwistFamily,    videoFamily,      swapChannelsFamily, grayFamily,         yccFamily,
     packedPixelsFamily,  boxFamily,        morphologyFamily,   reduceBitsFamily,   qualityFamily,
-    fixedFilterFamily,   lumaChromaFamily, fftFamily,          waveletFamily,      rowsFamily,
-    ranksFamily,         dctFamily,        resizeFamily,       dftFamily,
+    fixedFilterFamily,   lumaChromaFamily, fftFamily,          waveletFamily,      packedSpectraFamily,
+    rowsFamily,          ranksFamily,      dctFamily,          resizeFamily,       dftFamily,
 };
 
 constexpr const char* usage =
