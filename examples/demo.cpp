@@ -134,6 +134,11 @@ constexpr Section sections[] = {
     {"Another size",
      "Enlarged by four interpolations, reduced by means: the same call gives the same pixels on every processor.",
      demoResize},
+    {"Bent, straightened, mirrored",
+     "Each pixel comes from where two maps say, or from a place in a quadrangle: a lens, a page seen from the side, "
+     "and "
+     "straight again.",
+     demoBent},
 };
 
 Options optionsFrom(int argc, char** argv) {

@@ -44,5 +44,6 @@ void demoFft(const Demo& demo);
 void demoDct(const Demo& demo);
 void demoWavelet(const Demo& demo);
 void demoResize(const Demo& demo);
+void demoBent(const Demo& demo);
 
 }  // namespace demo
