@@ -92,6 +92,7 @@ Family rowsFamily();
 Family boxFamily();
 Family morphologyFamily();
 Family fixedFilterFamily();
+Family linearFilterFamily();
 Family ranksFamily();
 Family resizeFamily();
 

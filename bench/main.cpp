@@ -21,17 +21,18 @@ namespace {
 
 using FamilyTable = Family (*)();
 constexpr FamilyTable families[] = {
-    copyFamily,          setFamily,        planesFamily,       channelsFamily,     maskedCopyFamily,
-    maskedSetFamily,     borderFamily,     addFamily,          addConstantFamily,  addScaledFamily,
-    subFamily,           mulFamily,        scalingFamily,      divideFamily,       divideByConstantFamily,
-    divideScalingFamily, unaryFamily,      mulScaleFamily,     unaryScalingFamily, logicalFamily,
-    shiftFamily,         alphaFamily,      reductionsFamily,   normFamily,         hardReductionsFamily,
-    thresholdFamily,     compareFamily,    convertFamily,      bitImageFamily,     lutFamily,
-    gammaFamily,         countsFamily,     noiseFamily,        generatedFamily,    perceptualFamily,
-    colorTwistFamily,    videoFamily,      swapChannelsFamily, grayFamily,         yccFamily,
-    packedPixelsFamily,  boxFamily,        morphologyFamily,   reduceBitsFamily,   qualityFamily,
-    fixedFilterFamily,   lumaChromaFamily, fftFamily,          waveletFamily,      packedSpectraFamily,
-    rowsFamily,          ranksFamily,      dctFamily,          resizeFamily,       dftFamily,
+    copyFamily,          setFamily,          planesFamily,       channelsFamily,     maskedCopyFamily,
+    maskedSetFamily,     borderFamily,       addFamily,          addConstantFamily,  addScaledFamily,
+    subFamily,           mulFamily,          scalingFamily,      divideFamily,       divideByConstantFamily,
+    divideScalingFamily, unaryFamily,        mulScaleFamily,     unaryScalingFamily, logicalFamily,
+    shiftFamily,         alphaFamily,        reductionsFamily,   normFamily,         hardReductionsFamily,
+    thresholdFamily,     compareFamily,      convertFamily,      bitImageFamily,     lutFamily,
+    gammaFamily,         countsFamily,       noiseFamily,        generatedFamily,    perceptualFamily,
+    colorTwistFamily,    videoFamily,        swapChannelsFamily, grayFamily,         yccFamily,
+    packedPixelsFamily,  boxFamily,          morphologyFamily,   reduceBitsFamily,   qualityFamily,
+    fixedFilterFamily,   linearFilterFamily, lumaChromaFamily,   fftFamily,          waveletFamily,
+    packedSpectraFamily, rowsFamily,         ranksFamily,        dctFamily,          resizeFamily,
+    dftFamily,
 };
 
 constexpr const char* usage =

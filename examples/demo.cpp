@@ -118,6 +118,11 @@ constexpr Section sections[] = {
      "Filters with fixed kernels of three by three or five by five pixels. Slopes have a sign, which 16-bit results "
      "keep; here middle grey is no slope.",
      demoEdges},
+    {"Kernels of one's own, and noise",
+     "Any kernel of integers or floats, flipped as a convolution wants it; and a filter that takes noise out where "
+     "there "
+     "is nothing else.",
+     demoKernels},
     {"Spectra",
      "The fast Fourier transform tells what waves a picture is made of, packed into as many numbers as it has pixels. "
      "What is taken away there is missing when it goes back.",

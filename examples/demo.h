@@ -40,6 +40,7 @@ void demoBox(const Demo& demo);
 void demoMorphology(const Demo& demo);
 void demoRanks(const Demo& demo);
 void demoEdges(const Demo& demo);
+void demoKernels(const Demo& demo);
 void demoFft(const Demo& demo);
 void demoDct(const Demo& demo);
 void demoWavelet(const Demo& demo);
