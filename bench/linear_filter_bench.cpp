@@ -124,15 +124,15 @@ std::vector<Row> rows() {
   using S = Vemi16s;
   using F = Vemi32f;
   using K = Vemi32s;
-  const std::string filter2D = "OpenCV filter2D", steps = "OpenCV boxFilter, arithmetic";
+  const std::string filter2D = "OpenCV filter2D", steps = "OpenCV in steps";
   return {
       {"Filter 8u C1 3x3", filter2D, bytes<1, vemiFilter_8u_C1R, 3, 9>},
       {"Filter 8u C3 3x3", filter2D, bytes<3, vemiFilter_8u_C3R, 3, 9>},
       {"Filter 8u C1 5x5", filter2D, bytes<1, vemiFilter_8u_C1R, 5, 4>},
-      {"Filter 8u C1 5x5 large taps", filter2D, bytes<1, vemiFilter_8u_C1R, 5, 99>},
-      {"Filter 8u C4 5x5 large taps", filter2D, bytes<4, vemiFilter_8u_C4R, 5, 99>},
+      {"Filter 8u C1 5x5 large", filter2D, bytes<1, vemiFilter_8u_C1R, 5, 99>},
+      {"Filter 8u C4 5x5 large", filter2D, bytes<4, vemiFilter_8u_C4R, 5, 99>},
       {"Filter 8u C1 9x9", filter2D, bytes<1, vemiFilter_8u_C1R, 9, 9>},
-      {"Filter 8u C1 5x5 huge taps", filter2D, bytes<1, vemiFilter_8u_C1R, 5, 99999>},
+      {"Filter 8u C1 5x5 huge", filter2D, bytes<1, vemiFilter_8u_C1R, 5, 99999>},
       {"Filter32f 8u C1 5x5", filter2D, byFloats<U, 1, vemiFilter32f_8u_C1R, 5>},
       {"Filter32f 8u C3 3x3", filter2D, byFloats<U, 3, vemiFilter32f_8u_C3R, 3>},
       {"Filter32f 16s C1 5x5", filter2D, byFloats<S, 1, vemiFilter32f_16s_C1R, 5>},
@@ -141,7 +141,7 @@ std::vector<Row> rows() {
       {"Filter 32f C1 5x5", filter2D, byFloats<F, 1, vemiFilter_32f_C1R, 5>},
       {"Filter 32f C3 5x5", filter2D, byFloats<F, 3, vemiFilter_32f_C3R, 5>},
       {"Filter 32f C1 9x9", filter2D, byFloats<F, 1, vemiFilter_32f_C1R, 9>},
-      {"Filter 32f C1 15x15", filter2D + " (Fourier)", byFloats<F, 1, vemiFilter_32f_C1R, 15>},
+      {"Filter 32f C1 15x15", filter2D + ", FFT", byFloats<F, 1, vemiFilter_32f_C1R, 15>},
       {"FilterRow 8u C1 5", filter2D, line<U, K, 1, vemiFilterRow_8u_C1R, 5, 1>},
       {"FilterRow 8u C3 15", filter2D, line<U, K, 3, vemiFilterRow_8u_C3R, 15, 1, 99>},
       {"FilterRow 32f C1 9", filter2D, line<F, F, 1, vemiFilterRow_32f_C1R, 9, 1>},
