@@ -89,6 +89,7 @@ Family dctFamily();
 Family waveletFamily();
 Family packedSpectraFamily();
 Family rowsFamily();
+Family bentFamily();
 Family boxFamily();
 Family morphologyFamily();
 Family fixedFilterFamily();
