@@ -11,9 +11,7 @@
 #include "core/exports.h"
 #include "core/lanes.h"
 #include "core/map_row.h"
-#include "core/parallel.h"
 #include "core/rows.h"
-#include "core/streaming.h"
 #include "vemi/geometry.h"
 
 namespace vemi {
