@@ -634,6 +634,23 @@ struct AreaRange {
   }
 };
 
+/// Elements of T of two pixels with four channels, in pairs of a channel.
+template <class T>
+struct PairsOfBlock {
+  alignas(16) uint8_t index[16];
+
+  constexpr PairsOfBlock() : index() {
+    constexpr int size = sizeof(T);
+    for (int i = 0; i < 16; ++i) {
+      const int pair = i / (2 * size), sample = i / size % 2, byte = i % size;
+      index[i] = static_cast<uint8_t>(pair / 4 * 8 * size + sample * 4 * size + pair % 4 * size + byte);
+    }
+  }
+};
+
+template <class T>
+inline constexpr PairsOfBlock<T> pairsOfBlock;
+
 /// Areas of two by two whole pixels: sums of integers are exact, so their order does not matter, and a quarter to
 /// nearest is a shift; those of floats have the order of all areas.
 template <class T, class L>
@@ -718,7 +735,7 @@ class QuartersAcross {
     if constexpr (L::elements == 1) {
       return sums(hn::LoadU(dBytes, line + byte));
     } else if constexpr (byBlocks) {
-      const auto order = hn::LoadDup128(dBytes, pairsOfBlock.index);
+      const auto order = hn::LoadDup128(dBytes, pairsOfBlock<T>.index);
       return sums(hn::TableLookupBytes(hn::LoadU(dBytes, line + byte), order));
     } else if constexpr (sizeof(T) == 1) {
       return sums(picks.vector<windows>(line, byte / 16));
@@ -728,20 +745,6 @@ class QuartersAcross {
       return hn::Add(at(line), at(line + pixel));
     }
   }
-
-  struct PairsOfBlock {
-    alignas(16) uint8_t index[16];
-
-    constexpr PairsOfBlock() : index() {
-      constexpr int size = sizeof(T);
-      for (int i = 0; i < 16; ++i) {
-        const int pair = i / (2 * size), sample = i / size % 2, byte = i % size;
-        index[i] = static_cast<uint8_t>(pair / 4 * 8 * size + sample * 4 * size + pair % 4 * size + byte);
-      }
-    }
-  };
-
-  static constexpr PairsOfBlock pairsOfBlock = {};
 };
 
 template <class T, class L>

@@ -66,7 +66,7 @@ template <class E, int depth>
 class HeldRows {
  public:
   explicit HeldRows(Vemi64s elements)
-      : pitch_(roundedUp(limitedSum(elements, laneCount<uint8_t>), laneAlignment) + laneAlignment) {}
+      : pitch_(limitedSum(roundedUp(limitedSum(elements, laneCount<uint8_t>), line), line)) {}
 
   Vemi64s elements() const { return limitedProduct(depth, pitch_); }
   void place(E* memory) { memory_ = memory; }
@@ -85,6 +85,8 @@ class HeldRows {
   }
 
  private:
+  static constexpr auto line = static_cast<Vemi64s>(laneAlignment);
+
   Vemi64s pitch_;
   E* memory_ = nullptr;
   ptrdiff_t held_[depth] = {};
