@@ -94,6 +94,7 @@ Family boxFamily();
 Family morphologyFamily();
 Family fixedFilterFamily();
 Family linearFilterFamily();
+Family affineFamily();
 Family ranksFamily();
 Family resizeFamily();
 

@@ -144,6 +144,10 @@ constexpr Section sections[] = {
      "and "
      "straight again.",
      demoBent},
+    {"Turned, sheared, on parallelograms",
+     "Affine maps take each pixel to another place. The destination's pixels are fetched from between those of the "
+     "source; by quarter turns they are copied.",
+     demoAffine},
 };
 
 Options optionsFrom(int argc, char** argv) {

@@ -46,5 +46,6 @@ void demoDct(const Demo& demo);
 void demoWavelet(const Demo& demo);
 void demoResize(const Demo& demo);
 void demoBent(const Demo& demo);
+void demoAffine(const Demo& demo);
 
 }  // namespace demo
