@@ -114,16 +114,24 @@ void copyTransposed(VemiSize size, const void* src, ptrdiff_t srcStep, void* dst
     }
     return;
   }
-  // A tile touches few pages on either side, and a destination row of it is written in one go. The last blocks overlap
-  // the ones before.
-  constexpr ptrdiff_t tileRows = 256, tileColumns = 64;
-  for (ptrdiff_t left = 0; left < width; left += tileRows) {
-    for (ptrdiff_t top = 0; top < height; top += tileColumns) {
-      for (ptrdiff_t y = top; y < std::min(top + tileColumns, height); y += B::columns) {
-        for (ptrdiff_t x = left; x < std::min(left + tileRows, width); x += B::rows) {
-          const ptrdiff_t i = std::min(x, width - B::rows), j = std::min(y, height - B::columns);
-          B::copy(from + i * srcStep + j * pixelSize, srcStep, to + j * dstStep + i * pixelSize, dstStep);
-        }
+  // Strips touch few pages on either side, and within them, squares use lines of the cache whole. The last blocks
+  // overlap the ones before.
+  constexpr ptrdiff_t stripRows = 256, line = 64 / pixelSize;
+  constexpr ptrdiff_t rows = std::max<ptrdiff_t>(line / B::rows, 1) * B::rows;
+  constexpr ptrdiff_t columns = std::max<ptrdiff_t>(line / B::columns, 1) * B::columns;
+  const auto square = [&](ptrdiff_t left, ptrdiff_t top, ptrdiff_t right, ptrdiff_t bottom) {
+    for (ptrdiff_t y = top; y < bottom; y += B::columns) {
+      for (ptrdiff_t x = left; x < right; x += B::rows) {
+        const ptrdiff_t i = std::min(x, width - B::rows), j = std::min(y, height - B::columns);
+        B::copy(from + i * srcStep + j * pixelSize, srcStep, to + j * dstStep + i * pixelSize, dstStep);
+      }
+    }
+  };
+  for (ptrdiff_t strip = 0; strip < width; strip += stripRows) {
+    const ptrdiff_t end = std::min(strip + stripRows, width);
+    for (ptrdiff_t y = 0; y < height; y += columns) {
+      for (ptrdiff_t x = strip; x < end; x += rows) {
+        square(x, y, std::min(x + rows, end), std::min(y + columns, height));
       }
     }
   }
