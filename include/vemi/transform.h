@@ -213,7 +213,7 @@ VEMI_API VemiStatus vemiFFTInv_CToC_32fc_C1R(const Vemi32fc* pSrc, int srcStep, 
  * 5 * 7, pays where the image allows it; rows or columns of 480, 1000, 1080 and 1920 are as good as powers of two.
  *
  * **Exactness.** The root mean square of the errors is about 5e-8 * sqrt(log2(W * H)) of that of the results, or less,
- * and with a prime factor above 149 twice that. The bits are the same in place and out of it, with a buffer and
+ * and with a prime factor above 7 twice that. The bits are the same in place and out of it, with a buffer and
  * without, at any alignment.
  *
  * **Statuses**, in the order of the tests. vemiDFTInitAlloc: ppSpec null; size; vemiErrFftFlag, no flag of vemiFFT;
