@@ -83,6 +83,7 @@ Family grayFamily();
 Family yccFamily();
 Family reduceBitsFamily();
 Family qualityFamily();
+Family matchFamily();
 Family fftFamily();
 Family dftFamily();
 Family dctFamily();

@@ -32,7 +32,7 @@ constexpr FamilyTable families[] = {
     packedPixelsFamily,  boxFamily,          morphologyFamily,   reduceBitsFamily,   qualityFamily,
     fixedFilterFamily,   linearFilterFamily, lumaChromaFamily,   fftFamily,          waveletFamily,
     packedSpectraFamily, rowsFamily,         ranksFamily,        dctFamily,          resizeFamily,
-    dftFamily,           bentFamily,         affineFamily,
+    dftFamily,           bentFamily,         affineFamily,       matchFamily,
 };
 
 constexpr const char* usage =

@@ -103,6 +103,10 @@ constexpr Section sections[] = {
      "A few grey levels by the nearest one, by noise, by a pattern and by error diffusion; and the quality index, "
      "which says how much of a picture is left, from 1 for all of it to 0 for nothing.",
      demoLevels},
+    {"Templates, and convolution of pictures",
+     "Where is the ball? A template is laid over each place, and each is told how well it matches. And what a picture "
+     "becomes when each of its pixels spreads out as another picture does.",
+     demoMatch},
     {"Box blurs",
      "The mean of a rectangle around each pixel, in the same time for any rectangle. Filters extend no image: the "
      "source has a border, made by vemiCopyReplicateBorder.",

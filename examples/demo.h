@@ -36,6 +36,7 @@ void demoTwist(const Demo& demo);
 void demoVideo(const Demo& demo);
 void demoPacked(const Demo& demo);
 void demoLevels(const Demo& demo);
+void demoMatch(const Demo& demo);
 void demoBox(const Demo& demo);
 void demoMorphology(const Demo& demo);
 void demoRanks(const Demo& demo);

@@ -47,17 +47,6 @@ void showNumbers(const Image8u& photo, Page& page) {
       });
 }
 
-/// A frame of at most 13 x 13 pixels around a place.
-void mark(int x, int y, const Vemi8u (&colour)[3], Image8u& picture) {
-  const int left = std::max(0, x - 6), right = std::min(picture.width(), x + 7);
-  const int top = std::max(0, y - 6), bottom = std::min(picture.height(), y + 7);
-  const VemiSize across = {right - left, 1}, down = {1, bottom - top};
-  CALL(vemiSet_8u_C3R(colour, picture.at(left, top), picture.step(), across));
-  CALL(vemiSet_8u_C3R(colour, picture.at(left, bottom - 1), picture.step(), across));
-  CALL(vemiSet_8u_C3R(colour, picture.at(left, top), picture.step(), down));
-  CALL(vemiSet_8u_C3R(colour, picture.at(right - 1, top), picture.step(), down));
-}
-
 void showPlaces(const Image8u& photo, Page& page) {
   const VemiSize size = photo.size();
   const Vemi8u colours[3][3] = {{255, 0, 0}, {0, 255, 0}, {0, 0, 255}};

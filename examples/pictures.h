@@ -60,6 +60,17 @@ inline Image8u greenMiddleOf(const Image8u& photo, VemiSize whole) {
   return middle;
 }
 
+/// A frame of at most 13 x 13 pixels around a place.
+inline void mark(int x, int y, const Vemi8u (&colour)[3], Image8u& picture) {
+  const int left = std::max(0, x - 6), right = std::min(picture.width(), x + 7);
+  const int top = std::max(0, y - 6), bottom = std::min(picture.height(), y + 7);
+  const VemiSize across = {right - left, 1}, down = {1, bottom - top};
+  CALL(vemiSet_8u_C3R(colour, picture.at(left, top), picture.step(), across));
+  CALL(vemiSet_8u_C3R(colour, picture.at(left, bottom - 1), picture.step(), across));
+  CALL(vemiSet_8u_C3R(colour, picture.at(left, top), picture.step(), down));
+  CALL(vemiSet_8u_C3R(colour, picture.at(right - 1, top), picture.step(), down));
+}
+
 inline void convert(const Image8u& from, Image<Vemi16s>& to) {
   CALL(vemiConvert_8u16s_C3R(from.data(), from.step(), to.data(), to.step(), from.size()));
 }
