@@ -88,14 +88,14 @@ struct Tap {
   int32_t offset;
 };
 
-/// Those of row j end where end[j] says.
+/// Those of row j end behind the first end[j] of them.
 template <class Weight>
 struct TapTable {
   const Tap<Weight>* first;
-  const Tap<Weight>* const* end;
+  const ptrdiff_t* end;
   ptrdiff_t rows;
 
-  ptrdiff_t count() const { return end[rows - 1] - first; }
+  ptrdiff_t count() const { return end[rows - 1]; }
 };
 
 /// What may be left out of a table: a tap of 0 adds nothing to a sum of integers, or to one that becomes an integer.
@@ -109,29 +109,30 @@ class TapMemory {
       : columns_(columns),
         rows_(rows),
         taps_(pieces_.add<Tap<Weight>>(limitedProduct(columns, rows))),
-        ends_(pieces_.add<Tap<Weight>*>(rows)),
+        ends_(pieces_.add<ptrdiff_t>(rows)),
         scratch_(pieces_) {}
 
   bool failed() const { return scratch_.failed(); }
 
   template <class WeightAt>
   TapTable<Weight> fill(ptrdiff_t pixel, Zeros zeros, const WeightAt& weightAt) const {
-    Tap<Weight>* tap = scratch_[taps_];
+    Tap<Weight>* const taps = scratch_[taps_];
+    ptrdiff_t count = 0;
     for (ptrdiff_t j = 0; j < rows_; ++j) {
       for (ptrdiff_t c = 0; c < columns_; ++c) {
         const Weight weight = weightAt(c, j);
-        if (zeros == Zeros::counted || weight != 0) *tap++ = {weight, static_cast<int32_t>(c * pixel)};
+        if (zeros == Zeros::counted || weight != 0) taps[count++] = {weight, static_cast<int32_t>(c * pixel)};
       }
-      scratch_[ends_][j] = tap;
+      scratch_[ends_][j] = count;
     }
-    return {scratch_[taps_], scratch_[ends_], rows_};
+    return {taps, scratch_[ends_], rows_};
   }
 
  private:
   ptrdiff_t columns_, rows_;
   Pieces pieces_;
   Piece<Tap<Weight>> taps_;
-  Piece<Tap<Weight>*> ends_;
+  Piece<ptrdiff_t> ends_;
   Scratch scratch_;
 };
 
@@ -166,7 +167,7 @@ struct TapSums {
     const auto* tap = table.first;
     for (ptrdiff_t j = 0; j < table.rows; ++j) {
       const Row* const row = rows[j] + i;
-      for (const auto* const end = table.end[j]; tap != end; ++tap) {
+      for (const auto* const end = table.first + table.end[j]; tap != end; ++tap) {
         const auto factor = Arithmetic::factor(tap->weight);
         const Row* const in = row + tap->offset;
         unrolled<vectors>([&](auto k) HWY_ATTR {
@@ -195,7 +196,7 @@ template <class Arithmetic>
 struct PlainSumsOf {
   using Taps = Tap<typename Arithmetic::Weight>;
 
-  auto operator()(const typename Arithmetic::Row* const* rows, const Taps* first, const Taps* const* end,
+  auto operator()(const typename Arithmetic::Row* const* rows, const Taps* first, const ptrdiff_t* end,
                   ptrdiff_t count) const {
     return PlainSums<TapSums<Arithmetic>>{{rows, {first, end, count}}};
   }

@@ -18,7 +18,7 @@
 #include "core/image.h"
 #include "vemi/geometry.h"
 
-namespace vemi {
+namespace vemi::geometry {
 
 /// The coordinates that are fetched. A pixel that has another one, or a NaN, stays as it is in the destination.
 struct FetchLimits {
@@ -56,4 +56,4 @@ using FetchRow = void (*)(const FetchSource& source, ptrdiff_t count, const floa
 template <class T, class L>
 FetchRow<T> fetchRow(int interpolation);
 
-}  // namespace vemi
+}  // namespace vemi::geometry

@@ -8,7 +8,7 @@
 #include "core/numbers.h"
 #include "geometry/fetch_kernels.h"
 
-namespace vemi {
+namespace vemi::geometry {
 namespace {
 
 using DBytes = Lanes<uint8_t>;
@@ -40,12 +40,12 @@ HWY_INLINE Integers bytesOf(Integers words, const BlockIndex& index) {
 }
 
 /// Bytes `even` and `odd` of each word, as 16 bits.
-constexpr BlockIndex bytePairs(int even, int odd) {
+constexpr BlockIndex bytePairs(size_t even, size_t odd) {
   BlockIndex index = {};
-  for (int i = 0; i < 16; i += 4) {
-    index[static_cast<size_t>(i)] = static_cast<uint8_t>(i + even);
-    index[static_cast<size_t>(i + 2)] = static_cast<uint8_t>(i + odd);
-    index[static_cast<size_t>(i + 1)] = index[static_cast<size_t>(i + 3)] = 128;
+  for (size_t i = 0; i < index.size(); i += 4) {
+    index[i] = static_cast<uint8_t>(i + even);
+    index[i + 2] = static_cast<uint8_t>(i + odd);
+    index[i + 1] = index[i + 3] = 128;
   }
   return index;
 }
@@ -170,8 +170,8 @@ struct CubicWeights {
 
   constexpr CubicWeights() : pair() {
     for (int64_t i = 0; i <= last; ++i) {
-      const int64_t first = nearest((512 - i) * (1024 - i) * (1536 - i), 6 * 8192);
-      const int64_t second = nearest(i * (1024 - i) * (1536 - i), 2 * 8192);
+      const int64_t first = nearest((512 - i) * (1024 - i) * (1536 - i), int64_t{6} * 8192);
+      const int64_t second = nearest(i * (1024 - i) * (1536 - i), int64_t{2} * 8192);
       pair[i] = static_cast<int32_t>(first & 0xffff) | static_cast<int32_t>(second) * 0x10000;
     }
   }
@@ -254,12 +254,12 @@ struct CubicPixels {
   using V = hn::Vec<D>;
 
   /// Pixels `even` and `odd` of the four, channel by channel, as 16 bits.
-  static constexpr BlockIndex pixelPairs(int even, int odd) {
+  static constexpr BlockIndex pixelPairs(size_t even, size_t odd) {
     BlockIndex index;
     index.fill(128);
-    for (int channel = 0; channel < n; ++channel) {
-      index[static_cast<size_t>(4 * channel)] = static_cast<uint8_t>(even * n + channel);
-      index[static_cast<size_t>(4 * channel + 2)] = static_cast<uint8_t>(odd * n + channel);
+    for (size_t channel = 0; channel < n; ++channel) {
+      index[4 * channel] = static_cast<uint8_t>(even * n + channel);
+      index[4 * channel + 2] = static_cast<uint8_t>(odd * n + channel);
     }
     return index;
   }
@@ -304,4 +304,4 @@ FetchRow<Vemi8u> fetchRow<Vemi8u, AC4>(int interpolation) {
   return fetchRowOf<Vemi8u, AC4, LinearPixels<AC4>, CubicPixels<AC4>>(interpolation);
 }
 
-}  // namespace vemi
+}  // namespace vemi::geometry

@@ -6,7 +6,7 @@
 #include "core/rounding.h"
 #include "geometry/fetch_kernels.h"
 
-namespace vemi {
+namespace vemi::geometry {
 namespace {
 
 // ---- Polynomials --------------------------------------------------------------------------------------------------
@@ -227,4 +227,4 @@ FetchRow<Vemi32f> fetchRow<Vemi32f, AC4>(int interpolation) {
   return fetchChannels<Vemi32f, AC4>(interpolation);
 }
 
-}  // namespace vemi
+}  // namespace vemi::geometry

@@ -12,7 +12,7 @@
 #include "core/processor.h"
 #include "geometry/fetch.h"
 
-namespace vemi {
+namespace vemi::geometry {
 
 using DFloats = Lanes<float>;
 using DIntegers = Lanes<int32_t>;
@@ -144,4 +144,4 @@ FetchRow<T> fetchRowOf(int interpolation) {
   }
 }
 
-}  // namespace vemi
+}  // namespace vemi::geometry

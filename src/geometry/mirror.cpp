@@ -14,7 +14,7 @@
 #include "core/rows.h"
 #include "vemi/geometry.h"
 
-namespace vemi {
+namespace vemi::geometry {
 namespace {
 
 // ---- Rows ---------------------------------------------------------------------------------------------------------
@@ -156,9 +156,10 @@ VemiStatus mirrorInPlace(Image<const T>, Image<T> image, VemiSize roiSize, int f
 }
 
 }  // namespace
-}  // namespace vemi
+}  // namespace vemi::geometry
 
 using namespace vemi;
+using namespace vemi::geometry;
 
 #define VEMI_FLIP ((vemiAxis flip), (flip))
 

@@ -9,7 +9,7 @@
 #include "core/float_control.h"
 #include "geometry/fetch.h"
 
-namespace vemi {
+namespace vemi::geometry {
 namespace {
 
 struct Maps {
@@ -72,9 +72,10 @@ VemiStatus remapPlanes(Planes<const T, planes> src, Within within, Maps maps, Pl
 }
 
 }  // namespace
-}  // namespace vemi
+}  // namespace vemi::geometry
 
 using namespace vemi;
+using namespace vemi::geometry;
 
 #define VEMI_REMAP(Src, Dst, src, dst)                                                                             \
   ((Src, VemiSize srcSize, int srcStep, VemiRect srcRoi, const Vemi32f* pxMap, int xMapStep, const Vemi32f* pyMap, \

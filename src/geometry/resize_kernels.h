@@ -158,11 +158,10 @@ class FloatAcross {
 
   void operator()(const uint8_t* line, float* out) const {
     picks_.template withWindows<4>([&](auto windows) {
-      if (inWords_) {
-        run<windows, most>(line, out);
-      } else {
-        run<windows, 1>(line, out);
+      if constexpr (most > 1) {
+        if (inWords_) return run<windows, most>(line, out);
       }
+      run<windows, 1>(line, out);
     });
   }
 

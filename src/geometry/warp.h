@@ -17,6 +17,7 @@
 #pragma once
 
 #include <algorithm>
+#include <bit>
 #include <cmath>
 #include <cstring>
 #include <type_traits>
@@ -154,7 +155,8 @@ template <class T>
 void mix(T* element, T fresh, float coverage) {
   T old;
   std::memcpy(&old, element, sizeof old);
-  if (std::memcmp(&old, &fresh, sizeof old) == 0) return;
+  using Bits = hwy::UnsignedFromSize<sizeof(T)>;
+  if (std::bit_cast<Bits>(old) == std::bit_cast<Bits>(fresh)) return;
   const float mixture = static_cast<float>(old) * (1 - coverage) + static_cast<float>(fresh) * coverage;
   T result;
   if constexpr (std::is_floating_point_v<T>) {

@@ -196,10 +196,14 @@ VemiStatus byFilter(Operand<T> src, Operand<T> kernel, Image<T> dst, VemiSize re
     return vemiErrMemAlloc;
   Pieces pieces;
   const auto srcPlane = pieces.add<T>(isPlane ? 0 : limitedProduct(src.size.width, src.size.height));
-  const auto dstPlane = pieces.add<T>(isPlane ? 0 : limitedProduct(result.width, result.height));
+  const Vemi64s ofResult = limitedProduct(result.width, result.height);
+  const auto dstPlanes = pieces.add<T>(isPlane ? 0 : limitedProduct(ofResult, L::channels));
   const Scratch scratch(pieces);
   if (scratch.failed()) return vemiErrMemAlloc;
   const auto plane = [](T* first, VemiSize size) { return Image<T>{first, size.width * static_cast<int>(sizeof(T))}; };
+  const auto resultPlane = [&](int channel) {
+    return plane(scratch[dstPlanes] + channel * static_cast<ptrdiff_t>(ofResult), result);
+  };
   for (int channel = 0; channel < L::channels; ++channel) {
     Tap taps[smallKernel];
     for (ptrdiff_t y = 0, n = 0; y < kernel.size.height; ++y) {
@@ -217,11 +221,15 @@ VemiStatus byFilter(Operand<T> src, Operand<T> kernel, Image<T> dst, VemiSize re
         extractChannelRow<L::elements>(src.size.width, src.image.row(y) + channel, copy.row(y));
       }
       in = {copy.first, copy.step};
-      out = plane(scratch[dstPlane], result);
+      out = resultPlane(channel);
     }
     if (const VemiStatus bad = filter(in, out, result, taps, kernel.size, anchor, divisor)) return bad;
-    for (ptrdiff_t y = 0; y < result.height && !isPlane; ++y) {
-      copyChannelRow<1, L::elements>(result.width, out.row(y), dst.row(y) + channel);
+  }
+  // No channel is written before the filter has had memory for all of them.
+  for (int channel = 0; channel < L::channels && !isPlane; ++channel) {
+    const Image<const T> from = {resultPlane(channel).first, resultPlane(channel).step};
+    for (ptrdiff_t y = 0; y < result.height; ++y) {
+      copyChannelRow<1, L::elements>(result.width, from.row(y), dst.row(y) + channel);
     }
   }
   return vemiOk;

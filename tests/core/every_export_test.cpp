@@ -187,7 +187,8 @@ class DistantRows {
     Image::Plane& plane = image.planes[n];
     const Margin& margin = image.margin;
     const VemiSize size = image.sizeOf(n);
-    const ptrdiff_t distance = (ptrdiff_t{1} << 30) + 64 * (image.parameter + ptrdiff_t{1});
+    // Images that share a step are as far apart from row to row.
+    const ptrdiff_t distance = (ptrdiff_t{1} << 30) + 64 * (image.stepParameter + ptrdiff_t{1});
     const ptrdiff_t elementBytes = bytesOf(image.element);
     const ptrdiff_t pixelBytes = elementBytes * (image.layout.planar ? 1 : image.layout.elements);
     const ptrdiff_t pixels = margin.left + size.width + margin.right, rows = margin.top + size.height + margin.bottom;

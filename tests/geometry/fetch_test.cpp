@@ -10,6 +10,7 @@
 #include "support/guarded_row.h"
 
 using namespace vemi;
+using namespace vemi::geometry;
 using namespace vemi::test;
 
 namespace {
