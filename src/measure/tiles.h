@@ -206,7 +206,7 @@ struct TileRoom {
         tile(pieces.add<float>(limitedProduct(transform.tileFloats(), channels))),
         lines(pieces.add<float>(transform.lineFloats())),
         results(pieces.add<float>(limitedProduct(plan.stride, channels))),
-        doubles(pieces.add<double>(limitedProduct(plan.stride, channels * doubleRows))) {}
+        doubles(pieces.add<double>(limitedProduct(plan.stride, Vemi64s{channels} * doubleRows))) {}
 };
 
 /// Rows and columns [x, x + ...) and [y, y + ...) of P, and zeros in the rest of a patch. `isTurned` reads an image

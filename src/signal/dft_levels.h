@@ -185,7 +185,7 @@ HWY_NOINLINE HWY_FLATTEN void levelOf(ColumnGroups data, const From& from, ptrdi
     const ColumnGroups own = data.from(block * radix * count);
     const From source = sourceOf(from, block * radix * count);
     const float* w = factors;
-    for (ptrdiff_t j = 0; j < count; ++j, w += 2 * (radix - 1)) {
+    for (ptrdiff_t j = 0; j < count; ++j, w += ptrdiff_t{2} * (radix - 1)) {
       unrolled<ColumnGroups::vectors>([&](auto k) HWY_ATTR {
         Numbers z[radix];
         unrolled<radix>([&](auto i) HWY_ATTR { z[i] = source.load(j + i * count, k); });
@@ -240,8 +240,8 @@ HWY_NOINLINE HWY_FLATTEN void levelOfPrime(ColumnGroups data, const From& from, 
           }
           Numbers upper = minusTurned(even, odd), lower = plusTurned(even, odd);
           if (factors != nullptr) {
-            const float* const of = w + 2 * (k - 1);
-            const float* const mirrored = w + 2 * (prime - k - 1);
+            const float* const of = w + ptrdiff_t{2} * (k - 1);
+            const float* const mirrored = w + ptrdiff_t{2} * (prime - k - 1);
             upper = upper * Numbers{hn::Set(d, of[0]), hn::Set(d, of[1])};
             lower = lower * Numbers{hn::Set(d, mirrored[0]), hn::Set(d, mirrored[1])};
           }

@@ -272,7 +272,7 @@ void DFTLines::makeLevels(bool mayPermute) {
       for (ptrdiff_t n = 0; n < part; ++n) {
         float* const ofNumber = factor + ptrdiff_t{2} * (r - 1) * entryFrom(i + 1, n);
         for (int k = 1; k < r; ++k) {
-          copyRoot(ofNumber + 2 * (k - 1), Vemi64s{n} * frequencyOf(k, r), length_ / own.length);
+          copyRoot(ofNumber + ptrdiff_t{2} * (k - 1), Vemi64s{n} * frequencyOf(k, r), length_ / own.length);
         }
       }
     }

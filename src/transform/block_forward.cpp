@@ -65,7 +65,7 @@ HWY_INLINE void forward(const Load& load, Vemi16s* dst) {
   forwardColumns(x);
   unrolled<rowGroups>([&](auto group) HWY_ATTR {
     constexpr int y = group * rowsAtOnce;
-    hn::StoreU(forwardRows(groupOf(x + y), group), SomeRows(), dst + 8 * y);
+    hn::StoreU(forwardRows(groupOf(x + y), group), SomeRows(), dst + ptrdiff_t{8} * y);
   });
 }
 

@@ -53,7 +53,7 @@ template <int count>
 HWY_INLINE RowsVector inverseRows(RowsVector x, int group) {
   const SomeRows d;
   const SomeSums dSums;
-  const auto rounding = hn::Load(dSums, roundings.value[group * rowsAtOnce]);
+  const auto rounding = hn::Load(dSums, roundings.value[ptrdiff_t{group} * rowsAtOnce]);
   const auto shifted = [](SumsVector v) HWY_ATTR { return hn::ShiftRight<12>(v); };
   if constexpr (count == 2) {
     const auto pair = pairOf<0, 1>(x);
@@ -120,7 +120,7 @@ HWY_INLINE void inverse(const Vemi16s* src, const Store& store) {
   Row r[8];
   unrolled<count / rowsAtOnce>([&](auto group) HWY_ATTR {
     constexpr int y = group * rowsAtOnce;
-    separate(inverseRows<count>(hn::LoadU(SomeRows(), src + 8 * y), group), r + y);
+    separate(inverseRows<count>(hn::LoadU(SomeRows(), src + ptrdiff_t{8} * y), group), r + y);
   });
   inverseColumns<count>(r);
   unrolled<8>([&](auto y) HWY_ATTR { store(y, r[y].v); });

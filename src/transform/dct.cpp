@@ -40,7 +40,7 @@ constexpr ptrdiff_t vectorLanes = ColumnGroups::N;
 Vemi64s bufferBytes(VemiSize size, int hint) {
   const auto ofLines = [&](int length) { return Vemi64s{16} * length + signal::workBytesOfDCT(length, hint); };
   const bool is8x8 = size.width == 8 && size.height == 8;
-  return (is8x8 ? 16 * 64 : std::max(ofLines(size.width), ofLines(size.height))) + bufferSlack;
+  return (is8x8 ? Vemi64s{16} * 64 : std::max(ofLines(size.width), ofLines(size.height))) + bufferSlack;
 }
 
 template <bool isForward>

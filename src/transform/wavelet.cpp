@@ -82,7 +82,7 @@ HWY_NOINLINE void sumRow(const Sum& sum, ptrdiff_t count, ptrdiff_t from, float*
 }
 
 /// Pixels of n elements go in turn to `even` and to `odd`; the last one of an odd number to `even`.
-template <int n>
+template <ptrdiff_t n>
 HWY_NOINLINE void sumRowApart(const Sum& sum, ptrdiff_t pixels, ptrdiff_t from, float* even, float* odd) {
   forItems<n == 1 ? 2 : 1>(pixels / 2, from == n, [&](auto d, auto blocks, ptrdiff_t i) HWY_ATTR {
     constexpr ptrdiff_t N = hn::MaxLanes(decltype(d)());
@@ -114,7 +114,7 @@ HWY_NOINLINE void sumRowApart(const Sum& sum, ptrdiff_t pixels, ptrdiff_t from, 
 }
 
 /// `count` pixels of n elements of each sum, in turn.
-template <int n>
+template <ptrdiff_t n>
 HWY_NOINLINE void sumRowsInTurn(const Sum (&sums)[2], ptrdiff_t count, float* dst, ptrdiff_t to) {
   forItems<n == 1 ? 2 : 1>(count, to == n, [&](auto d, auto blocks, ptrdiff_t i) HWY_ATTR {
     constexpr ptrdiff_t N = hn::MaxLanes(decltype(d)());
