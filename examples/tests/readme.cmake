@@ -9,7 +9,7 @@ endif()
 
 file(STRINGS ${root}/tools/exports.txt exports)
 list(LENGTH exports count)
-string(REGEX MATCH "There are ([0-9,]+) so far" found "${readme}")
+string(REGEX MATCH "There are ([0-9,]+):" found "${readme}")
 string(REPLACE "," "" number "${CMAKE_MATCH_1}")
 if(NOT number STREQUAL count)
   message(FATAL_ERROR "README.md counts ${CMAKE_MATCH_1} functions, tools/exports.txt ${count}")

@@ -26,7 +26,7 @@ struct BytePattern {
     BytePattern pattern = {bytes, (samples - 1) * distance + sampleBytes, {}};
     for (int k = 0; k < bytes; ++k) {
       const bool isZero = k >= samples * sampleBytes;
-      pattern.at[k] = isZero ? 0x80 : static_cast<uint8_t>(k / sampleBytes * distance + k % sampleBytes);
+      pattern.at[k] = static_cast<uint8_t>(isZero ? 0x80 : k / sampleBytes * distance + k % sampleBytes);
     }
     return pattern;
   }

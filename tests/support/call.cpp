@@ -1,5 +1,6 @@
 #include "support/call.h"
 
+#include <omp.h>
 #include <signal.h>
 #include <unistd.h>
 
@@ -435,7 +436,11 @@ View Call::array(const std::string& parameter) {
 
 VemiStatus Call::invoke() {
   noteCall(text());
+  const int threads = omp_get_max_threads();
+  const bool countsThreads = familyOf(function).exceptions.countsThreads;
+  if (countsThreads) omp_set_num_threads(1);
   const VemiStatus status = function.call(function.function, arguments.data());
+  if (countsThreads) omp_set_num_threads(threads);
   forgetCall();
   if (newRecord_ != nullptr) {
     const Export& destructor = partnerOf(function, "InitAlloc", "Free");

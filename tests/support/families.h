@@ -25,6 +25,7 @@ struct Exceptions {
   bool wholeSteps = false;        // steps are rounded down to whole elements
   VemiStatus lateError = vemiOk;  // an error that leaves the destination written
   VemiStatus noMemory = vemiErrMemAlloc;
+  bool countsThreads = false;  // results depend on how many a team may have: calls are made with one
 
   /// Whole steps for a family that rounds them.
   Rows suited(Rows rows) const { return wholeSteps && rows == Rows::odd ? Rows::padded : rows; }
