@@ -133,7 +133,7 @@ class FloatAcross {
 
   FloatAcross(const Scratch& scratch, const Room& room, const Axis& x, int firstColumn)
       : elements_(ptrdiff_t{x.count} * L::elements),
-        pitch_(withVectorEnd(elements_)),
+        pitch_(static_cast<ptrdiff_t>(withVectorEnd(elements_))),
         picks_(scratch, room.picks),
         weight_(scratch[room.weight]) {
     int32_t* const offset = scratch[room.offset];
@@ -554,7 +554,7 @@ class AreaAcross {
 
   AreaAcross(const Scratch& scratch, const Room& room, const Axis& x, int firstColumn, int taps)
       : elements_(ptrdiff_t{x.count} * L::elements),
-        pitch_(withVectorEnd(elements_)),
+        pitch_(static_cast<ptrdiff_t>(withVectorEnd(elements_))),
         taps_(taps),
         picks_(scratch, room.picks),
         weight_(scratch[room.weight]) {
