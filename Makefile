@@ -21,7 +21,7 @@ BUILD_PACKAGES := g++ cmake ninja-build pkg-config libhwy-dev libpng-dev libgtes
 IA32_PACKAGES := g++-12-multilib googletest
 ARM64_PACKAGES := g++-12-aarch64-linux-gnu qemu-user-static googletest
 CLANG_PACKAGES := clang libclang-rt-dev libomp-dev
-PEER_PACKAGES := libopencv-core-dev libopencv-imgproc-dev libyuv-dev libpixman-1-dev libfftw3-dev
+PEER_PACKAGES := libopencv-core-dev libopencv-imgproc-dev libyuv-dev libpixman-1-dev libfftw3-dev libjpeg62-turbo-dev
 ifeq ($(PRESET),ia32)
 BUILD_PACKAGES += $(IA32_PACKAGES)
 endif
