@@ -80,7 +80,7 @@ struct PairFactors {
   constexpr explicit PairFactors(const PairsOf& pairsOf) : factor() {
     for (int row = 0; row < 8; ++row) {
       const auto pairs = pairsOf(rowFactors(row));
-      for (size_t i = 0; i < 8 * vectors; ++i) {
+      for (size_t i = 0; i < size_t{8} * vectors; ++i) {
         factor[row / rowsAtOnce][i / 8][row % rowsAtOnce][i % 8] = static_cast<int16_t>(pairs[i]);
       }
     }
