@@ -23,16 +23,16 @@ auto medianRows(VemiSize roiSize) {
 }
 
 /// A pixel of a window, counted from the one in its centre.
-struct Tap {
+struct Neighbour {
   int x, y;
 };
 
-inline constexpr std::array<Tap, 3> row3 = {{{-1, 0}, {0, 0}, {1, 0}}};
-inline constexpr std::array<Tap, 5> row5 = {{{-2, 0}, {-1, 0}, {0, 0}, {1, 0}, {2, 0}}};
-inline constexpr std::array<Tap, 3> column3 = {{{0, -1}, {0, 0}, {0, 1}}};
-inline constexpr std::array<Tap, 5> column5 = {{{0, -2}, {0, -1}, {0, 0}, {0, 1}, {0, 2}}};
-inline constexpr std::array<Tap, 5> cross3 = {{{0, -1}, {-1, 0}, {0, 0}, {1, 0}, {0, 1}}};
-inline constexpr std::array<Tap, 9> cross5 = {
+inline constexpr std::array<Neighbour, 3> row3 = {{{-1, 0}, {0, 0}, {1, 0}}};
+inline constexpr std::array<Neighbour, 5> row5 = {{{-2, 0}, {-1, 0}, {0, 0}, {1, 0}, {2, 0}}};
+inline constexpr std::array<Neighbour, 3> column3 = {{{0, -1}, {0, 0}, {0, 1}}};
+inline constexpr std::array<Neighbour, 5> column5 = {{{0, -2}, {0, -1}, {0, 0}, {0, 1}, {0, 2}}};
+inline constexpr std::array<Neighbour, 5> cross3 = {{{0, -1}, {-1, 0}, {0, 0}, {1, 0}, {0, 1}}};
+inline constexpr std::array<Neighbour, 9> cross5 = {
     {{0, -2}, {0, -1}, {-2, 0}, {-1, 0}, {0, 0}, {1, 0}, {2, 0}, {0, 1}, {0, 2}}};
 
 template <int count>
