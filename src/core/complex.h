@@ -65,17 +65,25 @@ OnParts<Part, Op> onParts(Op op) {
   return {op};
 }
 
-/// First operand times second, in single precision.
-struct ComplexProduct {
+/// First operand times second, or times its conjugate, in single precision.
+template <bool ofConjugate>
+struct ProductInFloats {
   template <class D, class V>
   HWY_INLINE V operator()(D d, V a, V b) const {
     const hn::Repartition<float, D> df;
     const auto af = hn::BitCast(df, a), bf = hn::BitCast(df, b);
     const auto ofReal = hn::Mul(hn::DupEven(af), bf);                       // a.re b.re, a.re b.im
     const auto ofImaginary = hn::Mul(hn::DupOdd(af), hn::Shuffle2301(bf));  // a.im b.im, a.im b.re
-    return hn::BitCast(d, hn::OddEven(hn::Add(ofReal, ofImaginary), hn::Sub(ofReal, ofImaginary)));
+    if constexpr (ofConjugate) {
+      return hn::BitCast(d, hn::OddEven(hn::Sub(ofImaginary, ofReal), hn::Add(ofReal, ofImaginary)));
+    } else {
+      return hn::BitCast(d, hn::OddEven(hn::Add(ofReal, ofImaginary), hn::Sub(ofReal, ofImaginary)));
+    }
   }
 };
+
+using ComplexProduct = ProductInFloats<false>;
+using ConjugateProduct = ProductInFloats<true>;
 
 /// Wide lanes within the range of Part.
 template <class Part, class D, class V>

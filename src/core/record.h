@@ -70,4 +70,13 @@ VemiStatus freeRecord(R* record, Tag... tag) {
   return vemiOk;
 }
 
+/// A GetBufSize function, of a record that has the size.
+template <class R>
+VemiStatus tellBufSize(const R* record, int tag, int* pBufSize) {
+  if (pBufSize == nullptr) return vemiErrNullPtr;
+  if (const VemiStatus bad = checkRecord(record, tag)) return bad;
+  *pBufSize = record->bufSize;
+  return vemiOk;
+}
+
 }  // namespace vemi

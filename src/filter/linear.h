@@ -337,10 +337,10 @@ VemiStatus floatKernel(Image<const T> src, Image<T> dst, VemiSize roiSize, UserK
 }
 
 /// For columns of three and four channels: calls of one channel with so many times the width, which is looked at first.
-template <class T, class L>
-VemiStatus floatColumn(Image<const T> src, Image<T> dst, VemiSize roiSize, UserKernel<float> kernel) {
+template <auto filter, class T, class Weight, class... More>
+VemiStatus widthFirst(Image<const T> src, Image<T> dst, VemiSize roiSize, UserKernel<Weight> kernel, More... more) {
   if (roiSize.width < 1) return vemiErrSize;
-  return floatKernel<T, L>(src, dst, roiSize, kernel);
+  return filter(src, dst, roiSize, kernel, more...);
 }
 
 }  // namespace vemi::filter

@@ -22,13 +22,6 @@ VemiStatus integerKernel(Image<const Vemi16s> src, Image<Vemi16s> dst, VemiSize 
   });
 }
 
-template <class L>
-VemiStatus integerColumn(Image<const Vemi16s> src, Image<Vemi16s> dst, VemiSize roiSize, UserKernel<Vemi32s> kernel,
-                         int divisor) {
-  if (roiSize.width < 1) return vemiErrSize;
-  return integerKernel<L>(src, dst, roiSize, kernel, divisor);
-}
-
 }  // namespace
 }  // namespace vemi::filter
 
@@ -56,11 +49,13 @@ VEMI_DEFINE(vemiFilterRow32f_16s_C4R, VEMI_SRC_DST(Vemi16s, VEMI_ROW_KERNEL(Vemi
 VEMI_DEFINE(vemiFilterRow32f_16s_AC4R, VEMI_SRC_DST(Vemi16s, VEMI_ROW_KERNEL(Vemi32f)), floatKernel<Vemi16s, AC4>)
 
 VEMI_DEFINE(vemiFilterColumn_16s_C1R, VEMI_SRC_DST(Vemi16s, VEMI_DIVIDED_COLUMN_KERNEL), integerKernel<C1>)
-VEMI_DEFINE(vemiFilterColumn_16s_C3R, VEMI_SRC_DST(Vemi16s, VEMI_DIVIDED_COLUMN_KERNEL), integerColumn<C3>)
-VEMI_DEFINE(vemiFilterColumn_16s_C4R, VEMI_SRC_DST(Vemi16s, VEMI_DIVIDED_COLUMN_KERNEL), integerColumn<C4>)
+VEMI_DEFINE(vemiFilterColumn_16s_C3R, VEMI_SRC_DST(Vemi16s, VEMI_DIVIDED_COLUMN_KERNEL), widthFirst<integerKernel<C3>>)
+VEMI_DEFINE(vemiFilterColumn_16s_C4R, VEMI_SRC_DST(Vemi16s, VEMI_DIVIDED_COLUMN_KERNEL), widthFirst<integerKernel<C4>>)
 VEMI_DEFINE(vemiFilterColumn_16s_AC4R, VEMI_SRC_DST(Vemi16s, VEMI_DIVIDED_COLUMN_KERNEL), integerKernel<AC4>)
 
 VEMI_DEFINE(vemiFilterColumn32f_16s_C1R, VEMI_SRC_DST(Vemi16s, VEMI_COLUMN_KERNEL(Vemi32f)), floatKernel<Vemi16s, C1>)
-VEMI_DEFINE(vemiFilterColumn32f_16s_C3R, VEMI_SRC_DST(Vemi16s, VEMI_COLUMN_KERNEL(Vemi32f)), floatColumn<Vemi16s, C3>)
-VEMI_DEFINE(vemiFilterColumn32f_16s_C4R, VEMI_SRC_DST(Vemi16s, VEMI_COLUMN_KERNEL(Vemi32f)), floatColumn<Vemi16s, C4>)
+VEMI_DEFINE(vemiFilterColumn32f_16s_C3R, VEMI_SRC_DST(Vemi16s, VEMI_COLUMN_KERNEL(Vemi32f)),
+            widthFirst<floatKernel<Vemi16s, C3>>)
+VEMI_DEFINE(vemiFilterColumn32f_16s_C4R, VEMI_SRC_DST(Vemi16s, VEMI_COLUMN_KERNEL(Vemi32f)),
+            widthFirst<floatKernel<Vemi16s, C4>>)
 VEMI_DEFINE(vemiFilterColumn32f_16s_AC4R, VEMI_SRC_DST(Vemi16s, VEMI_COLUMN_KERNEL(Vemi32f)), floatKernel<Vemi16s, AC4>)

@@ -189,13 +189,6 @@ VemiStatus integerKernel(Image<const Vemi8u> src, Image<Vemi8u> dst, VemiSize ro
   return roundingToNearest([&] { return filterByIntegers<alphaOf<L>>(call, kernel, divisor); });
 }
 
-template <class L>
-VemiStatus integerColumn(Image<const Vemi8u> src, Image<Vemi8u> dst, VemiSize roiSize, UserKernel<Vemi32s> kernel,
-                         int divisor) {
-  if (roiSize.width < 1) return vemiErrSize;
-  return integerKernel<L>(src, dst, roiSize, kernel, divisor);
-}
-
 }  // namespace
 }  // namespace vemi::filter
 
@@ -223,11 +216,13 @@ VEMI_DEFINE(vemiFilterRow32f_8u_C4R, VEMI_SRC_DST(Vemi8u, VEMI_ROW_KERNEL(Vemi32
 VEMI_DEFINE(vemiFilterRow32f_8u_AC4R, VEMI_SRC_DST(Vemi8u, VEMI_ROW_KERNEL(Vemi32f)), floatKernel<Vemi8u, AC4>)
 
 VEMI_DEFINE(vemiFilterColumn_8u_C1R, VEMI_SRC_DST(Vemi8u, VEMI_DIVIDED_COLUMN_KERNEL), integerKernel<C1>)
-VEMI_DEFINE(vemiFilterColumn_8u_C3R, VEMI_SRC_DST(Vemi8u, VEMI_DIVIDED_COLUMN_KERNEL), integerColumn<C3>)
-VEMI_DEFINE(vemiFilterColumn_8u_C4R, VEMI_SRC_DST(Vemi8u, VEMI_DIVIDED_COLUMN_KERNEL), integerColumn<C4>)
+VEMI_DEFINE(vemiFilterColumn_8u_C3R, VEMI_SRC_DST(Vemi8u, VEMI_DIVIDED_COLUMN_KERNEL), widthFirst<integerKernel<C3>>)
+VEMI_DEFINE(vemiFilterColumn_8u_C4R, VEMI_SRC_DST(Vemi8u, VEMI_DIVIDED_COLUMN_KERNEL), widthFirst<integerKernel<C4>>)
 VEMI_DEFINE(vemiFilterColumn_8u_AC4R, VEMI_SRC_DST(Vemi8u, VEMI_DIVIDED_COLUMN_KERNEL), integerKernel<AC4>)
 
 VEMI_DEFINE(vemiFilterColumn32f_8u_C1R, VEMI_SRC_DST(Vemi8u, VEMI_COLUMN_KERNEL(Vemi32f)), floatKernel<Vemi8u, C1>)
-VEMI_DEFINE(vemiFilterColumn32f_8u_C3R, VEMI_SRC_DST(Vemi8u, VEMI_COLUMN_KERNEL(Vemi32f)), floatColumn<Vemi8u, C3>)
-VEMI_DEFINE(vemiFilterColumn32f_8u_C4R, VEMI_SRC_DST(Vemi8u, VEMI_COLUMN_KERNEL(Vemi32f)), floatColumn<Vemi8u, C4>)
+VEMI_DEFINE(vemiFilterColumn32f_8u_C3R, VEMI_SRC_DST(Vemi8u, VEMI_COLUMN_KERNEL(Vemi32f)),
+            widthFirst<floatKernel<Vemi8u, C3>>)
+VEMI_DEFINE(vemiFilterColumn32f_8u_C4R, VEMI_SRC_DST(Vemi8u, VEMI_COLUMN_KERNEL(Vemi32f)),
+            widthFirst<floatKernel<Vemi8u, C4>>)
 VEMI_DEFINE(vemiFilterColumn32f_8u_AC4R, VEMI_SRC_DST(Vemi8u, VEMI_COLUMN_KERNEL(Vemi32f)), floatKernel<Vemi8u, AC4>)

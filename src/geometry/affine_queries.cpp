@@ -4,30 +4,11 @@
 #include "core/checks.h"
 #include "core/float_control.h"
 #include "geometry/affine.h"
+#include "geometry/quad_queries.h"
 #include "vemi/geometry.h"
 
 namespace vemi::geometry {
 namespace {
-
-template <class MapOf>
-VemiStatus getQuad(VemiRect srcRoi, double quad[4][2], const MapOf& mapOf) {
-  return roundingToNearest([&]() -> VemiStatus {
-    const Quad result = quadOf(srcRoi, mapOf());
-    if (!isConvex(result)) return vemiErrQuad;
-    store(result, quad);
-    return vemiOk;
-  });
-}
-
-/// vemiErrQuad behind the bound of a bad quadrangle.
-template <class MapOf>
-VemiStatus getBound(VemiRect srcRoi, double bound[2][2], const MapOf& mapOf) {
-  return roundingToNearest([&]() -> VemiStatus {
-    const Quad quad = quadOf(srcRoi, mapOf());
-    storeBound(quad, bound);
-    return isConvex(quad) ? vemiOk : vemiErrQuad;
-  });
-}
 
 VemiStatus addShift(Point from, Point center, double angle, double* pxShift, double* pyShift) {
   return roundingToNearest([&]() -> VemiStatus {
@@ -65,46 +46,37 @@ VemiStatus vemiAddRotateShift(double xCenter, double yCenter, double angle, doub
 }
 
 VemiStatus vemiGetRotateQuad(VemiRect srcRoi, double quad[4][2], double angle, double xShift, double yShift) {
-  if (const VemiStatus bad = firstOf(checkRect(srcRoi), checkNull(quad))) return bad;
   return getQuad(srcRoi, quad, [&] { return Angle(angle).rotation({xShift, yShift}); });
 }
 
 /// The corners of any rectangle may be turned, those of a line too.
 VemiStatus vemiGetRotateBound(VemiRect srcRoi, double bound[2][2], double angle, double xShift, double yShift) {
-  if (const VemiStatus bad = firstOf(checkRect(srcRoi), checkNull(bound))) return bad;
-  getBound(srcRoi, bound, [&] { return Angle(angle).rotation({xShift, yShift}); });
-  return vemiOk;
+  const VemiStatus status = getBound(srcRoi, bound, [&] { return Angle(angle).rotation({xShift, yShift}); });
+  return status == vemiErrQuad ? vemiOk : status;
 }
 
 VemiStatus vemiGetShearQuad(VemiRect srcRoi, double quad[4][2], double xShear, double yShear, double xShift,
                             double yShift) {
-  if (const VemiStatus bad = firstOf(checkRect(srcRoi), checkNull(quad))) return bad;
   return getQuad(srcRoi, quad, [&] { return shear(xShear, yShear, {xShift, yShift}); });
 }
 
 VemiStatus vemiGetShearBound(VemiRect srcRoi, double bound[2][2], double xShear, double yShear, double xShift,
                              double yShift) {
-  if (const VemiStatus bad = firstOf(checkRect(srcRoi), checkNull(bound))) return bad;
   return getBound(srcRoi, bound, [&] { return shear(xShear, yShear, {xShift, yShift}); });
 }
 
 VemiStatus vemiGetAffineQuad(VemiRect srcRoi, double quad[4][2], const double coeffs[2][3]) {
-  if (const VemiStatus bad = firstOf(checkRect(srcRoi), checkNull(quad, coeffs))) return bad;
-  return getQuad(srcRoi, quad, [&] { return affineFrom(coeffs); });
+  return getQuad(
+      srcRoi, quad, [&] { return affineFrom(coeffs); }, coeffs);
 }
 
 VemiStatus vemiGetAffineBound(VemiRect srcRoi, double bound[2][2], const double coeffs[2][3]) {
-  if (const VemiStatus bad = firstOf(checkRect(srcRoi), checkNull(bound, coeffs))) return bad;
-  return getBound(srcRoi, bound, [&] { return affineFrom(coeffs); });
+  return getBound(
+      srcRoi, bound, [&] { return affineFrom(coeffs); }, coeffs);
 }
 
 VemiStatus vemiGetAffineTransform(VemiRect srcRoi, const double quad[4][2], double coeffs[2][3]) {
-  if (const VemiStatus bad = firstOf(checkRect(srcRoi), checkNull(quad, coeffs))) return bad;
-  return roundingToNearest([&]() -> VemiStatus {
-    const Quad to = quadFrom(quad);
-    if (!isConvex(to)) return vemiErrCoeff;
-    if (srcRoi.width < 2 || srcRoi.height < 2) return vemiErrRect;
-    const Edges from(srcRoi);
+  return getTransform(srcRoi, quad, coeffs, [&](const Edges& from, const Quad& to) -> VemiStatus {
     const double width = from.right - from.left, height = from.bottom - from.top;
     const auto row = [&](double p0, double p1, double p2, double* c) {
       c[0] = (p1 - p0) / width;

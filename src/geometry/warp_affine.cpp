@@ -4,6 +4,7 @@
 
 #include "geometry/affine.h"
 #include "geometry/exports.h"
+#include "geometry/quad_warps.h"
 #include "vemi/geometry.h"
 
 namespace vemi::geometry {
@@ -33,7 +34,8 @@ VemiStatus shearImage(Src src, Dst dst, Regions regions, double xShear, double y
 }
 
 /// The part of the destination's quadrangle that comes from the source's, where three corners do not settle the fourth.
-Polygon commonPart(const Quad& srcQuad, const Quad& dstQuad, const Affine& map) {
+Polygon commonPart(const Quad& srcQuad, const Quad& dstQuad) {
+  const Affine map = cornersTo(srcQuad, dstQuad);
   const Polygon whole(dstQuad);
   const Point fourth = map(srcQuad.corner[3]), wanted = dstQuad.corner[3];
   double extent = 0;
@@ -50,20 +52,15 @@ Polygon commonPart(const Quad& srcQuad, const Quad& dstQuad, const Affine& map) 
       .clippedBy(insideOf(fourth, map(srcQuad.corner[0])), anywhere);
 }
 
+/// By three corners of each.
+struct PlacesByCorners : AffinePlaces {
+  PlacesByCorners(const Quad& to, const Quad& from) : AffinePlaces{cornersTo(to, from)} {}
+};
+
 template <class L, class Src, class Dst>
 VemiStatus warpAffineQuad(Src src, Dst dst, Regions regions, const double srcQuad[4][2], const double dstQuad[4][2],
                           int interpolation) {
-  if (const VemiStatus bad = checkWarp(src, dst, regions, interpolation, srcQuad, dstQuad)) return bad;
-  return roundingToNearest([&]() -> VemiStatus {
-    const Quad from = quadFrom(srcQuad), to = quadFrom(dstQuad);
-    WarpSource source;
-    if (!isConvex(from) || !isConvex(to)) return vemiErrCoeff;
-    if (const VemiStatus bad = sourceOf(regions, interpolation, source)) return bad;
-    limitToRegion(source);
-    if (Polygon(from).clippedTo(source.region).count == 0) return vemiWarnQuadIntersection;
-    const Polygon polygon = commonPart(from, to, cornersTo(from, to));
-    return warp<L>(imagesOf(src), imagesOf(dst), regions, source, to, polygon, AffinePlaces{cornersTo(to, from)});
-  });
+  return warpBetweenQuads<PlacesByCorners, L>(src, dst, regions, srcQuad, dstQuad, interpolation, commonPart);
 }
 
 }  // namespace

@@ -3,6 +3,7 @@
 // quadrangles that are given are tested ahead of the intersection. Queries: size, null, quadrangle, region.
 
 #include "geometry/exports.h"
+#include "geometry/quad_queries.h"
 #include "geometry/quad_warps.h"
 #include "vemi/geometry.h"
 
@@ -207,14 +208,18 @@ VEMI_DEFINE(vemiWarpBilinearQuad_32f_P3R, VEMI_WARP_QUAD_PLANES(Vemi32f, 3), war
 VEMI_DEFINE(vemiWarpBilinearQuad_32f_P4R, VEMI_WARP_QUAD_PLANES(Vemi32f, 4), warpBetweenQuads<BilinearPlaces, C1>)
 
 VemiStatus vemiGetBilinearQuad(VemiRect srcRoi, double quad[4][2], const double coeffs[2][4]) {
-  return getQuad(srcRoi, quad, coeffs, bilinearFrom);
+  return getQuad(
+      srcRoi, quad, [&] { return bilinearFrom(coeffs); }, coeffs);
 }
 
 VemiStatus vemiGetBilinearBound(VemiRect srcRoi, double bound[2][2], const double coeffs[2][4]) {
-  return getBound(srcRoi, bound, coeffs, bilinearFrom);
+  return getBound(
+      srcRoi, bound, [&] { return bilinearFrom(coeffs); }, coeffs);
 }
 
 VemiStatus vemiGetBilinearTransform(VemiRect srcRoi, const double quad[4][2], double coeffs[2][4]) {
-  return getTransform(srcRoi, quad, coeffs,
-                      [&](const Edges& from, const Quad& to) { storeTransform(from, to, coeffs); });
+  return getTransform(srcRoi, quad, coeffs, [&](const Edges& from, const Quad& to) -> VemiStatus {
+    storeTransform(from, to, coeffs);
+    return vemiOk;
+  });
 }

@@ -3,6 +3,7 @@
 // two quadrangles that are given are tested in the place of coefficients. Queries: size, null, quadrangle, region.
 
 #include "geometry/exports.h"
+#include "geometry/quad_queries.h"
 #include "geometry/quad_warps.h"
 #include "vemi/geometry.h"
 
@@ -168,14 +169,18 @@ VEMI_DEFINE(vemiWarpPerspectiveQuad_32f_P3R, VEMI_WARP_QUAD_PLANES(Vemi32f, 3), 
 VEMI_DEFINE(vemiWarpPerspectiveQuad_32f_P4R, VEMI_WARP_QUAD_PLANES(Vemi32f, 4), warpBetweenQuads<PerspectivePlaces, C1>)
 
 VemiStatus vemiGetPerspectiveQuad(VemiRect srcRoi, double quad[4][2], const double coeffs[3][3]) {
-  return getQuad(srcRoi, quad, coeffs, perspectiveFrom);
+  return getQuad(
+      srcRoi, quad, [&] { return perspectiveFrom(coeffs); }, coeffs);
 }
 
 VemiStatus vemiGetPerspectiveBound(VemiRect srcRoi, double bound[2][2], const double coeffs[3][3]) {
-  return getBound(srcRoi, bound, coeffs, perspectiveFrom);
+  return getBound(
+      srcRoi, bound, [&] { return perspectiveFrom(coeffs); }, coeffs);
 }
 
 VemiStatus vemiGetPerspectiveTransform(VemiRect srcRoi, const double quad[4][2], double coeffs[3][3]) {
-  return getTransform(srcRoi, quad, coeffs,
-                      [&](const Edges& from, const Quad& to) { storeTransform(from, to, coeffs); });
+  return getTransform(srcRoi, quad, coeffs, [&](const Edges& from, const Quad& to) -> VemiStatus {
+    storeTransform(from, to, coeffs);
+    return vemiOk;
+  });
 }

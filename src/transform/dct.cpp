@@ -65,15 +65,6 @@ VemiStatus initAlloc(VemiDCTSpec_32f** ppSpec, VemiSize roiSize, int hint) {
   return handOver(std::move(spec), ppSpec);
 }
 
-template <bool isForward>
-VemiStatus bufSize(const VemiDCTSpec_32f* spec, int* size) {
-  if (const VemiStatus bad = firstOf(checkNull(size), checkRecord(spec, isForward ? forwardTag : inverseTag))) {
-    return bad;
-  }
-  *size = spec->bufSize;
-  return vemiOk;
-}
-
 // ---- Blocks of 8 by 8 -----------------------------------------------------------------------------------------------
 
 template <bool isForward, class L>
@@ -392,8 +383,12 @@ VemiStatus vemiDCTInvInitAlloc_32f(VemiDCTSpec_32f** ppSpec, VemiSize roiSize, v
 }
 VemiStatus vemiDCTFwdFree_32f(VemiDCTSpec_32f* pSpec) { return freeRecord(pSpec, forwardTag); }
 VemiStatus vemiDCTInvFree_32f(VemiDCTSpec_32f* pSpec) { return freeRecord(pSpec, inverseTag); }
-VemiStatus vemiDCTFwdGetBufSize_32f(const VemiDCTSpec_32f* pSpec, int* pSize) { return bufSize<true>(pSpec, pSize); }
-VemiStatus vemiDCTInvGetBufSize_32f(const VemiDCTSpec_32f* pSpec, int* pSize) { return bufSize<false>(pSpec, pSize); }
+VemiStatus vemiDCTFwdGetBufSize_32f(const VemiDCTSpec_32f* pSpec, int* pSize) {
+  return tellBufSize(pSpec, forwardTag, pSize);
+}
+VemiStatus vemiDCTInvGetBufSize_32f(const VemiDCTSpec_32f* pSpec, int* pSize) {
+  return tellBufSize(pSpec, inverseTag, pSize);
+}
 
 #define IMAGES_SPEC                                                                                               \
   ((const Vemi32f* pSrc, int srcStep, Vemi32f* pDst, int dstStep, const VemiDCTSpec_32f* pSpec, Vemi8u* pBuffer), \

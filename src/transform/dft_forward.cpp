@@ -91,20 +91,13 @@ VemiStatus packLine(Image<const float> src, Image<float> dst, const DFTFloats& s
   const ptrdiff_t length = line.length;
   const bool isRow = spec.height == 1;
   const float scale = line.fwdScaled != 0 ? line.scale : 1;
+  if (line.realFFT != nullptr) {
+    return transformLine<L>(src, dst, isRow, length, scratch,
+                            [&](float* own) { return sigFFTFwd_RToPack_32f(own, own, line.realFFT.get(), nullptr); });
+  }
   for (int channel = 0; channel < L::channels; ++channel) {
-    const auto from = [&](ptrdiff_t n) {
-      return elementOf((isRow ? src.first + n * L::elements : src.row(n)) + channel);
-    };
-    const auto set = [&](ptrdiff_t n, float value) {
-      setElement((isRow ? dst.first + n * L::elements : dst.row(n)) + channel, value);
-    };
-    if (line.realFFT != nullptr) {
-      float* const own = scratch.as<float>();
-      for (ptrdiff_t n = 0; n < length; ++n) own[n] = from(n);
-      if (const VemiStatus bad = sigFFTFwd_RToPack_32f(own, own, line.realFFT.get(), nullptr)) return bad;
-      for (ptrdiff_t n = 0; n < length; ++n) set(n, own[n]);
-      continue;
-    }
+    const auto from = [&](ptrdiff_t n) { return elementOf(lineElement<L>(src, isRow, n, channel)); };
+    const auto set = [&](ptrdiff_t n, float value) { setElement(lineElement<L>(dst, isRow, n, channel), value); };
     signal::transformLine(
         line.lines, groupsIn(scratch, line.lines),
         [&](ptrdiff_t n) {

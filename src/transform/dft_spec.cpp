@@ -82,13 +82,6 @@ VemiStatus initInteger(VemiDFTSpec_R_32s** ppSpec, VemiSize size, int flag, int 
   return handOver(std::move(spec), ppSpec);
 }
 
-template <class Spec>
-VemiStatus bufSize(const Spec* spec, int tag, int* size) {
-  if (const VemiStatus bad = firstOf(checkNull(size), checkRecord(spec, tag))) return bad;
-  *size = spec->bufSize;
-  return vemiOk;
-}
-
 }  // namespace
 }  // namespace vemi::transform
 
@@ -110,11 +103,11 @@ VemiStatus vemiDFTFree_R_32s(VemiDFTSpec_R_32s* pSpec) { return freeRecord(pSpec
 VemiStatus vemiDFTFree_C_32fc(VemiDFTSpec_C_32fc* pSpec) { return freeRecord(pSpec, complexDFTTag); }
 
 VemiStatus vemiDFTGetBufSize_R_32f(const VemiDFTSpec_R_32f* pSpec, int* pBufSize) {
-  return bufSize(pSpec, realDFTTag, pBufSize);
+  return tellBufSize(pSpec, realDFTTag, pBufSize);
 }
 VemiStatus vemiDFTGetBufSize_R_32s(const VemiDFTSpec_R_32s* pSpec, int* pBufSize) {
-  return bufSize(pSpec, integerDFTTag, pBufSize);
+  return tellBufSize(pSpec, integerDFTTag, pBufSize);
 }
 VemiStatus vemiDFTGetBufSize_C_32fc(const VemiDFTSpec_C_32fc* pSpec, int* pBufSize) {
-  return bufSize(pSpec, complexDFTTag, pBufSize);
+  return tellBufSize(pSpec, complexDFTTag, pBufSize);
 }

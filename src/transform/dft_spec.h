@@ -25,10 +25,8 @@ inline constexpr int complexDFTTag = 27, realDFTTag = 28, integerDFTTag = 30;
 
 /// What the flag of a record makes of one of its directions: both extents at once, rounded once.
 inline float scaleOfImage(const signal::SigDFTSpec& line, bool isForward, ptrdiff_t count) {
-  const bool isScaled = (isForward ? line.fwdScaled : line.invScaled) != 0;
-  if (!isScaled) return 1;
-  const int flag = line.fwdScaled == line.invScaled ? 4 : isForward ? 1 : 2;
-  return static_cast<float>(signal::dftScale(flag, isForward, static_cast<double>(count)));
+  const int flag = scalingFlag(line, isForward);
+  return flag == 0 ? 1 : static_cast<float>(signal::dftScale(flag, isForward, static_cast<double>(count)));
 }
 
 /// Where lines that do not fit the stack have their groups: buffers that must hold them have room to align them.

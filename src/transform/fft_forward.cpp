@@ -170,7 +170,10 @@ VemiStatus forward(Image<const float> src, Image<float> dst, const VemiFFTSpec_R
   const Scratch scratch(spec->bufSize, buffer);
   if (scratch.failed()) return vemiErrMemAlloc;
   if (spec->orderX == 0 || spec->orderY == 0) {
-    return transformLine<L>(src, dst, *spec, scratch, signal::sigFFTFwd_RToPack_32f);
+    const bool isRow = spec->orderY == 0;
+    const signal::SigFFTSpec_R& line = isRow || spec->realSpecY == nullptr ? *spec->realSpecX : *spec->realSpecY;
+    return transformLine<L>(src, dst, isRow, spec->width() * spec->height(), scratch,
+                            [&](float* own) { return signal::sigFFTFwd_RToPack_32f(own, own, &line, nullptr); });
   }
   columns<L>(src, dst, *spec, scaleOfImage(*spec->realSpecX, true, spec->orderX + spec->orderY),
              columnMemory(scratch, spec->orderY));

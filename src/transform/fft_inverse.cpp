@@ -183,7 +183,10 @@ VemiStatus inverse(Image<const float> src, Image<float> dst, const VemiFFTSpec_R
   const Scratch scratch(spec->bufSize, buffer);
   if (scratch.failed()) return vemiErrMemAlloc;
   if (spec->orderX == 0 || spec->orderY == 0) {
-    return transformLine<L>(src, dst, *spec, scratch, signal::sigFFTInv_PackToR_32f);
+    const bool isRow = spec->orderY == 0;
+    const signal::SigFFTSpec_R& line = isRow || spec->realSpecY == nullptr ? *spec->realSpecX : *spec->realSpecY;
+    return transformLine<L>(src, dst, isRow, spec->width() * spec->height(), scratch,
+                            [&](float* own) { return signal::sigFFTInv_PackToR_32f(own, own, &line, nullptr); });
   }
   if (spec->orderX < signal::shortestLineOrder) {
     const PackedEdges edges{scratch.as<float>(), L::channels, spec->height()};

@@ -89,13 +89,6 @@ VemiStatus initInteger(VemiFFTSpec_R_32s** ppSpec, int orderX, int orderY, int f
   return handOver(std::move(spec), ppSpec);
 }
 
-template <class Spec>
-VemiStatus bufSize(const Spec* spec, int tag, int* size) {
-  if (const VemiStatus bad = firstOf(checkNull(size), checkRecord(spec, tag))) return bad;
-  *size = spec->bufSize;
-  return vemiOk;
-}
-
 }  // namespace
 }  // namespace vemi::transform
 
@@ -117,11 +110,11 @@ VemiStatus vemiFFTFree_R_32s(VemiFFTSpec_R_32s* pSpec) { return freeRecord(pSpec
 VemiStatus vemiFFTFree_C_32fc(VemiFFTSpec_C_32fc* pSpec) { return freeRecord(pSpec, complexFFTTag); }
 
 VemiStatus vemiFFTGetBufSize_R_32f(const VemiFFTSpec_R_32f* pSpec, int* pBufSize) {
-  return bufSize(pSpec, realFFTTag, pBufSize);
+  return tellBufSize(pSpec, realFFTTag, pBufSize);
 }
 VemiStatus vemiFFTGetBufSize_R_32s(const VemiFFTSpec_R_32s* pSpec, int* pBufSize) {
-  return bufSize(pSpec, integerFFTTag, pBufSize);
+  return tellBufSize(pSpec, integerFFTTag, pBufSize);
 }
 VemiStatus vemiFFTGetBufSize_C_32fc(const VemiFFTSpec_C_32fc* pSpec, int* pBufSize) {
-  return bufSize(pSpec, complexFFTTag, pBufSize);
+  return tellBufSize(pSpec, complexFFTTag, pBufSize);
 }

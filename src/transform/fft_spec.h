@@ -27,12 +27,17 @@ struct FFTFloats : FFTOrders {
 
 inline constexpr int complexFFTTag = 25, realFFTTag = 26, integerFFTTag = 29;
 
-/// What the flag of a record makes of one of its directions: both extents at once, rounded once.
+/// The flag of a record by which one of its directions is scaled; 0 where that is not.
+template <class Line>
+int scalingFlag(const Line& line, bool isForward) {
+  if ((isForward ? line.fwdScaled : line.invScaled) == 0) return 0;
+  return line.fwdScaled == line.invScaled ? vemiFftScaleSqrt : isForward ? vemiFftScaleFwd : vemiFftScaleInv;
+}
+
+/// What it makes of the direction: both extents at once, rounded once.
 inline float scaleOfImage(const signal::FFTLine& line, bool isForward, int orders) {
-  const bool isScaled = (isForward ? line.fwdScaled : line.invScaled) != 0;
-  if (!isScaled) return 1;
-  const int flag = line.fwdScaled == line.invScaled ? 4 : isForward ? 1 : 2;
-  return static_cast<float>(signal::fftScale(flag, isForward, orders));
+  const int flag = scalingFlag(line, isForward);
+  return flag == 0 ? 1 : static_cast<float>(signal::fftScale(flag, isForward, orders));
 }
 
 /// The first address from here on that is a whole number of the longest vectors.

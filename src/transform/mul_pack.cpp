@@ -36,18 +36,6 @@ struct ComplexOf<Vemi32f> {
 template <class T>
 using WideLane = LaneOf<typename ComplexOf<T>::Type>;
 
-/// First operand times the conjugate of the second, in single precision.
-struct ConjugateProduct {
-  template <class D, class V>
-  HWY_INLINE V operator()(D d, V a, V b) const {
-    const hn::Repartition<float, D> df;
-    const auto af = hn::BitCast(df, a), bf = hn::BitCast(df, b);
-    const auto ofReal = hn::Mul(hn::DupEven(af), bf);                       // a.re b.re, a.re b.im
-    const auto ofImaginary = hn::Mul(hn::DupOdd(af), hn::Shuffle2301(bf));  // a.im b.im, a.im b.re
-    return hn::BitCast(d, hn::OddEven(hn::Sub(ofImaginary, ofReal), hn::Add(ofReal, ofImaginary)));
-  }
-};
-
 /// Scale factors above 0: the floor of a quotient, which saturates.
 template <class Part>
 struct ProductFloor {

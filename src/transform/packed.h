@@ -189,22 +189,21 @@ template <class L>
 void unpackLongLines(Image<const float> src, Image<float> dst, const Roots& roots, int order, PackedEdges edges,
                      float* memory);
 
-/// Images of one row or column: in a buffer, a channel at a time.
+/// An element of an image of one row or column.
+template <class L, class T>
+T* lineElement(Image<T> image, bool isRow, ptrdiff_t n, int channel) {
+  return (isRow ? image.first + n * L::elements : image.row(n)) + channel;
+}
+
+/// Such an image by transform(line in the buffer, where the result comes too), a status, a channel at a time.
 template <class L, class Transform>
-VemiStatus transformLine(Image<const float> src, Image<float> dst, const FFTFloats& spec, const Scratch& scratch,
+VemiStatus transformLine(Image<const float> src, Image<float> dst, bool isRow, ptrdiff_t length, const Scratch& scratch,
                          const Transform& transform) {
-  const ptrdiff_t length = spec.width() * spec.height();
-  const bool isRow = spec.orderY == 0;
-  const signal::SigFFTSpec_R& line = isRow || spec.realSpecY == nullptr ? *spec.realSpecX : *spec.realSpecY;
   float* const own = scratch.as<float>();
   for (int channel = 0; channel < L::channels; ++channel) {
-    for (ptrdiff_t n = 0; n < length; ++n) {
-      own[n] = elementOf((isRow ? src.first + n * L::elements : src.row(n)) + channel);
-    }
-    if (const VemiStatus bad = transform(own, own, &line, nullptr)) return bad;
-    for (ptrdiff_t n = 0; n < length; ++n) {
-      setElement((isRow ? dst.first + n * L::elements : dst.row(n)) + channel, own[n]);
-    }
+    for (ptrdiff_t n = 0; n < length; ++n) own[n] = elementOf(lineElement<L>(src, isRow, n, channel));
+    if (const VemiStatus bad = transform(own)) return bad;
+    for (ptrdiff_t n = 0; n < length; ++n) setElement(lineElement<L>(dst, isRow, n, channel), own[n]);
   }
   return vemiOk;
 }

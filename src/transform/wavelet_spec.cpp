@@ -82,12 +82,6 @@ VemiStatus init(Spec** ppSpec, int tag, GivenFilter low, GivenFilter high) {
   return handOver(std::move(spec), ppSpec);
 }
 
-VemiStatus bufSize(const Wavelet* spec, int tag, int* size) {
-  if (const VemiStatus bad = firstOf(checkNull(size), checkRecord(spec, tag))) return bad;
-  *size = spec->bufSize;
-  return vemiOk;
-}
-
 }  // namespace
 }  // namespace vemi::transform
 
@@ -117,14 +111,14 @@ VemiStatus vemiWTInvFree_32f_C1R(VemiWTInvSpec_32f_C1R* pSpec) { return freeReco
 VemiStatus vemiWTInvFree_32f_C3R(VemiWTInvSpec_32f_C3R* pSpec) { return freeRecord(pSpec, inverseC3Tag); }
 
 VemiStatus vemiWTFwdGetBufSize_C1R(const VemiWTFwdSpec_32f_C1R* pSpec, int* pSize) {
-  return bufSize(pSpec, forwardC1Tag, pSize);
+  return tellBufSize(pSpec, forwardC1Tag, pSize);
 }
 VemiStatus vemiWTFwdGetBufSize_C3R(const VemiWTFwdSpec_32f_C3R* pSpec, int* pSize) {
-  return bufSize(pSpec, forwardC3Tag, pSize);
+  return tellBufSize(pSpec, forwardC3Tag, pSize);
 }
 VemiStatus vemiWTInvGetBufSize_C1R(const VemiWTInvSpec_32f_C1R* pSpec, int* pSize) {
-  return bufSize(pSpec, inverseC1Tag, pSize);
+  return tellBufSize(pSpec, inverseC1Tag, pSize);
 }
 VemiStatus vemiWTInvGetBufSize_C3R(const VemiWTInvSpec_32f_C3R* pSpec, int* pSize) {
-  return bufSize(pSpec, inverseC3Tag, pSize);
+  return tellBufSize(pSpec, inverseC3Tag, pSize);
 }
