@@ -353,7 +353,9 @@ void Call::layOut(Image& image) {
 void Call::fill(Image& image) {
   for (Image::Plane& plane : image.planes) {
     plane.before.resize(plane.memory.size());
-    random.fill(plane.before.data(), plane.before.size());
+    // Of a buffer by numbers of their own: its size, which may depend on the team, leaves all else as it is.
+    Random ofBuffer(scenario.seed);
+    (image.role == Role::buffer ? ofBuffer : random).fill(plane.before.data(), plane.before.size());
   }
   const View view = image.view(&Image::Plane::before);
   const Margin& margin = image.margin;

@@ -2,7 +2,6 @@
 #include "vemi/filter.h"
 
 #include <limits.h>
-#include <omp.h>
 
 #include <algorithm>
 #include <bit>
@@ -265,13 +264,9 @@ void drawWiener(Call& call) {
     noise.push_back(estimated ? 0.0f : static_cast<float>(1 + call.random.below(999)) / (kind == 1 ? 1e3f : 1e5f));
   }
   call.setArray("pNoise", noise);
-  // For all teams of the tests, so that the contents of a call do not depend on its team.
   int size = 0;
-  const int threads = omp_get_max_threads();
-  omp_set_num_threads(8);
   vemiFilterWienerGetBufferSize(call.scenario.roiSize, call.get<VemiSize>("maskSize"),
                                 channels == 1 ? 1 : call.function.destination.elements, &size);
-  omp_set_num_threads(threads);
   call.setBuffer("pBuffer", size, false);
 }
 
