@@ -1740,6 +1740,8 @@ VEMI_API VemiStatus vemiAbs_32f_AC4IR(Vemi32f* pSrcDst, int srcDstStep, VemiSize
  * **Statuses**, in the order of the tests: null, size, step (see status.h).
  *
  * **Threads.** All forms run in the calling thread.
+ *
+ *     vemiSqr_8u_C1RSfs(image, step, squares, squareStep, size, 8);    // v * v / 256: 128 gives 64
  * @{
  */
 
@@ -1834,6 +1836,8 @@ VEMI_API VemiStatus vemiSqr_32f_AC4IR(Vemi32f* pSrcDst, int srcDstStep, VemiSize
  * channel too, although it is not worked on. Neither -0.0 nor a NaN is below zero. All of the region is computed.
  *
  * **Threads.** All forms run in the calling thread.
+ *
+ *     vemiSqrt_8u_C1IRSfs(image, step, size, -4);    // sqrt(v) * 16: 255 gives 255, 64 gives 128
  * @{
  */
 
@@ -1926,6 +1930,8 @@ VEMI_API VemiStatus vemiSqrt_32f_AC4IR(Vemi32f* pSrcDst, int srcDstStep, VemiSiz
  *   below zero goes before a zero. To be sure of an image, look for its smallest element instead.
  *
  * **Threads.** All forms run in the calling thread.
+ *
+ *     vemiLn_32f_C1IR(image, step, size);    // products become sums
  * @{
  */
 
@@ -1990,6 +1996,8 @@ VEMI_API VemiStatus vemiLn_32f_C3IR(Vemi32f* pSrcDst, int srcDstStep, VemiSize r
  * **Statuses**, in the order of the tests: null, size, step (see status.h). A result beyond the range is no warning.
  *
  * **Threads.** All forms run in the calling thread.
+ *
+ *     vemiExp_32f_C1IR(logarithms, step, size);    // back from vemiLn
  * @{
  */
 
@@ -2131,6 +2139,8 @@ VEMI_API VemiStatus vemiMulCScale_16u_AC4IR(const Vemi16u value[3], Vemi16u* pSr
  * **Statuses**, in the order of the tests: null, **step, size**.
  *
  * **Threads.** All forms run in the calling thread.
+ *
+ *     vemiComplement_32s_C1IR(coefficients, step, size);
  * @{
  */
 

@@ -94,7 +94,7 @@ extern "C" {
  *     V = (((65536 sum of R - sum of L) >> 16) * 57475 >> (15 + n)) + 128
  *
  * @param pSrc,srcStep     RGB: first pixel and bytes between rows; of P3R, an array of three pointers and the step of
- * all three
+ *                         all three
  * @param pDst,dstStep     YUV; of P3, arrays of three pointers and, where pixels share chroma, of three steps, in the
  *                         order Y, U, V
  * @param roiSize          size of the region in pixels
@@ -252,7 +252,7 @@ VEMI_API VemiStatus vemiYUV420ToBGR_8u_P3C3R(const Vemi8u* const pSrc[3], const 
  * 0x1010000.
  *
  * @param pSrc,srcStep     RGB: first pixel and bytes between rows; of P3, an array of three pointers and the step of
- * all three
+ *                         all three
  * @param pDst,dstStep     YCbCr; of P3R, an array of three pointers and the step of all three; in 420, of C3P3R, arrays
  *                         of three pointers and of three steps, in the order Y, Cb, Cr
  * @param roiSize          size of the region in pixels
@@ -461,8 +461,8 @@ VEMI_API VemiStatus vemiCbYCr422ToBGR_8u_C2C4R(const Vemi8u* pSrc, int srcStep, 
  *     8u    156        137        of integers, see below
  *     16u   40092      35209      truncated towards zero, limited to 0..65535
  *     16s   40092      35209      as 16u of values 32768 higher: added before, subtracted from the float afterwards,
- * which is then truncated towards zero and limited to -32768..32767 32f   0.6117647  0.5372549  YCC as it is; RGB
- * limited to 0..1, a NaN becomes 0
+ *                                 which is then truncated towards zero and limited to -32768..32767
+ *     32f   0.6117647  0.5372549  YCC as it is; RGB limited to 0..1, a NaN becomes 0
  *
  * 16u, 16s and 32f are computed in single precision, sums from left to right as written.
  *
@@ -544,8 +544,8 @@ VEMI_API VemiStatus vemiYCCToRGB_32f_AC4R(const Vemi32f* pSrc, int srcStep, Vemi
  * row's left end are worked by another arithmetic than the columns that are left; x >> n is x / 2^n rounded down:
  *
  *     groups     s = (2^8 R w0 >> 16) + (2^8 G w1 >> 16) + (2^8 B w2 >> 16), with the lower 16 bits of each weight, as
- * a number without sign, and sums limited to 65535; s >> 4, limited to 255 the rest   (w0 R + w1 G + w2 B) >> 12, of
- * which the lower 8 bits are stored
+ *                a number without sign, and sums limited to 65535; s >> 4, limited to 255
+ *     the rest   (w0 R + w1 G + w2 B) >> 12, of which the lower 8 bits are stored
  *
  * So white is 254 in groups and 255 in the rest, by the fixed weights.
  *
@@ -1054,12 +1054,10 @@ VEMI_API VemiStatus vemiLabToBGR_16u8u_C3R(const Vemi16u* pSrc, int srcStep, Vem
  *
  *     t[c][0] * s0 + t[c][1] * s1 + t[c][2] * s2 + t[c][3] * s3
  *
- * | Member | Pixels |
- * |---|---|
- * | C3R, C3IR | three interleaved channels |
- * | AC4R, AC4IR | the first three of four interleaved channels; the destination's fourth, alpha, stays as it is |
- * | C4R | four interleaved channels, floats alone |
- * | P3R, IP3R | three planes with one step for all of them |
+ *     C3R, C3IR      three interleaved channels
+ *     AC4R, AC4IR    the first three of four interleaved channels; the destination's fourth, alpha, stays as it is
+ *     C4R            four interleaved channels, floats alone
+ *     P3R, IP3R      three planes with one step for all of them
  *
  * In IR forms and in IP3R the source is the destination. In the other forms the destination may be the very source, and
  * does not overlap it otherwise.
@@ -1078,8 +1076,9 @@ VEMI_API VemiStatus vemiLabToBGR_16u8u_C3R(const Vemi16u* pSrc, int srcStep, Vem
  * **Threads.** All members run in the calling thread. Factors that are not too large, and of bytes, take the fast way:
  * with the usual rounding mode a sum is computed in doubles only where single precision leaves its rounding open.
  *
- *     const Vemi32f sepia[3][4] = {{0.393f, 0.769f, 0.189f, 0}, {0.349f, 0.686f, 0.168f, 0}, {0.272f, 0.534f, 0.131f,
- * 0}}; vemiColorTwist32f_8u_C3R(photo, photoStep, old, oldStep, size, sepia);
+ *     const Vemi32f sepia[3][4] = {
+ *         {0.393f, 0.769f, 0.189f, 0}, {0.349f, 0.686f, 0.168f, 0}, {0.272f, 0.534f, 0.131f, 0}};
+ *     vemiColorTwist32f_8u_C3R(photo, photoStep, old, oldStep, size, sepia);
  * @{
  */
 
@@ -1200,6 +1199,10 @@ VEMI_API VemiStatus vemiColorTwist_32f_IP3R(Vemi32f* const pSrcDst[3], int srcDs
  * height is below the multiples to which it is cut.
  *
  * **Threads.** All members run in the calling thread.
+ *
+ *     const Vemi8u* const yuv[3] = {y, cb, cr};
+ *     const int steps[3] = {yStep, cbStep, crStep};
+ *     vemiYCbCr420ToYCbCr420_8u_P3P2R(yuv, steps, luma, lumaStep, pairs, pairStep, size);    // for a video encoder
  * @{
  */
 
@@ -1532,22 +1535,21 @@ VEMI_API VemiStatus vemiSwapChannels_32f_AC4R(const Vemi32f* pSrc, int srcStep, 
  * From YCbCr or YUV to red, green and blue of 4, 5 or 6 bits each in one word of 16 bits, for displays. Bits, counted
  * from the lowest:
  *
- * | Word | To...RGB... | To...BGR... |
- * |---|---|---|
- * | 565 | R 0..4, G 5..10, B 11..15 | B 0..4, G 5..10, R 11..15 |
- * | 555 | R 0..4, G 5..9, B 10..14  | B 0..4, G 5..9, R 10..14  |
- * | 444 | R 0..3, G 4..7, B 8..11   | B 0..3, G 4..7, R 8..11   |
+ *     word    To...RGB...                  To...BGR...
+ *     565     R 0..4, G 5..10, B 11..15    B 0..4, G 5..10, R 11..15
+ *     555     R 0..4, G 5..9, B 10..14     B 0..4, G 5..9, R 10..14
+ *     444     R 0..3, G 4..7, B 8..11      B 0..3, G 4..7, R 8..11
  *
  * So the letter that comes first lies in the lowest bits. Bits above the format are 0.
  *
- * | Source | Member | Planes, or bytes |
- * |---|---|---|
- * | vemiYCbCr... | C3R | Y, Cb, Cr of each pixel |
- * | | P3C3R | planes of Y, Cb and Cr, all of them of the region's size |
- * | vemiYCbCr422... | C2C3R | Y0, Cb, Y1, Cr of each two pixels; two bytes, Y and Cb, of the last one of an odd width |
- * | | P3C3R | planes; those of chroma have (width + 1) / 2 columns |
- * | vemiYCbCr420..., vemiYUV420... | P3C3R | planes; those of chroma have (width + 1) / 2 columns and (height + 1) / 2
- * rows |
+ *     source                            member  planes, or bytes
+ *     vemiYCbCr...                      C3R     Y, Cb, Cr of each pixel
+ *                                       P3C3R   planes of Y, Cb and Cr, all of them of the region's size
+ *     vemiYCbCr422...                   C2C3R   Y0, Cb, Y1, Cr of each two pixels; two bytes, Y and Cb, of the last one
+ *                                               of an odd width
+ *                                       P3C3R   planes; those of chroma have (width + 1) / 2 columns
+ *     vemiYCbCr420..., vemiYUV420...    P3C3R   planes; those of chroma have (width + 1) / 2 columns and
+ *                                               (height + 1) / 2 rows
  *
  * The last pixel of an odd width of C2C3R takes the Cr of the pair before it; where the width is 1, its Cb for both.
  *

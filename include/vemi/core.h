@@ -252,6 +252,8 @@ VEMI_API VemiStatus vemiCopy_32f_C1C4R(const Vemi32f* pSrc, int srcStep, Vemi32f
  *
  *     AC4C3    drops the source's fourth channel
  *     C3AC4    writes the first three channels of the destination and keeps its fourth
+ *
+ *     vemiCopy_8u_AC4C3R(rgba, rgbaStep, rgb, rgbStep, size);    // alpha is left out
  * @{
  */
 
@@ -361,6 +363,8 @@ VEMI_API VemiStatus vemiSet_32f_AC4R(const Vemi32f value[3], Vemi32f* pDst, int 
  *
  * Like the forms above at the pixels whose mask byte is not zero; all others keep their values. The mask is a Vemi8u
  * image of one channel and of the region's size.
+ *
+ *     vemiSet_8u_C3MR(red, photo, step, size, mask, maskStep);    // red where the mask is not 0
  * @{
  */
 
@@ -419,8 +423,10 @@ VEMI_API VemiStatus vemiSet_32f_C4CR(Vemi32f value, Vemi32f* pDst, int dstStep, 
 /**
  * @defgroup vemi_drawtext vemiDrawText: kept for its name
  *
- * Draws nothing: it looks at none of its nine arguments, touches no memory and always returns vemiWarnNoOperation. It
- * stays so, for programs that link to it.
+ * Draws nothing: it looks at none of its nine arguments and touches no memory. It stays so, for programs that link to
+ * it.
+ *
+ * **Status**: always vemiWarnNoOperation.
  * @{
  */
 

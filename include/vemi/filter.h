@@ -648,7 +648,7 @@ VEMI_API VemiStatus vemiFilterBox_32f_AC4IR(Vemi32f* pSrcDst, int srcDstStep, Ve
  * @param pSrcDst,srcDstStep  (in-place forms) the image that is both; all results come from its old pixels
  * @param roiSize             size of the region in pixels
  * @param pMask               maskSize.height rows of maskSize.width bytes without gaps: any byte but 0 selects its
- * pixel
+ *                            pixel
  * @param maskSize            width and height of the mask, 1 or more each
  * @param anchor              where in the mask the pixel lies: from (0, 0), its top left byte, to
  *                            (maskSize.width - 1, maskSize.height - 1); the byte there need not be set
@@ -791,9 +791,9 @@ VEMI_API VemiStatus vemiDilate_32f_AC4IR(Vemi32f* pSrcDst, int srcDstStep, VemiS
  *
  *     form                      taps             S                              pDst(x, y)
  *     vemiFilter_8u             32s and divisor  exact, of 32 bits that wrap    S / divisor, limited to 0..255
- *     vemiFilter_16s            32s and divisor  in floats, of taps * r         nearest integer, limited to
- * -32768..32767 vemiFilter_32f            32f              in floats                      S vemiFilter32f_8u, _16s 32f
- * in floats                      nearest integer, limited to the type
+ *     vemiFilter_16s            32s and divisor  in floats, of taps * r         nearest integer, limited to the type
+ *     vemiFilter_32f            32f              in floats                      S
+ *     vemiFilter32f_8u, _16s    32f              in floats                      nearest integer, limited to the type
  *
  * and alike for vemiFilterRow and vemiFilterColumn.
  *
@@ -1318,8 +1318,8 @@ VEMI_API VemiStatus vemiFilterMedianColor_32f_AC4R(const Vemi32f* pSrc, int srcS
  * @param maskSize      width and height of the window, 2 or more each
  * @param anchor        how many columns to its right (x) and rows below it (y) a pixel's window reaches: from (0, 0) to
  *                      (maskSize.width - 1, maskSize.height - 1)
- * @param pNoise        a noise for each channel that is worked on (1, 3 or 4), from 0 up to but not including 1; of
- * those that are 0 the estimates
+ * @param pNoise        a noise for each channel that is worked on (1, 3 or 4), from 0 up to but not including 1; those
+ *                      that are 0 receive the estimates
  * @param pBuffer       working memory at any address; it holds nothing between calls
  * @param channels      1, 3 or 4
  * @param pBufferSize   receives the size
@@ -1336,11 +1336,13 @@ VEMI_API VemiStatus vemiFilterMedianColor_32f_AC4R(const Vemi32f* pSrc, int srcS
  * **Threads.** C1 forms run in the calling thread, the others in a team, with a band of rows for each thread, unless
  * the region is small. No result depends on its size.
  *
+ *     VemiSize window = {5, 5};
+ *     VemiPoint middle = {2, 2};
  *     Vemi32f noise[3] = {0, 0, 0};  // to be estimated
  *     int size;
- *     vemiFilterWienerGetBufferSize(inner, {5, 5}, 3, &size);
- *     vemiFilterWiener_8u_C3R(photo + 2 * step + 6, step, clean, cleanStep, inner, {5, 5}, {2, 2}, noise,
- * malloc(size));
+ *     vemiFilterWienerGetBufferSize(inner, window, 3, &size);
+ *     Vemi8u* buffer = malloc(size);
+ *     vemiFilterWiener_8u_C3R(photo + 2 * step + 6, step, clean, cleanStep, inner, window, middle, noise, buffer);
  * @{
  */
 

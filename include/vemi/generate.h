@@ -141,6 +141,8 @@ VEMI_API VemiStatus vemiImageRamp_32f_AC4R(Vemi32f* pDst, int dstStep, VemiSize 
  * **Statuses**, in the order of the tests: null, step, size (see status.h).
  *
  * **Threads.** All forms run in the calling thread.
+ *
+ *     vemiImageJaehne_8u_C1R(image, step, size);    // what does a filter leave of which frequency?
  * @{
  */
 
@@ -319,6 +321,8 @@ VEMI_API VemiStatus vemiAddRandGauss_Direct_32f_AC4IR(Vemi32f* pSrcDst, int srcD
  * status.h); then vemiErrMemAlloc, if there is no memory for a row.
  *
  * **Threads.** All forms run in the calling thread.
+ *
+ *     vemiWinHamming_32f_C1IR(image, step, size);    // before vemiFFTFwd
  * @{
  */
 
@@ -358,7 +362,12 @@ VEMI_API VemiStatus vemiWinHamming_32f_C1IR(Vemi32f* pSrcDst, int srcDstStep, Ve
  *
  *     n = 5, Bartlett: 0, 0.5, 1, 0.5, 0        n = 3, Hamming: 0.08, 1, 0.08
  *
- * Arguments, statuses and threads are those of the radial forms; vemiErrMemAlloc is for the two windows.
+ * Arguments and threads are those of the radial forms.
+ *
+ * **Statuses**, in the order of the tests: null; size, where a width or a height below 3 is vemiErrSize; step; then
+ * vemiErrMemAlloc, if there is no memory for the two windows.
+ *
+ *     vemiWinHammingSep_32f_C1IR(image, step, size);    // before vemiFFTFwd
  * @{
  */
 

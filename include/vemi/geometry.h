@@ -55,8 +55,8 @@ enum {
  *
  * - vemiInterNearest: the pixel at i.
  * - vemiInterLinear: (1 - t) p(i) + t p(i + 1). At the image's last column i is one less and t is 1. Pixels of the
- * image beside the region take part. In single precision for 16u and 32f. In integers for 8u: with the weight w =
- *   trunc(t * 16384 + 1e-7) in both directions,
+ *   image beside the region take part. In single precision for 16u and 32f. In integers for 8u: with the weights
+ *   w = trunc(t * 16384 + 1e-7) across and v down,
  *
  *       h = ((16384 - w) p(i) + w p(i + 1) + 128) >> 8,   result = ((16384 - v) h0 + v h1 + 0x80000) >> 20
  *
@@ -69,12 +69,12 @@ enum {
  *   one, i is one less and t = p - i; at the last, i is two less and t is 2: the polynomial is that of the outermost
  *   four pixels.
  * - vemiInterLanczos: the sum of w(k) p(i + k) for k = -2..3, in this order and single precision; w(k) = L(|k - t|)
- * with L(x) = sin(pi x) sin(pi x / 3) / (pi x)^2 * 3 below 3, linear between hundredths. The weights' sum is not
- * exactly 1. Pixels that the image lacks repeat its edge.
+ *   with L(x) = sin(pi x) sin(pi x / 3) / (pi x)^2 * 3 below 3, linear between hundredths. The weights' sum is not
+ *   exactly 1. Pixels that the image lacks repeat its edge.
  * - vemiInterSuper, for factors of at most 1: the mean of the 1 / xFactor by 1 / yFactor source pixels that a
- * destination pixel covers, those at its edges by the part that is covered; parts below 1e-7 are left out. The first
- * rectangle begins with the region, each further one where the one before it ended. Sums are in single precision, rows
- * first, multiplied at last by xFactor yFactor. What passes the image counts for its last pixel.
+ *   destination pixel covers, those at its edges by the part that is covered; parts below 1e-7 are left out. The first
+ *   rectangle begins with the region, each further one where the one before it ended. Sums are in single precision,
+ *   rows first, multiplied at last by xFactor yFactor. What passes the image counts for its last pixel.
  *
  * Results of integers are rounded to nearest, ties to even (linear 8u as above), and limited to 0..255 or 0..65535;
  * cubic and Lanczos results do leave the range of the pixels.
@@ -338,8 +338,8 @@ VEMI_API VemiStatus vemiResizeShift_32f_P4R(const Vemi32f* const pSrc[4], VemiSi
  *
  * **Statuses**, in the order of the tests:
  *
- * - vemiErrSize: srcSize.width, srcSize.height, srcRoi.width or srcRoi.height is below 1, or srcRoi.x or srcRoi.y below
- * 0
+ * - vemiErrSize: srcSize.width, srcSize.height, srcRoi.width or srcRoi.height is below 1, or srcRoi.x or srcRoi.y is
+ *   below 0
  * - vemiWarnNoIntersection: the region begins outside the image; nothing is written
  * - vemiErrResizeFactor: a factor is not above 0
  * - vemiErrNullPtr: pxFr or pyFr is null
@@ -1124,7 +1124,7 @@ VEMI_API VemiStatus vemiGetBilinearTransform(VemiRect srcRoi, const double quad[
  * **Interpolation**, with which neighbours of (x, y) come from the image around `srcRoi` too:
  *   - vemiInterNearest: x and y are rounded to the nearest integer, ties to even.
  *   - vemiInterLinear: with i = trunc(x), columns i and i + 1 are weighed by 1 - w and w, w = x - i; then rows in the
- * same way. In the image's last column i is one less, and w is 1.
+ *     same way. In the image's last column i is one less, and w is 1.
  *   - vemiInterCubic: the polynomial through columns i - 1 to i + 2, then rows in the same way. Where such columns lie
  *     beyond the image, the four next to its edge are taken.
  *

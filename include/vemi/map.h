@@ -1009,6 +1009,9 @@ VEMI_API VemiStatus vemiCompareEqualEpsC_32f_AC4R(const Vemi32f* pSrc, int srcSt
  *   results up in tables of all 65536 values. Nothing is written where there is no memory for them.
  *
  * **Threads.** All forms run in the calling thread.
+ *
+ *     const Vemi32s levels[3] = {0, 128, 256}, values[3] = {0, 255, 0};
+ *     vemiLUT_8u_C1R(image, step, bits, bitStep, size, values, levels, 3);    // black and white
  * @{
  */
 
@@ -1081,10 +1084,17 @@ VEMI_API VemiStatus vemiLUT_32f_AC4R(const Vemi32f* pSrc, int srcStep, Vemi32f* 
  *
  * **Overlap.** pDst does not overlap pSrc, nor the arrays.
  *
- * **Statuses** as in vemiLUT; but here vemiErrMemAlloc may come from every 16s form (tables of all values) and every
- * 32f form (a slope for each interval), whatever the size of the region.
+ * **Statuses**, in the order of the tests, which is that of vemiLUT:
+ *
+ * - C1: null, size, step, then vemiErrLutLevels where nLevels is below 2.
+ * - C3, C4, AC4: null; then for each channel in turn its pointers, null again, and vemiErrLutLevels; then size, step.
+ * - Last, in 16s forms (tables of all values) and 32f forms (a slope for each interval), vemiErrMemAlloc, whatever the
+ *   size of the region. Nothing is written then.
  *
  * **Threads.** All forms run in the calling thread.
+ *
+ *     const Vemi32s levels[2] = {0, 256}, values[2] = {255, -1};
+ *     vemiLUT_Linear_8u_C1R(image, step, negative, negativeStep, size, values, levels, 2);
  * @{
  */
 
@@ -1163,10 +1173,17 @@ VEMI_API VemiStatus vemiLUT_Linear_32f_AC4R(const Vemi32f* pSrc, int srcStep, Ve
  *
  * **Overlap.** pDst does not overlap pSrc, nor the arrays.
  *
- * **Statuses** as in vemiLUT; but here vemiErrMemAlloc may come from every 16s form (tables of all values) and every
- * 32f form (three coefficients for each interval), whatever the size of the region.
+ * **Statuses**, in the order of the tests, which is that of vemiLUT:
+ *
+ * - C1: null, size, step, then vemiErrLutLevels where nLevels is below 2.
+ * - C3, C4, AC4: null; then for each channel in turn its pointers, null again, and vemiErrLutLevels; then size, step.
+ * - Last, in 16s forms (tables of all values) and 32f forms (three coefficients for each interval), vemiErrMemAlloc,
+ *   whatever the size of the region. Nothing is written then.
  *
  * **Threads.** All forms run in the calling thread.
+ *
+ *     const Vemi32s levels[4] = {0, 64, 192, 256}, values[4] = {0, 32, 224, 256};
+ *     vemiLUT_Cubic_8u_C1R(image, step, vivid, vividStep, size, values, levels, 4);
  * @{
  */
 
@@ -1297,6 +1314,8 @@ VEMI_API VemiStatus vemiLUTPalette_16u32u_C1R(const Vemi16u* pSrc, int srcStep, 
  *   is written where there is no memory for it.
  *
  * **Threads.** All forms run in the calling thread.
+ *
+ *     vemiGammaFwd_8u_C3IR(image, step, size);    // light of 128 is a signal of 180
  * @{
  */
 
@@ -1356,7 +1375,12 @@ VEMI_API VemiStatus vemiGammaFwd_32f_IP3R(Vemi32f* const pSrcDst[3], int srcDstS
  * @param roiSize             size of the region in pixels
  * @param vMin,vMax           32f: the values of black and white; vMax above vMin
  *
- * **Overlap**, **statuses**, **threads** as in vemiGammaFwd.
+ * **Overlap** and **threads** as in vemiGammaFwd.
+ *
+ * **Statuses**, in the order of the tests, as in vemiGammaFwd too: vemiErrGammaRange (32f) where vMax - vMin is zero,
+ * negative or a NaN; null (with all plane pointers), size, step; vemiErrMemAlloc (16u, for a table).
+ *
+ *     vemiGammaInv_8u_C3IR(image, step, size);    // a signal of 128 is light of 67
  * @{
  */
 
@@ -1426,8 +1450,9 @@ VEMI_API VemiStatus vemiGammaInv_32f_IP3R(Vemi32f* const pSrcDst[3], int srcDstS
  *     vemiDitherNone               k = floor((t + n + 32767) / 65535): the nearest level. With a noise of 100 the mean
  *                                  is that of the source, at the price of much grain.
  *     vemiDitherBayer              the same with w in the place of n: w = d + n, where d = ((63 - 2 B) 65535) >> 7 and
- * B is the matrix of 8 x 8 at [y mod 8][x mod 8] that grows from (0) by B -> (4 B, 4 B + 2; 4 B + 3, 4 B + 1): its
- * first row is 0 32 8 40 2 34 10 42. Where w is above 32767 it is 65535 less, below -32767 as much more.
+ *                                  B is the matrix of 8 x 8 at [y mod 8][x mod 8] that grows from (0) by
+ *                                  B -> (4 B, 4 B + 2; 4 B + 3, 4 B + 1): its first row is 0 32 8 40 2 34 10 42. Where
+ *                                  w is above 32767 it is 65535 less, below -32767 as much more.
  *     vemiDitherFloydSteinberg     error diffusion, in rows from the top, each from the left:
  *     vemiDitherJarvisJudiceNinke      u = t + floor((S + W / 2) / W)
  *     vemiDitherStucki                 k = floor((u + n + 32767) / 65535), limited to 0..N

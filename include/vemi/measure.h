@@ -120,6 +120,8 @@ VEMI_API VemiStatus vemiSum_32f_AC4R(const Vemi32f* pSrc, int srcStep, VemiSize 
  * @param hint          32f forms: a vemiHint
  *
  * **Statuses**: null, size, step.
+ *
+ *     vemiMean_8u_C3R(photo, step, size, mean);    // of each channel
  * @{
  */
 
@@ -160,6 +162,8 @@ VEMI_API VemiStatus vemiMean_32f_AC4R(const Vemi32f* pSrc, int srcStep, VemiSize
  * @param pMin,pMax     one element for each channel
  *
  * **Statuses**: null, size, step.
+ *
+ *     vemiMinMax_8u_C3R(photo, step, size, darkest, brightest);    // three of each
  * @{
  */
 
@@ -322,6 +326,8 @@ VEMI_API VemiStatus vemiMaxIndx_32f_AC4R(const Vemi32f* pSrc, int srcStep, VemiS
  * @param lower,upper   the limits, of the element type
  *
  * **Statuses**, in the order of the tests: null, step, size; then vemiErrRange where lower > upper, in any channel.
+ *
+ *     vemiCountInRange_8u_C1R(image, step, size, &dark, 0, 15);
  * @{
  */
 
@@ -361,6 +367,8 @@ VEMI_API VemiStatus vemiCountInRange_32f_AC4R(const Vemi32f* pSrc, int srcStep, 
  * @param hint          32f forms of L1 and L2: a vemiHint
  *
  * **Statuses**: null, size, step.
+ *
+ *     vemiNorm_L2_32f_C1R(image, step, size, &length, vemiHintAccurate);
  * @{
  */
 
@@ -546,6 +554,8 @@ VEMI_API VemiStatus vemiNormDiff_L2_32f_AC4R(const Vemi32f* pSrc1, int src1Step,
  * @param hint            32f forms of L1 and L2: a vemiHint
  *
  * **Statuses**: null, size, step; vemiWarnDivByZero as above, with pValue written.
+ *
+ *     vemiNormRel_L2_8u_C1R(coded, codedStep, image, step, size, &error);    // 0.02: two percent off
  * @{
  */
 
@@ -817,6 +827,8 @@ VEMI_API VemiStatus vemiMoments64s_8u_AC4R(const Vemi8u* pSrc, int srcStep, Vemi
  * vemiGetSpatialMoment vemiErrMomentZero where |S(0, 0)| is at most 2.220446049250313e-16, whatever the orders. Errors
  * leave the result alone, with one exception: on vemiErrMomentZero, vemiGetNormalizedSpatialMoment has stored what
  * vemiGetSpatialMoment gives.
+ *
+ *     vemiGetHuMoments_64f(state, 0, hu);    // of channel 0: the same of a shape that is moved, turned, or larger
  * @{
  */
 
@@ -1610,8 +1622,8 @@ VEMI_API VemiStatus vemiSqrDistanceValid_Norm_8u_AC4RSfs(const Vemi8u* pSrc, int
  *     valid, else, fewer than 49 results      sums in double precision: those of whole numbers are exact
  *     all others                              Fourier transforms of tiles, in single precision: the error of a sum is
  *                                             about 1e-7 of the product of the norms of kernel and tile, whose sides
- * are about two to eight times those of the kernel; 8u and 16s sums are rounded to whole numbers before they are
- * divided
+ *                                             are about two to eight times those of the kernel; 8u and 16s sums are
+ *                                             rounded to whole numbers before they are divided
  *
  * @param pSrc1,src1Step,src1Size  first pixel of one image, the bytes between its rows, its size in pixels
  * @param pSrc2,src2Step,src2Size  the same of the other image
@@ -1627,8 +1639,8 @@ VEMI_API VemiStatus vemiSqrDistanceValid_Norm_8u_AC4RSfs(const Vemi8u* pSrc, int
  *
  * **Threads.** All forms share their work among a team, but for fewer than 49 results. Results do not depend on it.
  *
- *     vemiConvValid_32f_C1R(photo, photoStep, {640, 480}, disc, discStep, {31, 31}, blurred, blurredStep);  // 610 x
- * 450
+ *     VemiSize size = {640, 480}, disc = {31, 31};  // and 610 x 450 of the result
+ *     vemiConvValid_32f_C1R(photo, photoStep, size, pDisc, discStep, disc, blurred, blurredStep);
  * @{
  */
 

@@ -64,7 +64,7 @@ extern "C" {
  *                         does, with the same step; other overlaps are not allowed.
  * @param scaleFactor      see vemi.h; any int
  * @param pBuffer          working memory of the size that vemiFFTGetBufSize tells, at any address, of one call at a
- * time; or null: then the call allocates and frees as much
+ *                         time; or null: then the call allocates and frees as much
  *
  * **Records.** A transform wants the record of its own kind: R_32f for 32f, R_32s for 8u32s and 32s8u, C_32fc for 32fc.
  * vemiFFTFree frees it and all that belongs to it.
@@ -202,7 +202,7 @@ VEMI_API VemiStatus vemiFFTInv_CToC_32fc_C1R(const Vemi32fc* pSrc, int srcStep, 
  *                         does, with the same step; other overlaps are not allowed.
  * @param scaleFactor      see vemi.h; any int
  * @param pBuffer          working memory of the size that vemiDFTGetBufSize tells, at any address, of one call at a
- * time; or null: then the call allocates and frees as much
+ *                         time; or null: then the call allocates and frees as much
  *
  * **Records.** As with vemiFFT: R_32f for 32f, R_32s for 8u32s and 32s8u, C_32fc for 32fc. vemiDFTFree frees a record
  * and all that belongs to it.
@@ -395,17 +395,16 @@ VEMI_API VemiStatus vemiDCTInv_32f_AC4R(const Vemi32f* pSrc, int srcStep, Vemi32
  * A block without a step is 64 elements, row after row. C1R forms have it on one side only: pixels of an image, with
  * the bytes between its rows. I forms work in place; the others may do so too where both sides are blocks.
  *
- * | Function                     | From            | To              | Computes |
- * |------------------------------|-----------------|-----------------|---------------------------------------------------|
- * | vemiDCT8x8Fwd_32f            | block           | block           | F, as exact as floats are | | vemiDCT8x8Inv_32f
- * | block           | block           | f                                                 | | vemiDCT8x8Fwd_16s, _8u16s
- * | block, image    | block           | F in fixed point                                  | | vemiDCT8x8FwdLS_8u16s |
- * image           | block           | F of the bytes plus addVal                        | | vemiDCT8x8Inv_16s, _16s8u
- * | block           | block, image    | f in fixed point; bytes are limited to 0 to 255   | | vemiDCT8x8InvLSClip_16s8u
- * | block           | image           | f plus addVal, limited to 0 to 255, then to at    | | |                 | |
- * least clipMin, then to at most clipMax            | | vemiDCT8x8Inv_4x4, _2x2_16s  | block           | block | f, as
- * if all F but those of u, v below 4 or 2     | |                              |                 |                 |
- * were 0; they are not looked at                    |
+ *     function                     from          to            computes
+ *     vemiDCT8x8Fwd_32f            block         block         F, as exact as floats are
+ *     vemiDCT8x8Inv_32f            block         block         f
+ *     vemiDCT8x8Fwd_16s, _8u16s    block, image  block         F in fixed point
+ *     vemiDCT8x8FwdLS_8u16s        image         block         F of the bytes plus addVal
+ *     vemiDCT8x8Inv_16s, _16s8u    block         block, image  f in fixed point; bytes are limited to 0 to 255
+ *     vemiDCT8x8InvLSClip_16s8u    block         image         f plus addVal, limited to 0 to 255, then to at least
+ *                                                              clipMin, then to at most clipMax
+ *     vemiDCT8x8Inv_4x4, _2x2_16s  block         block         f, as if all F but those of u, v below 4 or 2 were 0;
+ *                                                              they are not looked at
  *
  * **Fixed point.** 16s forms are for sources from -256 to 255, bytes and differences of bytes, and for the coefficients
  * from -2048 to 2047 that the forward ones make of them; F and f are off by less than 2. They are integer arithmetic,
@@ -471,7 +470,7 @@ VEMI_API VemiStatus vemiDCT8x8Inv_2x2_16s_C1I(Vemi16s pSrcDst[64]);
  *
  * @param pSrc,pDst  64 elements each; they may not overlap
  *
- * **Statuses:** null. **Threads.** All forms run in the calling thread.
+ * **Statuses**: null. **Threads.** All forms run in the calling thread.
  *
  *     vemiZigzagFwd8x8_16s_C1(block, scanned);    // scanned[2] is block[8]
  * @{
@@ -495,21 +494,19 @@ VEMI_API VemiStatus vemiZigzagInv8x8_16s_C1(const Vemi16s pSrc[64], Vemi16s pDst
  *     forward   c[x] = sum of t[k] * s[2 x + a - k]            over k = 0 to n - 1
  *     inverse   s[i] = sum of t[i + a - 1 - 2 m] * c[m]        over all m that lead to taps, of both filters
  *
- * |          | vertical filter | horizontal filter |
- * |----------|-----------------|-------------------|
- * | Approx   | low             | low               |
- * | DetailX  | high            | low               |
- * | DetailY  | low             | high              |
- * | DetailXY | high            | high              |
+ *                 vertical filter    horizontal filter
+ *     Approx      low                low
+ *     DetailX     high               low
+ *     DetailY     low                high
+ *     DetailXY    high               high
  *
  * Filters that give the image back without a shift, as (n, a) of low and high, forward and inverse:
  *
- * |                      | forward         | inverse             |
- * |----------------------|-----------------|---------------------|
- * | Haar                 | (2, 1) (2, 1)   | (2, 1) (2, 1)       |
- * | 5/3                  | (5, 2) (3, 2)   | (3, 2) (5, 2)       |
- * | 9/7                  | (9, 4) (7, 4)   | (7, 4) (9, 4)       |
- * | Daubechies of 4 taps | (4, a) (4, b)   | (4, 4 - a) (4, 4 - b), a - b even |
+ *                             forward            inverse
+ *     Haar                    (2, 1) (2, 1)      (2, 1) (2, 1)
+ *     5/3                     (5, 2) (3, 2)      (3, 2) (5, 2)
+ *     9/7                     (9, 4) (7, 4)      (7, 4) (9, 4)
+ *     Daubechies of 4 taps    (4, a) (4, b)      (4, 4 - a) (4, 4 - b), a - b even
  *
  * **Pixels read around the region.** There is no border handling (vemiCopy...Border functions make one). Let the larger
  * number of both filters count. Forward, of the source: n - 1 - a to the left of its region of 2 W by 2 H and above it,
@@ -605,11 +602,10 @@ VEMI_API VemiStatus vemiWTInv_32f_C3R(const Vemi32f* pApprox, int approxStep, co
  * Packed spectra, as vemiFFT and vemiDFT make them, are multiplied number by number: the result packed is that of a
  * convolution, or with Conj that of a correlation. Of any width W and height H, F(u, v) stands in
  *
- * |                                | real element                       | pair of real and imaginary part          |
- * |--------------------------------|------------------------------------|------------------------------------------|
- * | columns 1 to 2 ((W - 1) / 2)   |                                    | columns 2 u - 1 and 2 u of row v         |
- * | column 0: u = 0                | row 0: v = 0; row H - 1: v = H / 2 | rows 2 v - 1 and 2 v                     |
- * | column W - 1: u = W / 2        | the same                           | the same                                 |
+ *                                     real element                          pair of real and imaginary part
+ *     columns 1 to 2 ((W - 1) / 2)                                          columns 2 u - 1 and 2 u of row v
+ *     column 0: u = 0                 row 0: v = 0; row H - 1: v = H / 2    rows 2 v - 1 and 2 v
+ *     column W - 1: u = W / 2         the same                              the same
  *
  * where column W - 1 is one of its own only if W is even, and a real element in row H - 1 only if H is even. Of 5 by 5:
  *
