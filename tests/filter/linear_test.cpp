@@ -134,6 +134,21 @@ TEST(Linear, Division) {
   EXPECT_EQ(result, 0);
 }
 
+// White pixels, and taps on both sides of what sums and factors of 16 bits hold.
+TEST(Linear, TapsBeside16Bits) {
+  const std::vector<Vemi8u> white(41, 255);
+  for (const Vemi32s tap : {257, 258, -257, -258, 32767, 32768, -32768, -32769}) {
+    const Vemi32s taps[2] = {tap, 0};
+    for (const int divisor : {1, 256, 65536, 1 << 20, 300, 40000, -256, -65536}) {
+      Vemi8u expected = 0;
+      storeSaturated(Element::u8, reinterpret_cast<std::byte*>(&expected), quotient(255 * tap, divisor));
+      std::vector<Vemi8u> result(40);
+      ASSERT_EQ(vemiFilterRow_8u_C1R(white.data(), 41, result.data(), 40, {40, 1}, taps, 2, 0, divisor), vemiOk);
+      EXPECT_EQ(result, std::vector<Vemi8u>(40, expected)) << tap << " / " << divisor;
+    }
+  }
+}
+
 // The first tap meets the right neighbour, the last one the left.
 TEST(Linear, TheKernelIsTurned) {
   const Vemi8u pixels[5] = {0, 0, 1, 0, 0};

@@ -129,6 +129,13 @@ bool shortDestination(Call& call) {
   return true;
 }
 
+/// More pixels than any step has bytes, so that 32 bits do not hold the bytes of a row.
+bool endlessRows(Call& call) {
+  const VemiSize size = call.get<VemiSize>("roiSize");  // it may be bad
+  if (size.width > 0) call.set("roiSize", VemiSize{INT_MAX, size.height});
+  return true;
+}
+
 // ---- Kernels of the user's ------------------------------------------------------------------------------------------
 
 bool isIn(const Call& call, const char* word) { return call.function.name.find(word) != std::string::npos; }
@@ -289,7 +296,11 @@ std::vector<Family> filterFamilies() {
                                          {"maskSize", 55, "mask", vemiErrMaskSize},
                                          {"maskSize", INT_MIN, "mask", vemiErrMaskSize}};
   const std::vector<OwnFault> kernelSteps = {{"step of the source", 0, "step", vemiErrStep, shortWindows},
-                                             {"step of the destination", 0, "step", vemiErrStep, shortDestination}};
+                                             {"step of the destination", 0, "step", vemiErrStep, shortDestination},
+                                             {"width", INT_MAX, "step", vemiErrStep, endlessRows}};
+  const std::vector<OwnFault> shortRows = {{"step of the source", 0, "stride", vemiErrStride, shortSource},
+                                           {"step of the destination", 0, "stride", vemiErrStride, shortDestination},
+                                           {"width", INT_MAX, "stride", vemiErrStride, endlessRows}};
   const std::vector<OwnFault> noDivisor = {{"divisor", 0, "divisor", vemiErrDivisor}};
   const auto with = [](std::vector<OwnFault> faults, const std::vector<OwnFault>& more) {
     faults.insert(faults.end(), more.begin(), more.end());
@@ -327,25 +338,14 @@ std::vector<Family> filterFamilies() {
         {"anchor", 1000, "anchor", vemiErrAnchor},
         {"anchor", INT_MAX, "anchor", vemiErrAnchor}},
        tameFloats},
-      {"vemiErode3x3 vemiDilate3x3",
-       ".*",
-       "null step size stride",
-       surround3x3,
-       {{"step of the source", 0, "stride", vemiErrStride, shortSource},
-        {"step of the destination", 0, "stride", vemiErrStride, shortDestination}},
-       takeNumbers},
-      {"vemiErode vemiDilate",
-       ".*",
-       "null step size mask zero anchor stride",
-       drawShape,
-       {{"maskSize", 0, "mask", vemiErrMaskSize},
-        {"maskSize", INT_MIN, "mask", vemiErrMaskSize},
-        {"pMask of zeros", 0, "zero", vemiErrZeroMask, selectNothing},
-        {"anchor", -1, "anchor", vemiErrAnchor},
-        {"anchor", 1000, "anchor", vemiErrAnchor},
-        {"anchor", INT_MAX, "anchor", vemiErrAnchor},
-        {"step of the source", 0, "stride", vemiErrStride, shortSource},
-        {"step of the destination", 0, "stride", vemiErrStride, shortDestination}},
+      {"vemiErode3x3 vemiDilate3x3", ".*", "null step size stride", surround3x3, shortRows, takeNumbers},
+      {"vemiErode vemiDilate", ".*", "null step size mask zero anchor stride", drawShape,
+       with(shortRows, {{"maskSize", 0, "mask", vemiErrMaskSize},
+                        {"maskSize", INT_MIN, "mask", vemiErrMaskSize},
+                        {"pMask of zeros", 0, "zero", vemiErrZeroMask, selectNothing},
+                        {"anchor", -1, "anchor", vemiErrAnchor},
+                        {"anchor", 1000, "anchor", vemiErrAnchor},
+                        {"anchor", INT_MAX, "anchor", vemiErrAnchor}}),
        takeNumbers},
 
       // Kernels of the user's
