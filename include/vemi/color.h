@@ -58,7 +58,7 @@ extern "C" {
  */
 
 /**
- * @defgroup vemi_rgb_to_yuv vemiRGBToYUV, vemiRGBToYUV422, vemiRGBToYUV420
+ * @defgroup vemi_rgb_to_yuv vemiRGBToYUV, vemiRGBToYUV422, vemiRGBToYUV420: RGB to YUV
  *
  * From red, green and blue to YUV. See @ref vemi_luma_chroma for layouts and words.
  *
@@ -135,7 +135,7 @@ VEMI_API VemiStatus vemiRGBToYUV420_8u_P3(const Vemi8u* const pSrc[3], Vemi8u* c
 /** @} */
 
 /**
- * @defgroup vemi_yuv_to_rgb vemiYUVToRGB, vemiYUV422ToRGB, vemiYUV420ToRGB, vemiYUV420ToBGR
+ * @defgroup vemi_yuv_to_rgb vemiYUVToRGB, vemiYUV422ToRGB, vemiYUV420ToRGB, vemiYUV420ToBGR: YUV to RGB
  *
  * From YUV to red, green and blue. See @ref vemi_luma_chroma for layouts and words. With u = 8 (U - 128), v = 8 (V -
  * 128):
@@ -210,7 +210,7 @@ VEMI_API VemiStatus vemiYUV420ToBGR_8u_P3C3R(const Vemi8u* const pSrc[3], const 
 /** @} */
 
 /**
- * @defgroup vemi_rgb_to_ycbcr vemiRGBToYCbCr, vemiRGBToYCbCr422, vemiRGBToYCbCr420
+ * @defgroup vemi_rgb_to_ycbcr vemiRGBToYCbCr, vemiRGBToYCbCr422, vemiRGBToYCbCr420: RGB to YCbCr
  *
  * From red, green and blue to YCbCr. See @ref vemi_luma_chroma for layouts and words. Rounded to nearest:
  *
@@ -283,11 +283,10 @@ VEMI_API VemiStatus vemiRGBToYCbCr420_8u_C3P3R(const Vemi8u* pSrc, int srcStep, 
 /** @} */
 
 /**
- * @defgroup vemi_ycbcr_to_rgb vemiYCbCrToRGB, vemiYCbCr422ToRGB, vemiYCbCr420ToRGB, vemiYCbCr420ToBGR,
- * vemiYCbCr411ToBGR
+ * @defgroup vemi_ycbcr_to_rgb vemiYCbCrToRGB, vemiYCbCr422ToRGB, vemiYCbCr420ToRGB, vemiYCbCr411ToBGR: YCbCr to RGB
  *
- * From YCbCr to red, green and blue. See @ref vemi_luma_chroma for layouts and words. With y = 76284 (Y - 16),
- * c = Cb - 128, d = Cr - 128:
+ * From YCbCr to red, green and blue, of vemiYCbCr420ToBGR and vemiYCbCr411ToBGR with blue first. See
+ * @ref vemi_luma_chroma for layouts and words. With y = 76284 (Y - 16), c = Cb - 128, d = Cr - 128:
  *
  *     R = (y + 104595 d) >> 16                                  R = 1.164 (Y - 16) + 1.596 d
  *     G = (y - 25690 c - 53281 d) >> 16                         G = 1.164 (Y - 16) - 0.392 c - 0.813 d
@@ -360,7 +359,7 @@ VEMI_API VemiStatus vemiYCbCr411ToBGR_8u_P3C4R(const Vemi8u* const pSrc[3], cons
 /** @} */
 
 /**
- * @defgroup vemi_rgb_to_cbycr vemiRGBToCbYCr422, vemiRGBToCbYCr422Gamma, vemiBGRToCbYCr422
+ * @defgroup vemi_rgb_to_cbycr vemiRGBToCbYCr422, vemiRGBToCbYCr422Gamma, vemiBGRToCbYCr422: RGB to CbYCr
  *
  * From red, green and blue to pairs of pixels in the order Cb Y0 Cr Y1. See @ref vemi_luma_chroma for words. Of each
  * pixel, and of the sums of chroma weights in the next lines:
@@ -411,7 +410,7 @@ VEMI_API VemiStatus vemiBGRToCbYCr422_8u_AC4C2R(const Vemi8u* pSrc, int srcStep,
 /** @} */
 
 /**
- * @defgroup vemi_cbycr_to_rgb vemiCbYCr422ToRGB, vemiCbYCr422ToBGR
+ * @defgroup vemi_cbycr_to_rgb vemiCbYCr422ToRGB, vemiCbYCr422ToBGR: CbYCr to RGB
  *
  * From pairs of pixels in the order Cb Y0 Cr Y1 to red, green and blue. See @ref vemi_luma_chroma for words, and for
  * the last pixel of an odd row. With y = 76282 Y - 1187744, which is 1.164 (Y - 16) rounded to nearest, c = Cb - 128,
@@ -1368,7 +1367,7 @@ VEMI_API VemiStatus vemiYCbCr420ToYCbCr420_8u_P2P3R(const Vemi8u* pSrcY, int src
 /** @} */
 
 /**
- * @defgroup vemi_video_join vemiJoin422, vemiSplit422, vemiJoin420, vemiSplit420
+ * @defgroup vemi_video_join vemiJoin422, vemiSplit422, vemiJoin420, vemiSplit420: packing and unpacking
  *
  * vemiJoin422 packs three planes into bytes Y0 Cb Y1 Cr; vemiSplit422 is its inverse. vemiJoin420 packs the same bytes
  * from luma and 4:2:0 pairs, each row of pairs serving two rows. vemiSplit420 splits the pairs into planes of 4:2:0.

@@ -127,14 +127,25 @@
  *
  * Any function may be called from any number of threads at once, as long as none of them writes what another one uses.
  * Some functions share their rows out among an OpenMP team and say so; the size of the team is the OpenMP runtime's
- * business (OMP_NUM_THREADS, omp_set_num_threads). The result never depends on it, nor on the processor, the alignment
- * or the build: tests hold every function to equal bytes, but for the bits of computed NaNs, with teams of one, two and
- * three threads on 64-bit x86 with SSE4.2, AVX2 and AVX-512, on 32-bit x86 with SSSE3, and, under an emulator, on
- * 64-bit ARM.
+ * business (OMP_NUM_THREADS, omp_set_num_threads). The result never depends on it (but for the one that tells the size
+ * of a team's buffer, vemiFilterWienerGetBufferSize), nor on the processor, the alignment or the build: tests hold
+ * every function to equal bytes, but for the bits of computed NaNs, with teams of one, two and three threads on 64-bit
+ * x86 with SSE4.2, AVX2 and AVX-512, on 32-bit x86 with SSSE3, and, under an emulator, on 64-bit ARM.
+ *
+ * ### Records and working memory
+ *
+ * What transforms compute once for all images of a size is a record: `...InitAlloc` makes one and stores its address,
+ * `...Free` frees it. Its contents are the library's business. Calls only read it, so threads may share it; the state
+ * of moments alone is written by the call that sums an image. A record of another kind is answered with
+ * vemiErrContext.
+ *
+ * Some functions take working memory, pBuffer, of as many bytes as `...GetBufSize` or `...GetBufferSize` tells, at any
+ * address. It holds nothing between calls, and each call wants its own for the time that it runs. Where the description
+ * allows a null pointer, the call allocates and frees as much by itself.
  *
  * ### Ownership
  *
- * Images belong to the caller, and no pointer is kept after a call returns.
+ * Images, records and buffers belong to the caller, and no pointer is kept after a call returns.
  *
  * How calls report is told in status.h.
  */
