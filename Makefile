@@ -29,7 +29,7 @@ ifeq ($(PRESET)/$(filter aarch64,$(MACHINE)),armv8-a/)
 BUILD_PACKAGES += $(ARM64_PACKAGES)
 endif
 
-.PHONY: all demo test fuzz race bench peers bench-build check docs install exports digests format build configure clean
+.PHONY: all demo test fuzz race bench peers bench-build check docs install exports digests statuses format build configure clean
 
 all: build
 
@@ -94,6 +94,7 @@ check: build
 docs:
 	@tools/need.sh doxygen
 	@mkdir -p build
+	tools/find-functions.sh include tools/statuses.txt >build/find.md
 	doxygen docs/Doxyfile
 	@echo "open build/docs/html/index.html"
 
@@ -110,6 +111,12 @@ exports:
 digests: configure
 	cmake --build $(BUILD) -j $(JOBS) --target vemi_digest
 	$(BUILD)/tests/vemi_digest >tests/digest/digests.txt
+
+# After a function was added or returns another status: the committed list of who returns which.
+statuses: configure
+	cmake --build $(BUILD) -j $(JOBS) --target vemi_statuses
+	$(BUILD)/tests/vemi_statuses >$(BUILD)/statuses.txt
+	tools/list-statuses.sh include $(BUILD)/statuses.txt >tools/statuses.txt
 
 format:
 	@tools/need.sh clang-format

@@ -42,17 +42,6 @@ void expectNone(const std::string& failure) {
 
 // ---- Arguments ----
 
-Scenario randomScenario(const Export& function, Random& random) {
-  Scenario scenario;
-  scenario.roiSize = {1 + random.below(90), 1 + random.below(6)};
-  scenario.rows = familyOf(function).exceptions.suited(allRows[random.below(std::size(allRows))]);
-  scenario.mixture = static_cast<unsigned>(random.below(1 << function.steps()));
-  scenario.edge = random.below(2) == 0 ? Edge::front : Edge::back;
-  scenario.seed = static_cast<unsigned>(random.next());
-  scenario.scaleFactor = random.below(4) == 0 ? random.below(81) - 40 : random.below(9) - 2;
-  return scenario;
-}
-
 void driveArguments(const Functions& functions) {
   constexpr int callsEach = 40;
   long calls = 0, called = 0;

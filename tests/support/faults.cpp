@@ -166,6 +166,17 @@ std::vector<Fault> faultsOf(Call& call) {
   return ordered;
 }
 
+Scenario randomScenario(const Export& function, Random& random) {
+  Scenario scenario;
+  scenario.roiSize = {1 + random.below(90), 1 + random.below(6)};
+  scenario.rows = familyOf(function).exceptions.suited(allRows[random.below(std::size(allRows))]);
+  scenario.mixture = static_cast<unsigned>(random.below(1 << function.steps()));
+  scenario.edge = random.below(2) == 0 ? Edge::front : Edge::back;
+  scenario.seed = static_cast<unsigned>(random.next());
+  scenario.scaleFactor = random.below(4) == 0 ? random.below(81) - 40 : random.below(9) - 2;
+  return scenario;
+}
+
 Outcome tryCall(Call& call) {
   const VemiStatus status = call.invoke();
   if (status >= vemiOk || status == familyOf(call.function).exceptions.lateError) call.acceptWritten();

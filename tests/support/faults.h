@@ -1,4 +1,4 @@
-// All that can be wrong with the arguments of a call.
+// Calls with any good arguments, and all that can be wrong with them.
 #pragma once
 
 #include <functional>
@@ -19,6 +19,9 @@ struct Fault {
 /// In the order in which the function's family finds them; Call::restore undoes them. What the family does not test is
 /// left out.
 std::vector<Fault> faultsOf(Call& call);
+
+/// A small region in rows of any kind.
+Scenario randomScenario(const Export& function, Random& random);
 
 /// What came of a call: its status, and what it did that it must not, or nothing.
 struct Outcome {
