@@ -151,11 +151,13 @@ struct ShortTransform<9> {
   }
 };
 
-/// Where numbers n of sixteen real columns, or of the real and imaginary parts of eight, come from: rows of 16 floats.
+/// Where numbers n of sixteen real columns, or of the real and imaginary parts of eight, come from: 8 floats of a row,
+/// and 8 of those that lie `apart` floats behind them.
 struct SixteenFloats {
   using D = ColumnGroups::D;
 
   Image<const float> rows;
+  ptrdiff_t apart;
   bool areInverse;         // imaginary parts first
   const Vemi32s* numbers;  // of groups, and of as many more as are asked for ahead; or null: in order
 
@@ -166,8 +168,8 @@ struct SixteenFloats {
     const float* const row = rows.row(numberOf(group)) + k * ColumnGroups::N;
     const float* const later = rows.row(numberOf(group + ahead));
     __builtin_prefetch(later);
-    __builtin_prefetch(later + 15);
-    return {hn::LoadU(D(), row + (areInverse ? 8 : 0)), hn::LoadU(D(), row + (areInverse ? 0 : 8))};
+    __builtin_prefetch(later + apart + 7);
+    return {hn::LoadU(D(), row + (areInverse ? apart : 0)), hn::LoadU(D(), row + (areInverse ? 0 : apart))};
   }
 };
 

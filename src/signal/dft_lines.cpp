@@ -429,8 +429,8 @@ void DFTLines::transformFrom(ColumnGroups data, const From& from) const {
 
 void DFTLines::transform(ColumnGroups data) const { transformFrom(data, data); }
 
-void DFTLines::transform(ColumnGroups data, Image<const float> rows, bool areInverse) const {
-  transformFrom(data, SixteenFloats{rows, areInverse, numbers_});
+void DFTLines::transform(ColumnGroups data, Image<const float> rows, ptrdiff_t apart, bool areInverse) const {
+  transformFrom(data, SixteenFloats{rows, apart, areInverse, numbers_});
 }
 
 }  // namespace vemi::signal

@@ -58,9 +58,10 @@ class DFTLines {
   /// In place. What the groups behind number N - 1 hold is of no account.
   void transform(ColumnGroups data) const;
 
-  /// The same of rows of 16 floats: 16 real columns, of which the first and the last 8 become one complex number each,
-  /// or the real and the imaginary parts of 8 complex columns; changed over where `areInverse` says so.
-  void transform(ColumnGroups data, Image<const float> rows, bool areInverse) const;
+  /// The same of rows of 8 floats, and 8 more that lie `apart` floats behind the first ones: 16 real columns, of which
+  /// two become one complex number each, or the real and the imaginary parts of 8 complex columns; changed over where
+  /// `areInverse` says so.
+  void transform(ColumnGroups data, Image<const float> rows, ptrdiff_t apart, bool areInverse) const;
 
   /// Where number n is put.
   HWY_INLINE ptrdiff_t entry(ptrdiff_t n) const { return entries_ != nullptr ? entries_[n] : n; }

@@ -135,7 +135,7 @@ struct ShortTransform<16> {
 };
 
 /// The low `bits` bits of k in reverse order.
-inline ptrdiff_t bitsReversed(ptrdiff_t k, int bits) {
+constexpr ptrdiff_t bitsReversed(ptrdiff_t k, int bits) {
   auto v = static_cast<uint32_t>(k);
   v = (v & 0x55555555) << 1 | (v >> 1 & 0x55555555);
   v = (v & 0x33333333) << 2 | (v >> 2 & 0x33333333);
@@ -188,20 +188,24 @@ struct Groups {
 /// Lines of 2^8 numbers and more have groups for themselves; of shorter ones, several lie side by side.
 inline constexpr int shortestLineOrder = 8;
 
-/// Groups of one line: their numbers have a factor each.
-struct AlongLine {
-  static constexpr int width = 16;
-  static constexpr int groupOrder = 4;      // a group holds 2^4 numbers of a line
-  static constexpr ptrdiff_t perBlock = 1;  // groups that a block of factors serves
-  using D = Groups<width>::D;
+/// Groups of one line, of 2^order of its numbers: these have a factor each.
+template <int order>
+struct AlongLineBy {
+  static constexpr int width = 1 << order;
+  static constexpr int groupOrder = order;
+  static constexpr ptrdiff_t perBlock = factorsAtOnce / width;  // groups that a block of factors serves
+  using Own = Groups<width>;
+  using D = typename Own::D;
   const float* factors;
 
   template <class K>
-  HWY_INLINE Groups<width>::Numbers power(int n, ptrdiff_t, K k) const {
-    const float* const at = factors + ptrdiff_t{2} * (n - 1) * factorsAtOnce + k * Groups<width>::N;
+  HWY_INLINE typename Own::Numbers power(int n, ptrdiff_t j, K k) const {
+    const float* const at = factors + ptrdiff_t{2} * (n - 1) * factorsAtOnce + j * width + k * Own::N;
     return {hn::LoadU(D(), at), hn::LoadU(D(), at + factorsAtOnce)};
   }
 };
+using AlongLine = AlongLineBy<4>;
+using AlongShortLine = AlongLineBy<3>;
 
 /// Groups of numbers of several lines, which share a factor.
 struct AcrossLines {

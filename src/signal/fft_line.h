@@ -27,28 +27,34 @@ HWY_INLINE void lineLevels(LineGroups line, const Roots& roots, int order, const
   }
 }
 
+/// Transforms of `points` numbers, one to a lane: into z, its places being frequencies with their bits reversed, from
+/// load(lane, k), which gives vectors of a lane's numbers.
+template <int points, class V, class Load>
+HWY_INLINE void transformAcross(ComplexLanes<V>* z, const Load& load) {
+  const hn::DFromV<V> d;
+  constexpr int N = static_cast<int>(hn::MaxLanes(hn::DFromV<V>()));
+  unrolled<points / N>([&](auto k) HWY_ATTR {
+    V re[N], im[N];
+    unrolled<N>([&](auto lane) HWY_ATTR {
+      const ComplexLanes<V> numbers = load(lane, k);
+      re[lane] = numbers.re;
+      im[lane] = numbers.im;
+    });
+    transpose(d, re);
+    transpose(d, im);
+    unrolled<N>([&](auto i) HWY_ATTR { z[k * N + i] = {re[i], im[i]}; });
+  });
+  ShortTransform<points>::run(z);
+}
+
 /// A tile whose groups lie `distance` groups apart: store(run, lane, numbers) for each vector of the 16 runs.
 template <class Store>
 HWY_INLINE void lineTile(LineGroups tile, ptrdiff_t distance, const Store& store) {
   constexpr int reversed[16] = {0, 8, 4, 12, 2, 10, 6, 14, 1, 9, 5, 13, 3, 11, 7, 15};
-  constexpr int N = static_cast<int>(LineGroups::N);
-  using V = LineGroups::V;
-  const LineGroups::D d;
-  for (int lane = 0; lane < 16; lane += N) {
+  for (int first = 0; first < 16; first += static_cast<int>(LineGroups::N)) {
     LineGroups::Numbers z[16];
-    unrolled<16 / N>([&](auto k) HWY_ATTR {
-      V re[N], im[N];
-      unrolled<N>([&](auto i) HWY_ATTR {
-        const auto numbers = tile.load(reversed[lane + i] * distance, k);
-        re[i] = numbers.re;
-        im[i] = numbers.im;
-      });
-      transpose(d, re);
-      transpose(d, im);
-      unrolled<N>([&](auto i) HWY_ATTR { z[k * N + i] = {re[i], im[i]}; });
-    });
-    ShortTransform<16>::run(z);
-    unrolled<16>([&](auto run) HWY_ATTR { store(run, lane, z[reversed[run]]); });
+    transformAcross<16>(z, [&](auto lane, auto k) HWY_ATTR { return tile.load(reversed[first + lane] * distance, k); });
+    unrolled<16>([&](auto run) HWY_ATTR { store(run, first, z[reversed[run]]); });
   }
 }
 

@@ -122,8 +122,8 @@ class Lines {
   ptrdiff_t distance_, octetsAtOnce_;
 };
 
-/// Eight columns of floats. The last ones of an image overlap those before them, which stay; of fewer than eight
-/// columns there are copies.
+/// Eight columns of floats. The last ones of an image overlap those before them, which stay; where there are fewer than
+/// eight, or where the octet is to begin with its own channel, there are copies.
 struct ColumnOctet {
   ptrdiff_t x, count;
   bool keeps;
@@ -131,6 +131,7 @@ struct ColumnOctet {
 
   template <class L>
   static ColumnOctet at(ptrdiff_t first, ptrdiff_t floats) {
+    if (L::elements == 3) return {first, std::clamp<ptrdiff_t>(floats - first, 0, 8), false, {}};
     ColumnOctet octet = {
         std::max<ptrdiff_t>(0, std::min(first, floats - 8)), std::min<ptrdiff_t>(floats, 8), false, {}};
     for (ptrdiff_t i = 0; i < 8; ++i) {
@@ -176,9 +177,12 @@ struct ColumnOctet {
 template <class L>
 HWY_NOINLINE HWY_FLATTEN void columns(Image<const float> src, Image<float> dst, const SigDCTSpec& spec,
                                       ptrdiff_t floats, float* memory) {
+  // Octets that are one complex column have the same channels: of three, they lie 24 columns apart, and three pairs of
+  // octets follow each other before both are passed.
   const Lines lines(spec, memory);
-  for (ptrdiff_t x = 0; x < floats; x += 8 * lines.octetsAtOnce()) {
-    const ColumnOctet octet[2] = {ColumnOctet::at<L>(x, floats), ColumnOctet::at<L>(x + 8, floats)};
+  const ptrdiff_t apart = L::elements == 3 && !spec.isEven() ? 24 : 8, together = apart * lines.octetsAtOnce();
+  for (ptrdiff_t x = 0; x < floats; x += x % together == apart - 8 ? together - apart + 8 : 8) {
+    const ColumnOctet octet[2] = {ColumnOctet::at<L>(x, floats), ColumnOctet::at<L>(x + apart, floats)};
     const ptrdiff_t octets = lines.octetsFor(floats - x, 8);
     for (ptrdiff_t y = 0; y < spec.length; ++y) {
       askForRow(src, y + rowsAhead, x);
@@ -283,8 +287,8 @@ HWY_NOINLINE HWY_FLATTEN void rows(Image<const float> src, Image<float> dst, con
 
 // ---- Long lines -----------------------------------------------------------------------------------------------------
 
-/// Four at a time in the buffer. at(image, line, n) is element n of a line.
-template <class L, class At>
+/// Those of a channel, four at a time in the buffer. at(image, line, n) is element n of a line.
+template <class At>
 void longLines(Image<const float> src, Image<float> dst, const SigDCTSpec& spec, ptrdiff_t count, float* buffer,
                const At& at) {
   const ptrdiff_t length = spec.length;
@@ -307,12 +311,6 @@ void longLines(Image<const float> src, Image<float> dst, const SigDCTSpec& spec,
   }
 }
 
-/// The n-th of the floats of a pixel's channels, the fourth of which may not be one.
-template <class L>
-ptrdiff_t elementIndex(ptrdiff_t n) {
-  return n / L::channels * L::elements + n % L::channels;
-}
-
 template <ptrdiff_t groups, class Work>
 HWY_NOINLINE void onStack(const Work& work) {
   alignas(laneAlignment) float memory[groups * ColumnGroups{}.stride];
@@ -333,9 +331,10 @@ void linesAlongX(Image<const float> src, Image<float> dst, const SigDCTSpec& spe
   if (spec.isSideBySide()) {
     return withGroups(spec, buffer, [&](float* memory) { rows<L>(src, dst, spec, height, memory); });
   }
-  longLines<L>(src, dst, spec, height * L::channels, buffer, [](auto image, ptrdiff_t line, ptrdiff_t x) {
-    return image.row(line / L::channels) + x * L::elements + line % L::channels;
-  });
+  for (int channel = 0; channel < L::channels; ++channel) {
+    longLines(src, dst, spec, height, buffer,
+              [&](auto image, ptrdiff_t y, ptrdiff_t x) { return image.row(y) + x * L::elements + channel; });
+  }
 }
 
 template <class L>
@@ -343,8 +342,10 @@ void linesAlongY(Image<const float> src, Image<float> dst, const SigDCTSpec& spe
   if (spec.isSideBySide()) {
     return withGroups(spec, buffer, [&](float* memory) { columns<L>(src, dst, spec, width * L::elements, memory); });
   }
-  longLines<L>(src, dst, spec, width * L::channels, buffer,
-               [](auto image, ptrdiff_t line, ptrdiff_t y) { return image.row(y) + elementIndex<L>(line); });
+  for (int channel = 0; channel < L::channels; ++channel) {
+    longLines(src, dst, spec, width, buffer,
+              [&](auto image, ptrdiff_t x, ptrdiff_t y) { return image.row(y) + x * L::elements + channel; });
+  }
 }
 
 template <bool isForward, class L>

@@ -63,7 +63,7 @@ HWY_NOINLINE HWY_FLATTEN void columns(Floats image, ptrdiff_t width, const DFTLi
     const ptrdiff_t count = std::min<ptrdiff_t>(width - x, 8);
     const size_t bytes = static_cast<size_t>(count) * 2 * sizeof(float);
     if (count == 8) {
-      lines.transform(data, {image.src.first + 2 * x, image.src.step}, !isForward);
+      lines.transform(data, {image.src.first + 2 * x, image.src.step}, 8, !isForward);
     } else {
       for (ptrdiff_t y = 0; y < height; ++y) {
         float numbers[16] = {};

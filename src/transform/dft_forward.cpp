@@ -17,10 +17,10 @@ HWY_NOINLINE HWY_FLATTEN void columns(Image<const float> src, Image<float> dst, 
   const signal::DFTLines& lines = spec.complexSpecY->lines;
   const ptrdiff_t height = spec.height, floats = ptrdiff_t{spec.width} * L::elements;
   const auto whole = hn::Set(d, scale), half = hn::Set(d, scale / 2);
-  for (ptrdiff_t x = 0; x < floats; x += columnsAtOnce) {
-    const ColumnBlock block(x, floats);
-    if (block.count == columnsAtOnce) {
-      lines.transform(data, {src.first + x, src.step}, false);
+  for (ptrdiff_t x = 0; x < floats; x = ColumnBlock<L>::behind(x)) {
+    const ColumnBlock<L> block(x, floats);
+    if (block.isWhole()) {
+      lines.transform(data, {src.first + x, src.step}, block.apart, false);
     } else {
       for (ptrdiff_t y = 0; y < height; ++y) {
         unrolled<ColumnGroups::vectors>([&](auto k) HWY_ATTR { data.store(lines.entry(y), k, block.load(src, y, k)); });
@@ -30,19 +30,19 @@ HWY_NOINLINE HWY_FLATTEN void columns(Image<const float> src, Image<float> dst, 
     const auto storeReal = [&](ptrdiff_t v) HWY_ATTR {
       unrolled<ColumnGroups::vectors>([&](auto k) HWY_ATTR {
         const auto z = data.load(lines.place(v), k);
-        block.store<L>(dst, v, k, {hn::Mul(z.re, whole), hn::Mul(z.im, whole)});
+        block.store(dst, v, k, {hn::Mul(z.re, whole), hn::Mul(z.im, whole)});
       });
     };
     storeReal(0);
     if (height % 2 == 0) storeReal(height / 2);
     for (ptrdiff_t v = 1; 2 * v < height; ++v) {
-      askForRow(dst, v + rowsAhead, x);
-      askForRow(dst, height - v - rowsAhead, x);
+      block.askFor(dst, v + rowsAhead);
+      block.askFor(dst, height - v - rowsAhead);
       const ptrdiff_t place = lines.place(v), mirrored = lines.place(height - v);
       unrolled<ColumnGroups::vectors>([&](auto k) HWY_ATTR {
         const auto z = data.load(place, k), m = data.load(mirrored, k);
-        block.store<L>(dst, v, k, {hn::Mul(hn::Add(z.re, m.re), half), hn::Mul(hn::Add(z.im, m.im), half)});
-        block.store<L>(dst, height - v, k, {hn::Mul(hn::Sub(z.im, m.im), half), hn::Mul(hn::Sub(m.re, z.re), half)});
+        block.store(dst, v, k, {hn::Mul(hn::Add(z.re, m.re), half), hn::Mul(hn::Add(z.im, m.im), half)});
+        block.store(dst, height - v, k, {hn::Mul(hn::Sub(z.im, m.im), half), hn::Mul(hn::Sub(m.re, z.re), half)});
       });
     }
   }

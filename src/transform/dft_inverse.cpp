@@ -19,8 +19,8 @@ HWY_NOINLINE HWY_FLATTEN void columns(Image<float> dst, const DFTFloats& spec, f
   const ptrdiff_t height = spec.height, floats = ptrdiff_t{spec.width} * L::elements;
   const Image<const float> src = {dst.first, dst.step};
   const auto factor = hn::Set(d, scale);
-  for (ptrdiff_t x = 0; x < floats; x += columnsAtOnce) {
-    const ColumnBlock block(x, floats);
+  for (ptrdiff_t x = 0; x < floats; x = ColumnBlock<L>::behind(x)) {
+    const ColumnBlock<L> block(x, floats);
     const auto loadReal = [&](ptrdiff_t v) HWY_ATTR {
       unrolled<ColumnGroups::vectors>([&](auto k)
                                           HWY_ATTR { data.store(lines.entry(v), k, swapped(block.load(src, v, k))); });
@@ -28,8 +28,8 @@ HWY_NOINLINE HWY_FLATTEN void columns(Image<float> dst, const DFTFloats& spec, f
     loadReal(0);
     if (height % 2 == 0) loadReal(height / 2);
     for (ptrdiff_t v = 1; 2 * v < height; ++v) {
-      askForRow(src, v + rowsAhead, x);
-      askForRow(src, height - v - rowsAhead, x);
+      block.askFor(src, v + rowsAhead);
+      block.askFor(src, height - v - rowsAhead);
       const ptrdiff_t entry = lines.entry(v), mirrored = lines.entry(height - v);
       unrolled<ColumnGroups::vectors>([&](auto k) HWY_ATTR {
         const auto re = block.load(src, v, k), im = block.load(src, height - v, k);  // of columns of both halves
@@ -39,11 +39,11 @@ HWY_NOINLINE HWY_FLATTEN void columns(Image<float> dst, const DFTFloats& spec, f
     }
     lines.transform(data);
     for (ptrdiff_t y = 0; y < height; ++y) {
-      askForRow(dst, y + rowsAhead, x);
+      block.askFor(dst, y + rowsAhead);
       const ptrdiff_t place = lines.place(y);
       unrolled<ColumnGroups::vectors>([&](auto k) HWY_ATTR {
         const auto z = data.load(place, k);
-        block.store<L>(dst, y, k, {hn::Mul(z.im, factor), hn::Mul(z.re, factor)});
+        block.store(dst, y, k, {hn::Mul(z.im, factor), hn::Mul(z.re, factor)});
       });
     }
   }

@@ -1,9 +1,9 @@
 // vemiFFTFwd_CToC, vemiFFTInv_CToC: rows from source to destination, then blocks of 8 columns in the destination.
 // Checks: null record, tag, null images, step, memory.
 //
-// Long rows are lines in their destination's memory; short ones are transposed, 8 at a time. In between, the rows of
-// the destination hold 8 real parts, 8 imaginary parts, and so on, which spares both sides the pairs, unless they are
-// shorter.
+// Long rows are lines in their destination's memory, the shortest ones are transposed, 8 at a time, and those in
+// between are lines until their last transforms, which stand 8 side by side. In the end the rows of the destination
+// hold 8 real parts, 8 imaginary parts, and so on, which spares both sides the pairs, unless they are shorter.
 
 #include <algorithm>
 #include <cstring>
@@ -11,6 +11,7 @@
 #include "core/checks.h"
 #include "core/exports.h"
 #include "signal/fft_columns.h"
+#include "signal/fft_line.h"
 #include "transform/fft_spec.h"
 #include "transform/short_rows.h"
 
@@ -35,10 +36,10 @@ HWY_INLINE ColumnGroups::Numbers turnedTo(ColumnGroups::Numbers z) {
   return isForward ? z : signal::swapped(z);
 }
 
-/// Rows of up to 2^7 numbers.
+/// Rows of up to 2^4 numbers.
 template <bool isForward>
 HWY_NOINLINE HWY_FLATTEN void shortRows(Floats image, ptrdiff_t height, const Roots& roots, int order) {
-  alignas(laneAlignment) float memory[ColumnGroups{}.stride << (signal::shortestLineOrder - 1)];
+  alignas(laneAlignment) float memory[ColumnGroups{}.stride << 4];
   const ColumnGroups data{memory};
   const ptrdiff_t floats = ptrdiff_t{2} << order;
   for (ptrdiff_t y = 0; y < height; y += 8) {
@@ -58,41 +59,106 @@ HWY_NOINLINE HWY_FLATTEN void shortRows(Floats image, ptrdiff_t height, const Ro
   }
 }
 
-/// Blocks of 8 columns.
-template <bool isForward>
-HWY_NOINLINE HWY_FLATTEN void columns(Floats image, ptrdiff_t width, bool inEights, const Roots& roots, int order,
-                                      float scale, float* memory) {
+/// Rows of 2^5 to 2^7 numbers: two that end with 4 transforms of 8 or 16 numbers each, or one that ends with 16.
+template <bool isForward, int order>
+HWY_NOINLINE HWY_FLATTEN void mediumRows(Floats image, ptrdiff_t height, const Roots& roots, int) {
+  using signal::AlongShortLine;
+  using signal::bitsReversed;
+  constexpr int endOrder = order % 2 == 0 ? 4 : 3, points = 1 << endOrder, transforms = 1 << (order - endOrder);
+  constexpr ptrdiff_t groupsOfEach = points / 8;
+  constexpr bool isAlone = transforms == 16;
+  const hn::CappedTag<float, 4> d4;
+  alignas(laneAlignment) float memory[ColumnGroups{}.stride << (7 - AlongShortLine::groupOrder)];
+  const ColumnGroups data{memory};
+  for (ptrdiff_t y = 0; y < height; y += isAlone ? 1 : 2) {
+    for (ptrdiff_t i = 0; i < (isAlone ? 1 : 2); ++i) {
+      const float* const from = image.src.row(y + i);
+      const ColumnGroups line = data.from(i * transforms * groupsOfEach);
+      signal::levelByFour<AlongShortLine>(line, roots, order, [&](ptrdiff_t group, auto k) HWY_ATTR {
+        ColumnGroups::Numbers z;
+        hn::LoadInterleaved2(d8, from + 2 * (8 * group + k * N), z.re, z.im);
+        return turnedTo<isForward>(z);
+      });
+      for (ptrdiff_t quarter = 0; isAlone && quarter < 4; ++quarter) {
+        const ColumnGroups own = line.from(4 * quarter);
+        signal::levelByFour<AlongShortLine>(own, roots, order - 2,
+                                            [&](ptrdiff_t group, auto k) HWY_ATTR { return own.load(group, k); });
+      }
+    }
+    for (ptrdiff_t first = 0; first < (isAlone ? 16 : 8); first += N) {
+      ColumnGroups::Numbers z[points];
+      signal::transformAcross<points>(z, [&](auto lane, auto k) HWY_ATTR {
+        const ptrdiff_t at = first + lane;
+        const ptrdiff_t own = isAlone ? bitsReversed(at, 4) : at / 4 * 4 + bitsReversed(at % 4, 2);
+        return data.load(own * groupsOfEach + k * N / 8, std::integral_constant<int, k * N % 8 / N>());
+      });
+      unrolled<points>([&](auto n) HWY_ATTR {
+        const auto result = turnedTo<isForward>(z[bitsReversed(n, endOrder)]);
+        const auto put = [&](ptrdiff_t row, ptrdiff_t x, auto d, auto re, auto im) HWY_ATTR {
+          float* const to = image.dst.row(y + row) + x / 8 * 16 + x % 8;
+          hn::StoreU(re, d, to);
+          hn::StoreU(im, d, to + 8);
+        };
+        if constexpr (isAlone) {
+          put(0, n * 16 + first, d8, result.re, result.im);
+        } else if constexpr (N == 4) {
+          put(first / 4, n * 4, d4, result.re, result.im);
+        } else {
+          put(0, n * 4, d4, hn::LowerHalf(d4, result.re), hn::LowerHalf(d4, result.im));
+          put(1, n * 4, d4, hn::UpperHalf(d4, result.re), hn::UpperHalf(d4, result.im));
+        }
+      });
+    }
+  }
+}
+
+/// Blocks of 8 columns, of rows that are in eights.
+template <bool isForward, bool isLarge>
+HWY_NOINLINE HWY_FLATTEN void columns(Image<float> dst, ptrdiff_t width, const Roots& roots, int order, float scale,
+                                      float* memory) {
   const ColumnGroups data{memory};
   const auto factor = hn::Set(d8, scale);
-  for (ptrdiff_t x = 0; x < width; x += 8) {
-    const ptrdiff_t count = std::min<ptrdiff_t>(width - x, 8);
-    const size_t bytes = static_cast<size_t>(count) * 2 * sizeof(float);
-    const auto load = [&](ptrdiff_t y, auto k) HWY_ATTR {
-      float end[16] = {};
-      const float* numbers = image.src.row(y) + 2 * x;
-      askForRow(image.src, y + rowsAhead, 2 * x);
-      askForRow(image.src, y + rowsAhead, 2 * x + 15);
-      if (count == 8 && inEights) {
-        return turnedTo<isForward>({hn::LoadU(d8, numbers + k * N), hn::LoadU(d8, numbers + 8 + k * N)});
-      }
-      if (count < 8) numbers = static_cast<const float*>(std::memcpy(end, numbers, bytes));
-      ColumnGroups::Numbers z;
-      hn::LoadInterleaved2(d8, numbers + 2 * k * N, z.re, z.im);
-      return turnedTo<isForward>(z);
-    };
-    const auto store = [&](ptrdiff_t, ptrdiff_t y, auto k, ColumnGroups::Numbers z) HWY_ATTR {
-      z = turnedTo<isForward>(z);
-      z = {hn::Mul(z.re, factor), hn::Mul(z.im, factor)};
-      float* const numbers = image.dst.row(y) + 2 * x;
-      askForRow(image.dst, y + rowsAhead, 2 * x);
-      if (count == 8) return hn::StoreInterleaved2(z.re, z.im, d8, numbers + 2 * k * N);
-      float end[2 * N];
-      hn::StoreInterleaved2(z.re, z.im, d8, end);
-      const ptrdiff_t own = std::min<ptrdiff_t>(count - k * N, N);
-      if (own > 0) std::memcpy(numbers + 2 * k * N, end, static_cast<size_t>(own) * 2 * sizeof(float));
-    };
-    signal::transformColumns(data, roots, order, load, store);
+  for (ptrdiff_t x = 0; x < 2 * width; x += 16) {
+    signal::transformColumns(
+        data, roots, order,
+        [&](ptrdiff_t y, auto k) HWY_ATTR {
+          const float* const numbers = dst.row(y) + x + k * N;
+          if constexpr (isLarge) {
+            askForRow(dst, y + rowsAhead, x);
+            askForRow(dst, y + rowsAhead, x + 15);
+          }
+          return turnedTo<isForward>({hn::LoadU(d8, numbers), hn::LoadU(d8, numbers + 8)});
+        },
+        [&](ptrdiff_t, ptrdiff_t y, auto k, ColumnGroups::Numbers z) HWY_ATTR {
+          z = turnedTo<isForward>(z);
+          if constexpr (isLarge) askForRow(dst, y + rowsAhead, x);
+          hn::StoreInterleaved2(hn::Mul(z.re, factor), hn::Mul(z.im, factor), d8, dst.row(y) + x + 2 * k * N);
+        });
   }
+}
+
+/// The columns of an image that has less than 8.
+template <bool isForward>
+HWY_NOINLINE HWY_FLATTEN void fewColumns(Floats image, ptrdiff_t width, const Roots& roots, int order, float scale,
+                                         float* memory) {
+  const ColumnGroups data{memory};
+  const auto factor = hn::Set(d8, scale);
+  const size_t bytes = static_cast<size_t>(width) * 2 * sizeof(float);
+  const auto load = [&](ptrdiff_t y, auto k) HWY_ATTR {
+    float numbers[16] = {};
+    std::memcpy(numbers, image.src.row(y), bytes);
+    ColumnGroups::Numbers z;
+    hn::LoadInterleaved2(d8, numbers + 2 * k * N, z.re, z.im);
+    return turnedTo<isForward>(z);
+  };
+  const auto store = [&](ptrdiff_t, ptrdiff_t y, auto k, ColumnGroups::Numbers z) HWY_ATTR {
+    z = turnedTo<isForward>(z);
+    float numbers[2 * N];
+    hn::StoreInterleaved2(hn::Mul(z.re, factor), hn::Mul(z.im, factor), d8, numbers);
+    const ptrdiff_t own = std::min<ptrdiff_t>(width - k * N, N);
+    if (own > 0) std::memcpy(image.dst.row(y) + 2 * k * N, numbers, static_cast<size_t>(own) * 2 * sizeof(float));
+  };
+  signal::transformColumns(data, roots, order, load, store);
 }
 
 template <bool isForward>
@@ -117,11 +183,21 @@ VemiStatus complexFFT(Image<const Vemi32fc> src, Image<Vemi32fc> dst, const Vemi
     }
     image.src = {image.dst.first, image.dst.step};
   } else if (spec->orderX > 0) {
-    shortRows<isForward>(image, spec->height(), lineX.roots, spec->orderX);
+    const auto run = spec->orderX < 5    ? shortRows<isForward>
+                     : spec->orderX == 5 ? mediumRows<isForward, 5>
+                     : spec->orderX == 6 ? mediumRows<isForward, 6>
+                                         : mediumRows<isForward, 7>;
+    run(image, spec->height(), lineX.roots, spec->orderX);
     image.src = {image.dst.first, image.dst.step};
   }
-  columns<isForward>(image, spec->width(), spec->orderX >= 3, lineY.roots, spec->orderY, scale,
-                     columnMemory(scratch, spec->orderY));
+  float* const memory = columnMemory(scratch, spec->orderY);
+  if (spec->orderX < 3) {
+    fewColumns<isForward>(image, spec->width(), lineY.roots, spec->orderY, scale, memory);
+  } else {
+    const bool isLarge = spec->orderX + spec->orderY > 16;
+    const auto run = isLarge ? columns<isForward, true> : columns<isForward, false>;
+    run(image.dst, spec->width(), lineY.roots, spec->orderY, scale, memory);
+  }
   return vemiOk;
 }
 

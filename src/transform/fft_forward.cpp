@@ -84,31 +84,31 @@ HWY_NOINLINE HWY_FLATTEN void columns(Image<const float> src, Image<float> dst, 
   const int order = spec.orderY;
   const ptrdiff_t height = spec.height(), floats = spec.width() * L::elements;
   const auto whole = hn::Set(d, scale), half = hn::Set(d, scale / 2);
-  for (ptrdiff_t x = 0; x < floats; x += columnsAtOnce) {
-    const ColumnBlock block(x, floats);
+  for (ptrdiff_t x = 0; x < floats; x = ColumnBlock<L>::behind(x)) {
+    const ColumnBlock<L> block(x, floats);
     signal::transformColumns(
         data, roots, order,
         [&](ptrdiff_t y, auto k) HWY_ATTR {
-          askForRow(src, y + rowsAhead, x);
+          block.askFor(src, y + rowsAhead);
           return block.load(src, y, k);
         },
         [&](ptrdiff_t place, ptrdiff_t, auto k, ColumnGroups::Numbers z) HWY_ATTR { data.store(place, k, z); });
     unrolled<ColumnGroups::vectors>([&](auto k) HWY_ATTR {
       for (ptrdiff_t v = 0; v <= height / 2; v += height / 2) {
         const auto z = data.load(signal::bitsReversed(v, order), k);
-        block.store<L>(dst, v, k, {hn::Mul(z.re, whole), hn::Mul(z.im, whole)});
+        block.store(dst, v, k, {hn::Mul(z.re, whole), hn::Mul(z.im, whole)});
       }
     });
     signal::ReversedPlaces places{height};
     for (ptrdiff_t v = 1; v < height / 2; ++v) {
       places.step(v);
-      askForRow(dst, v + rowsAhead, x);
-      askForRow(dst, height - v - rowsAhead, x);
+      block.askFor(dst, v + rowsAhead);
+      block.askFor(dst, height - v - rowsAhead);
       const ptrdiff_t place = places.place, mirrored = places.mirrored(v);
       unrolled<ColumnGroups::vectors>([&](auto k) HWY_ATTR {
         const auto z = data.load(place, k), m = data.load(mirrored, k);
-        block.store<L>(dst, v, k, {hn::Mul(hn::Add(z.re, m.re), half), hn::Mul(hn::Add(z.im, m.im), half)});
-        block.store<L>(dst, height - v, k, {hn::Mul(hn::Sub(z.im, m.im), half), hn::Mul(hn::Sub(m.re, z.re), half)});
+        block.store(dst, v, k, {hn::Mul(hn::Add(z.re, m.re), half), hn::Mul(hn::Add(z.im, m.im), half)});
+        block.store(dst, height - v, k, {hn::Mul(hn::Sub(z.im, m.im), half), hn::Mul(hn::Sub(m.re, z.re), half)});
       });
     }
   }

@@ -96,15 +96,15 @@ HWY_NOINLINE HWY_FLATTEN void columns(Image<float> dst, const FFTFloats& spec, f
   const ptrdiff_t height = spec.height(), floats = spec.width() * L::elements;
   const Image<const float> src = {dst.first, dst.step};
   const auto factor = hn::Set(d, scale);
-  for (ptrdiff_t x = 0; x < floats; x += columnsAtOnce) {
-    const ColumnBlock block(x, floats);
+  for (ptrdiff_t x = 0; x < floats; x = ColumnBlock<L>::behind(x)) {
+    const ColumnBlock<L> block(x, floats);
     // Real and imaginary parts are changed over, for the inverse.
     unrolled<ColumnGroups::vectors>([&](auto k) HWY_ATTR {
       for (ptrdiff_t v = 0; v <= height / 2; v += height / 2) data.store(v, k, swapped(block.load(src, v, k)));
     });
     for (ptrdiff_t v = 1; v < height / 2; ++v) {
-      askForRow(src, v + rowsAhead, x);
-      askForRow(src, height - v - rowsAhead, x);
+      block.askFor(src, v + rowsAhead);
+      block.askFor(src, height - v - rowsAhead);
       unrolled<ColumnGroups::vectors>([&](auto k) HWY_ATTR {
         const auto re = block.load(src, v, k), im = block.load(src, height - v, k);  // of columns of both halves
         data.store(v, k, {hn::Add(im.re, re.im), hn::Sub(re.re, im.im)});
@@ -114,8 +114,8 @@ HWY_NOINLINE HWY_FLATTEN void columns(Image<float> dst, const FFTFloats& spec, f
     signal::transformColumns(
         data, roots, spec.orderY, [&](ptrdiff_t v, auto k) HWY_ATTR { return data.load(v, k); },
         [&](ptrdiff_t, ptrdiff_t y, auto k, ColumnGroups::Numbers z) HWY_ATTR {
-          askForRow(dst, y + rowsAhead, x);
-          block.store<L>(dst, y, k, {hn::Mul(z.im, factor), hn::Mul(z.re, factor)});
+          block.askFor(dst, y + rowsAhead);
+          block.store(dst, y, k, {hn::Mul(z.im, factor), hn::Mul(z.re, factor)});
         });
   }
 }

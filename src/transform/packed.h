@@ -23,7 +23,6 @@ using signal::LineGroups;
 using signal::Roots;
 
 inline constexpr ptrdiff_t columnLanes = ColumnGroups::N;
-inline constexpr int columnsAtOnce = 16;  // two of them are one complex column
 
 struct ComplexNumber {
   float re, im;
@@ -99,33 +98,49 @@ struct PackedEdges {
   }
 };
 
-/// Up to 16 columns of floats from an image's column x on. What is beyond its last column is 0, and not stored.
+/// 16 columns of floats in halves of 8, of which the first ones make one complex column, and so on. Both are of the
+/// same channel, as channels may differ by any factor: of three channels, the halves are 24 columns apart. What is
+/// beyond the last column is 0, and not stored.
+template <class L>
 struct ColumnBlock {
-  ptrdiff_t x, count;
+  static constexpr ptrdiff_t apart = L::elements == 3 ? 24 : 8;
+
+  ptrdiff_t x, count[2];
 
   ColumnBlock(ptrdiff_t first, ptrdiff_t floats)
-      : x(first), count(std::min<ptrdiff_t>(floats - first, columnsAtOnce)) {}
+      : x(first), count{countFrom(first, floats), countFrom(first + apart, floats)} {}
+
+  /// Where the block behind the one at x begins.
+  static ptrdiff_t behind(ptrdiff_t x) { return x + 8 + (x % (2 * apart) == apart - 8 ? apart : 0); }
+
+  bool isWhole() const { return count[1] == 8; }
+
+  template <class T>
+  HWY_INLINE void askFor(Image<T> image, ptrdiff_t y) const {
+    askForRow(image, y, x);
+    if (apart > 8) askForRow(image, y, x + apart);
+  }
 
   /// The vectors k of both halves of a row.
   HWY_INLINE ColumnGroups::Numbers load(Image<const float> src, ptrdiff_t y, ptrdiff_t k) const {
     const ColumnGroups::D d;
-    float end[columnsAtOnce] = {};
-    const float* from = src.row(y) + x;
-    if (count < columnsAtOnce) {
-      from = static_cast<const float*>(std::memcpy(end, from, static_cast<size_t>(count) * sizeof(float)));
+    const float* from[2] = {src.row(y) + x, src.row(y) + x + apart};
+    float end[2][8] = {};
+    for (int half = 0; half < 2 && !isWhole(); ++half) {
+      const size_t bytes = static_cast<size_t>(count[half]) * sizeof(float);
+      from[half] = static_cast<const float*>(std::memcpy(end[half], from[half], bytes));
     }
-    return {hn::LoadU(d, from + k * columnLanes), hn::LoadU(d, from + 8 + k * columnLanes)};
+    return {hn::LoadU(d, from[0] + k * columnLanes), hn::LoadU(d, from[1] + k * columnLanes)};
   }
-  template <class L>
   HWY_INLINE void store(Image<float> dst, ptrdiff_t y, ptrdiff_t k, ColumnGroups::Numbers halves) const {
-    const auto half = [&](ptrdiff_t first, ColumnGroups::V v) HWY_ATTR {
+    const auto half = [&](int which, ColumnGroups::V v) HWY_ATTR {
       const ColumnGroups::D d;
-      float* const to = dst.row(y) + x + first;
-      if (count < columnsAtOnce) {
+      float* const to = dst.row(y) + x + which * apart + k * columnLanes;
+      if (!isWhole()) {
         float element[columnLanes];
         hn::StoreU(v, d, element);
-        for (ptrdiff_t i = 0; i < columnLanes && first + i < count; ++i) {
-          if (!L::keepsAlpha || (first + i) % 4 < 3) setElement(to + i, element[i]);
+        for (ptrdiff_t i = 0; i < columnLanes && k * columnLanes + i < count[which]; ++i) {
+          if (!L::keepsAlpha || i % 4 < 3) setElement(to + i, element[i]);
         }
       } else if constexpr (L::keepsAlpha) {
         hn::StoreU(hn::IfThenElse(colourLanes(d), v, hn::LoadU(d, to)), d, to);
@@ -133,9 +148,12 @@ struct ColumnBlock {
         hn::StoreU(v, d, to);
       }
     };
-    half(k * columnLanes, halves.re);
-    half(8 + k * columnLanes, halves.im);
+    half(0, halves.re);
+    half(1, halves.im);
   }
+
+ private:
+  static ptrdiff_t countFrom(ptrdiff_t first, ptrdiff_t floats) { return std::clamp<ptrdiff_t>(floats - first, 0, 8); }
 };
 
 /// Eight short lines at once, transposed: group e holds element e of their rows, real parts from the top rows.

@@ -43,9 +43,11 @@ TEST(CubeRootLanes, NearestOfAllFloatsOfThreeOctaves) {
 TEST(CubeRootLanes, AllOctavesAndInfinity) {
   const Lanes<float> d;
   const auto root = [&](float x) { return hn::GetLane(signal::CubeRoot()(d, hn::Set(d, x))); };
-  for (int k = -42; k <= 41; ++k) {
-    for (const float m : {1.0f, 1.7f, 2.0f, 3.9f, 0x1.fffffep2f}) {
-      EXPECT_EQ(root(std::ldexp(m, 3 * k)), std::ldexp(root(m), k)) << m << " 2^" << 3 * k;
+  for (int k = -42; k <= 42; ++k) {
+    for (const float m : {1.0f, 1.7f, 2.0f, 3.9f, 0x1.fffffep1f, 0x1.fffffep2f}) {
+      const float x = std::ldexp(m, 3 * k);
+      if (!std::isfinite(x)) continue;
+      EXPECT_EQ(root(x), std::ldexp(root(m), k)) << m << " 2^" << 3 * k;
     }
   }
   EXPECT_EQ(root(std::numeric_limits<float>::infinity()), std::numeric_limits<float>::infinity());
