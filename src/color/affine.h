@@ -8,6 +8,7 @@
 
 #include "color/matrices.h"
 #include "color/shared_chroma.h"
+#include "core/inlined.h"
 #include "core/numbers.h"
 
 namespace vemi::color {
@@ -61,7 +62,8 @@ HWY_INLINE V affineRow(V a, V b, V c) {
   const hn::DFromV<V> d;
   const V zero = hn::Zero(d);
   constexpr int offset = r.shift == 16 ? fraction(r.offset) : r.offset;
-  const auto half = [](V ab, V c0) HWY_ATTR { return hn::ShiftRight<r.shift>(weightedSum<matrix, i>(ab, c0, offset)); };
+  const auto half = [](V ab, V c0)
+                        VEMI_INLINED { return hn::ShiftRight<r.shift>(weightedSum<matrix, i>(ab, c0, offset)); };
   const V sums = packHalves(d, half(hn::InterleaveLower(d, a, b), hn::InterleaveLower(d, c, zero)),
                             half(hn::InterleaveUpper(d, a, b), hn::InterleaveUpper(d, c, zero)));
   if constexpr (!hasWhole) return sums;
@@ -74,7 +76,7 @@ struct Affine {
   template <class D, class V0, class V1, class V2>
   HWY_INLINE auto operator()(D d, V0 v0, V1 v1, V2 v2) const {
     const auto a = wordsOfPixels(d, v0), b = wordsOfPixels(d, v1), c = wordsOfPixels(d, v2);
-    return [&]<int... i>(std::integer_sequence<int, i...>) HWY_ATTR {
+    return [&]<int... i>(std::integer_sequence<int, i...>) VEMI_INLINED {
       return std::tuple(bytesOfPixels(d, affineRow<matrix, i>(a.lower, b.lower, c.lower),
                                       affineRow<matrix, i>(a.upper, b.upper, c.upper))...);
     }

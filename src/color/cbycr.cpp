@@ -8,6 +8,7 @@
 #include "color/from_rgb.h"
 #include "color/luma_chroma.h"
 #include "color/to_subsampled.h"
+#include "core/inlined.h"
 #include "vemi/color.h"
 #include "vemi/map.h"
 
@@ -25,7 +26,7 @@ struct Filtered {
   HWY_INLINE auto operator()(D d, V r, V g, V b, V rBefore, V gBefore, V bBefore) const {
     const auto pixels = rgbOfPixels(d, r, g, b);
     const auto before = rgbOfPixels(d, rBefore, gBefore, bBefore).even;
-    const auto luma = [](const auto& p) HWY_ATTR { return affineRow<rgbToYCbCr, 0>(p.r, p.g, p.b); };
+    const auto luma = [](const auto& p) VEMI_INLINED { return affineRow<rgbToYCbCr, 0>(p.r, p.g, p.b); };
     return std::tuple(bytesOfPixels(d, luma(pixels.even), luma(pixels.odd)),
                       chromaBytes(d, chroma<1>(before, pixels.even, pixels.odd)),
                       chromaBytes(d, chroma<2>(before, pixels.even, pixels.odd)));
@@ -36,13 +37,13 @@ struct Filtered {
   HWY_INLINE static V chroma(RgbWords<V> before, RgbWords<V> own, RgbWords<V> behind) {
     const hn::DFromV<V> d;
     const V zero = hn::Zero(d);
-    const auto lower = [&](RgbWords<V> p) HWY_ATTR {
+    const auto lower = [&](RgbWords<V> p) VEMI_INLINED {
       return detail::weightedSum<rgbToYCbCr, i>(hn::InterleaveLower(d, p.r, p.g), hn::InterleaveLower(d, p.b, zero), 0);
     };
-    const auto upper = [&](RgbWords<V> p) HWY_ATTR {
+    const auto upper = [&](RgbWords<V> p) VEMI_INLINED {
       return detail::weightedSum<rgbToYCbCr, i>(hn::InterleaveUpper(d, p.r, p.g), hn::InterleaveUpper(d, p.b, zero), 0);
     };
-    const auto filtered = [&](const auto& half) HWY_ATTR {
+    const auto filtered = [&](const auto& half) VEMI_INLINED {
       const auto sides = hn::Add(hn::ShiftRight<2>(half(before)), hn::ShiftRight<2>(half(behind)));
       const auto sum = hn::Add(hn::ShiftRight<1>(half(own)), sides);
       return hn::ShiftRight<16>(hn::Add(sum, hn::Set(hn::DFromV<decltype(sum)>(), 0x807fff)));

@@ -9,6 +9,7 @@
 #include <tuple>
 #include <utility>
 
+#include "core/inlined.h"
 #include "core/lanes.h"
 #include "core/processor.h"
 
@@ -61,19 +62,19 @@ HWY_INLINE hn::Vec<D> joinedHalves(D d, V parts01, V parts23) {
 /// A tuple of vectors of D, one for each of the integer vectors in the tuple that f(part) gives for each part.
 template <class D, class F>
 HWY_INLINE auto inParts(D d, const F& f) {
-  const auto eachOf = [](const auto& join, const auto& first, const auto& second) HWY_ATTR {
-    return [&]<size_t... c>(std::index_sequence<c...>) HWY_ATTR {
+  const auto eachOf = [](const auto& join, const auto& first, const auto& second) VEMI_INLINED {
+    return [&]<size_t... c>(std::index_sequence<c...>) VEMI_INLINED {
       return std::tuple(join(std::get<c>(first), std::get<c>(second))...);
     }
     (std::make_index_sequence<std::tuple_size_v<std::decay_t<decltype(first)>>>());
   };
   if constexpr (sizeof(hn::TFromD<D>) == 2) {
-    const auto join = [=](auto v0, auto v1) HWY_ATTR { return joined(d, v0, v1); };
+    const auto join = [=](auto v0, auto v1) VEMI_INLINED { return joined(d, v0, v1); };
     return eachOf(join, f(Part<0>()), f(Part<1>()));
   } else {
     const hn::Repartition<int16_t, D> dHalf;
-    const auto pack = [=](auto v0, auto v1) HWY_ATTR { return packHalves(dHalf, v0, v1); };
-    const auto join = [=](auto v01, auto v23) HWY_ATTR { return joinedHalves(d, v01, v23); };
+    const auto pack = [=](auto v0, auto v1) VEMI_INLINED { return packHalves(dHalf, v0, v1); };
+    const auto join = [=](auto v01, auto v23) VEMI_INLINED { return joinedHalves(d, v01, v23); };
     const auto lower = eachOf(pack, f(Part<0>()), f(Part<1>()));
     const auto upper = eachOf(pack, f(Part<2>()), f(Part<3>()));
     return eachOf(join, lower, upper);
@@ -85,9 +86,9 @@ template <class Of>
 struct CutOff {
   template <class D, class... V>
   HWY_INLINE auto operator()(D d, V... v) const {
-    return inParts(d, [&](auto part) HWY_ATTR {
-      const auto cut = [](auto result) HWY_ATTR { return truncated(hn::Repartition<int32_t, D>(), result); };
-      return std::apply([&](auto... result) HWY_ATTR { return std::tuple(cut(result)...); },
+    return inParts(d, [&](auto part) VEMI_INLINED {
+      const auto cut = [](auto result) VEMI_INLINED { return truncated(hn::Repartition<int32_t, D>(), result); };
+      return std::apply([&](auto... result) VEMI_INLINED { return std::tuple(cut(result)...); },
                         Of()(hn::Repartition<float, D>(), floatsOf(part, v)...));
     });
   }
@@ -101,7 +102,7 @@ struct OfSigned {
     const hn::RebindToUnsigned<D> du;
     const auto sign = hn::Set(du, 0x8000);
     const auto results = Op()(du, hn::Xor(hn::BitCast(du, v), sign)...);
-    return std::apply([&](auto... u) HWY_ATTR { return std::tuple(hn::BitCast(d, hn::Xor(u, sign))...); }, results);
+    return std::apply([&](auto... u) VEMI_INLINED { return std::tuple(hn::BitCast(d, hn::Xor(u, sign))...); }, results);
   }
 };
 

@@ -7,6 +7,7 @@
 #include "color/affine.h"
 #include "color/matrices.h"
 #include "color/shared_chroma.h"
+#include "core/inlined.h"
 #include "core/numbers.h"
 
 namespace vemi::color {
@@ -42,7 +43,7 @@ template <const DifferenceMatrix& m, class V>
 HWY_INLINE V doubledLuma(RgbWords<V> p) {
   const hn::DFromV<V> d;
   const V weights = detail::weightsOfPairs(d, m.red, m.green);
-  const auto part = [&](V pairs) HWY_ATTR { return hn::ShiftRight<14>(pairsOfProducts(pairs, weights)); };
+  const auto part = [&](V pairs) VEMI_INLINED { return hn::ShiftRight<14>(pairsOfProducts(pairs, weights)); };
   const V redAndGreen = packHalves(d, part(hn::InterleaveLower(d, p.r, p.g)), part(hn::InterleaveUpper(d, p.r, p.g)));
   return hn::Add(redAndGreen, hn::MulHigh(hn::ShiftLeft<2>(p.b), hn::Set(d, m.blue)));
 }
@@ -66,8 +67,9 @@ struct ByDifferences {
   template <class V>
   HWY_INLINE static Vectors<V, 3> words(RgbWords<V> p) {
     const V luma = doubledLuma<m>(p);
-    const auto chroma = [&](V channel, int16_t weight)
-                            HWY_ATTR { return chromaOfDifference(hn::Sub(hn::ShiftLeft<1>(channel), luma), weight); };
+    const auto chroma = [&](V channel, int16_t weight) VEMI_INLINED {
+      return chromaOfDifference(hn::Sub(hn::ShiftLeft<1>(channel), luma), weight);
+    };
     return {{hn::ShiftRight<1>(luma), chroma(p.b, m.blueToU), chroma(p.r, m.redToV)}};
   }
 };
@@ -97,7 +99,7 @@ struct ByDifferences420 {
     const auto even1 = doubledLuma<m>(bottom.even), odd1 = doubledLuma<m>(bottom.odd);
     const auto luma = hn::ShiftRight<2>(hn::Add(hn::Add(even0, odd0), hn::Add(even1, odd1)));
     const auto sums = top.sums() + bottom.sums();
-    const auto chroma = [&](auto sum, int16_t weight) HWY_ATTR {
+    const auto chroma = [&](auto sum, int16_t weight) VEMI_INLINED {
       return chromaBytes(d, chromaOfDifference(hn::Sub(hn::ShiftRight<1>(sum), luma), weight));
     };
     return std::tuple(bytesOfPixels(d, hn::ShiftRight<1>(even0), hn::ShiftRight<1>(odd0)),
@@ -114,7 +116,7 @@ HWY_INLINE V partwiseRow(RgbWords<V> p) {
   constexpr PartwiseRow row = m.row[i];
   const hn::DFromV<V> d;
   const V weights = detail::weightsOfPairs(d, row.weight[0], row.weight[1]);
-  const auto part = [&](V pairs) HWY_ATTR { return hn::ShiftRight<11>(pairsOfProducts(pairs, weights)); };
+  const auto part = [&](V pairs) VEMI_INLINED { return hn::ShiftRight<11>(pairsOfProducts(pairs, weights)); };
   const V redAndGreen = packHalves(d, part(hn::InterleaveLower(d, p.r, p.g)), part(hn::InterleaveUpper(d, p.r, p.g)));
   const V blue = hn::MulHigh(hn::ShiftLeft<5>(p.b), hn::Set(d, row.weight[2]));
   return hn::Add(hn::ShiftRight<4>(hn::Add(redAndGreen, blue)), hn::Set(d, row.offset));
@@ -179,7 +181,7 @@ struct To420 {
     constexpr HighProductRow r = m.row[i];
     const hn::DFromV<V> d;
     const auto product = [&](V channel, int16_t weight)
-                             HWY_ATTR { return hn::MulHigh(hn::ShiftLeft<r.shift>(channel), hn::Set(d, weight)); };
+                             VEMI_INLINED { return hn::MulHigh(hn::ShiftLeft<r.shift>(channel), hn::Set(d, weight)); };
     const V sum = hn::Add(hn::Add(product(p.r, r.weight[0]), product(p.g, r.weight[1])), product(p.b, r.weight[2]));
     return hn::ShiftRight<3>(hn::Add(sum, hn::Set(d, r.offset)));
   }

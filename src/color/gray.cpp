@@ -8,6 +8,7 @@
 #include "core/checks.h"
 #include "core/exports.h"
 #include "core/float_control.h"
+#include "core/inlined.h"
 #include "core/lane_width.h"
 #include "core/pixel_region.h"
 #include "vemi/color.h"
@@ -21,7 +22,7 @@ HWY_INLINE hn::Vec<D> lowBitsOfParts(D d, const F& f) {
   constexpr int bits = 8 * sizeof(hn::TFromD<D>);
   const hn::Repartition<uint32_t, D> dWords;
   auto all = hn::Zero(dWords);
-  unrolled<32 / bits>([&](auto k) HWY_ATTR {
+  unrolled<32 / bits>([&](auto k) VEMI_INLINED {
     const auto low = hn::And(hn::BitCast(dWords, f(Part<k>())), hn::Set(dWords, (uint32_t{1} << bits) - 1));
     all = hn::Or(all, hn::ShiftLeft<k * bits>(low));
   });
@@ -51,9 +52,10 @@ struct GroupsOfBytes {
   template <class D, class V>
   HWY_INLINE V operator()(D d, V r, V g, V b) const {
     const hn::RepartitionToWide<D> dWords;
-    const auto even = [&](V v) HWY_ATTR { return hn::ShiftLeft<8>(hn::BitCast(dWords, v)); };
-    const auto odd = [&](V v) HWY_ATTR { return hn::And(hn::BitCast(dWords, v), hn::Set(dWords, uint16_t{0xff00})); };
-    const auto limited = [&](auto v) HWY_ATTR { return hn::Min(v, hn::Set(dWords, uint16_t{255})); };
+    const auto even = [&](V v) VEMI_INLINED { return hn::ShiftLeft<8>(hn::BitCast(dWords, v)); };
+    const auto odd = [&](V v)
+                         VEMI_INLINED { return hn::And(hn::BitCast(dWords, v), hn::Set(dWords, uint16_t{0xff00})); };
+    const auto limited = [&](auto v) VEMI_INLINED { return hn::Min(v, hn::Set(dWords, uint16_t{255})); };
     const auto evens = limited(sum(even(r), even(g), even(b))), odds = limited(sum(odd(r), odd(g), odd(b)));
     return hn::BitCast(d, hn::Or(evens, hn::ShiftLeft<8>(odds)));
   }
@@ -69,7 +71,7 @@ struct GroupsOfBytes {
   template <class W>
   HWY_INLINE W sum(W r, W g, W b) const {
     const hn::DFromV<W> d;
-    const auto product = [&](W v, uint16_t w) HWY_ATTR { return hn::MulHigh(v, hn::Set(d, w)); };
+    const auto product = [&](W v, uint16_t w) VEMI_INLINED { return hn::MulHigh(v, hn::Set(d, w)); };
     const W both = hn::SaturatedAdd(product(r, weight[0]), product(g, weight[1]));
     return hn::ShiftRight<4>(hn::SaturatedAdd(both, product(b, weight[2])));
   }
@@ -110,11 +112,11 @@ struct ThreeInWordsRow {
   HWY_INLINE auto load(const F& f) const {
     const Lanes<uint8_t> d;
     const Lanes<uint16_t> dWords;
-    const auto block = [&](ptrdiff_t byte) HWY_ATTR { return loadBlocks(d, first + byte, 48); };
+    const auto block = [&](ptrdiff_t byte) VEMI_INLINED { return loadBlocks(d, first + byte, 48); };
     const auto lower0 = block(0), lower8 = block(8), upper0 = block(24), upper8 = block(32);
-    const auto channel = [&](int c) HWY_ATTR {
+    const auto channel = [&](int c) VEMI_INLINED {
       const auto front = hn::LoadDup128(d, threeToWords.front[c]), back = hn::LoadDup128(d, threeToWords.back[c]);
-      const auto words = [&](auto v0, auto v8) HWY_ATTR {
+      const auto words = [&](auto v0, auto v8) VEMI_INLINED {
         return hn::BitCast(dWords, hn::Or(hn::TableLookupBytesOr0(v0, front), hn::TableLookupBytesOr0(v8, back)));
       };
       return Widened<hn::Vec<decltype(dWords)>>{words(lower0, lower8), words(upper0, upper8)};
@@ -135,8 +137,8 @@ struct RestOfBytes {
   template <class D, class V>
   HWY_INLINE V operator()(D d, V r, V g, V b) const {
     const hn::Repartition<int32_t, D> di;
-    return lowBitsOfParts(d, [&](auto part) HWY_ATTR {
-      const auto product = [&](V v, int w) HWY_ATTR { return hn::Mul(integersOf(part, v), hn::Set(di, w)); };
+    return lowBitsOfParts(d, [&](auto part) VEMI_INLINED {
+      const auto product = [&](V v, int w) VEMI_INLINED { return hn::Mul(integersOf(part, v), hn::Set(di, w)); };
       return hn::ShiftRight<12>(hn::Add(hn::Add(product(r, weight[0]), product(g, weight[1])), product(b, weight[2])));
     });
   }
@@ -165,7 +167,7 @@ struct Floats {
 
   template <class D, class V>
   HWY_INLINE V operator()(D d, V r, V g, V b) const {
-    const auto product = [&](V v, float w) HWY_ATTR { return hn::Mul(v, hn::Set(d, w)); };
+    const auto product = [&](V v, float w) VEMI_INLINED { return hn::Mul(v, hn::Set(d, w)); };
     return hn::Add(hn::Add(product(r, weight[0]), product(g, weight[1])), product(b, weight[2]));
   }
 };
@@ -188,7 +190,7 @@ struct FloatColoursRow {
   HWY_INLINE auto load(const F& f) const {
     const Lanes<float> d;
     const Lanes<double> dPairs;
-    const auto pixel = [&](ptrdiff_t n) HWY_ATTR { return loadBlocks(d, first + 4 * n, 16); };
+    const auto pixel = [&](ptrdiff_t n) VEMI_INLINED { return loadBlocks(d, first + 4 * n, 16); };
     const auto p0 = pixel(0), p1 = pixel(1), p2 = pixel(2), p3 = pixel(3);
     const auto redGreen0 = hn::BitCast(dPairs, hn::InterleaveLower(d, p0, p1));
     const auto redGreen2 = hn::BitCast(dPairs, hn::InterleaveLower(d, p2, p3));
@@ -216,8 +218,8 @@ struct Words {
     const hn::Repartition<float, D> df;
     const hn::Repartition<int32_t, D> di;
     const hn::RebindToUnsigned<D> du;
-    const auto integers = [&](auto part) HWY_ATTR {
-      const auto of = [&](V v) HWY_ATTR {
+    const auto integers = [&](auto part) VEMI_INLINED {
+      const auto of = [&](V v) VEMI_INLINED {
         return floatsOf(part, hn::Xor(hn::BitCast(du, v), hn::Set(du, static_cast<uint16_t>(lowest))));
       };
       auto grey = floats(df, of(r), of(g), of(b));

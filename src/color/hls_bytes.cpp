@@ -5,6 +5,7 @@
 #include "color/float_lanes.h"
 #include "color/hls.h"
 #include "core/exports.h"
+#include "core/inlined.h"
 #include "vemi/color.h"
 
 namespace vemi::color {
@@ -28,12 +29,12 @@ HWY_INLINE hn::Vec<DI> cutOff(DI di, V v) {
 struct FromBGR {
   template <class D, class V, class... Alpha>
   HWY_INLINE auto operator()(D d, V b, V g, V r, Alpha... alpha) const {
-    const auto [hue, lightness, saturation] = inParts(d, [&](auto part) HWY_ATTR {
+    const auto [hue, lightness, saturation] = inParts(d, [&](auto part) VEMI_INLINED {
       const hn::Repartition<float, D> df;
       const hn::Repartition<int32_t, D> di;
-      const auto unit = [&](V v) HWY_ATTR { return over255(df, floatsOf(part, v)); };
+      const auto unit = [&](V v) VEMI_INLINED { return over255(df, floatsOf(part, v)); };
       const auto [h, l, s] = hlsOf(df, unit(r), unit(g), unit(b));
-      const auto scaled = [&](auto v, float scale) HWY_ATTR { return cutOff(di, hn::Mul(v, hn::Set(df, scale))); };
+      const auto scaled = [&](auto v, float scale) VEMI_INLINED { return cutOff(di, hn::Mul(v, hn::Set(df, scale))); };
       return std::tuple(scaled(h, 255.0f / 360.0f), scaled(l, 255.0f), scaled(s, 255.0f));
     });
     return std::tuple(hue, lightness, saturation, alpha...);
@@ -43,12 +44,12 @@ struct FromBGR {
 struct ToBGR {
   template <class D, class V, class... Alpha>
   HWY_INLINE auto operator()(D d, V hue, V lightness, V saturation, Alpha... alpha) const {
-    const auto [b, g, r] = inParts(d, [&](auto part) HWY_ATTR {
+    const auto [b, g, r] = inParts(d, [&](auto part) VEMI_INLINED {
       const hn::Repartition<float, D> df;
       const hn::Repartition<int32_t, D> di;
       const auto h = over255(df, hn::Mul(floatsOf(part, hue), hn::Set(df, 360.0f)));
       const auto l = over255(df, floatsOf(part, lightness)), s = over255(df, floatsOf(part, saturation));
-      const auto scaled = [&](auto v) HWY_ATTR { return cutOff(di, hn::Mul(v, hn::Set(df, 255.0f))); };
+      const auto scaled = [&](auto v) VEMI_INLINED { return cutOff(di, hn::Mul(v, hn::Set(df, 255.0f))); };
       const auto [red, green, blue] = rgbOfHls<OverSixty>(df, h, l, s);
       return std::tuple(scaled(blue), scaled(green), scaled(red));
     });

@@ -8,6 +8,7 @@
 #include "color/float_lanes.h"
 #include "color/reciprocal.h"
 #include "core/exports.h"
+#include "core/inlined.h"
 #include "core/rounding.h"
 #include "vemi/color.h"
 
@@ -24,20 +25,20 @@ struct FromRGB {
     const V lower = hn::IfThenElse(isBlue, g, hn::IfThenElse(isGreen, r, b));
     const V one = hn::Set(d, 1);
     const V divisor = hn::Max(delta, one), valueDivisor = hn::Max(value, one);  // a grey pixel's results are dropped
-    const auto withPlace = [&](int green, int blue, V red) HWY_ATTR {
+    const auto withPlace = [&](int green, int blue, V red) VEMI_INLINED {
       const V otherwise = hn::IfThenElse(isGreen, hn::Set(d, static_cast<hn::TFromD<D>>(green)), red);
       return hn::IfThenElse(isBlue, hn::Set(d, static_cast<hn::TFromD<D>>(blue)), otherwise);
     };
 
     const hn::Repartition<float, D> df;
     const hn::Repartition<int32_t, D> di;
-    const auto results = [&]() HWY_ATTR {
+    const auto results = [&]() VEMI_INLINED {
       if constexpr (sizeof(hn::TFromD<D>) == 1) {
         // Differences times reciprocals of bytes are exact, and so is what they add up to; and of all that are possible
         // none is rounded to another hue because the place is added behind the factor.
         const V full = hn::VecFromMask(d, hn::Lt(g, b));
         const V place = withPlace(85, 170, full);
-        return inParts(d, [&](auto part) HWY_ATTR {
+        return inParts(d, [&](auto part) VEMI_INLINED {
           const auto difference = hn::ConvertTo(df, hn::Sub(integersOf(part, upper), integersOf(part, lower)));
           const auto sixths = hn::Mul(difference, plainReciprocal(df, floatsOf(part, divisor)));
           const auto hue = hn::Add(hn::Mul(sixths, hn::Set(df, 42.5f)), floatsOf(part, place));
@@ -48,7 +49,7 @@ struct FromRGB {
       } else {
         const V place = withPlace(2, 4, hn::Zero(d));
         const V toUpper = hn::Sub(value, lower), toLower = hn::Sub(value, upper);
-        return inParts(d, [&](auto part) HWY_ATTR {
+        return inParts(d, [&](auto part) VEMI_INLINED {
           const auto reciprocal = refinedReciprocal(df, floatsOf(part, divisor));
           const auto difference =
               hn::Sub(hn::Mul(floatsOf(part, toUpper), reciprocal), hn::Mul(floatsOf(part, toLower), reciprocal));
@@ -95,7 +96,7 @@ struct ToRGB {
     const V hue = hn::IfThenZeroElse(hn::Eq(hueOrEnd, hn::Set(d, Scale::end)), hueOrEnd);
     const hn::Repartition<float, D> df;
     const hn::Repartition<int32_t, D> di;
-    const auto [least, between] = inParts(d, [&](auto part) HWY_ATTR {
+    const auto [least, between] = inParts(d, [&](auto part) VEMI_INLINED {
       const auto v = floatsOf(part, value);
       const auto s = hn::Mul(floatsOf(part, saturation), hn::Set(df, Scale::ofUnit));
       const auto degrees = hn::Mul(floatsOf(part, hue), hn::Set(df, Scale::sixth));
@@ -108,13 +109,13 @@ struct ToRGB {
       const auto q = hn::Sub(v, slope), t = hn::Add(p, slope);
       return std::tuple(rounded(di, p), rounded(di, hn::IfThenElse(isOdd, q, t)));
     });
-    const auto from = [&](auto sector) HWY_ATTR {
+    const auto from = [&](auto sector) VEMI_INLINED {
       constexpr auto first = Scale::begin(sector);
       return hn::Eq(hn::Max(hue, hn::Set(d, first)), hue);
     };
     const auto from1 = from(Part<1>()), from2 = from(Part<2>()), from3 = from(Part<3>()), from4 = from(Part<4>()),
                from5 = from(Part<5>());
-    const auto choose = [](auto condition, V yes, V no) HWY_ATTR { return hn::IfThenElse(condition, yes, no); };
+    const auto choose = [](auto condition, V yes, V no) VEMI_INLINED { return hn::IfThenElse(condition, yes, no); };
     const V r = choose(from4, choose(from5, value, between), choose(from2, least, choose(from1, between, value)));
     const V g = choose(from3, choose(from4, least, between), choose(from1, value, between));
     const V b = choose(from3, choose(from5, between, value), choose(from2, between, least));

@@ -11,6 +11,7 @@
 #include "color/xyz.h"
 #include "core/byte_table.h"
 #include "core/exports.h"
+#include "core/inlined.h"
 #include "core/regimes.h"
 #include "signal/cube_root.h"
 #include "vemi/color.h"
@@ -59,7 +60,7 @@ struct FromFloats {
     const V lightness = hn::IfThenElse(hn::Gt(y, hn::Set(d, 0.01f)), curved, times(d, 903.3f, y));
     const V divisor = divisorOf(d, x, y, z), factor = times(d, 13.0f, lightness);
     const auto isBlack = hn::Eq(y, hn::Zero(d));
-    const auto chroma = [&](V dividend, float white) HWY_ATTR {
+    const auto chroma = [&](V dividend, float white) VEMI_INLINED {
       const V share = hn::IfThenZeroElse(isBlack, hn::Div(dividend, divisor));
       return hn::Mul(factor, hn::Sub(share, hn::Set(d, white)));
     };
@@ -74,7 +75,7 @@ struct ToFloats {
     const V t = hn::Div(y, plus(d, hn::Div(v, factor), whiteV));
     const auto [r, g, b] = rgbOfShares(d, y, t, plus(d, hn::Div(u, factor), whiteU));
     const auto isBlack = hn::Lt(lightness, hn::Set(d, 9.033f));
-    const auto limited = [&](V colour) HWY_ATTR { return hn::IfThenZeroElse(isBlack, limitedToOne(d, colour)); };
+    const auto limited = [&](V colour) VEMI_INLINED { return hn::IfThenZeroElse(isBlack, limitedToOne(d, colour)); };
     return std::tuple(limited(r), limited(g), limited(b));
   }
 };
@@ -107,7 +108,7 @@ struct FromBytes {
   HWY_INLINE auto operator()(D d, V red, V green, V blue) const {
     const auto y255 = std::get<0>(Affine<bytesToY>()(d, red, green, blue));
     const V lightness = lightnessOfBytes(d, y255);
-    const auto [u, v] = inParts(d, [&](auto part) HWY_ATTR {
+    const auto [u, v] = inParts(d, [&](auto part) VEMI_INLINED {
       const hn::Repartition<float, D> df;
       const hn::Repartition<int32_t, D> di;
       const auto r = floatsOf(part, red), g = floatsOf(part, green), b = floatsOf(part, blue);
@@ -116,7 +117,7 @@ struct FromBytes {
       const auto z = weightedSum(df, 634, r, 3906, g, 31137, b);
       const auto inverse = plainReciprocal(df, hn::Max(divisorOf(df, x, y, z), hn::Set(df, 1.0f)));
       const auto l = floatsOf(part, lightness);
-      const auto chroma = [&](auto dividend, float white, float scale, float zero) HWY_ATTR {
+      const auto chroma = [&](auto dividend, float white, float scale, float zero) VEMI_INLINED {
         const auto difference = hn::Sub(hn::Mul(dividend, inverse), hn::Set(df, white));
         return truncated(di, plus(df, hn::Mul(difference, times(df, scale, l)), zero));
       };
@@ -156,26 +157,26 @@ struct ToIntegers {
     using Scale = color::Scale<T>;
     const hn::Repartition<float, D> df;
     const hn::Repartition<int32_t, D> di;
-    const auto reciprocal = [&](auto x) HWY_ATTR {
+    const auto reciprocal = [&](auto x) VEMI_INLINED {
       if constexpr (sizeof(T) == 1) return plainReciprocal(df, x);
       if constexpr (sizeof(T) == 2) return refinedReciprocal(df, x);
     };
     const V first = hn::Set(d, T{Scale::black + 1}), divided = hn::Max(lightness, first);
-    const auto [r, g, b] = inParts(d, [&](auto part) HWY_ATTR {
+    const auto [r, g, b] = inParts(d, [&](auto part) VEMI_INLINED {
       const auto l = times(df, Scale::l, floatsOf(part, divided));
       const auto y = times(df, Scale::full, cubeOf(df, times(df, 0.00862069f, plus(df, l, 16.0f))));
       const auto inverse = reciprocal(times(df, 13.0f, l));
-      const auto share = [&](V chroma, float scale, float zero, float white) HWY_ATTR {
+      const auto share = [&](V chroma, float scale, float zero, float white) VEMI_INLINED {
         return plus(df, hn::Mul(plus(df, times(df, scale, floatsOf(part, chroma)), -zero), inverse), white);
       };
       const auto t = hn::Mul(reciprocal(share(v, Scale::v, 140.0f, whiteV)), y);
       const auto [red, green, blue] = rgbOfShares(df, y, t, share(u, Scale::u, 134.0f, whiteU));
       // Beyond 32 bits it is limited too; a NaN is cut off to the lowest integer, and so becomes 0.
-      const auto cut = [&](auto x) HWY_ATTR { return truncated(di, lesser(hn::Set(df, Scale::full), x)); };
+      const auto cut = [&](auto x) VEMI_INLINED { return truncated(di, lesser(hn::Set(df, Scale::full), x)); };
       return std::tuple(cut(red), cut(green), cut(blue));
     });
     const auto isColour = hn::Eq(divided, lightness);
-    const auto choose = [&](V colour) HWY_ATTR { return hn::IfThenElseZero(isColour, colour); };
+    const auto choose = [&](V colour) VEMI_INLINED { return hn::IfThenElseZero(isColour, colour); };
     return std::tuple(choose(r), choose(g), choose(b));
   }
 };
@@ -204,14 +205,14 @@ constexpr RootTable roots;
 struct FromWords {
   template <class D, class V>
   HWY_INLINE auto operator()(D d, V red, V green, V blue) const {
-    const auto [l, u, v] = inParts(d, [&](auto part) HWY_ATTR {
+    const auto [l, u, v] = inParts(d, [&](auto part) VEMI_INLINED {
       const hn::Repartition<float, D> df;
       const hn::Repartition<int32_t, D> di;
       const auto [x, y, z] = xyzOf(df, floatsOf(part, red), floatsOf(part, green), floatsOf(part, blue));
       const auto light = lightnessOf(df, y);
       const auto inverse = refinedReciprocal(df, hn::Max(divisorOf(df, x, y, z), hn::Set(df, 1.0f)));
       const auto factor = times(df, 13.0f, light);
-      const auto chroma = [&](auto dividend, float white, float zero, float scale) HWY_ATTR {
+      const auto chroma = [&](auto dividend, float white, float zero, float scale) VEMI_INLINED {
         const auto difference = hn::Sub(hn::Mul(dividend, inverse), hn::Set(df, white));
         return truncated(di, times(df, scale, plus(df, hn::Mul(difference, factor), zero)));
       };
@@ -235,7 +236,7 @@ struct FromWords {
     const V e = hn::Mul(hn::Sub(times(d, unit, y), cubeOf(d, t)), inverseCube);
     constexpr float series[] = {1, 1 / 3.0f, -1 / 9.0f, 0.061728396f, -0.041152265f, 0.030178327f, -0.023472032f};
     V sum = hn::Set(d, series[6]);
-    unrolled<6>([&](auto k) HWY_ATTR { sum = plus(d, hn::Mul(sum, e), series[5 - k]); });
+    unrolled<6>([&](auto k) VEMI_INLINED { sum = plus(d, hn::Mul(sum, e), series[5 - k]); });
     const V curved = hn::Sub(times(d, 116.0f, hn::Mul(sum, t)), hn::Set(d, 16.0f));
     return hn::IfThenElse(hn::Gt(y, hn::Set(d, 655.35f)), curved, times(d, 903.3f * unit, y));
   }

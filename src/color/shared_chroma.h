@@ -2,6 +2,7 @@
 // of either.
 #pragma once
 
+#include "core/inlined.h"
 #include "core/lane_width.h"
 #include "core/lanes.h"
 
@@ -49,7 +50,7 @@ struct PixelWords {
   Vectors<hn::Vec<Words<D>>, channels> even, odd;
 
   HWY_INLINE auto bytes(D d) const {
-    return [&]<size_t... c>(std::index_sequence<c...>) HWY_ATTR {
+    return [&]<size_t... c>(std::index_sequence<c...>) VEMI_INLINED {
       return std::tuple(bytesOfPixels(d, even.v[c], odd.v[c])...);
     }
     (std::make_index_sequence<channels>());
@@ -60,7 +61,7 @@ struct PixelWords {
 /// ones.
 template <class D, class F, class... V>
 HWY_INLINE auto bytesByWords(D d, const F& f, V... channel) {
-  const auto ofWords = [&](auto... words) HWY_ATTR {
+  const auto ofWords = [&](auto... words) VEMI_INLINED {
     return PixelWords<D, 3>{f(words.lower...), f(words.upper...)}.bytes(d);
   };
   return ofWords(wordsOfPixels(d, channel)...);

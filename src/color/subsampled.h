@@ -47,6 +47,28 @@ struct PackedChroma {
   }
 };
 
+/// Two rows of luma and the row of chroma of 4:2:0 that they share.
+struct PairedRows {
+  static constexpr int sharing = 2;
+  const uint8_t *y0, *y1, *u, *v;
+
+  auto groups() const { return rowsBeside(planeRow(y0, y1), planeRow<2>(u, v)); }
+  auto pixel(ptrdiff_t x) const { return planeRow(y0 + x, y1 + x, u + x / 2, v + x / 2); }
+};
+
+/// Two rows of pixels at once: what depends on chroma alone is computed once.
+template <class Op>
+struct OnPairedRows {
+  Op op;
+
+  explicit constexpr OnPairedRows(Op of) : op(of) {}
+
+  template <class D, class V, class C>
+  HWY_INLINE auto operator()(D d, V y0, V y1, C u, C v) const {
+    return std::tuple_cat(op(d, y0, u, v), op(d, y1, u, v));
+  }
+};
+
 template <int shared, class T>
 PlanarChroma<shared, T> chromaRow(SteppedPlanes<T, 3> planes, ptrdiff_t y, ptrdiff_t chroma) {
   return {planes[0].row(y), planes[1].row(chroma), planes[2].row(chroma)};
@@ -62,7 +84,7 @@ struct ColumnOps {
 template <class Groups, class Rest, class Single>
 ColumnOps(Groups, Rest, Single) -> ColumnOps<Groups, Rest, Single>;
 
-/// One row. Streamed, its groups of eight are written past the caches.
+/// One row, or two that share chroma. Streamed, groups of eight are written past the caches.
 template <Stores how, class Ops, class Dst, class Src>
 void expandRow(ptrdiff_t width, const Ops& ops, Dst dst, Src src) {
   const auto groups = [&](ptrdiff_t x, ptrdiff_t n) {
@@ -107,17 +129,19 @@ void expandRowPairs(const Rows& rows, Extent extent, const Ops& ops, Dst dst, Ch
     const ColumnOps singles = {ops.single, ops.single, ops.single};
     expandRow<Stores::cached>(extent.width, singles, dst.row(y), chromaRow<2>(src, y, chroma));
   };
-  const auto run = [&](auto how, const auto& finish) {
-    const auto pair = [&](ptrdiff_t y, ptrdiff_t chroma) {
-      expandRow<how>(extent.width, ops, dst.row(y), chromaRow<2>(src, y, chroma));
-      expandRow<how>(extent.width, ops, dst.row(y + 1), chromaRow<2>(src, y + 1, chroma));
-    };
-    forRowPairs(rows, extent.height, pair, lastRow, finish);
+  const auto pair = [&](ptrdiff_t y, ptrdiff_t chroma) {
+    const ColumnOps paired = {OnPairedRows{ops.groups}, OnPairedRows{ops.rest}, OnPairedRows{ops.single}};
+    const PairedRows from = {src[0].row(y), src[0].row(y + 1), src[1].row(chroma), src[2].row(chroma)};
+    expandRow<Stores::cached>(extent.width, paired, rowsBeside(dst.row(y), dst.row(y + 1)), from);
+  };
+  const auto streamedRows = [&](ptrdiff_t y, ptrdiff_t chroma) {
+    expandRow<Stores::streamed>(extent.width, ops, dst.row(y), chromaRow<2>(src, y, chroma));
+    expandRow<Stores::streamed>(extent.width, ops, dst.row(y + 1), chromaRow<2>(src, y + 1, chroma));
   };
   if (trafficOf(extent, Dst::pixelSize + 1) >= streamedTraffic) {
-    run(std::integral_constant<Stores, Stores::streamed>(), finishStreaming);
+    forRowPairs(rows, extent.height, streamedRows, lastRow, finishStreaming);
   } else {
-    run(std::integral_constant<Stores, Stores::cached>(), NoFinish());
+    forRowPairs(rows, extent.height, pair, lastRow);
   }
 }
 

@@ -8,6 +8,7 @@
 #include "color/affine.h"
 #include "color/matrices.h"
 #include "color/shared_chroma.h"
+#include "core/inlined.h"
 #include "core/pixels.h"
 
 namespace vemi::color {
@@ -39,7 +40,7 @@ struct ToRgb {
 
   template <bool fourOff, class D, class V>
   HWY_INLINE static Vectors<V, 3> pixels(D d, V luma, V chromaU, V chromaV) {
-    const auto high = [&](V v, int16_t weight) HWY_ATTR { return hn::MulHigh(v, hn::Set(d, weight)); };
+    const auto high = [&](V v, int16_t weight) VEMI_INLINED { return hn::MulHigh(v, hn::Set(d, weight)); };
     const V u = difference(d, chromaU), v = difference(d, chromaV);
     V red = high(v, m.redV), greenOfU = high(u, m.greenU), blue = high(u, m.blueU);
     const V greenOfV = high(v, m.greenV);
@@ -51,7 +52,7 @@ struct ToRgb {
     if constexpr (m.subtractsGreen) green = hn::Neg(green);
     V y = luma;
     if constexpr (m.luma != 0) y = high(hn::ShiftLeft<7>(hn::Sub(luma, hn::Set(d, m.black))), m.luma);
-    const auto result = [&](V chroma) HWY_ATTR {
+    const auto result = [&](V chroma) VEMI_INLINED {
       if constexpr (m.rounding != 0) chroma = hn::Add(chroma, hn::Set(d, m.rounding));
       const V sum = hn::Add(y, chroma);
       if constexpr (m.shift == 0) return sum;
@@ -73,7 +74,7 @@ struct ExactToRgb {
   template <class D, class V, class C>
   HWY_INLINE auto operator()(D d, V y, C u, C v) const {
     return bytesByWords(
-        d, [](auto... words) HWY_ATTR { return pixels(words...); }, y, u, v);
+        d, [](auto... words) VEMI_INLINED { return pixels(words...); }, y, u, v);
   }
 
  private:
@@ -83,8 +84,8 @@ struct ExactToRgb {
   HWY_INLINE static Vectors<V, 3> pixels(V y, V chromaU, V chromaV) {
     const hn::DFromV<V> d;
     const V u = hn::Sub(chromaU, hn::Set(d, 128)), v = hn::Sub(chromaV, hn::Set(d, 128));
-    const auto lower = [&](V x) HWY_ATTR { return hn::InterleaveLower(d, x, hn::ShiftLeft<3>(x)); };
-    const auto upper = [&](V x) HWY_ATTR { return hn::InterleaveUpper(d, x, hn::ShiftLeft<3>(x)); };
+    const auto lower = [&](V x) VEMI_INLINED { return hn::InterleaveLower(d, x, hn::ShiftLeft<3>(x)); };
+    const auto upper = [&](V x) VEMI_INLINED { return hn::InterleaveUpper(d, x, hn::ShiftLeft<3>(x)); };
     const auto half0 = sums(lower(y), lower(u), lower(v)), half1 = sums(upper(y), upper(u), upper(v));
     return {{packHalves(d, half0.v[0], half1.v[0]), packHalves(d, half0.v[1], half1.v[1]),
              packHalves(d, half0.v[2], half1.v[2])}};
@@ -95,14 +96,14 @@ struct ExactToRgb {
   HWY_INLINE static auto sums(V y, V u, V v) {
     const hn::DFromV<V> d;
     const hn::RepartitionToWide<decltype(d)> dSums;
-    const auto times = [&](V pairs, int weight) HWY_ATTR {
+    const auto times = [&](V pairs, int weight) VEMI_INLINED {
       const int high = weight / 8;
       return pairsOfProducts(
           pairs, detail::weightsOfPairs(d, static_cast<int16_t>(weight - 8 * high), static_cast<int16_t>(high)));
     };
     const auto luma = hn::Add(times(y, m.luma), hn::Set(dSums, m.offset));
     const auto green = hn::Add(times(u, m.greenU), times(v, m.greenV));
-    const auto result = [&](auto chroma) HWY_ATTR { return hn::ShiftRight<16>(hn::Add(luma, chroma)); };
+    const auto result = [&](auto chroma) VEMI_INLINED { return hn::ShiftRight<16>(hn::Add(luma, chroma)); };
     return Vectors<decltype(luma), 3>{{result(times(v, m.redV)), result(green), result(times(u, m.blueU))}};
   }
 };

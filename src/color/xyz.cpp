@@ -8,6 +8,7 @@
 #include "color/float_lanes.h"
 #include "color/matrices.h"
 #include "core/exports.h"
+#include "core/inlined.h"
 #include "core/regimes.h"
 #include "vemi/color.h"
 
@@ -20,7 +21,7 @@ struct SumOfTwoParts {
   template <class D, class V>
   HWY_INLINE auto operator()(D d, V v0, V v1, V v2) const {
     return bytesByWords(
-        d, [](auto... words) HWY_ATTR { return rows(words...); }, v0, v1, v2);
+        d, [](auto... words) VEMI_INLINED { return rows(words...); }, v0, v1, v2);
   }
 
  private:
@@ -39,7 +40,7 @@ struct SumOfTwoParts {
     const auto first = hn::Set(d, static_cast<int16_t>(r.weight[0]));
     const auto second = hn::Set(d, static_cast<int16_t>(r.weight[1]));
     const V weights = hn::OddEven(second, first);
-    const auto shifted = [&](V pairs) HWY_ATTR { return hn::ShiftRight<r.shift>(pairsOfProducts(pairs, weights)); };
+    const auto shifted = [&](V pairs) VEMI_INLINED { return hn::ShiftRight<r.shift>(pairsOfProducts(pairs, weights)); };
     static_assert(std::is_same_v<decltype(shifted(lower)), hn::Vec<decltype(dWide)>>);
     const V last = hn::MulHigh(hn::ShiftLeft<16 - r.shift>(c), hn::Set(d, static_cast<int16_t>(r.weight[2])));
     return hn::Add(packHalves(d, shifted(lower), shifted(upper)), last);

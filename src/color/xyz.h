@@ -3,6 +3,7 @@
 
 #include <tuple>
 
+#include "core/inlined.h"
 #include "core/lanes.h"
 #include "core/processor.h"
 
@@ -10,7 +11,7 @@ namespace vemi::color {
 
 template <class D, class V>
 HWY_INLINE V weightedSum(D d, float weight0, V v0, float weight1, V v1, float weight2, V v2) {
-  const auto times = [&](float weight, V v) HWY_ATTR { return hn::Mul(hn::Set(d, weight), v); };
+  const auto times = [&](float weight, V v) VEMI_INLINED { return hn::Mul(hn::Set(d, weight), v); };
   return hn::Add(hn::Add(times(weight0, v0), times(weight1, v1)), times(weight2, v2));
 }
 

@@ -6,6 +6,7 @@
 #include "color/matrices.h"
 #include "color/shared_chroma.h"
 #include "core/exports.h"
+#include "core/inlined.h"
 #include "core/regimes.h"
 #include "vemi/color.h"
 
@@ -34,7 +35,7 @@ struct GroupsToYcc {
   template <class D, class V>
   HWY_INLINE auto operator()(D d, V red, V green, V blue) const {
     return bytesByWords(
-        d, [](auto... words) HWY_ATTR { return of(words...); }, red, green, blue);
+        d, [](auto... words) VEMI_INLINED { return of(words...); }, red, green, blue);
   }
 
  private:
@@ -44,7 +45,7 @@ struct GroupsToYcc {
     const hn::DFromV<V> d;
     const V redAndGreen = hn::Add(mulHighOfBytes(r, m.weight[0]), mulHighOfBytes(g, m.weight[1]));
     const V light = hn::Add(redAndGreen, mulHighOfBytes(b, m.weight[2]));
-    const auto chroma = [&](V channel, int factor, int zero) HWY_ATTR {
+    const auto chroma = [&](V channel, int factor, int zero) VEMI_INLINED {
       const V difference = mulHigh(hn::Sub(hn::ShiftLeft<6>(channel), light), factor);
       return hn::ShiftRight<2>(hn::Add(difference, hn::Set(d, static_cast<int16_t>(4 * zero))));
     };
@@ -57,7 +58,7 @@ struct GroupsFromYcc {
   template <class D, class V>
   HWY_INLINE auto operator()(D d, V luma, V chroma1, V chroma2) const {
     return bytesByWords(
-        d, [](auto... words) HWY_ATTR { return of(words...); }, luma, chroma1, chroma2);
+        d, [](auto... words) VEMI_INLINED { return of(words...); }, luma, chroma1, chroma2);
   }
 
  private:
@@ -65,7 +66,7 @@ struct GroupsFromYcc {
   HWY_INLINE static Vectors<V, 3> of(V luma, V c1, V c2) {
     constexpr auto m = yccToRgb8u;
     const hn::DFromV<V> d;
-    const auto difference = [&](V chroma, int zero, int factor) HWY_ATTR {
+    const auto difference = [&](V chroma, int zero, int factor) VEMI_INLINED {
       return mulHigh(hn::ShiftLeft<7>(hn::Sub(chroma, hn::Set(d, static_cast<int16_t>(zero)))), factor);
     };
     const V y = mulHighOfBytes(luma, m.luma);
@@ -83,12 +84,12 @@ HWY_INLINE V times(V v, int factor) {
 struct RestToYcc {
   template <class D, class V>
   HWY_INLINE auto operator()(D d, V red, V green, V blue) const {
-    return inParts(d, [&](auto part) HWY_ATTR {
+    return inParts(d, [&](auto part) VEMI_INLINED {
       constexpr auto m = rgbToYcc8u;
       const hn::Repartition<int32_t, D> di;
       const auto r = integersOf(part, red), g = integersOf(part, green), b = integersOf(part, blue);
       const auto light = hn::Add(hn::Add(times(r, m.weight[0]), times(g, m.weight[1])), times(b, m.weight[2]));
-      const auto chroma = [&](auto channel, int factor, int zero) HWY_ATTR {
+      const auto chroma = [&](auto channel, int factor, int zero) VEMI_INLINED {
         const auto difference = hn::ShiftRight<10>(hn::Sub(hn::ShiftLeft<14>(channel), light));
         return hn::Add(hn::ShiftRight<16>(times(difference, factor)), hn::Set(di, zero));
       };
@@ -101,10 +102,10 @@ struct RestToYcc {
 struct RestFromYcc {
   template <class D, class V>
   HWY_INLINE auto operator()(D d, V luma, V chroma1, V chroma2) const {
-    return inParts(d, [&](auto part) HWY_ATTR {
+    return inParts(d, [&](auto part) VEMI_INLINED {
       constexpr auto m = yccToRgb8uRest;
       const hn::Repartition<int32_t, D> di;
-      const auto difference = [&](V chroma, int zero, int factor) HWY_ATTR {
+      const auto difference = [&](V chroma, int zero, int factor) VEMI_INLINED {
         return times(hn::Sub(integersOf(part, chroma), hn::Set(di, zero)), factor);
       };
       const auto y = times(integersOf(part, luma), m.luma);
@@ -156,15 +157,15 @@ struct OfWords {
     const hn::Repartition<int32_t, D> di;
     const hn::RebindToUnsigned<D> du;
     constexpr int lowest = std::numeric_limits<T>::min();
-    const auto lifted = [&](V v) HWY_ATTR {
+    const auto lifted = [&](V v) VEMI_INLINED {
       return hn::Xor(hn::BitCast(du, v), hn::Set(du, static_cast<uint16_t>(lowest)));
     };
-    const auto integer = [&](auto v) HWY_ATTR {
+    const auto integer = [&](auto v) VEMI_INLINED {
       if constexpr (lowest != 0) v = hn::Add(v, hn::Set(df, lowest));
       return truncated(di, v);
     };
-    return inParts(d, [&](auto part) HWY_ATTR {
-      const auto of = [&](V v) HWY_ATTR { return floatsOf(part, lifted(v)); };
+    return inParts(d, [&](auto part) VEMI_INLINED {
+      const auto of = [&](V v) VEMI_INLINED { return floatsOf(part, lifted(v)); };
       const auto [r0, r1, r2] = Model::of(of(v0), of(v1), of(v2), yccZeros16u);
       return std::tuple(integer(r0), integer(r1), integer(r2));
     });
@@ -182,7 +183,7 @@ struct OfFloatsToYcc {
 struct OfFloatsFromYcc {
   template <class D, class V>
   HWY_INLINE auto operator()(D d, V luma, V c1, V c2) const {
-    const auto limited = [=](V v) HWY_ATTR { return lesser(greater(v, hn::Zero(d)), hn::Set(d, 1.0f)); };
+    const auto limited = [=](V v) VEMI_INLINED { return lesser(greater(v, hn::Zero(d)), hn::Set(d, 1.0f)); };
     const auto [r, g, b] = FromYcc::of(luma, c1, c2, yccZeros32f);
     return std::tuple(limited(r), limited(g), limited(b));
   }

@@ -18,6 +18,7 @@
 #include <utility>
 
 #include "core/blocks.h"
+#include "core/inlined.h"
 #include "core/lanes.h"
 #include "core/layout.h"
 #include "core/streaming.h"
@@ -61,7 +62,7 @@ HWY_INLINE void streamChannels(D d, hn::TFromD<D>* pixels, V... channel) {
   constexpr ptrdiff_t N = hn::MaxLanes(d);
   alignas(laneAlignment) hn::TFromD<D> interleaved[sizeof...(V) * N];
   storeChannels(d, interleaved, channel...);
-  unrolled<sizeof...(V)>([&](auto k) HWY_ATTR { hn::Stream(hn::Load(d, interleaved + k * N), d, pixels + k * N); });
+  unrolled<sizeof...(V)>([&](auto k) VEMI_INLINED { hn::Stream(hn::Load(d, interleaved + k * N), d, pixels + k * N); });
 }
 
 namespace detail {
@@ -69,7 +70,7 @@ namespace detail {
 /// f(elements [first, first + count) of a tuple...)
 template <size_t first, size_t count, class Tuple, class F>
 HWY_INLINE auto applySlice(const Tuple& tuple, const F& f) {
-  return [&]<size_t... i>(std::index_sequence<i...>) HWY_ATTR { return f(std::get<first + i>(tuple)...); }
+  return [&]<size_t... i>(std::index_sequence<i...>) VEMI_INLINED { return f(std::get<first + i>(tuple)...); }
   (std::make_index_sequence<count>());
 }
 
@@ -123,7 +124,7 @@ struct InterleavedRow {
     static_assert(std::is_const_v<T>, "a source is not written");
     const hn::CappedTag<Element, pixels / subsampling> d;
     if constexpr (L::keepsAlpha) {
-      return loadChannels<4>(d, first, [&](auto c0, auto c1, auto c2, auto) HWY_ATTR { return f(c0, c1, c2); });
+      return loadChannels<4>(d, first, [&](auto c0, auto c1, auto c2, auto) VEMI_INLINED { return f(c0, c1, c2); });
     } else {
       return loadChannels<L::elements>(d, first, f);
     }
@@ -160,7 +161,8 @@ struct KeptAlphaRow {
   template <Stores, ptrdiff_t pixels, class V>
   HWY_INLINE void store(V v0, V v1, V v2) const {
     const hn::CappedTag<T, pixels> d;
-    loadChannels<4>(d, old, [&](auto, auto, auto, auto alpha) HWY_ATTR { storeChannels(d, first, v0, v1, v2, alpha); });
+    loadChannels<4>(d, old,
+                    [&](auto, auto, auto, auto alpha) VEMI_INLINED { storeChannels(d, first, v0, v1, v2, alpha); });
   }
 };
 
@@ -177,33 +179,35 @@ struct PlaneRow {
 
   template <int pixels>
   auto strands() const {
-    return forEach([&](auto... n) { return std::tuple(Strand<T, pixels / subsampling>{first[n]}...); });
+    return forEach([&](auto... n) VEMI_INLINED { return std::tuple(Strand<T, pixels / subsampling>{first[n]}...); });
   }
   PlaneRow from(ptrdiff_t x) const {
-    return forEach([&](auto... n) { return PlaneRow{{first[n] + x / subsampling...}}; });
+    return forEach([&](auto... n) VEMI_INLINED { return PlaneRow{{first[n] + x / subsampling...}}; });
   }
 
   template <ptrdiff_t pixels, class F>
   HWY_INLINE auto load(const F& f) const {
     static_assert(std::is_const_v<T>, "a source is not written");
     const hn::CappedTag<Element, pixels / subsampling> d;
-    return forEach([&](auto... n) HWY_ATTR { return f(hn::LoadU(d, first[n])...); });
+    return forEach([&](auto... n) VEMI_INLINED { return f(hn::LoadU(d, first[n])...); });
   }
   template <Stores how, ptrdiff_t pixels, class... V>
   HWY_INLINE void store(V... v) const {
     const hn::CappedTag<Element, pixels / subsampling> d;
     if constexpr (how == Stores::streamed) {
       static_assert(hn::MaxLanes(d) == laneCount<Element>);
-      forEach([&](auto... n) HWY_ATTR { (hn::Stream(v, d, first[n]), ...); });
+      forEach([&](auto... n) VEMI_INLINED { (hn::Stream(v, d, first[n]), ...); });
     } else {
-      forEach([&](auto... n) HWY_ATTR { (hn::StoreU(v, d, first[n]), ...); });
+      forEach([&](auto... n) VEMI_INLINED { (hn::StoreU(v, d, first[n]), ...); });
     }
   }
 
  private:
   template <class F>
   HWY_INLINE static auto forEach(const F& f) {
-    return [&]<int... n>(std::integer_sequence<int, n...>) HWY_ATTR { return f(std::integral_constant<int, n>()...); }
+    return [&]<int... n>(std::integer_sequence<int, n...>) VEMI_INLINED {
+      return f(std::integral_constant<int, n>()...);
+    }
     (std::make_integer_sequence<int, planes>());
   }
 };
@@ -234,7 +238,7 @@ struct Packed422Row {
   HWY_INLINE auto load(const F& f) const {
     static_assert(std::is_const_v<T>, "a source is not written");
     const hn::CappedTag<uint8_t, pixels> d;
-    return loadChannels<2>(d, first, [&](auto even, auto odd) HWY_ATTR {
+    return loadChannels<2>(d, first, [&](auto even, auto odd) VEMI_INLINED {
       const auto luma = lumaFirst ? even : odd, chroma = lumaFirst ? odd : even;
       return f(luma, hn::LowerHalf(hn::ConcatEven(d, chroma, chroma)), hn::LowerHalf(hn::ConcatOdd(d, chroma, chroma)));
     });
@@ -264,10 +268,10 @@ struct RowsBeside {
 
   template <int pixels>
   auto strands() const {
-    return forEach([](auto... r) { return std::tuple_cat(r.template strands<pixels>()...); });
+    return forEach([](auto... r) VEMI_INLINED { return std::tuple_cat(r.template strands<pixels>()...); });
   }
   RowsBeside from(ptrdiff_t x) const {
-    return forEach([=](auto... r) { return RowsBeside{{r.from(x)...}}; });
+    return forEach([=](auto... r) VEMI_INLINED { return RowsBeside{{r.from(x)...}}; });
   }
 
   template <ptrdiff_t pixels, class F>
@@ -289,8 +293,8 @@ struct RowsBeside {
     if constexpr (i == sizeof...(Row)) {
       return f(v...);
     } else {
-      return std::get<i>(row).template load<pixels>([&](auto... more)
-                                                        HWY_ATTR { return loadFrom<pixels, i + 1>(f, v..., more...); });
+      return std::get<i>(row).template load<pixels>(
+          [&](auto... more) VEMI_INLINED { return loadFrom<pixels, i + 1>(f, v..., more...); });
     }
   }
   template <Stores how, ptrdiff_t pixels, size_t i, size_t channel, class All>
@@ -298,7 +302,7 @@ struct RowsBeside {
     if constexpr (i < sizeof...(Row)) {
       const auto& r = std::get<i>(row);
       constexpr size_t count = std::remove_reference_t<decltype(r)>::channels;
-      detail::applySlice<channel, count>(all, [&](auto... v) HWY_ATTR { r.template store<how, pixels>(v...); });
+      detail::applySlice<channel, count>(all, [&](auto... v) VEMI_INLINED { r.template store<how, pixels>(v...); });
       storeFrom<how, pixels, i + 1, channel + count>(all);
     }
   }
@@ -348,7 +352,7 @@ struct RowAt {
 
   template <size_t first, class Pointers>
   HWY_INLINE static Row from(const Pointers& pointers) {
-    return applySlice<first, strands>(pointers, [](auto... p) { return Row{p...}; });
+    return applySlice<first, strands>(pointers, [](auto... p) VEMI_INLINED { return Row{p...}; });
   }
 };
 
@@ -358,7 +362,7 @@ struct RowAt<RowsBeside<Row...>> {
 
   template <size_t first, class Pointers>
   HWY_INLINE static RowsBeside<Row...> from(const Pointers& pointers) {
-    return [&]<size_t... i>(std::index_sequence<i...>) {
+    return [&]<size_t... i>(std::index_sequence<i...>) VEMI_INLINED {
       return RowsBeside<Row...>{{RowAt<Row>::template from<first + strandsAhead(i)>(pointers)...}};
     }
     (std::make_index_sequence<sizeof...(Row)>());
@@ -389,8 +393,8 @@ struct PixelBlocks {
     const Source src = RowAt<Source>::template from<RowAt<Dst>::strands>(pointers).from(k * pixels);
     const Dst dst = RowAt<Dst>::template from<0>(pointers).from(k * pixels);
     const hn::CappedTag<typename Source::Element, pixels> d;
-    const auto results = src.template load<pixels>([&](auto... v) HWY_ATTR { return op(d, v...); });
-    applyResults<Dst::channels>(results, [&](auto... v) HWY_ATTR { dst.template store<how, pixels>(v...); });
+    const auto results = src.template load<pixels>([&](auto... v) VEMI_INLINED { return op(d, v...); });
+    applyResults<Dst::channels>(results, [&](auto... v) VEMI_INLINED { dst.template store<how, pixels>(v...); });
   }
 
   template <class F>
@@ -409,16 +413,16 @@ HWY_NOINLINE void mapItems(ptrdiff_t count, const Op& operation, S... strand) {
     return shortRow<Blocks::items>(count, wholeBlock, operation, strand...);
   }
   const Op op = operation;  // a local, which no store to the destination can change
-  const auto kernel = [&](auto... pointer) HWY_ATTR { Blocks::template run<Stores::cached>(op, 0, pointer...); };
+  const auto kernel = [&](auto... pointer) VEMI_INLINED { Blocks::template run<Stores::cached>(op, 0, pointer...); };
   forWholeBlocks<Blocks::items>(count, kernel, strand...);
 }
 
 template <class Blocks, int period, class Op, class... S>
 HWY_NOINLINE void streamItems(ptrdiff_t count, const Op& operation, S... strand) {
   const Op op = operation;
-  const auto kernel = [&](auto... pointer) HWY_ATTR {
+  const auto kernel = [&](auto... pointer) VEMI_INLINED {
     unrolled<Blocks::streamedVectors>([&](auto k)
-                                          HWY_ATTR { Blocks::template run<Stores::streamed>(op, k, pointer...); });
+                                          VEMI_INLINED { Blocks::template run<Stores::streamed>(op, k, pointer...); });
   };
   const auto plain = [&](ptrdiff_t i, ptrdiff_t n) { mapItems<Blocks>(n, operation, S{strand.at(i)}...); };
   forStreamedBlocks<Blocks::streamedVectors * Blocks::items, period>(count, plain, kernel, strand...);
@@ -430,8 +434,9 @@ HWY_NOINLINE void streamItems(ptrdiff_t count, const Op& operation, S... strand)
 template <class Op, class Dst, class... Src>
 HWY_INLINE void mapPixels(ptrdiff_t width, const Op& op, Dst dst, Src... src) {
   using Blocks = detail::PixelBlocks<Op, Dst, Src...>;
-  Blocks::withStrands(dst, {{src...}},
-                      [&](auto... strand) { detail::mapItems<Blocks>(width / Blocks::item, op, strand...); });
+  Blocks::withStrands(dst, {{src...}}, [&](auto... strand) VEMI_INLINED {
+    detail::mapItems<Blocks>(width / Blocks::item, op, strand...);
+  });
 }
 
 /// Whether streamPixels takes these rows.
@@ -444,8 +449,9 @@ HWY_INLINE void streamPixels(ptrdiff_t width, const Op& op, Dst dst, Src... src)
   using Blocks = detail::PixelBlocks<Op, Dst, Src...>;
   static_assert(Blocks::streamedVectors != 0 && (period == 1 || period % Blocks::item == 0));
   constexpr int items = (period + Blocks::item - 1) / Blocks::item;
-  Blocks::withStrands(dst, {{src...}},
-                      [&](auto... strand) { detail::streamItems<Blocks, items>(width / Blocks::item, op, strand...); });
+  Blocks::withStrands(dst, {{src...}}, [&](auto... strand) VEMI_INLINED {
+    detail::streamItems<Blocks, items>(width / Blocks::item, op, strand...);
+  });
 }
 
 // ---- Operations that are the same for all layouts -----------------------------------------------------------------
@@ -519,14 +525,14 @@ HWY_NOINLINE inline void mapPixels(ptrdiff_t width, const IdenticalChannels&, In
   alignas(16) static constexpr uint8_t frontOfBlock[16] = {0, 1, 2, 4, 5, 6, 8, 9, 10, 12, 13, 14, 3, 7, 11, 15};
   const auto blocks = hn::LoadDup128(d, frontOfBlock);
   const auto lanes = hn::SetTableIndices(dPixels, detail::frontOfVector.index);
-  const auto kernel = [&](const uint8_t* in, uint8_t* out) HWY_ATTR {
-    const auto pack = [&](auto k) HWY_ATTR {
+  const auto kernel = [&](const uint8_t* in, uint8_t* out) VEMI_INLINED {
+    const auto pack = [&](auto k) VEMI_INLINED {
       const auto inBlocks = hn::TableLookupBytes(hn::LoadU(d, in + k * N), blocks);
       return hn::BitCast(d, hn::TableLookupLanes(hn::BitCast(dPixels, inBlocks), lanes));
     };
     alignas(laneAlignment) uint8_t last[N];
     hn::Store(pack(std::integral_constant<int, vectors - 1>()), d, last);
-    unrolled<vectors - 1>([&](auto k) HWY_ATTR { hn::StoreU(pack(k), d, out + k * packed); });
+    unrolled<vectors - 1>([&](auto k) VEMI_INLINED { hn::StoreU(pack(k), d, out + k * packed); });
     std::memcpy(out + (vectors - 1) * packed, last, packed);
   };
   forBlocks<vectors * N / 4>(width, kernel, Strand<const uint8_t, 4>{src.first}, Strand<uint8_t, 3>{dst.first});
@@ -541,7 +547,7 @@ void movePixels(ptrdiff_t width, Dst dst, Src... src) {
 /// move of its one element: the elements behind that may not belong to the image.
 template <int elements, class T>
 HWY_INLINE void extractChannelRow(ptrdiff_t width, const T* src, T* dst) {
-  const auto first = [](auto, auto wanted, auto...) HWY_ATTR { return wanted; };
+  const auto first = [](auto, auto wanted, auto...) VEMI_INLINED { return wanted; };
   const ptrdiff_t last = width - 1;
   mapPixels(last, first, planeRow(dst), pixelRow<Interleaved<elements>>(src));
   std::memcpy(dst + last, src + last * elements, sizeof(T));
@@ -556,7 +562,7 @@ void copyChannelRow(ptrdiff_t width, const T* src, T* dst) {
     const hn::FixedTag<uint8_t, 16> d;
     for (; x + 16 <= width; x += 16) {
       const auto pixels = hn::LoadU(d, src + x);
-      unrolled<16>([&](auto k) HWY_ATTR { dst[(x + k) * dstElements] = hn::ExtractLane(pixels, k); });
+      unrolled<16>([&](auto k) VEMI_INLINED { dst[(x + k) * dstElements] = hn::ExtractLane(pixels, k); });
     }
   }
   for (; x < width; ++x) std::memcpy(dst + x * dstElements, src + x * srcElements, sizeof(T));
