@@ -7,6 +7,7 @@
 #include "color/float_lanes.h"
 #include "color/reciprocal.h"
 #include "core/exports.h"
+#include "core/inlined.h"
 #include "vemi/color.h"
 
 namespace vemi::color {
@@ -36,7 +37,7 @@ struct FromIntegers {
     const V upper = hn::IfThenElse(isRed, g, hn::IfThenElse(isGreen, b, r));
     const V lower = hn::IfThenElse(isRed, b, hn::IfThenElse(isGreen, r, g));
     const V place = hn::IfThenZeroElse(isRed, hn::IfThenElse(isGreen, hn::Set(d, T{120}), hn::Set(d, T{240})));
-    const auto [hue, saturation] = inParts(d, [&](auto part) HWY_ATTR {
+    const auto [hue, saturation] = inParts(d, [&](auto part) VEMI_INLINED {
       const hn::Repartition<float, D> df;
       const hn::Repartition<int32_t, D> di;
       const auto difference = hn::ConvertTo(df, hn::Sub(integersOf(part, upper), integersOf(part, lower)));
@@ -57,18 +58,18 @@ struct ToIntegers {
   template <class D, class V>
   HWY_INLINE auto operator()(D d, V hue, V lightness, V saturation) const {
     using Scale = color::Scale<hn::TFromD<D>>;
-    const auto [r, g, b] = inParts(d, [&](auto part) HWY_ATTR {
+    const auto [r, g, b] = inParts(d, [&](auto part) VEMI_INLINED {
       const hn::Repartition<float, D> df;
       const hn::Repartition<int32_t, D> di;
-      const auto times = [&](V v, float scale) HWY_ATTR { return hn::Mul(floatsOf(part, v), hn::Set(df, scale)); };
+      const auto times = [&](V v, float scale) VEMI_INLINED { return hn::Mul(floatsOf(part, v), hn::Set(df, scale)); };
       const auto h = times(hue, Scale::toDegrees);
       const auto l = times(lightness, Scale::toUnit), s = times(saturation, Scale::toUnit);
-      const auto scaled = [&](auto v) HWY_ATTR { return truncated(di, hn::Mul(v, hn::Set(df, Scale::full))); };
+      const auto scaled = [&](auto v) VEMI_INLINED { return truncated(di, hn::Mul(v, hn::Set(df, Scale::full))); };
       const auto [red, green, blue] = rgbOfHls<TimesSixtieth>(df, h, l, s);
       return std::tuple(scaled(red), scaled(green), scaled(blue));
     });
     const auto isGrey = hn::Eq(saturation, hn::Zero(d));
-    const auto choose = [&](V colour) HWY_ATTR { return hn::IfThenElse(isGrey, lightness, colour); };
+    const auto choose = [&](V colour) VEMI_INLINED { return hn::IfThenElse(isGrey, lightness, colour); };
     return std::tuple(choose(r), choose(g), choose(b));
   }
 };
@@ -86,7 +87,8 @@ struct ToFloats {
   HWY_INLINE auto operator()(D d, V hue, V lightness, V saturation) const {
     const auto [r, g, b] = rgbOfHls<OverSixty>(d, hn::Mul(hn::Set(d, 360.0f), hue), lightness, saturation);
     const auto isGrey = hn::Eq(saturation, hn::Zero(d));
-    const auto choose = [&](V colour) HWY_ATTR { return hn::IfThenElse(isGrey, lightness, colour); };
+    if (HWY_LIKELY(hn::AllFalse(d, isGrey))) return std::tuple(r, g, b);
+    const auto choose = [&](V colour) VEMI_INLINED { return hn::IfThenElse(isGrey, lightness, colour); };
     return std::tuple(choose(r), choose(g), choose(b));
   }
 };

@@ -8,6 +8,7 @@
 
 #include <tuple>
 
+#include "core/inlined.h"
 #include "core/lanes.h"
 #include "core/processor.h"
 
@@ -24,10 +25,9 @@ HWY_INLINE auto hlsOf(D d, V r, V g, V b) {
   const V saturation = hn::Div(delta, hn::IfThenElse(hn::Le(lightness, hn::Set(d, 0.5f)), sum, rest));
 
   const auto isRed = hn::Eq(r, most), isGreen = hn::Eq(g, most);
-  const V upper = hn::IfThenElse(isRed, g, hn::IfThenElse(isGreen, b, r));
-  const V lower = hn::IfThenElse(isRed, b, hn::IfThenElse(isGreen, r, g));
-  const V fromPlace = hn::Div(hn::Mul(hn::Sub(upper, lower), sixty), delta);
-  const V place = hn::IfThenElse(isGreen, hn::Set(d, 120.0f), hn::Set(d, 240.0f));
+  const V ofOthers = hn::IfThenElse(isGreen, hn::Sub(b, r), hn::Sub(r, g));
+  const V fromPlace = hn::Div(hn::Mul(hn::IfThenElse(isRed, hn::Sub(g, b), ofOthers), sixty), delta);
+  const V place = hn::Sub(hn::Set(d, 240.0f), hn::IfThenElseZero(isGreen, hn::Set(d, 120.0f)));
   const V angle = hn::IfThenElse(isRed, fromPlace, hn::Add(fromPlace, place));
   const V hue = hn::IfThenElse(hn::Lt(angle, zero), hn::Add(angle, hn::Set(d, 360.0f)), angle);
 
@@ -59,16 +59,20 @@ HWY_INLINE auto rgbOfHls(D d, V hue, V lightness, V saturation) {
   const V m1 = hn::Sub(hn::Add(lightness, lightness), m2);
   const V height = hn::Sub(m2, m1);
   const V third = hn::Set(d, 120.0f), circle = hn::Set(d, 360.0f), fall = hn::Set(d, 240.0f);
-  const auto ramp = [&](V x) HWY_ATTR {
-    const auto rises = hn::Lt(x, hn::Set(d, 60.0f)), isHigh = hn::Lt(x, hn::Set(d, 180.0f)), isNotLow = hn::Lt(x, fall);
-    const V along = hn::IfThenElse(rises, x, hn::Sub(fall, x));
-    const V slope = hn::Add(m1, ShareOfSixty()(d, hn::Mul(height, along)));
-    const V notRising = hn::IfThenElse(isHigh, m2, hn::IfThenElse(isNotLow, slope, m1));
-    return hn::IfThenElse(rises, slope, notRising);
+  // Up to 60 a slope from m1, up to 180 m2, up to 240 a slope back, then m1: where a limit is crossed, the bits change
+  // from one of two to the other.
+  const auto ramp = [&](V x) VEMI_INLINED {
+    const V rises = hn::VecFromMask(d, hn::Lt(x, hn::Set(d, 60.0f)));
+    const V isHigh = hn::VecFromMask(d, hn::Lt(x, hn::Set(d, 180.0f)));
+    const V isNotLow = hn::VecFromMask(d, hn::Lt(x, fall));
+    const V slope = hn::Add(m1, ShareOfSixty()(d, hn::Mul(height, lesser(x, hn::Sub(fall, x)))));
+    const V toSlope = hn::And(isNotLow, hn::Xor(m1, slope)),
+            toHigh = hn::And(hn::Xor(isHigh, rises), hn::Xor(slope, m2));
+    return hn::Xor(m1, hn::Xor(toSlope, toHigh));
   };
   const V ahead = hn::Add(hue, third), behind = hn::Sub(hue, third);
-  const V red = hn::IfThenElse(hn::Gt(ahead, circle), hn::Sub(ahead, circle), ahead);
-  const V blue = hn::IfThenElse(hn::Lt(behind, hn::Zero(d)), hn::Add(behind, circle), behind);
+  const V red = hn::Sub(ahead, hn::IfThenElseZero(hn::Gt(ahead, circle), circle));
+  const V blue = hn::Add(behind, hn::IfThenElseZero(hn::Lt(behind, hn::Zero(d)), circle));
   return std::tuple(ramp(red), ramp(hue), ramp(blue));
 }
 
