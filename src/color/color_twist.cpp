@@ -1,132 +1,17 @@
-// vemiColorTwist, vemiColorTwist32f: a matrix of the user's on the channels of each pixel.
+// vemiColorTwist, and vemiColorTwist32f of bytes.
 // Checks: null, size, step. Everything runs in the calling thread.
 
-#include <algorithm>
-#include <cfenv>
-#include <cmath>
 #include <cstring>
-#include <limits>
-#include <tuple>
-#include <type_traits>
 
-#include "color/conversion.h"
-#include "core/checks.h"
+#include "color/twist.h"
 #include "core/exports.h"
-#include "core/float_control.h"
-#include "core/pixel_region.h"
-#include "core/rounding.h"
+#include "core/inlined.h"
 #include "vemi/color.h"
 
 namespace vemi::color {
 namespace {
 
-/// The rows of a twist: the factors of the channels, and what is added, or the factor of a fourth channel.
-using Twist = const Vemi32f (*)[4];
-
-// ---- Integers: sums of doubles, by the caller's rounding ------------------------------------------------------------
-
-/// Where the bytes of 32-bit lanes are: byte k of each, the others zero.
-template <int k>
-alignas(16) inline constexpr uint8_t byteOfLanes[16] = {k,     0x80, 0x80, 0x80, k + 4,  0x80, 0x80, 0x80,
-                                                        k + 8, 0x80, 0x80, 0x80, k + 12, 0x80, 0x80, 0x80};
-
-/// The elements of a vector that share its lanes of 32 bits: element k of each, as an integer.
-template <int k, class T, class V>
-HWY_INLINE auto sharingLane(V v) {
-  constexpr int bits = 8 * sizeof(T), above = 32 - bits * (k + 1);
-  const hn::Repartition<uint8_t, hn::DFromV<V>> dBytes;
-  const hn::Repartition<int32_t, hn::DFromV<V>> d;
-  const auto lanes = hn::BitCast(d, v);
-  if constexpr (std::is_same_v<T, uint8_t>) {  // shuffles, where shifts would wait for arithmetic
-    return hn::BitCast(d, hn::TableLookupBytesOr0(hn::BitCast(dBytes, v), hn::LoadDup128(dBytes, byteOfLanes<k>)));
-  } else if constexpr (std::is_signed_v<T>) {
-    return hn::ShiftRight<32 - bits>(hn::ShiftLeft<above>(lanes));
-  } else {
-    return hn::And(hn::ShiftRight<bits * k>(lanes), hn::Set(d, (1 << bits) - 1));
-  }
-}
-
-/// Two vectors as one of half their width, saturated, whose 16-bit lanes come from either by turns.
-template <class D, class V>
-HWY_INLINE hn::Vec<D> packedByTurns(D d, V v0, V v1) {
-  alignas(16) static constexpr uint8_t byTurns[16] = {0, 1, 8, 9, 2, 3, 10, 11, 4, 5, 12, 13, 6, 7, 14, 15};
-  const hn::Repartition<uint8_t, D> dBytes;
-  return hn::TableLookupBytes(packHalves(d, v0, v1), hn::BitCast(d, hn::LoadDup128(dBytes, byTurns)));
-}
-
-/// Channel c of op(three channels of 32-bit lanes), of all elements.
-template <int c, class D, class Op, class V>
-HWY_INLINE hn::Vec<D> channelOf(D d, const Op& op, V v0, V v1, V v2) {
-  using T = hn::TFromD<D>;
-  return [&]<int... k>(std::integer_sequence<int, k...>) HWY_ATTR {
-    return op.join(d, op.template channel<c>(sharingLane<k, T>(v0), sharingLane<k, T>(v1), sharingLane<k, T>(v2))...);
-  }
-  (std::make_integer_sequence<int, 4 / sizeof(T)>());
-}
-template <class D, class Op, class V>
-HWY_INLINE auto channelsOf(D d, const Op& op, V v0, V v1, V v2) {
-  return std::tuple(channelOf<0>(d, op, v0, v1, v2), channelOf<1>(d, op, v0, v1, v2), channelOf<2>(d, op, v0, v1, v2));
-}
-
-/// A sum that is no number counts as zero. Whole by the rounding that is set; beyond 2^52, beyond any element, about
-/// so.
-template <class V>
-HWY_INLINE V wholeByMode(V sum) {
-  const hn::DFromV<V> d;
-  const V number = hn::IfThenElseZero(hn::Eq(sum, sum), sum);
-  const V large = hn::CopySign(hn::Set(d, 0x1p52), number);
-  return hn::Sub(hn::Add(number, large), large);
-}
-
-/// Of any twist, by the rounding that is set. A product of a float and an element of at most 16 bits is exact as a
-/// double: MulAdd rounds as a product and a sum do.
-template <class T>
-struct ExactTwist {
-  double factor[3][4];
-
-  explicit ExactTwist(Twist twist) {
-    for (int c = 0; c < 3; ++c) {
-      for (int k = 0; k < 4; ++k) factor[c][k] = twist[c][k];
-    }
-  }
-
-  template <class D, class V>
-  HWY_INLINE auto operator()(D d, V v0, V v1, V v2) const {
-    return channelsOf(d, *this, v0, v1, v2);
-  }
-
-  template <int c, class V>
-  HWY_INLINE V channel(V x0, V x1, V x2) const {
-    const hn::DFromV<V> di;
-    const hn::Half<decltype(di)> dHalf;
-    const auto lower = sum<c>(hn::LowerHalf(x0), hn::LowerHalf(x1), hn::LowerHalf(x2));
-    const auto upper = sum<c>(hn::UpperHalf(dHalf, x0), hn::UpperHalf(dHalf, x1), hn::UpperHalf(dHalf, x2));
-    // From 0 on all modes add to a large number as they round; of less than that nothing is left.
-    if constexpr (std::is_unsigned_v<T>) return nearestOf<T>(di, lower, upper);
-    if constexpr (std::is_signed_v<T>) return nearestOf<T>(di, wholeByMode(lower), wholeByMode(upper));
-  }
-
-  /// The elements of each lane at their places.
-  template <class D, class V>
-  HWY_INLINE static hn::Vec<D> join(D d, V v0, V v1) {
-    return packedByTurns(d, v0, v1);
-  }
-  template <class D, class V>
-  HWY_INLINE static hn::Vec<D> join(D d, V v0, V v1, V v2, V v3) {
-    const hn::Repartition<int16_t, D> dHalf;
-    return packedByTurns(d, packedByTurns(dHalf, v0, v1), packedByTurns(dHalf, v2, v3));
-  }
-
- private:
-  template <int c, class V>
-  HWY_INLINE auto sum(V x0, V x1, V x2) const {
-    const hn::Rebind<double, hn::DFromV<V>> d;
-    const double(&f)[4] = factor[c];
-    const auto first = hn::Mul(hn::Set(d, f[0]), hn::PromoteTo(d, x0));
-    const auto two = hn::MulAdd(hn::Set(d, f[1]), hn::PromoteTo(d, x1), first);
-    return hn::Add(hn::MulAdd(hn::Set(d, f[2]), hn::PromoteTo(d, x2), two), hn::Set(d, f[3]));
-  }
-};
+// ---- Bytes ----------------------------------------------------------------------------------------------------------
 
 /// Of bytes, to nearest, where sums of floats are near enough to the exact ones: 16 bits behind the point, of a sum and
 /// a half, which is then only rounded down. It is made too large, by at most `window`: were it less beyond an integer
@@ -149,7 +34,7 @@ struct NearTwist {
 
   /// False also where the twist has no bounds.
   static bool pays(Twist twist) {
-    bool all = true;
+    bool all = FloatControl::current().roundsToNearest();
     for (int c = 0; c < 3; ++c) all = all && errorOf(twist[c]) < 128;
     return all;
   }
@@ -183,10 +68,10 @@ struct NearTwist {
 
     template <class V>
     HWY_INLINE static hn::Vec<D> join(D d, V v0, V v1, V v2, V v3) {
-      return packedByTurns(d, upperHalves(v0, v1), upperHalves(v2, v3));
+      return packedByTurns(d, halves(v0, v1), halves(v2, v3));
     }
     template <class V>
-    HWY_INLINE static auto upperHalves(V even, V odd) {
+    HWY_INLINE static auto halves(V even, V odd) {
       const hn::Repartition<int16_t, D> dHalf;
       return hn::OddEven(hn::BitCast(dHalf, odd), hn::BitCast(dHalf, hn::ShiftRight<16>(even)));
     }
@@ -281,75 +166,94 @@ HWY_INLINE hn::Vec<D> pixelsByTurns(D d, hn::Vec<D> firstTwo, hn::Vec<D> third) 
 /// As many pixels as a vector has bytes, by planes.
 HWY_NOINLINE void twistDoubtfulBlock(const NearTwist<uint8_t>& twist, const uint8_t* in, uint8_t* out) {
   const Lanes<uint8_t> d;
-  const auto results = loadChannels<3>(d, in, [&](auto... v) HWY_ATTR { return twist(d, v...); });
-  std::apply([&](auto... v) HWY_ATTR { storeChannels(d, out, v...); }, results);
+  const auto results = loadChannels<3>(d, in, [&](auto... v) VEMI_INLINED { return twist(d, v...); });
+  std::apply([&](auto... v) VEMI_INLINED { storeChannels(d, out, v...); }, results);
 }
 
-struct TwistBlock {
-  const NearTwist<uint8_t>& twist;
+/// A type of this file, whose rows of interleaved pixels have a function of their own.
+template <class T>
+struct ExactByteTwist : ExactFloatTwist<T> {
+  using ExactFloatTwist<T>::ExactFloatTwist;
+};
 
-  HWY_INLINE void operator()(const uint8_t* in, uint8_t* out) const {
-    using Sums = NearTwist<uint8_t>::Sums<Lanes<uint8_t>>;
-    const Lanes<uint8_t> d;
-    const Lanes<int32_t> di;
-    constexpr ptrdiff_t quarter = laneCount<uint8_t> / 4 * 3;
-    Sums sums(twist);
-    Vectors<hn::Vec<Lanes<uint8_t>>, 4> pixels;
-    unrolled<2>([&](auto pair) HWY_ATTR {
-      constexpr bool isLast = pair == 1;
-      const auto even = loadPixels<false>(d, in + 2 * pair * quarter);
-      const auto odd = loadPixels<isLast>(d, in + (2 * pair + 1) * quarter);
-      const auto lanes = [&](auto v, const auto& channel) HWY_ATTR {
-        return hn::BitCast(di, hn::TableLookupBytesOr0(v, hn::Load(d, channel.index)));
-      };
-      const auto e0 = lanes(even, channelOfPixels<0, false>), e1 = lanes(even, channelOfPixels<1, false>),
-                 e2 = lanes(even, channelOfPixels<2, false>), o0 = lanes(odd, channelOfPixels<0, isLast>),
-                 o1 = lanes(odd, channelOfPixels<1, isLast>), o2 = lanes(odd, channelOfPixels<2, isLast>);
-      const auto first = sums.upperHalves(sums.channel<0>(e0, e1, e2), sums.channel<0>(o0, o1, o2));
-      const auto second = sums.upperHalves(sums.channel<1>(e0, e1, e2), sums.channel<1>(o0, o1, o2));
-      const auto third = sums.upperHalves(sums.channel<2>(e0, e1, e2), sums.channel<2>(o0, o1, o2));
-      const auto firstTwo = packHalves(d, first, second), last = packHalves(d, third, third);
-      pixels.v[2 * pair] = pixelsByTurns<0>(d, firstTwo, last);
-      pixels.v[2 * pair + 1] = pixelsByTurns<1>(d, firstTwo, last);
-    });
-    if (HWY_LIKELY(sums.areBeyondWindow())) {
-      unrolled<4>([&](auto k) HWY_ATTR { storePixels<k == 3>(d, pixels.v[k], out + k * quarter); });
-    } else {
-      twistDoubtfulBlock(twist, in, out);
-    }
+/// The sums of a block where no exact sum has to decide.
+struct ExactSums {
+  const ExactByteTwist<uint8_t>& twist;
+
+  template <int c, class V>
+  HWY_INLINE V channel(V x0, V x1, V x2) const {
+    return twist.channel<c>(x0, x1, x2);
+  }
+  template <class V>
+  HWY_INLINE static auto halves(V even, V odd) {
+    return packedByTurns(hn::Repartition<int16_t, hn::DFromV<V>>(), even, odd);
   }
 };
+
+/// Four pixels to a block of 128 bits, in 32-bit lanes. The last four of the pixels are those of `out`'s last 12 bytes.
+template <class Sums>
+HWY_INLINE Vectors<hn::Vec<Lanes<uint8_t>>, 4> twistedPixels(Sums& sums, const uint8_t* in) {
+  const Lanes<uint8_t> d;
+  const Lanes<int32_t> di;
+  constexpr ptrdiff_t quarter = laneCount<uint8_t> / 4 * 3;
+  Vectors<hn::Vec<Lanes<uint8_t>>, 4> pixels;
+  unrolled<2>([&](auto pair) VEMI_INLINED {
+    constexpr bool isLast = pair == 1;
+    const auto even = loadPixels<false>(d, in + 2 * pair * quarter);
+    const auto odd = loadPixels<isLast>(d, in + (2 * pair + 1) * quarter);
+    const auto lanes = [&](auto v, const auto& channel) VEMI_INLINED {
+      return hn::BitCast(di, hn::TableLookupBytesOr0(v, hn::Load(d, channel.index)));
+    };
+    const auto e0 = lanes(even, channelOfPixels<0, false>), e1 = lanes(even, channelOfPixels<1, false>),
+               e2 = lanes(even, channelOfPixels<2, false>), o0 = lanes(odd, channelOfPixels<0, isLast>),
+               o1 = lanes(odd, channelOfPixels<1, isLast>), o2 = lanes(odd, channelOfPixels<2, isLast>);
+    const auto first = sums.halves(sums.template channel<0>(e0, e1, e2), sums.template channel<0>(o0, o1, o2));
+    const auto second = sums.halves(sums.template channel<1>(e0, e1, e2), sums.template channel<1>(o0, o1, o2));
+    const auto third = sums.halves(sums.template channel<2>(e0, e1, e2), sums.template channel<2>(o0, o1, o2));
+    const auto firstTwo = packHalves(d, first, second), last = packHalves(d, third, third);
+    pixels.v[2 * pair] = pixelsByTurns<0>(d, firstTwo, last);
+    pixels.v[2 * pair + 1] = pixelsByTurns<1>(d, firstTwo, last);
+  });
+  return pixels;
+}
+
+HWY_INLINE void storeBlock(const Vectors<hn::Vec<Lanes<uint8_t>>, 4>& pixels, uint8_t* out) {
+  const Lanes<uint8_t> d;
+  unrolled<4>([&](auto k)
+                  VEMI_INLINED { storePixels<k == 3>(d, pixels.v[k], out + k * (laneCount<uint8_t> / 4 * 3)); });
+}
+
+template <class Kernel>
+HWY_INLINE void twistRow(ptrdiff_t width, const Kernel& kernel, InterleavedRow<uint8_t, C3> dst,
+                         InterleavedRow<const uint8_t, C3> src) {
+  forBlocks<laneCount<uint8_t>>(width, kernel, Strand<const uint8_t, 3>{src.first}, Strand<uint8_t, 3>{dst.first});
+}
 
 HWY_NOINLINE void mapPixels(ptrdiff_t width, const NearTwist<uint8_t>& operation, InterleavedRow<uint8_t, C3> dst,
                             InterleavedRow<const uint8_t, C3> src) {
   const NearTwist<uint8_t> twist = operation;  // a local, which no store to the destination can change
-  forBlocks<laneCount<uint8_t>>(width, TwistBlock{twist}, Strand<const uint8_t, 3>{src.first},
-                                Strand<uint8_t, 3>{dst.first});
+  const auto kernel = [&](const uint8_t* in, uint8_t* out) VEMI_INLINED {
+    NearTwist<uint8_t>::Sums<Lanes<uint8_t>> sums(twist);
+    const auto pixels = twistedPixels(sums, in);
+    if (HWY_UNLIKELY(!sums.areBeyondWindow())) return twistDoubtfulBlock(twist, in, out);
+    storeBlock(pixels, out);
+  };
+  twistRow(width, kernel, dst, src);
 }
 
-/// f(), a status, under the caller's rounding. No exception ends the program, and none that f has met is left behind.
-template <class F>
-VemiStatus leavingNoException(const F& f) {
-  std::fenv_t callers;
-  std::feholdexcept(&callers);
-  const VemiStatus status = detail::runApart(f);
-  std::fesetenv(&callers);
-  return status;
+HWY_NOINLINE void mapPixels(ptrdiff_t width, const ExactByteTwist<uint8_t>& operation, InterleavedRow<uint8_t, C3> dst,
+                            InterleavedRow<const uint8_t, C3> src) {
+  const ExactByteTwist<uint8_t> twist = operation;
+  const auto kernel = [&](const uint8_t* in, uint8_t* out) VEMI_INLINED {
+    ExactSums sums = {twist};
+    storeBlock(twistedPixels(sums, in), out);
+  };
+  twistRow(width, kernel, dst, src);
 }
 
 template <class T, class L, class Src, class Dst>
 VemiStatus twistIntegers(Src src, Dst dst, VemiSize roiSize, Twist twist) {
-  if (const VemiStatus bad = firstOf(checkNull(src, dst, twist), checkSize(roiSize), checkStep(src, dst))) return bad;
-  return leavingNoException([&] {
-    const auto run = [&](const auto& op) {
-      mapPixelRegion(CallerRows(), roiSize, op, pixelsIn<L>(dst), pixelsIn<L>(src));
-      return vemiOk;
-    };
-    if constexpr (sizeof(T) == 1) {
-      if (FloatControl::current().roundsToNearest() && NearTwist<T>::pays(twist)) return run(NearTwist<T>(twist));
-    }
-    return run(ExactTwist<T>(twist));
-  });
+  return twistIntegersBy<T, L, ExactByteTwist<T>, NearTwist<T>>(src, dst, roiSize, twist);
 }
 
 // ---- Floats ---------------------------------------------------------------------------------------------------------
@@ -418,20 +322,6 @@ VEMI_DEFINE(vemiColorTwist32f_8s_P3R, VEMI_PLANES_PLANES(Vemi8s, 3, TWIST), twis
 VEMI_DEFINE(vemiColorTwist32f_8s_C3IR, VEMI_SRCDST(Vemi8s, TWIST), twistIntegers<Vemi8s, C3>)
 VEMI_DEFINE(vemiColorTwist32f_8s_AC4IR, VEMI_SRCDST(Vemi8s, TWIST), twistIntegers<Vemi8s, AC4>)
 VEMI_DEFINE(vemiColorTwist32f_8s_IP3R, VEMI_PLANES_SRCDST(Vemi8s, 3, TWIST), twistIntegers<Vemi8s, Planar>)
-
-VEMI_DEFINE(vemiColorTwist32f_16u_C3R, VEMI_SRC_DST(Vemi16u, TWIST), twistIntegers<Vemi16u, C3>)
-VEMI_DEFINE(vemiColorTwist32f_16u_AC4R, VEMI_SRC_DST(Vemi16u, TWIST), twistIntegers<Vemi16u, AC4>)
-VEMI_DEFINE(vemiColorTwist32f_16u_P3R, VEMI_PLANES_PLANES(Vemi16u, 3, TWIST), twistIntegers<Vemi16u, Planar>)
-VEMI_DEFINE(vemiColorTwist32f_16u_C3IR, VEMI_SRCDST(Vemi16u, TWIST), twistIntegers<Vemi16u, C3>)
-VEMI_DEFINE(vemiColorTwist32f_16u_AC4IR, VEMI_SRCDST(Vemi16u, TWIST), twistIntegers<Vemi16u, AC4>)
-VEMI_DEFINE(vemiColorTwist32f_16u_IP3R, VEMI_PLANES_SRCDST(Vemi16u, 3, TWIST), twistIntegers<Vemi16u, Planar>)
-
-VEMI_DEFINE(vemiColorTwist32f_16s_C3R, VEMI_SRC_DST(Vemi16s, TWIST), twistIntegers<Vemi16s, C3>)
-VEMI_DEFINE(vemiColorTwist32f_16s_AC4R, VEMI_SRC_DST(Vemi16s, TWIST), twistIntegers<Vemi16s, AC4>)
-VEMI_DEFINE(vemiColorTwist32f_16s_P3R, VEMI_PLANES_PLANES(Vemi16s, 3, TWIST), twistIntegers<Vemi16s, Planar>)
-VEMI_DEFINE(vemiColorTwist32f_16s_C3IR, VEMI_SRCDST(Vemi16s, TWIST), twistIntegers<Vemi16s, C3>)
-VEMI_DEFINE(vemiColorTwist32f_16s_AC4IR, VEMI_SRCDST(Vemi16s, TWIST), twistIntegers<Vemi16s, AC4>)
-VEMI_DEFINE(vemiColorTwist32f_16s_IP3R, VEMI_PLANES_SRCDST(Vemi16s, 3, TWIST), twistIntegers<Vemi16s, Planar>)
 
 VEMI_DEFINE(vemiColorTwist_32f_C3R, VEMI_SRC_DST(Vemi32f, TWIST), twistFloats<C3>)
 VEMI_DEFINE(vemiColorTwist_32f_AC4R, VEMI_SRC_DST(Vemi32f, TWIST), twistFloats<AC4>)

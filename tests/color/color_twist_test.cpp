@@ -127,33 +127,53 @@ TEST(ColorTwist, LimitsTiesAndNoNumbers) {
   EXPECT_EQ(byRows<Vemi16s>(vemiColorTwist32f_16s_C3R, {9, 9, 9}, none), Values({0, 0, -32768}));
 }
 
-// The fast way of bytes against the definition: matrices whose sums come as near to halves as floats allow.
-TEST(ColorTwist, SumsBesideHalves) {
+namespace {
+
+/// Against the definition, `width` pixels a round: matrices whose sums come as near to halves as floats allow, or with
+/// few bits, which fall on halves.
+template <class T, class F>
+void expectSumsBesideHalves(F* function, int roundCount) {
   Random random(1);
   const int width = 999;
-  std::vector<Vemi8u> src(3 * width), dst(3 * width);
-  for (int round = 0; round < 1000; ++round) {
-    random.fill(reinterpret_cast<std::byte*>(src.data()), src.size());
+  constexpr int lowest = std::numeric_limits<T>::min(), highest = std::numeric_limits<T>::max();
+  std::vector<T> src(3 * width), dst(3 * width);
+  for (int round = 0; round < roundCount; ++round) {
+    random.fill(reinterpret_cast<std::byte*>(src.data()), src.size() * sizeof(T));
+    for (size_t k = 0; k < 3; ++k) src[3 + k] = k == 0 ? lowest : highest;
+    const bool isCoarse = round % 4 == 3;
     Vemi32f twist[3][4];
     for (auto& row : twist) {
       double sum = 0;
       for (size_t k = 0; k < 3; ++k) {
-        row[k] = static_cast<Vemi32f>(random.below(1 << 24) - (1 << 22)) * 0x1p-23f;
+        row[k] = isCoarse ? static_cast<Vemi32f>(random.below(32)) * 0.0625f - 0.5f
+                          : static_cast<Vemi32f>(random.below(1 << 24) - (1 << 22)) * 0x1p-23f;
         sum += double{row[k]} * src[k];  // of the first pixel
       }
-      const auto constant = static_cast<Vemi32f>(random.below(256) + 0.5 - sum);
+      const auto constant = static_cast<Vemi32f>(random.below(highest) + 0.5 - sum);
       const Vemi32f towards[] = {-1e9f, constant, 1e9f};
       row[3] = std::nextafter(constant, towards[round % 3]);
+      if (isCoarse) row[3] = std::round(constant * 8) / 8;
     }
-    for (size_t n = 3; n < src.size(); ++n) {  // and of others near it
+    for (size_t n = 6; n < src.size(); ++n) {  // and of others near it
       if (n % 7 == 0) src[n] = src[n % 3];
     }
-    EXPECT_EQ(vemiColorTwist32f_8u_C3R(src.data(), 1, dst.data(), 1, {width, 1}, twist), vemiOk);
+    const int step = 3 * width * static_cast<int>(sizeof(T));
+    EXPECT_EQ(function(src.data(), step, dst.data(), step, {width, 1}, twist), vemiOk);
     for (size_t n = 0; n < dst.size(); ++n) {
       const auto& row = twist[n % 3];
-      const Vemi8u* const s = &src[n - n % 3];
+      const T* const s = &src[n - n % 3];
       const double sum = double{row[0]} * s[0] + double{row[1]} * s[1] + double{row[2]} * s[2] + double{row[3]};
-      ASSERT_EQ(dst[n], integerOf(sum, 0, 255)) << "round " << round << ", element " << n;
+      ASSERT_EQ(dst[n], integerOf(sum, lowest, highest)) << "round " << round << ", element " << n;
     }
   }
+}
+
+}  // namespace
+
+// The fast ways.
+TEST(ColorTwist, SumsBesideHalves) {
+  expectSumsBesideHalves<Vemi8u>(vemiColorTwist32f_8u_C3R, 1000);
+  expectSumsBesideHalves<Vemi8s>(vemiColorTwist32f_8s_C3R, 300);
+  expectSumsBesideHalves<Vemi16u>(vemiColorTwist32f_16u_C3R, 1000);
+  expectSumsBesideHalves<Vemi16s>(vemiColorTwist32f_16s_C3R, 1000);
 }
