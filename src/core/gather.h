@@ -62,6 +62,37 @@ class PixelBytes {
     return exactWords<bytes, rows>(byte, y);
   }
 
+  using DLong = Lanes<int64_t>;
+
+  /// Of the lower and of the upper half of the lanes in each block of 128 bits.
+  template <int rows>
+  struct LongWords {
+    Vectors<hn::Vec<DLong>, rows> lower, upper;
+  };
+
+  /// The same in lanes of 64 bits. 5 <= bytes <= 8.
+  template <int bytes, int rows>
+  HWY_INLINE LongWords<rows> longWords(V byte, V y) const {
+    const D d;
+    if (HWY_LIKELY(isNear_)) {
+      const V step = hn::Set(d, static_cast<int32_t>(step_));
+      Vectors<V, rows> offset;
+      offset.v[0] = hn::Add(hn::Mul(y, step), byte);
+      unrolled<rows - 1>([&](auto k) HWY_ATTR { offset.v[k + 1] = hn::Add(offset.v[k], step); });
+      if (bytes == 8 || HWY_LIKELY(hn::AllFalse(d, hn::Gt(offset.v[rows - 1], hn::Set(d, lastWord_ - 4))))) {
+        const DLong dLong;
+        LongWords<rows> words;
+        unrolled<rows>([&](auto k) HWY_ATTR {
+          const V zero = hn::Zero(d);
+          words.lower.v[k] = longWordsAt(hn::BitCast(dLong, hn::InterleaveLower(d, offset.v[k], zero)));
+          words.upper.v[k] = longWordsAt(hn::BitCast(dLong, hn::InterleaveUpper(d, offset.v[k], zero)));
+        });
+        return words;
+      }
+    }
+    return exactLongWords<bytes, rows>(byte, y);
+  }
+
   /// `bytes` of them from a byte of a row on, as the lower bytes of a vector of DBytes; what stands above is anything.
   template <int bytes, class DBytes>
   HWY_INLINE hn::Vec<DBytes> run(DBytes d, ptrdiff_t byte, ptrdiff_t y) const {
@@ -94,6 +125,37 @@ class PixelBytes {
     alignas(laneAlignment) int32_t at[laneCount<int32_t>];
     hn::Store(offset, d, at);
     return detail::lanesFrom(d, [&](ptrdiff_t k) { return first_ + at[k]; });
+  }
+
+  HWY_INLINE hn::Vec<DLong> longWordsAt(hn::Vec<DLong> offset) const {
+    const DLong d;
+    const auto* const first = reinterpret_cast<const int64_t*>(first_);
+    if constexpr (detail::gathersInLanes) return hn::GatherOffset(d, first, offset);
+    alignas(laneAlignment) int64_t at[laneCount<int64_t>];
+    hn::Store(offset, d, at);
+    return detail::lanesFrom(d, [&](ptrdiff_t k) { return first_ + at[k]; });
+  }
+
+  template <int bytes, int rows>
+  HWY_NOINLINE LongWords<rows> exactLongWords(V byte, V y) const {
+    const D d;
+    const DLong dLong;
+    constexpr ptrdiff_t N = laneCount<int32_t>, halfBlock = 2;
+    alignas(laneAlignment) int32_t x[N], row[N];
+    alignas(laneAlignment) int64_t word[2][N / 2];
+    hn::Store(byte, d, x);
+    hn::Store(y, d, row);
+    LongWords<rows> words;
+    unrolled<rows>([&](auto j) HWY_ATTR {
+      for (ptrdiff_t k = 0; k < N; ++k) {
+        int64_t& out = word[k / halfBlock % 2][k / 4 * halfBlock + k % halfBlock];
+        out = 0;
+        std::memcpy(&out, at(x[k], ptrdiff_t{row[k]} + j), bytes);
+      }
+      words.lower.v[j] = hn::Load(dLong, word[0]);
+      words.upper.v[j] = hn::Load(dLong, word[1]);
+    });
+    return words;
   }
 
   template <int bytes, int rows>

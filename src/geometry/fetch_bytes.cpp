@@ -7,6 +7,7 @@
 #include "core/lane_width.h"
 #include "core/numbers.h"
 #include "geometry/fetch_kernels.h"
+#include "geometry/three_bytes.h"
 
 namespace vemi::geometry {
 namespace {
@@ -85,27 +86,6 @@ struct LinearC1 {
   }
 };
 
-/// A vector of pixels with a word each, as three bytes each.
-HWY_INLINE void storeWithoutFourth(hn::Vec<DBytes> pixels, Vemi8u* out) {
-  static constexpr BlockIndex colours = {0, 1, 2, 4, 5, 6, 8, 9, 10, 12, 13, 14};
-  static constexpr auto close = [] {
-    std::array<int32_t, laneCount<int32_t>> index = {};
-    for (size_t i = 0; i < index.size() / 4 * 3; ++i) index[i] = static_cast<int32_t>(i / 3 * 4 + i % 3);
-    return index;
-  }();
-  const DBytes d;
-  const DIntegers di;
-  auto three = hn::BitCast(di, hn::TableLookupBytes(pixels, hn::LoadDup128(d, colours.data())));
-  if constexpr (laneCount < int32_t >> 4) {
-    three = hn::TableLookupLanes(three, hn::SetTableIndices(di, close.data()));
-  }
-  const hn::Half<DBytes> dHalf;
-  const hn::Half<decltype(dHalf)> dQuarter;
-  const auto bytes = hn::BitCast(d, three);
-  hn::StoreU(hn::LowerHalf(dHalf, bytes), dHalf, out);
-  hn::StoreU(hn::LowerHalf(dQuarter, hn::UpperHalf(dHalf, bytes)), dQuarter, out + laneCount<uint8_t> / 2);
-}
-
 template <class L>
 HWY_INLINE void storePixels(hn::Vec<DBytes> pixels, Vemi8u* out) {
   const DBytes d;
@@ -119,8 +99,10 @@ HWY_INLINE void storePixels(hn::Vec<DBytes> pixels, Vemi8u* out) {
   }
 }
 
-/// Three or four channels: a pixel is a word. Pixel p of all blocks of four is worked on at once, a block's lanes being
-/// its channels.
+/// Three or four channels: both columns of a row are a long word, and lanes of 16 bits are the channels of a pixel. The
+/// formula is h = 64 p0 + (w (p1 - p0) >> 8) in a row and h0 + (w (h1 - h0) >> 14) + 32 >> 6 between rows, as what the
+/// shifts drop is less than a unit of the shifts that follow. The upper half of a product is one shifted by 16, so that
+/// differences and weights have 8 and 2 of these in advance; with its sign, all of a weight fits its lane.
 template <class L>
 struct LinearPixels {
   static constexpr ptrdiff_t items = placeCount;
@@ -129,33 +111,57 @@ struct LinearPixels {
   HWY_INLINE void operator()(Vemi8u* out, const float* x, const float* y) const {
     constexpr int n = L::elements;
     const DIntegers di;
-    const DWords dWords;
     const DBytes d;
-    const LinearTap column = linearTap(x, source.image.right, source.size.width),
-                    row = linearTap(y, source.image.bottom, source.size.height);
-    const auto byte = hn::Mul(column.first, hn::Set(di, n));
-    const auto left = source.pixels.words<n, 2>(byte, row.first);
-    const auto right = source.pixels.words<n, 2>(hn::Add(byte, hn::Set(di, n)), row.first);
-    Vectors<hn::Vec<DBytes>, 2> lower, upper;  // left and right by turns, of pixels 0 and 1, and of 2 and 3
-    unrolled<2>([&](auto j) HWY_ATTR {
-      const auto a = hn::BitCast(d, left.v[j]), b = hn::BitCast(d, right.v[j]);
-      lower.v[j] = hn::InterleaveLower(d, a, b);
-      upper.v[j] = hn::InterleaveUpper(d, a, b);
-    });
-    const auto pixel = [&](auto p) HWY_ATTR {
-      const auto inRow = [&](auto j) HWY_ATTR {
-        const auto two = p < 2 ? lower.v[j] : upper.v[j];
-        const auto one =
-            p % 2 == 0 ? hn::InterleaveLower(d, two, hn::Zero(d)) : hn::InterleaveUpper(d, two, hn::Zero(d));
-        return rowValue(productSum(hn::BitCast(di, one), hn::Broadcast<p>(column.weights)));
-      };
-      const auto rows = pairOf(inRow(std::integral_constant<int, 0>()), inRow(std::integral_constant<int, 1>()));
-      return pixelValue(productSum(rows, hn::Broadcast<p>(row.weights)));
+    const auto doubledWeight = [&](const Tap& tap) HWY_ATTR {
+      const auto weight = rounded(di, hn::Mul(tap.rest, hn::Set(DFloats(), -16384.0f)));
+      return hn::BitCast(d, hn::Add(weight, weight));
     };
-    const auto two = [&](auto first, auto second) HWY_ATTR { return packHalves(dWords, pixel(first), pixel(second)); };
-    const auto first = two(std::integral_constant<int, 0>(), std::integral_constant<int, 1>());
-    const auto second = two(std::integral_constant<int, 2>(), std::integral_constant<int, 3>());
-    storePixels<L>(packHalves(d, first, second), out);
+    const Tap column = firstOfTwo(x, source.image.right, source.size.width),
+              row = firstOfTwo(y, source.image.bottom, source.size.height);
+    const auto columnWeight = doubledWeight(column), rowWeight = doubledWeight(row);
+    const auto pair = source.pixels.longWords<2 * n, 2>(hn::Mul(column.first, hn::Set(di, n)), row.first);
+    const auto half = [&](const auto& rows, const BlockIndex& weights) HWY_ATTR {
+      const auto ofChannels = [&](auto weight) HWY_ATTR {
+        return hn::BitCast(DWords(), hn::TableLookupBytes(weight, hn::LoadDup128(d, weights.data())));
+      };
+      const auto w = ofChannels(columnWeight), v = ofChannels(rowWeight);
+      const auto h0 = inRow(rows.v[0], w), h1 = inRow(rows.v[1], w);
+      const auto difference = hn::Sub(h0, h1);
+      const auto part = hn::MulHigh(hn::Add(difference, difference), v);
+      return hn::ShiftRight<6>(hn::Add(hn::Add(h0, part), hn::Set(DWords(), int16_t{32})));
+    };
+    static constexpr BlockIndex ofLower = wordsForChannels(0), ofUpper = wordsForChannels(2);
+    storePixels<L>(packHalves(d, half(pair.lower, ofLower), half(pair.upper, ofUpper)), out);
+  }
+
+ private:
+  /// The lower halves of words k and k + 1, each for the channels of a pixel.
+  static constexpr BlockIndex wordsForChannels(size_t k) {
+    BlockIndex index = {};
+    for (size_t i = 0; i < index.size(); ++i) index[i] = static_cast<uint8_t>((k + i / 8) * 4 + i % 2);
+    return index;
+  }
+
+  /// Pixel `which` of each long word, its channels as 16 bits.
+  static constexpr BlockIndex channelsOf(size_t which) {
+    constexpr size_t n = L::elements;
+    BlockIndex index = {};
+    for (size_t i = 0; i < index.size(); ++i) {
+      const size_t channel = i % 8 / 2;
+      index[i] = static_cast<uint8_t>(i % 2 == 0 && channel < n ? i / 8 * 8 + which * n + channel : 128);
+    }
+    return index;
+  }
+
+  template <class V>
+  HWY_INLINE static hn::Vec<DWords> inRow(V pairs, hn::Vec<DWords> weight) {
+    static constexpr BlockIndex first = channelsOf(0), second = channelsOf(1);
+    const DBytes d;
+    const auto pixels = [&](const BlockIndex& index) HWY_ATTR {
+      return hn::BitCast(DWords(), hn::TableLookupBytesOr0(hn::BitCast(d, pairs), hn::LoadDup128(d, index.data())));
+    };
+    const auto p0 = pixels(first), p1 = pixels(second);
+    return hn::Add(hn::ShiftLeft<6>(p0), hn::MulHigh(hn::ShiftLeft<7>(hn::Sub(p0, p1)), weight));
   }
 };
 

@@ -3,6 +3,7 @@
 // operator()(out, x, y), for which coordinates may be anything.
 #pragma once
 
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
@@ -34,35 +35,52 @@ HWY_INLINE Integers insideOf(const FetchLimits& limits, const float* x, const fl
   return hn::VecFromMask(DIntegers(), hn::RebindMask(DIntegers(), both));
 }
 
-/// A row by a kernel of the interpolation. Blocks that lie inside go straight to the destination.
-template <class L, class T, class Kernel>
-HWY_INLINE void fetchBlocks(const FetchSource& source, const Kernel& fetch, ptrdiff_t count, const float* x,
-                            const float* y, T* dst) {
+/// A block of which parts may lie outside.
+template <class T, class L, class Kernel>
+HWY_NOINLINE void fetchPartOfBlock(const FetchSource& source, T* out, const float* x, const float* y) {
   constexpr ptrdiff_t items = Kernel::items;
-  const FetchLimits limits = source.limits;
-  const auto block = [&](T* out, const float* xs, const float* ys) HWY_ATTR {
-    const DIntegers d;
-    auto all = hn::Set(d, -1);
-    unrolled<items / placeCount>(
-        [&](auto k) HWY_ATTR { all = hn::And(all, insideOf(limits, xs + k * placeCount, ys + k * placeCount)); });
-    if (HWY_LIKELY(hn::AllTrue(d, hn::MaskFromVec(all)))) return fetch(out, xs, ys);
-    alignas(laneAlignment) int32_t inside[items];
-    alignas(laneAlignment) T pixel[items * L::elements] = {};
-    auto any = hn::Zero(d);
-    unrolled<items / placeCount>([&](auto k) HWY_ATTR {
-      const auto each = insideOf(limits, xs + k * placeCount, ys + k * placeCount);
-      hn::Store(each, d, inside + k * placeCount);
-      any = hn::Or(any, each);
-    });
-    if (hn::AllFalse(d, hn::MaskFromVec(any))) return;
-    fetch(pixel, xs, ys);
-    for (ptrdiff_t i = 0; i < items; ++i) {
-      if (inside[i] != 0) {
-        std::memcpy(out + i * L::elements, pixel + i * L::elements, L::channels * sizeof(T));
-      }
-    }
+  const DIntegers d;
+  alignas(laneAlignment) int32_t inside[items];
+  alignas(laneAlignment) T pixel[items * L::elements] = {};
+  auto any = hn::Zero(d);
+  unrolled<items / placeCount>([&](auto k) HWY_ATTR {
+    const auto each = insideOf(source.limits, x + k * placeCount, y + k * placeCount);
+    hn::Store(each, d, inside + k * placeCount);
+    any = hn::Or(any, each);
+  });
+  if (hn::AllFalse(d, hn::MaskFromVec(any))) return;
+  Kernel{source}(pixel, x, y);
+  for (ptrdiff_t i = 0; i < items; ++i) {
+    if (inside[i] != 0) std::memcpy(out + i * L::elements, pixel + i * L::elements, L::channels * sizeof(T));
+  }
+}
+
+/// A row by a kernel of the interpolation. Blocks that lie inside go straight to the destination; the last block
+/// overlaps the one before, which is fetched again with the same result.
+template <class T, class L, class Kernel>
+void fetchByKernel(const FetchSource& source, ptrdiff_t count, const float* x, const float* y, T* dst) {
+  constexpr ptrdiff_t items = Kernel::items;
+  const auto part = [&](T* out, const float* xs, const float* ys) {
+    fetchPartOfBlock<T, L, Kernel>(source, out, xs, ys);
   };
-  forBlocks<items>(count, block, Strand<T, L::elements>{dst}, Strand<const float>{x}, Strand<const float>{y});
+  if (count < items) {
+    return forBlocks<items>(count, part, Strand<T, L::elements>{dst}, Strand<const float>{x}, Strand<const float>{y});
+  }
+  const Kernel fetch = {source};
+  const FetchLimits limits = source.limits;
+  const DIntegers d;
+  for (ptrdiff_t i = 0; i < count; i += items) {
+    const ptrdiff_t at = std::min(i, count - items);
+    auto all = hn::Set(d, -1);
+    unrolled<items / placeCount>([&](auto k) HWY_ATTR {
+      all = hn::And(all, insideOf(limits, x + at + k * placeCount, y + at + k * placeCount));
+    });
+    if (HWY_LIKELY(hn::AllTrue(d, hn::MaskFromVec(all)))) {
+      fetch(dst + at * L::elements, x + at, y + at);
+    } else {
+      part(dst + at * L::elements, x + at, y + at);
+    }
+  }
 }
 
 // ---- Places -----------------------------------------------------------------------------------------------------
@@ -125,11 +143,6 @@ struct Nearest {
 };
 
 // ---- Rows ---------------------------------------------------------------------------------------------------------
-
-template <class T, class L, class Kernel>
-void fetchByKernel(const FetchSource& source, ptrdiff_t count, const float* x, const float* y, T* dst) {
-  fetchBlocks<L>(source, Kernel{source}, count, x, y, dst);
-}
 
 /// Linear and Cubic are the kernels of these pixels.
 template <class T, class L, class Linear, class Cubic>

@@ -2,6 +2,8 @@
 
 #include <cstring>
 
+#include "geometry/three_bytes.h"
+
 namespace vemi::geometry {
 
 VemiStatus turnedPart(const Regions& regions, int quarterTurns, Point shift, TurnedPart& part) {
@@ -41,29 +43,33 @@ HWY_INLINE hn::Vec<D> blocksFrom(D d, const At& at) {
   }
 }
 
-/// Bytes of pixels as lanes that are as wide as a pixel, in squares of 16 bytes by 16 bytes, as many side by side as a
-/// vector has.
+/// Squares of 16 bytes by 16 bytes, as many side by side as a vector has: rows become columns.
+template <class D, class V, int columns>
+HWY_INLINE void transpose(D d, V (&v)[columns]) {
+  for (int stage = 1; stage < columns; stage *= 2) {
+    V next[columns];
+    unrolled<columns / 2>([&](auto k) HWY_ATTR {
+      next[2 * k] = hn::InterleaveLower(d, v[k], v[k + columns / 2]);
+      next[2 * k + 1] = hn::InterleaveUpper(d, v[k], v[k + columns / 2]);
+    });
+    unrolled<columns>([&](auto k) HWY_ATTR { v[k] = next[k]; });
+  }
+}
+
+/// Bytes of pixels as lanes that are as wide as a pixel.
 template <class Pixel, int written>
 struct Squares {
-  static constexpr int columns = 16 / sizeof(Pixel), rows = static_cast<int>(laneCount<Pixel>);
+  static constexpr int columns = 16 / sizeof(Pixel), rows = static_cast<int>(laneCount<Pixel>), leastHeight = columns;
 
-  HWY_INLINE static void copy(const char* src, ptrdiff_t srcStep, char* dst, ptrdiff_t dstStep) {
+  HWY_INLINE static void copy(const char* src, ptrdiff_t srcStep, char* dst, ptrdiff_t dstStep, bool) {
     const Lanes<Pixel> d;
-    using V = hn::Vec<Lanes<Pixel>>;
-    V v[columns];
+    hn::Vec<Lanes<Pixel>> v[columns];
     unrolled<columns>([&](auto k) HWY_ATTR {
       v[k] = blocksFrom(d, [&](int block) HWY_ATTR {
         return reinterpret_cast<const Pixel*>(src + (k + ptrdiff_t{columns} * block) * srcStep);
       });
     });
-    for (int stage = 1; stage < columns; stage *= 2) {
-      V next[columns];
-      unrolled<columns / 2>([&](auto k) HWY_ATTR {
-        next[2 * k] = hn::InterleaveLower(d, v[k], v[k + columns / 2]);
-        next[2 * k + 1] = hn::InterleaveUpper(d, v[k], v[k + columns / 2]);
-      });
-      unrolled<columns>([&](auto k) HWY_ATTR { v[k] = next[k]; });
-    }
+    transpose(d, v);
     unrolled<columns>([&](auto k) HWY_ATTR {
       auto* const out = reinterpret_cast<Pixel*>(dst + k * dstStep);
       if constexpr (written < static_cast<int>(sizeof(Pixel))) {
@@ -75,12 +81,39 @@ struct Squares {
   }
 };
 
+/// Pixels of three bytes, in lanes of four on the way. A row's four pixels are the first 12 bytes of the 16 that are
+/// read, or the last ones where the row has no more.
+struct Triples {
+  static constexpr int columns = 4, rows = static_cast<int>(laneCount<uint32_t>), leastHeight = 6;
+
+  HWY_INLINE static void copy(const char* src, ptrdiff_t srcStep, char* dst, ptrdiff_t dstStep, bool isLast) {
+    alignas(16) static constexpr uint8_t words[2][16] = {
+        {0, 1, 2, 128, 3, 4, 5, 128, 6, 7, 8, 128, 9, 10, 11, 128},
+        {4, 5, 6, 128, 7, 8, 9, 128, 10, 11, 12, 128, 13, 14, 15, 128}};
+    const Lanes<uint32_t> d;
+    const Lanes<uint8_t> dBytes;
+    const auto place = hn::LoadDup128(dBytes, words[isLast ? 1 : 0]);
+    const char* const from = src - (isLast ? 4 : 0);
+    hn::Vec<Lanes<uint32_t>> v[columns];
+    unrolled<columns>([&](auto k) HWY_ATTR {
+      const auto bytes = blocksFrom(dBytes, [&](int block) HWY_ATTR {
+        return reinterpret_cast<const uint8_t*>(from + (k + ptrdiff_t{columns} * block) * srcStep);
+      });
+      v[k] = hn::BitCast(d, hn::TableLookupBytesOr0(bytes, place));
+    });
+    transpose(d, v);
+    unrolled<columns>([&](auto k) HWY_ATTR {
+      storeWithoutFourth(hn::BitCast(dBytes, v[k]), reinterpret_cast<uint8_t*>(dst + k * dstStep));
+    });
+  }
+};
+
 /// Pixels one by one.
 template <int pixelSize, int written>
 struct SinglePixels {
-  static constexpr int columns = 4, rows = 4;
+  static constexpr int columns = 4, rows = 4, leastHeight = columns;
 
-  HWY_INLINE static void copy(const char* src, ptrdiff_t srcStep, char* dst, ptrdiff_t dstStep) {
+  HWY_INLINE static void copy(const char* src, ptrdiff_t srcStep, char* dst, ptrdiff_t dstStep, bool) {
     unrolled<columns>([&](auto j) {
       unrolled<rows>([&](auto i) {
         std::memcpy(dst + j * dstStep + ptrdiff_t{i} * pixelSize, src + i * srcStep + ptrdiff_t{j} * pixelSize,
@@ -91,22 +124,39 @@ struct SinglePixels {
 };
 
 template <int pixelSize, int written>
-using Block = std::conditional_t<
-    pixelSize == 1, Squares<uint8_t, written>,
-    std::conditional_t<pixelSize == 2, Squares<uint16_t, written>,
-                       std::conditional_t<pixelSize == 4, Squares<uint32_t, written>,
-                                          std::conditional_t<pixelSize == 8, Squares<uint64_t, written>,
-                                                             SinglePixels<pixelSize, written>>>>>;
+struct BlockOf {
+  using Type = SinglePixels<pixelSize, written>;
+};
+template <int written>
+struct BlockOf<1, written> {
+  using Type = Squares<uint8_t, written>;
+};
+template <int written>
+struct BlockOf<2, written> {
+  using Type = Squares<uint16_t, written>;
+};
+template <>
+struct BlockOf<3, 3> {
+  using Type = Triples;
+};
+template <int written>
+struct BlockOf<4, written> {
+  using Type = Squares<uint32_t, written>;
+};
+template <int written>
+struct BlockOf<8, written> {
+  using Type = Squares<uint64_t, written>;
+};
 
 }  // namespace
 
 template <int pixelSize, int written>
 void copyTransposed(VemiSize size, const void* src, ptrdiff_t srcStep, void* dst, ptrdiff_t dstStep) {
-  using B = Block<pixelSize, written>;
+  using B = typename BlockOf<pixelSize, written>::Type;
   const auto* const from = static_cast<const char*>(src);
   auto* const to = static_cast<char*>(dst);
   const ptrdiff_t width = size.width, height = size.height;
-  if (width < B::rows || height < B::columns) {
+  if (width < B::rows || height < B::leastHeight) {
     for (ptrdiff_t j = 0; j < height; ++j) {
       for (ptrdiff_t i = 0; i < width; ++i) {
         std::memcpy(to + j * dstStep + i * pixelSize, from + i * srcStep + j * pixelSize, written);
@@ -123,7 +173,8 @@ void copyTransposed(VemiSize size, const void* src, ptrdiff_t srcStep, void* dst
     for (ptrdiff_t y = top; y < bottom; y += B::columns) {
       for (ptrdiff_t x = left; x < right; x += B::rows) {
         const ptrdiff_t i = std::min(x, width - B::rows), j = std::min(y, height - B::columns);
-        B::copy(from + i * srcStep + j * pixelSize, srcStep, to + j * dstStep + i * pixelSize, dstStep);
+        const bool isLast = j + B::leastHeight > height;
+        B::copy(from + i * srcStep + j * pixelSize, srcStep, to + j * dstStep + i * pixelSize, dstStep, isLast);
       }
     }
   };

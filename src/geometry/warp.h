@@ -20,6 +20,8 @@
 #include <bit>
 #include <cmath>
 #include <cstring>
+#include <limits>
+#include <span>
 #include <type_traits>
 
 #include "core/checks.h"
@@ -169,12 +171,14 @@ void mix(T* element, T fresh, float coverage) {
 
 // ---- The walk -----------------------------------------------------------------------------------------------------
 
-/// Pixels whose coordinates are made at once: they stay in the first cache.
-inline constexpr ptrdiff_t mostPlaces = 512;
+/// Pixels are walked in tiles of so many rows and columns: where rows of the destination run across those of the
+/// source, neighbours in y fetch from the same lines of the cache, as long as it holds them.
+inline constexpr int tileRows = 32;
+inline constexpr ptrdiff_t tileColumns = 128;
 
 struct PlaceArrays {
-  alignas(laneAlignment) float x[mostPlaces + laneCount<float>];
-  alignas(laneAlignment) float y[mostPlaces + laneCount<float>];
+  alignas(laneAlignment) float x[tileColumns + laneCount<float>];
+  alignas(laneAlignment) float y[tileColumns + laneCount<float>];
 };
 
 /// An image, or planes.
@@ -233,30 +237,61 @@ struct Fetcher {
   }
 };
 
-/// The pixels of columns `first` to `last` of the row, parts of them at the ends mixed with what was there.
-template <class T, class L, class CoverageAt, class Generator>
-void warpSpan(const Fetcher<T, L, CoverageAt>& fetcher, const Generator& generator, Vemi64s y, Vemi64s first,
-              Vemi64s last, PlaceArrays& places) {
-  Vemi64s whole = first, end = last + 1;  // from `whole` to `end`, pixels are covered
-  if (fetcher.coverage != nullptr) {
-    const auto isWhole = [&](Vemi64s x) {
-      return (*fetcher.coverage)(static_cast<double>(x), static_cast<double>(y)) >= 1;
-    };
-    while (whole < end && !isWhole(whole)) ++whole;
-    while (end > whole && !isWhole(end - 1)) --end;
-  }
-  const auto pieces = [&](Vemi64s from, Vemi64s to, const auto& run) {
-    for (Vemi64s x = from; x < to; x += mostPlaces) {
-      const auto count = static_cast<ptrdiff_t>(std::min(Vemi64s{mostPlaces}, to - x));
-      generator(SpanPiece{static_cast<double>(y), static_cast<double>(first), static_cast<ptrdiff_t>(x - first), count},
-                places.x, places.y);
-      run(x, count);
+/// The pixels of a row from column `first` on up to `end`. From `whole` up to `wholeEnd` they are covered; the others
+/// are mixed with what was there.
+struct WarpedRow {
+  Vemi64s y, first, whole, wholeEnd, end;
+
+  template <class CoverageAt>
+  static WarpedRow of(const Spans& spans, const CoverageAt* coverage) {
+    WarpedRow row = {spans.y, spans.first, spans.first, spans.last + 1, spans.last + 1};
+    if (coverage != nullptr) {
+      const auto isWhole = [&](Vemi64s x) {
+        return (*coverage)(static_cast<double>(x), static_cast<double>(row.y)) >= 1;
+      };
+      while (row.whole < row.end && !isWhole(row.whole)) ++row.whole;
+      while (row.wholeEnd > row.whole && !isWhole(row.wholeEnd - 1)) --row.wholeEnd;
     }
+    return row;
+  }
+};
+
+/// The row's pixels from one column on up to another one, no more than tileColumns.
+template <class T, class L, class CoverageAt, class Generator>
+void warpPiece(const Fetcher<T, L, CoverageAt>& fetcher, const Generator& generator, const WarpedRow& row, Vemi64s from,
+               Vemi64s to, PlaceArrays& places) {
+  const auto part = [&](Vemi64s first, Vemi64s end, const auto& run) {
+    const Vemi64s x = std::max(first, from), behind = std::min(end, to);
+    if (x >= behind) return;
+    const auto count = static_cast<ptrdiff_t>(behind - x);
+    generator(SpanPiece{static_cast<double>(row.y), static_cast<double>(row.first),
+                        static_cast<ptrdiff_t>(x - row.first), count},
+              places.x, places.y);
+    run(x, count);
   };
-  const auto mixed = [&](Vemi64s x, ptrdiff_t count) { fetcher.runMixed(y, x, count, places.x, places.y); };
-  pieces(first, whole, mixed);
-  pieces(whole, end, [&](Vemi64s x, ptrdiff_t count) { fetcher.run(y, x, count, places.x, places.y); });
-  pieces(end, last + 1, mixed);
+  const auto mixed = [&](Vemi64s x, ptrdiff_t count) { fetcher.runMixed(row.y, x, count, places.x, places.y); };
+  part(row.first, row.whole, mixed);
+  part(row.whole, row.wholeEnd, [&](Vemi64s x, ptrdiff_t count) { fetcher.run(row.y, x, count, places.x, places.y); });
+  part(row.wholeEnd, row.end, mixed);
+}
+
+/// All pixels of the spans, by tiles of rows that follow each other.
+template <class T, class L, class CoverageAt, class Generator>
+void warpSpans(const Fetcher<T, L, CoverageAt>& fetcher, const Generator& generator, Spans& spans) {
+  PlaceArrays places;
+  WarpedRow row[tileRows];
+  for (int count = tileRows; count == tileRows;) {
+    for (count = 0; count < tileRows && spans.next(); ++count) row[count] = WarpedRow::of(spans, fetcher.coverage);
+    const auto rows = std::span(row, static_cast<size_t>(count));
+    Vemi64s x = std::numeric_limits<Vemi64s>::max(), end = 0;
+    for (const WarpedRow& each : rows) {
+      x = std::min(x, each.first);
+      end = std::max(end, each.end);
+    }
+    for (; x < end; x += tileColumns) {
+      for (const WarpedRow& each : rows) warpPiece(fetcher, generator, each, x, x + tileColumns, places);
+    }
+  }
 }
 
 /// The pixels of the destination that lie in a polygon: vemiWarnQuadIntersection where it does not meet the
@@ -272,8 +307,7 @@ VemiStatus warpWithin(const Images<const T>& src, const Images<T>& dst, const Re
                                              {from(0), from(1), from(2), from(3)},
                                              dst,
                                              source.hasSmoothEdge ? &coverage : nullptr};
-  PlaceArrays places;
-  while (spans.next()) warpSpan(fetcher, generator, spans.y, spans.first, spans.last, places);
+  warpSpans(fetcher, generator, spans);
   return vemiOk;
 }
 

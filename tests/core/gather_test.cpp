@@ -37,6 +37,25 @@ void expectWords(const PixelBytes& pixels, const char* first, ptrdiff_t step, co
   }
 }
 
+/// The same in words of 64 bits, two by two of which stand in the lower and in the upper lanes.
+template <int bytes, int rows>
+void expectLongWords(const PixelBytes& pixels, const char* first, ptrdiff_t step, const int32_t* byte,
+                     const int32_t* y) {
+  const Lanes<int32_t> d;
+  const Lanes<int64_t> dLong;
+  const auto words = pixels.longWords<bytes, rows>(hn::LoadU(d, byte), hn::LoadU(d, y));
+  for (int j = 0; j < rows; ++j) {
+    int64_t word[2][lanes / 2];
+    hn::StoreU(words.lower.v[j], dLong, word[0]);
+    hn::StoreU(words.upper.v[j], dLong, word[1]);
+    for (ptrdiff_t k = 0; k < lanes; ++k) {
+      const char* const expected = first + (y[k] + ptrdiff_t{j}) * step + byte[k];
+      ASSERT_EQ(std::memcmp(&word[k / 2 % 2][k / 4 * 2 + k % 2], expected, bytes), 0)
+          << "byte " << byte[k] << " of row " << y[k] << " + " << j;
+    }
+  }
+}
+
 /// All places in turn, so that each place stands in each lane, beside near and far ones.
 template <int bytes, int rows>
 void expectAllWords(const PixelBytes& pixels, const char* first, ptrdiff_t step, ptrdiff_t rowBytes, int height) {
@@ -50,7 +69,11 @@ void expectAllWords(const PixelBytes& pixels, const char* first, ptrdiff_t step,
         byte[k] = static_cast<int32_t>(each % columns);
         y[k] = static_cast<int32_t>(each / columns);
       }
-      expectWords<bytes, rows>(pixels, first, step, byte, y);
+      if constexpr (bytes > 4) {
+        expectLongWords<bytes, rows>(pixels, first, step, byte, y);
+      } else {
+        expectWords<bytes, rows>(pixels, first, step, byte, y);
+      }
       if (::testing::Test::HasFatalFailure()) return;
     }
   }
@@ -82,6 +105,8 @@ TEST(Gather, NothingBesideTheImageIsRead) {
         expectAll(expectAllWords<2, 2>);
         expectAll(expectAllWords<3, 1>);
         expectAll(expectAllWords<4, 4>);
+        expectAll(expectAllWords<6, 2>);
+        expectAll(expectAllWords<8, 1>);
         expectAll(expectAllRuns<3, 4>);
         expectAll(expectAllRuns<6, 8>);
         expectAll(expectAllRuns<12, 16>);
@@ -105,6 +130,7 @@ TEST(Gather, ImagesBeyondTwoGibibytes) {
   const auto pixels = PixelBytes::of<C1>(Image<const Vemi8u>{first, step}, {width, height});
   expectAllWords<2, 2>(pixels, static_cast<const char*>(block), step, width, height);
   expectAllWords<4, 1>(pixels, static_cast<const char*>(block), step, width, height);
+  expectAllWords<6, 2>(pixels, static_cast<const char*>(block), step, width, height);
   expectAllRuns<3, 8>(pixels, static_cast<const char*>(block), step, width, height);
   munmap(block, bytes);
 }
