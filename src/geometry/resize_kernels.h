@@ -20,6 +20,7 @@
 #include "core/lane_width.h"
 #include "core/map_row.h"
 #include "core/numbers.h"
+#include "core/processor_bytes.h"
 #include "core/rounding.h"
 #include "core/windows.h"
 #include "geometry/resize.h"
@@ -261,7 +262,55 @@ struct FloatStages {
   }
 };
 
+// ---- Straight from the source to the destination -------------------------------------------------------------------
+
+/// A row of vectors that begin at multiples of their length: at(d, first element).
+template <class L, class T, class At>
+HWY_INLINE void storeVectors(ptrdiff_t elements, T* dst, const At& at) {
+  const Lanes<T> d;
+  constexpr ptrdiff_t N = laneCount<T>;
+  const auto store = [&](ptrdiff_t i, T* out) HWY_ATTR {
+    auto v = at(d, i);
+    if constexpr (L::keepsAlpha) v = hn::IfThenElse(colourLanes(d), v, hn::LoadU(d, out));
+    hn::StoreU(v, d, out);
+  };
+  ptrdiff_t i = 0;
+  for (; i + N <= elements; i += N) store(i, dst + i);
+  if (i == elements) return;
+  alignas(laneAlignment) T rest[N] = {};
+  const size_t bytes = static_cast<size_t>(elements - i) * sizeof(T);
+  std::memcpy(rest, dst + i, bytes);
+  store(i, rest);
+  std::memcpy(dst + i, rest, bytes);
+}
+
 // ---- Linear interpolation of bytes ---------------------------------------------------------------------------------
+
+/// h0 + (v (h1 - h0) >> 14) + 32 >> 6, which is the formula, as what the first shift drops is less than one of the
+/// second one's units. 0 <= v < 16384, and rows do not go beyond the pixels.
+template <class D, class V = hn::Vec<D>>
+HWY_INLINE V betweenRows(D d, V h0, V h1, V doubledWeight) {
+  const auto difference = hn::Sub(h1, h0);
+  const auto part = hn::MulHigh(hn::Add(difference, difference), doubledWeight);
+  return hn::ShiftRight<6>(hn::Add(hn::Add(h0, part), hn::Set(d, int16_t{32})));
+}
+
+/// Elements of T of two pixels with four channels, in pairs of a channel.
+template <class T>
+struct PairsOfBlock {
+  alignas(16) uint8_t index[16];
+
+  constexpr PairsOfBlock() : index() {
+    constexpr int size = sizeof(T);
+    for (int i = 0; i < 16; ++i) {
+      const int pair = i / (2 * size), sample = i / size % 2, byte = i % size;
+      index[i] = static_cast<uint8_t>(pair / 4 * 8 * size + sample * 4 * size + pair % 4 * size + byte);
+    }
+  }
+};
+
+template <class T>
+inline constexpr PairsOfBlock<T> pairsOfBlock;
 
 /// h = 64 p0 + (w (p1 - p0) + 128 >> 8), which is the formula in lanes of 16 bits: the rounded product shifts by 15,
 /// seven of which the difference has in advance. It never leaves them, also where w is negative.
@@ -284,53 +333,107 @@ class ByteAcross {
   ByteAcross(const Scratch& scratch, const Room& room, const Axis& x, int firstColumn)
       : elements_(ptrdiff_t{x.count} * L::elements), picks_(scratch, room.picks), weight_(scratch[room.weight]) {
     int32_t* const offset = scratch[room.offset];
+    bool inTurn = L::elements != 3;
     forNodes(x, linearNode, [&](int column, const Node& node) {
-      setOffsets<uint8_t, L>(offset, column, node.first - firstColumn);
+      const int sample = node.first - firstColumn;
+      inTurn = inTurn && sample == 2 * column;
+      setOffsets<uint8_t, L>(offset, column, sample);
       std::fill_n(weight_ + ptrdiff_t{column} * L::elements, L::elements, static_cast<int16_t>(linearWeight(node)));
     });
     std::fill_n(weight_ + elements_, laneCount<uint8_t>, int16_t{0});
     const auto pattern = [](int samples) { return BytePattern::ofSamples(2, samples, 1, L::elements); };
     const auto windows = [&](int samples) { return PickedBytes::windowsFor(offset, elements_, pattern(samples)); };
-    inPairs_ = windows(2) == 1 || windows(1) > 1;
-    picks_.make(offset, elements_, pattern(inPairs_ ? 2 : 1));
+    samples_ = inTurn ? Samples::inTurn : windows(2) == 1 || windows(1) > 1 ? Samples::inPairs : Samples::apart;
+    picks_.make(offset, elements_, pattern(samples_ == Samples::apart ? 1 : 2));
   }
 
   void operator()(const uint8_t* line, int16_t* out) const {
-    if (!inPairs_) return run<1, false>(line, out);
-    picks_.template withWindows<8>([&](auto windows) { run<windows, true>(line, out); });
+    withSamples([&](auto windows, auto samples) { run<windows, samples>(line, out); });
+  }
+
+  /// Both stages at once, of two lines: (h0 + (doubledWeight (h1 - h0) >> 15) + 32) >> 6.
+  void between(const uint8_t* line0, const uint8_t* line1, int16_t doubledWeight, uint8_t* dst) const {
+    withSamples([&](auto windows, auto samples) { runBetween<windows, samples>(line0, line1, doubledWeight, dst); });
   }
 
  private:
+  /// Where the samples of an element are: in lines of which each byte is one, pair by pair; picked as pairs; or each by
+  /// itself, where a pair just exceeds a window.
+  enum class Samples { inTurn, inPairs, apart };
+
   ptrdiff_t elements_;
   PickedBytes picks_;
   int16_t* weight_;
-  bool inPairs_;  // or both samples by themselves, where a pair just exceeds a window
+  Samples samples_;
 
-  template <int windows, bool inPairs>
+  template <class F>
+  HWY_INLINE void withSamples(const F& f) const {
+    const std::integral_constant<int, 1> one;
+    if constexpr (L::elements != 3) {
+      if (samples_ == Samples::inTurn) return f(one, std::integral_constant<Samples, Samples::inTurn>());
+    }
+    if (samples_ == Samples::apart) return f(one, std::integral_constant<Samples, Samples::apart>());
+    picks_.template withWindows<8>(
+        [&](auto windows) { f(windows, std::integral_constant<Samples, Samples::inPairs>()); });
+  }
+
+  /// h from element i on.
+  template <int windows, Samples samples, class D>
+  HWY_INLINE static hn::Vec<D> valuesAt(D d, const PickedBytes& picks, const uint8_t* line, const int16_t* weights,
+                                        ptrdiff_t i) {
+    const auto weight = hn::LoadU(d, weights + i);
+    if constexpr (samples == Samples::apart) {
+      const auto at = [&](const uint8_t* from) HWY_ATTR { return hn::BitCast(d, picks.vector<windows>(from, i / 8)); };
+      const auto p0 = at(line), p1 = at(line + L::elements);
+      const auto product = hn::MulFixedPoint15(hn::ShiftLeft<7>(hn::Sub(p1, p0)), weight);
+      return hn::Add(hn::ShiftLeft<6>(p0), product);
+    } else {
+      const auto pairs = pairsAt<windows, samples>(picks, line, i);
+      const auto difference = pairsOfByteProducts<-64, 64>(d, pairs);
+      const auto product = hn::MulFixedPoint15(hn::Add(difference, difference), weight);
+      return hn::Add(pairsOfByteProducts<64, 0>(d, pairs), product);
+    }
+  }
+
+  template <int windows, Samples samples>
+  HWY_INLINE static hn::Vec<Lanes<uint8_t>> pairsAt(const PickedBytes& picks, const uint8_t* line, ptrdiff_t i) {
+    if constexpr (samples == Samples::inTurn) {
+      const Lanes<uint8_t> d;
+      const auto bytes = hn::LoadU(d, line + 2 * i);
+      if constexpr (L::elements == 1) return bytes;
+      return hn::TableLookupBytes(bytes, hn::LoadDup128(d, pairsOfBlock<uint8_t>.index));
+    } else {
+      return picks.vector<windows>(line, i / 8);
+    }
+  }
+
+  template <int windows, Samples samples>
   HWY_NOINLINE void run(const uint8_t* line, int16_t* out) const {
     const Lanes<int16_t> d;
-    const Lanes<uint16_t> dPairs;
-    constexpr ptrdiff_t N = laneCount<int16_t>;
     const PickedBytes picks = picks_;
     const int16_t* const weights = weight_;
-    for (ptrdiff_t i = 0; i < elements_; i += N) {
-      const auto picked = hn::BitCast(dPairs, picks.vector<windows>(line, i / 8));
-      auto first = picked, second = picked;
-      if constexpr (inPairs) {
-        first = hn::And(picked, hn::Set(dPairs, uint16_t{255}));
-        second = hn::ShiftRight<8>(picked);
-      } else {
-        second = hn::BitCast(dPairs, picks.vector<windows>(line + L::elements, i / 8));
-      }
-      const auto p0 = hn::BitCast(d, first), p1 = hn::BitCast(d, second);
-      const auto product = hn::MulFixedPoint15(hn::ShiftLeft<7>(hn::Sub(p1, p0)), hn::LoadU(d, weights + i));
-      hn::StoreU(hn::Add(hn::ShiftLeft<6>(p0), product), d, out + i);
+    for (ptrdiff_t i = 0; i < elements_; i += laneCount<int16_t>) {
+      hn::StoreU(valuesAt<windows, samples>(d, picks, line, weights, i), d, out + i);
     }
+  }
+
+  template <int windows, Samples samples>
+  HWY_NOINLINE void runBetween(const uint8_t* line0, const uint8_t* line1, int16_t doubledWeight, uint8_t* dst) const {
+    const Lanes<int16_t> d16;
+    const PickedBytes picks = picks_;
+    const int16_t* const weights = weight_;
+    const auto down = hn::Set(d16, doubledWeight);
+    storeVectors<L>(elements_, dst, [&](auto d, ptrdiff_t first) HWY_ATTR {
+      const auto at = [&](ptrdiff_t i) HWY_ATTR {
+        const auto h0 = valuesAt<windows, samples>(d16, picks, line0, weights, i);
+        return betweenRows(d16, h0, valuesAt<windows, samples>(d16, picks, line1, weights, i), down);
+      };
+      return packInOrder(d, at(first), at(first + laneCount<int16_t>));
+    });
   }
 };
 
-/// For rows and weights that do not go beyond the pixels: h0 + (v (h1 - h0) >> 14) + 32 >> 6, which is the formula, as
-/// what the first shift drops is less than one of the second one's units. 0 <= v < 16384.
+/// For rows and weights that do not go beyond the pixels.
 struct ByteDown {
   const int16_t *row0, *row1;
   int16_t doubledWeight;
@@ -339,10 +442,7 @@ struct ByteDown {
   HWY_INLINE auto operator()(D d, ptrdiff_t i) const {
     const Lanes<int16_t> d16;
     const auto at = [&](ptrdiff_t place) HWY_ATTR {
-      const auto h0 = hn::LoadU(d16, row0 + place);
-      const auto difference = hn::Sub(hn::LoadU(d16, row1 + place), h0);
-      const auto part = hn::MulHigh(hn::Add(difference, difference), hn::Set(d16, doubledWeight));
-      return hn::ShiftRight<6>(hn::Add(hn::Add(h0, part), hn::Set(d16, int16_t{32})));
+      return betweenRows(d16, hn::LoadU(d16, row0 + place), hn::LoadU(d16, row1 + place), hn::Set(d16, doubledWeight));
     };
     return packInOrder(d, at(i), at(i + laneCount<int16_t>));
   }
@@ -366,6 +466,15 @@ struct ByteDownBeyond {
   }
 };
 
+/// The second row of two and its weight, twice: all of the second row is none of the first one.
+struct RowPair {
+  int first;
+  int16_t doubledWeight;
+
+  explicit RowPair(int weight)
+      : first(weight == 16384 ? 1 : 0), doubledWeight(static_cast<int16_t>(first == 1 ? 0 : 2 * weight)) {}
+};
+
 template <class L>
 struct ByteStages {
   using Filter = LinearFilter;
@@ -377,12 +486,39 @@ struct ByteStages {
     if (beyond || weight < 0) {
       return mapPlaces<alphaOf<L>>(elements, eachPlace<1>(ByteDownBeyond{rows[0], rows[1], weight}), dst);
     }
-    // All of the second row is none of the first one.
-    const bool isSecond = weight == 16384;
-    const ByteDown stage = {rows[isSecond ? 1 : 0], rows[1], static_cast<int16_t>(isSecond ? 0 : 2 * weight)};
-    mapPlaces<alphaOf<L>>(elements, eachPlace(stage), dst);
+    const RowPair pair(weight);
+    mapPlaces<alphaOf<L>>(elements, eachPlace(ByteDown{rows[pair.first], rows[1], pair.doubledWeight}), dst);
   }
 };
+
+/// Where no row of the first stage serves two of the destination, it is not kept.
+template <class L>
+VemiStatus resizeBytesBetweenLines(const Vemi8u* const* src, int srcStep, Vemi8u* const* dst, int dstStep, int count,
+                                   const ResizePlan& plan) {
+  const Vemi64s elements = Vemi64s{plan.x.count} * L::elements;
+  const ColumnRange range = ColumnRange::of(plan.x, linearNode, 2);
+  SourceLines upper(range.first, range.columns(), L::elements), lower = upper;
+  Pieces pieces;
+  const typename ByteAcross<L>::Room room(pieces, elements);
+  const auto upperCopy = pieces.add<uint8_t>(upper.bytes()), lowerCopy = pieces.add<uint8_t>(lower.bytes());
+  const Scratch scratch(pieces);
+  if (!range.fits(L::elements) || scratch.failed()) return vemiErrMemAlloc;
+  const ByteAcross<L> across(scratch, room, plan.x, range.first);
+  upper.setCopy(scratch[upperCopy]);
+  lower.setCopy(scratch[lowerCopy]);
+  for (int n = 0; n < count; ++n) {
+    const Image<Vemi8u> destination = {dst[n], dstStep};
+    const Image<const Vemi8u> source = {src[n], srcStep};
+    upper.setSource(source, plan.image);
+    lower.setSource(source, plan.image);
+    forNodes(plan.y, linearNode, [&](int y, const Node& node) {
+      const RowPair pair(linearWeight(node));
+      across.between(upper.row(ptrdiff_t{node.first} + pair.first), lower.row(ptrdiff_t{node.first} + 1),
+                     pair.doubledWeight, destination.row(y));
+    });
+  }
+  return vemiOk;
+}
 
 // ---- Rows through both stages --------------------------------------------------------------------------------------
 
@@ -419,28 +555,6 @@ VemiStatus resizeByStages(const T* const* src, int srcStep, T* const* dst, int d
     });
   }
   return vemiOk;
-}
-
-// ---- Straight from the source to the destination -------------------------------------------------------------------
-
-/// A row of vectors that begin at multiples of their length: at(d, first element).
-template <class L, class T, class At>
-HWY_INLINE void storeVectors(ptrdiff_t elements, T* dst, const At& at) {
-  const Lanes<T> d;
-  constexpr ptrdiff_t N = laneCount<T>;
-  const auto store = [&](ptrdiff_t i, T* out) HWY_ATTR {
-    auto v = at(d, i);
-    if constexpr (L::keepsAlpha) v = hn::IfThenElse(colourLanes(d), v, hn::LoadU(d, out));
-    hn::StoreU(v, d, out);
-  };
-  ptrdiff_t i = 0;
-  for (; i + N <= elements; i += N) store(i, dst + i);
-  if (i == elements) return;
-  alignas(laneAlignment) T rest[N] = {};
-  const size_t bytes = static_cast<size_t>(elements - i) * sizeof(T);
-  std::memcpy(rest, dst + i, bytes);
-  store(i, rest);
-  std::memcpy(dst + i, rest, bytes);
 }
 
 // ---- Nearest pixels ------------------------------------------------------------------------------------------------
@@ -513,32 +627,79 @@ VemiStatus resizeToNearest(const T* const* src, int srcStep, T* const* dst, int 
 
 // ---- Area averages -------------------------------------------------------------------------------------------------
 
-/// sum + weight sample, or the product alone plus zero, which has no negative zeros.
-struct Weighted {
-  float weight;
+/// Rows times their weights, added one by one to what there is of a sum, or to zero, which has no negative zeros.
+template <int rows, bool toZero>
+struct WeightedRows {
+  float weight[rows];
 
-  template <class D, class V, class In>
-  HWY_INLINE V operator()(D d, V sum, In in) const {
-    return hn::Add(sum, product(d, in));
-  }
-  template <class D, class In>
-  HWY_INLINE hn::Vec<D> operator()(D d, In in) const {
-    return hn::Add(hn::Zero(d), product(d, in));
+  template <class D, class... In>
+  HWY_INLINE hn::Vec<D> operator()(D d, In... in) const {
+    if constexpr (toZero) {
+      return sum<0>(d, hn::Zero(d), in...);
+    } else {
+      return sum<0>(d, in...);
+    }
   }
 
  private:
+  template <int k, class D, class V>
+  HWY_INLINE V sum(D, V all) const {
+    return all;
+  }
+  template <int k, class D, class V, class In, class... Rest>
+  HWY_INLINE V sum(D d, V all, In in, Rest... rest) const {
+    return sum<k + 1>(d, hn::Add(all, hn::Mul(lanes(d, in), hn::Set(d, weight[k]))), rest...);
+  }
   template <class D, class In>
-  HWY_INLINE auto product(D d, In in) const {
+  HWY_INLINE static hn::Vec<D> lanes(D d, In in) {
     if constexpr (std::is_pointer_v<In>) {
-      return hn::Mul(loadExtended(d, in), hn::Set(d, weight));
+      return loadExtended(d, in);
     } else {
-      return hn::Mul(in, hn::Set(d, weight));
+      return in;
     }
   }
 };
 
-/// Sums of a row's weighted elements, so many of each; a weight of zero stands where there is none.
-template <class L>
+/// Adds rows to a line of sums, two at a time.
+template <class T>
+class LineOfSums {
+ public:
+  LineOfSums(float* line, ptrdiff_t elements) : line_(line), elements_(elements) {}
+
+  void add(const T* row, float weight) {
+    row_[count_] = row;
+    weight_[count_] = weight;
+    if (++count_ == 2)
+      addRows(WeightedRows<2, true>{weight_[0], weight_[1]}, WeightedRows<2, false>{weight_[0], weight_[1]}, row_[0],
+              row_[1]);
+  }
+  void finish() {
+    if (count_ == 1) addRows(WeightedRows<1, true>{weight_[0]}, WeightedRows<1, false>{weight_[0]}, row_[0]);
+  }
+
+ private:
+  float* line_;
+  ptrdiff_t elements_;
+  const T* row_[2] = {};
+  float weight_[2] = {};
+  int count_ = 0;
+  bool isEmpty_ = true;
+
+  template <class ToZero, class ToSum, class... Rows>
+  void addRows(ToZero toZero, ToSum toSum, Rows... rows) {
+    if (isEmpty_) {
+      mapElements<Alpha::none>(elements_, eachVector(toZero), line_, rows...);
+    } else {
+      mapElements<Alpha::none>(elements_, eachVector(toSum), line_, static_cast<const float*>(line_), rows...);
+    }
+    isEmpty_ = false;
+    count_ = 0;
+  }
+};
+
+/// Sums of a row's weighted elements, so many of each; a weight of zero stands where there is none. Sums of integers
+/// stay as they are when nothing is added; others may meet what is no number there.
+template <class T, class L>
 class AreaAcross {
  public:
   struct Room {
@@ -573,7 +734,11 @@ class AreaAcross {
   }
 
   void operator()(const float* line, float* out) const {
-    picks_.template withWindows<4>([&](auto windows) { run<windows>(reinterpret_cast<const uint8_t*>(line), out); });
+    const auto* const bytes = reinterpret_cast<const uint8_t*>(line);
+    picks_.template withWindows<4>([&](auto windows) {
+      if (taps_ == 2) return run<windows>(std::integral_constant<ptrdiff_t, 2>(), bytes, out);
+      run<windows>(ptrdiff_t{taps_}, bytes, out);
+    });
   }
 
  private:
@@ -582,18 +747,22 @@ class AreaAcross {
   PickedBytes picks_;
   float* weight_;
 
-  template <int windows>
-  HWY_NOINLINE void run(const uint8_t* line, float* out) const {
+  /// Taps of any number, or of one that is known.
+  template <int windows, class Taps>
+  HWY_NOINLINE void run(Taps taps, const uint8_t* line, float* out) const {
     const Lanes<float> d;
     constexpr ptrdiff_t N = laneCount<float>;
     const PickedBytes picks = picks_;
-    for (ptrdiff_t i = 0; i < elements_; i += N) {
+    const float* const weights = weight_;
+    const ptrdiff_t elements = elements_, pitch = pitch_;
+    for (ptrdiff_t i = 0; i < elements; i += N) {
       auto sum = hn::Zero(d);
-      for (ptrdiff_t k = 0; k < taps_; ++k) {
+      for (ptrdiff_t k = 0; k < taps; ++k) {
         const auto sample = hn::BitCast(d, picks.words<windows>(line + k * pixelBytes<float, L>, i / 4));
-        const auto weight = hn::LoadU(d, weight_ + k * pitch_ + i);
-        const auto isThere = hn::Ne(weight, hn::Zero(d));
-        sum = hn::Add(sum, hn::IfThenElseZero(isThere, hn::Mul(weight, sample)));
+        const auto weight = hn::LoadU(d, weights + k * pitch + i);
+        auto part = hn::Mul(weight, sample);
+        if constexpr (sizeof(T) == 4) part = hn::IfThenElseZero(hn::Ne(weight, hn::Zero(d)), part);
+        sum = hn::Add(sum, part);
       }
       hn::StoreU(sum, d, out + i);
     }
@@ -632,23 +801,6 @@ struct AreaRange {
     }
   }
 };
-
-/// Elements of T of two pixels with four channels, in pairs of a channel.
-template <class T>
-struct PairsOfBlock {
-  alignas(16) uint8_t index[16];
-
-  constexpr PairsOfBlock() : index() {
-    constexpr int size = sizeof(T);
-    for (int i = 0; i < 16; ++i) {
-      const int pair = i / (2 * size), sample = i / size % 2, byte = i % size;
-      index[i] = static_cast<uint8_t>(pair / 4 * 8 * size + sample * 4 * size + pair % 4 * size + byte);
-    }
-  }
-};
-
-template <class T>
-inline constexpr PairsOfBlock<T> pairsOfBlock;
 
 /// Areas of two by two whole pixels: sums of integers are exact, so their order does not matter, and a quarter to
 /// nearest is a shift; those of floats have the order of all areas.
@@ -727,6 +879,8 @@ class QuartersAcross {
     constexpr int bits = 8 * sizeof(T);
     const ptrdiff_t byte = element * wordBytes;
     const auto sums = [&](auto pairs) HWY_ATTR {
+      if constexpr (sizeof(T) == 1)
+        return hn::BitCast(d, pairsOfByteProducts<1, 1>(hn::RebindToSigned<decltype(d)>(), pairs));
       const auto words = hn::BitCast(d, pairs);
       return hn::Add(hn::And(words, hn::Set(d, std::numeric_limits<T>::max())), hn::ShiftRight<bits>(words));
     };
@@ -782,12 +936,12 @@ VemiStatus resizeByAreas(const T* const* src, int srcStep, T* const* dst, int ds
   const ColumnRange& range = area.range;
   const Vemi64s lineElements = range.columns() * L::elements;
   Pieces pieces;
-  const typename AreaAcross<L>::Room room(pieces, elements, area.taps);
+  const typename AreaAcross<T, L>::Room room(pieces, elements, area.taps);
   const auto sumsOfRows = pieces.add<float>(lineElements + Vemi64s{area.taps} * L::elements + laneCount<float>);
   const auto sumsOfAreas = pieces.add<float>(withVectorEnd(elements));
   const Scratch scratch(pieces);
   if (!range.fits(pixelBytes<float, L>) || scratch.failed()) return vemiErrMemAlloc;
-  const AreaAcross<L> across(scratch, room, plan.x, range.first, area.taps);
+  const AreaAcross<T, L> across(scratch, room, plan.x, range.first, area.taps);
   const auto length = static_cast<ptrdiff_t>(lineElements);
   float* const line = scratch[sumsOfRows];
   std::fill_n(line + length, area.taps * L::elements + laneCount<float>, 0.0f);
@@ -797,16 +951,10 @@ VemiStatus resizeByAreas(const T* const* src, int srcStep, T* const* dst, int ds
     const Image<const T> source = {src[n] + ptrdiff_t{range.first} * L::elements, srcStep};
     double position = plan.y.start;
     for (int y = 0; y < plan.y.count; ++y, position += plan.y.step) {
-      bool isFirst = true;
-      forCovered(position, plan.y.step, plan.y.image, [&](int row, float weight) {
-        const auto op = eachVector(Weighted{weight});
-        if (isFirst) {
-          mapElements<Alpha::none>(length, op, line, source.row(row));
-        } else {
-          mapElements<Alpha::none>(length, op, line, static_cast<const float*>(line), source.row(row));
-        }
-        isFirst = false;
-      });
+      LineOfSums<T> sums(line, length);
+      forCovered(position, plan.y.step, plan.y.image,
+                 [&](int row, float weight) { sums.add(source.row(row), weight); });
+      sums.finish();
       across(line, scratch[sumsOfAreas]);
       mapPlaces<alphaOf<L>>(static_cast<ptrdiff_t>(elements), eachPlace<1>(means), destination.row(y));
     }
@@ -825,6 +973,7 @@ VemiStatus resizeImages(const T* const* src, int srcStep, T* const* dst, int dst
       return by(resizeToNearest<T, L>);
     case vemiInterLinear:
       if constexpr (sizeof(T) == 1) {
+        if (plan.x.start >= 0 && plan.y.start >= 0 && plan.y.step >= 2) return by(resizeBytesBetweenLines<L>);
         return by(resizeByStages<ByteStages<L>, T, L>);
       } else {
         return by(resizeByStages<FloatStages<LinearFilter, T, L>, T, L>);

@@ -12,6 +12,7 @@
 #include <vector>
 
 #include "core/numbers.h"
+#include "core/processor_bytes.h"
 #include "support/for_types.h"
 
 using namespace vemi;
@@ -21,6 +22,26 @@ namespace {
 
 constexpr float infinity = std::numeric_limits<float>::infinity();
 constexpr int32_t lowestInteger = std::numeric_limits<int32_t>::min();
+
+template <int first, int second>
+void expectPairsOfByteProducts() {
+  const Lanes<int16_t> d;
+  constexpr int N = laneCount<int16_t>;
+  for (int value = 0; value < 65536; value += N) {
+    uint16_t pairs[N];
+    int16_t sums[N];
+    for (int i = 0; i < N; ++i) pairs[i] = static_cast<uint16_t>(value + i);
+    hn::StoreU(pairsOfByteProducts<first, second>(d, hn::BitCast(d, hn::LoadU(Lanes<uint16_t>(), pairs))), d, sums);
+    for (int i = 0; i < N; ++i) ASSERT_EQ(sums[i], (pairs[i] & 255) * first + (pairs[i] >> 8) * second) << pairs[i];
+  }
+}
+
+TEST(Processor, PairsOfByteProducts) {
+  expectPairsOfByteProducts<1, 1>();
+  expectPairsOfByteProducts<64, 0>();
+  expectPairsOfByteProducts<-64, 64>();
+  expectPairsOfByteProducts<-128, 127>();
+}
 
 template <class T, class Wide>
 void checkPack(T, Wide) {
