@@ -152,7 +152,7 @@ void warpedQuad(Call& call) {
   }
   call.expectedStatus = clipSource(call, region);
   if (call.expectedStatus != vemiOk) return;
-  const Matrix back = matrixOf(to, from), map = matrixOf(from, to);
+  const Matrix back = matrixOf(to, from);
   Corners common = to;
   const auto alsoIn = [&](Spot p) {  // right of the edges at the corner that three others do not settle
     const double least = -1e-9;
@@ -162,7 +162,6 @@ void warpedQuad(Call& call) {
   for (const size_t n : {2, 3}) {
     common = cut(common, [&](Spot p) { return orientation * sideOf(from[n], from[(n + 1) % 4], back(p)) + 1e-9; });
   }
-  static_cast<void>(map);
   if (cutTo(from, region).empty() || !hasPixelInBox(cutTo(common, call.get<VemiRect>("dstRoi")))) {
     call.expectedStatus = vemiWarnQuadIntersection;
     return;
@@ -319,6 +318,27 @@ TEST(Rotate, QuarterTurnsOfImages) {
   expectQuarterTurns<Vemi32f>(vemiRotate_32f_C3R, 3, 3);
   expectQuarterTurns<Vemi32f>(vemiRotate_32f_C4R, 4, 4);
   expectQuarterTurns<Vemi32f>(vemiRotate_32f_AC4R, 4, 3);
+}
+
+// Ahead of the interpolation, which copies do not look at, and with statuses of their own.
+TEST(Rotate, QuarterTurnsHaveTheirOwnChecks) {
+  const Vemi8u src[16] = {1};
+  Vemi8u dst[16] = {};
+  constexpr VemiRect all = {0, 0, 4, 4};
+  const auto rotate = [&](double angle, VemiRect from, int step, const Vemi8u* last, VemiRect to) {
+    const Vemi8u* const planes[] = {src, src, last};
+    Vemi8u* const written[] = {dst, dst, dst};
+    return vemiRotate_8u_P3R(planes, {4, 4}, step, from, written, 4, to, angle, 0, 3, 77);
+  };
+  EXPECT_EQ(rotate(90, all, 0, nullptr, all), vemiErrStep);
+  EXPECT_EQ(rotate(90, {4, 0, 1, 1}, 4, nullptr, all), vemiErrNullPtr);
+  EXPECT_EQ(rotate(90, {4, 0, 1, 1}, 4, src, all), vemiOk);
+  EXPECT_EQ(rotate(90, {0, 4, 1, 1}, 4, src, {9, 9, 1, 1}), vemiOk);
+  EXPECT_EQ(rotate(90, all, 4, src, {4, 0, 1, 1}), vemiWarnNoOperation);
+  EXPECT_EQ(rotate(0, all, 4, nullptr, all), vemiErrInterpolation);
+  for (const Vemi8u byte : dst) EXPECT_EQ(byte, 0);
+  EXPECT_EQ(rotate(90, all, 4, src, all), vemiOk);
+  EXPECT_EQ(dst[12], 1);
 }
 
 TEST(WarpAffine, WhatIsNoNumberMovesNothing) {
