@@ -7,6 +7,7 @@
 #include "color/exports.h"
 #include "color/from_rgb.h"
 #include "color/luma_chroma.h"
+#include "color/pairs.h"
 #include "color/to_subsampled.h"
 #include "core/inlined.h"
 #include "vemi/color.h"
@@ -104,15 +105,76 @@ struct FromBgr {
   }
 };
 
+using BgraPairs = FromBgr<To422<rgbToYCbCr, bgraToChroma422>>;
+
+HWY_NOINLINE void mapPixels(ptrdiff_t width, const BgraPairs&, Packed422Row<uint8_t, order> dst,
+                            InterleavedRow<const uint8_t, AC4> src) {
+  const auto kernel = [](const uint8_t* in, uint8_t* out) VEMI_INLINED {
+    const Lanes<uint8_t> d;
+    const auto first = hn::LoadU(d, in), second = hn::LoadU(d, in + laneCount<uint8_t>);
+    hn::StoreU(pairsOfBgra<rgbToYCbCr, bgraToChroma422>(d, first, second), d, out);
+  };
+  forBlocks<laneCount<uint8_t> / 4>(width / 2, kernel, Strand<const uint8_t, 8>{src.first},
+                                    Strand<uint8_t, 4>{dst.first});
+}
+
 VemiStatus bgraToPairs(Image<const Vemi8u> src, Image<Vemi8u> dst, VemiSize roiSize) {
   if (const VemiStatus bad = checkImages(src, dst, roiSize)) return bad;
-  using Pairs = FromBgr<To422<rgbToYCbCr, bgraToChroma422>>;
   const auto pixels = pixelsOf<AC4>(src);
-  reduceToPairs<order>(extent422<2>(roiSize, dst, pixels), ColumnOps<Pairs, Pairs, FromBgr<Single>>(), dst, pixels);
+  reduceToPairs<order>(extent422<2>(roiSize, dst, pixels), ColumnOps<BgraPairs, BgraPairs, FromBgr<Single>>(), dst,
+                       pixels);
   return vemiOk;
 }
 
-using Inverse = ExactToRgb<cbycrToRgb>;
+/// Pairs of pixels have rows of their own; single ones go through planes.
+struct Inverse : ExactToRgb<cbycrToRgb> {};
+using InverseToBgra = Then<Inverse, ReversedWithFourth>;
+
+HWY_NOINLINE void mapPixels(ptrdiff_t width, const Inverse&, InterleavedRow<uint8_t, C3> dst,
+                            Packed422Row<const uint8_t, order> src) {
+  constexpr ptrdiff_t N = laneCount<uint8_t>;
+  const auto kernel = [](const uint8_t* in, uint8_t* out) VEMI_INLINED {
+    const Lanes<uint8_t> d;
+    const auto lower = rgbOfPairs<cbycrToRgb>(d, hn::LoadU(d, in));
+    const auto upper = rgbOfPairs<cbycrToRgb>(d, hn::LoadU(d, in + N));
+    const auto channel = [&](auto c) VEMI_INLINED { return packInOrder(d, lower.v[c], upper.v[c]); };
+    storeChannels(d, out, channel(std::integral_constant<int, 0>()), channel(std::integral_constant<int, 1>()),
+                  channel(std::integral_constant<int, 2>()));
+  };
+  forBlocks<N / 2>(width / 2, kernel, Strand<const uint8_t, 4>{src.first}, Strand<uint8_t, 6>{dst.first});
+}
+
+/// The blocks of 128 bits of two vectors by turns.
+template <class D>
+HWY_INLINE void storeBlocksByTurns(D d, hn::Vec<D> first, hn::Vec<D> second, uint8_t* out) {
+  if constexpr (hn::MaxLanes(d) == 16) {
+    hn::StoreU(first, d, out);
+    hn::StoreU(second, d, out + 16);
+  } else {
+    const hn::Half<D> dHalf;
+    storeBlocksByTurns(dHalf, hn::LowerHalf(first), hn::LowerHalf(second), out);
+    storeBlocksByTurns(dHalf, hn::UpperHalf(dHalf, first), hn::UpperHalf(dHalf, second), out + hn::MaxLanes(d));
+  }
+}
+
+HWY_NOINLINE void mapPixels(ptrdiff_t width, const InverseToBgra& op, InterleavedRow<uint8_t, C4> dst,
+                            Packed422Row<const uint8_t, order> src) {
+  constexpr ptrdiff_t N = laneCount<uint8_t>;
+  const auto fourth = hn::Set(Lanes<int16_t>(), op.after.value);
+  const auto kernel = [&](const uint8_t* in, uint8_t* out) VEMI_INLINED {
+    const Lanes<uint8_t> d;
+    const Lanes<uint16_t> dPairs;
+    unrolled<2>([&](auto k) VEMI_INLINED {
+      const auto words = rgbOfPairs<cbycrToRgb>(d, hn::LoadU(d, in + k * N));
+      const auto blueAndRed = packHalves(d, words.v[2], words.v[0]), greenAndFourth = packHalves(d, words.v[1], fourth);
+      const auto lower = hn::BitCast(dPairs, hn::InterleaveLower(d, blueAndRed, greenAndFourth));
+      const auto upper = hn::BitCast(dPairs, hn::InterleaveUpper(d, blueAndRed, greenAndFourth));
+      storeBlocksByTurns(d, hn::BitCast(d, hn::InterleaveLower(dPairs, lower, upper)),
+                         hn::BitCast(d, hn::InterleaveUpper(dPairs, lower, upper)), out + 2 * k * N);
+    });
+  };
+  forBlocks<N / 2>(width / 2, kernel, Strand<const uint8_t, 4>{src.first}, Strand<uint8_t, 8>{dst.first});
+}
 
 VemiStatus pairsToRgb(Image<const Vemi8u> src, Image<Vemi8u> dst, VemiSize roiSize) {
   if (const VemiStatus bad = checkImages(src, dst, roiSize)) return bad;
@@ -123,7 +185,7 @@ VemiStatus pairsToRgb(Image<const Vemi8u> src, Image<Vemi8u> dst, VemiSize roiSi
 
 VemiStatus pairsToBgra(Image<const Vemi8u> src, Image<Vemi8u> dst, VemiSize roiSize, Vemi8u alpha) {
   if (const VemiStatus bad = checkImages(src, dst, roiSize)) return bad;
-  const Then<Inverse, ReversedWithFourth> op = {{}, {alpha}};
+  const InverseToBgra op = {{}, {alpha}};
   const auto pixels = pixelsOf<C4>(dst);
   expandPacked<order>(extent422<2>(roiSize, src, pixels), ColumnOps{op, op, op}, pixels, src);
   return vemiOk;
