@@ -4,6 +4,7 @@
 #include <omp.h>
 
 #include <algorithm>
+#include <climits>
 #include <cmath>
 #include <vector>
 
@@ -154,12 +155,18 @@ TEST(Match, SpecialImages) {
   for (const float each : matchOf(vemiSqrDistanceValid_Norm_32f_C1R, flat, size, zeros, tplSize)) {
     EXPECT_NEAR(each, std::sqrt(energy) / 0.0005, 1);
   }
+  // The template's own norm enters the numerator, not the one that is at least 1.
+  const std::vector<Vemi8u> ones(2000, 1), noTemplate(63);
+  for (const float each : matchOf(vemiSqrDistanceValid_Norm_8u32f_C1R, ones, size, noTemplate, tplSize)) {
+    EXPECT_NEAR(each, std::sqrt(63.0), 1e-4);
+  }
   Vemi8u byte = 0;  // 1 is 256, and 2^-126 underflows in the root
   const std::vector<Vemi8u> bytes(2000, 9);
   const auto matchScaled = [&](int scaleFactor) {
     return vemiCrossCorrValid_Norm_8u_C1RSfs(bytes.data(), 50, size, bytes.data(), 50, size, &byte, 1, scaleFactor);
   };
-  for (const auto& [scaleFactor, expected] : {std::pair{-8, 255}, {-7, 128}, {0, 1}, {1, 0}, {-127, 255}, {127, 0}}) {
+  for (const auto& [scaleFactor, expected] :
+       {std::pair{-8, 255}, {-7, 128}, {0, 1}, {1, 0}, {-127, 255}, {127, 0}, {128, 1}, {-135, 128}, {INT_MIN, 1}}) {
     EXPECT_EQ(matchScaled(scaleFactor), vemiOk);
     EXPECT_EQ(byte, expected) << scaleFactor;
   }

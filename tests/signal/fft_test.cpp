@@ -101,6 +101,13 @@ TEST(FFTLine, Records) {
   int bytes = 0;
   EXPECT_EQ(sigFFTGetBufSize_R_32f(real.get(), &bytes), vemiOk);
   EXPECT_EQ(bytes, 32 * 1024 + 8208);
+  constexpr int tileOrders[] = {5, 6, 7, 8, 8, 8, 10, 10, 10, 10, 8, 8, 10, 10, 10, 10, 10, 10};  // from 2^13 on
+  for (int order = 13; order <= 30; ++order) {
+    EXPECT_EQ(workBytesOfComplexFFT(order), 32 * (1 << tileOrders[order - 13]) + 8208) << order;
+  }
+  EXPECT_EQ(workBytesOfComplexFFT(3), 0);
+  EXPECT_EQ(workBytesOfComplexFFT(10), 8 * 1024 + 16);
+  EXPECT_EQ(workBytesOfComplexFFT(11), 8208);
   real->tag = 4;
   EXPECT_EQ(sigFFTGetBufSize_R_32f(real.get(), &bytes), vemiErrContext);
   float x = 0;

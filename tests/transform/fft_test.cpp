@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <climits>
 #include <cmath>
+#include <cstring>
 #include <memory>
 #include <vector>
 
@@ -154,6 +155,30 @@ TEST(FFT, WhatIsExact) {
   const float line[] = {5, 7, 11, 2};
   ASSERT_EQ(vemiFFTFwd_RToPack_32f_C1R(line, 16, packed, 16, realSpec(2, 0, 8).get(), nullptr), vemiOk);
   EXPECT_EQ(std::vector<float>(packed, packed + 4), (std::vector<float>{25, -6, -5, 7}));
+}
+
+/// The sixth word of a record between integers: where it is not 0, nothing is transformed. Bad arguments stay so.
+template <class Spec>
+void expectReservedWord(Spec* spec,
+                        VemiStatus (*transform)(const Vemi8u*, int, Vemi32s*, int, const Spec*, int, Vemi8u*)) {
+  const Vemi8u source[4] = {1, 2, 3, 5};
+  Vemi32s result[4] = {-1, -1, -1, -1};
+  const Vemi32s one = 1;
+  std::memcpy(reinterpret_cast<char*>(spec) + 5 * sizeof one, &one, sizeof one);
+  EXPECT_EQ(transform(source, 2, result, 0, spec, 0, nullptr), vemiErrStep);
+  EXPECT_EQ(transform(source, 2, result, 8, spec, 0, nullptr), vemiOk);
+  EXPECT_EQ(std::count(result, result + 4, -1), 4);
+}
+
+TEST(FFT, ReservedWord) {
+  VemiFFTSpec_R_32s* ofPowers = nullptr;
+  ASSERT_EQ(vemiFFTInitAlloc_R_32s(&ofPowers, 1, 1, vemiFftScaleNone, 0), vemiOk);
+  expectReservedWord<VemiFFTSpec_R_32s>(ofPowers, vemiFFTFwd_RToPack_8u32s_C1RSfs);
+  EXPECT_EQ(vemiFFTFree_R_32s(ofPowers), vemiOk);
+  VemiDFTSpec_R_32s* ofAnySize = nullptr;
+  ASSERT_EQ(vemiDFTInitAlloc_R_32s(&ofAnySize, {2, 2}, vemiFftScaleNone, 0), vemiOk);
+  expectReservedWord<VemiDFTSpec_R_32s>(ofAnySize, vemiDFTFwd_RToPack_8u32s_C1RSfs);
+  EXPECT_EQ(vemiDFTFree_R_32s(ofAnySize), vemiOk);
 }
 
 TEST(FFT, BufferSizesAreTheStatedOnes) {
