@@ -4,6 +4,7 @@
 #include <cstdint>
 
 #include "core/lanes.h"
+#include "core/processor.h"
 #include "signal/polynomial.h"
 
 namespace vemi::signal {
@@ -11,7 +12,7 @@ namespace vemi::signal {
 namespace detail {
 
 /// The polynomial, in z = t^2, of (atan t - t) / t^3 for t up to 1/2, which is exact at the nodes of Chebyshev; angles
-/// in two parts; the bits of the exponent.
+/// in two parts; the bits of the exponent; from where on, and up to its inverse, numbers need no scale.
 template <class T>
 struct ArcTangentNumbers;
 
@@ -22,6 +23,7 @@ struct ArcTangentNumbers<float> {
   static constexpr float quarter = 0x1.921fb6p+0f, quarterRest = -0x1.777a5cp-25f;
   static constexpr float ofHalf = 0x1.dac67p-2f, ofHalfRest = 0x1.586ed4p-28f;
   static constexpr uint32_t exponent = 0x7f800000, lowestOfExponent = 0x00800000;
+  static constexpr float least = 0x1p-50f;
 };
 
 template <>
@@ -33,6 +35,7 @@ struct ArcTangentNumbers<double> {
   static constexpr double quarter = 0x1.921fb54442d18p+0, quarterRest = 0x1.1a62633145c07p-54;
   static constexpr double ofHalf = 0x1.dac670561bb4fp-2, ofHalfRest = 0x1.a2b7f222f65e2p-56;
   static constexpr uint64_t exponent = 0x7ff0000000000000, lowestOfExponent = 0x0010000000000000;
+  static constexpr double least = 0x1p-400;
 };
 
 }  // namespace detail
@@ -48,30 +51,26 @@ struct ArcTangent {
   HWY_INLINE V operator()(D d, V y, V x) const {
     using T = hn::TFromD<D>;
     using Numbers = detail::ArcTangentNumbers<T>;
-    const V zero = hn::Zero(d), one = hn::Set(d, 1), signBit = hn::SignBit(d);
+    const V one = hn::Set(d, 1), signBit = hn::SignBit(d);
     const V magnitudeX = hn::Abs(x), magnitudeY = hn::Abs(y);
     const auto isSteep = hn::Gt(magnitudeY, magnitudeX), isLeft = isNegative(d, x);
-    const V lesser = hn::IfThenElse(isSteep, magnitudeX, magnitudeY);
-    const V greater = hn::IfThenElse(isSteep, magnitudeY, magnitudeX);
-    // Equal ones may be zeros or infinities. The others are scaled so that nothing leaves the range.
-    const auto areEqual = hn::Eq(lesser, greater);
-    const V scale = reciprocalPower(d, greater);
-    const V a = hn::IfThenElse(areEqual, hn::IfThenElseZero(hn::Gt(lesser, zero), one), hn::Mul(lesser, scale));
-    const V b = hn::IfThenElse(areEqual, one, hn::Mul(greater, scale));
+    // A NaN is one of the two.
+    V a = vemi::lesser(magnitudeX, magnitudeY), b = vemi::greater(magnitudeY, magnitudeX);
+    const auto isPlain = hn::And(
+        hn::Lt(a, b), hn::And(hn::Ge(a, hn::Set(d, Numbers::least)), hn::Lt(b, hn::Set(d, 1 / Numbers::least))));
+    if (HWY_UNLIKELY(!hn::AllTrue(d, isPlain))) scaleOrdered(d, a, b);
     const V rest = hn::Sub(b, a);
     const auto isLarge = hn::Ge(a, rest);
-    const V above = hn::IfThenElse(isLarge, hn::Sub(a, rest), a);
-    const V below = hn::IfThenElse(isLarge, hn::Add(hn::Add(b, b), a), b);
+    const V above = hn::Sub(a, hn::IfThenElseZero(isLarge, rest));
+    const V below = hn::Add(hn::Add(b, hn::IfThenElseZero(isLarge, b)), hn::IfThenElseZero(isLarge, a));
     const V t = hn::Div(above, below), z = hn::Mul(t, t);
     const V series = hn::Mul(hn::Mul(t, z), polynomial(d, z, Numbers::series));
 
     // Steep: a quarter less the angle, or plus it to the left; else the angle, or a half turn less it to the left.
     const V sign = hn::And(hn::Xor(x, hn::IfThenElseZero(isSteep, signBit)), signBit);
     const auto turned = [&](V v) HWY_ATTR { return hn::Xor(v, sign); };
-    const auto quartersOf = [&](T quarter) HWY_ATTR {
-      const V v = hn::Set(d, quarter);
-      return hn::IfThenElse(isSteep, v, hn::IfThenElseZero(isLeft, hn::Add(v, v)));
-    };
+    const V count = hn::IfThenElse(isSteep, one, hn::IfThenElseZero(isLeft, hn::Set(d, 2)));
+    const auto quartersOf = [&](T quarter) HWY_ATTR { return hn::Mul(count, hn::Set(d, quarter)); };
     const auto atHalf = [&](T angle) HWY_ATTR { return turned(hn::IfThenElseZero(isLarge, hn::Set(d, angle))); };
     const V quarters = quartersOf(Numbers::quarter), ofHalf = atHalf(Numbers::ofHalf);
     // What sums lose is exact, since each adds to 0 or to the greater.
@@ -88,6 +87,15 @@ struct ArcTangent {
   HWY_INLINE static auto isNegative(D d, V v) {
     const hn::RebindToSigned<D> di;
     return hn::RebindMask(d, hn::Lt(hn::BitCast(di, v), hn::Zero(di)));
+  }
+
+  /// Equal ones may be zeros or infinities. The others are scaled so that nothing leaves the range.
+  template <class D, class V>
+  HWY_INLINE static void scaleOrdered(D d, V& a, V& b) {
+    const V zero = hn::Zero(d), one = hn::Set(d, 1), scale = reciprocalPower(d, b);
+    const auto areEqual = hn::Eq(a, b);
+    a = hn::IfThenElse(areEqual, hn::IfThenElseZero(hn::Gt(a, zero), one), hn::Mul(a, scale));
+    b = hn::IfThenElse(areEqual, one, hn::Mul(b, scale));
   }
 
   /// A power of two that brings v, from 0 on, near 1.

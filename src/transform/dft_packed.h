@@ -1,6 +1,9 @@
 // What both directions of the real transforms of any size share: lines of eight pairs of rows, a channel at a time.
 #pragma once
 
+#include <cstdint>
+#include <cstring>
+
 #include "transform/dft_spec.h"
 #include "transform/packed.h"
 
@@ -11,6 +14,14 @@ struct LanePlace {
   float* at;
   bool isNegative;
 };
+
+/// From any address to any other.
+HWY_INLINE void moveElement(const float* from, float* to, bool asNegative) {
+  uint32_t bits;
+  std::memcpy(&bits, from, sizeof bits);
+  bits ^= asNegative ? uint32_t{1} << 31 : 0;
+  std::memcpy(to, &bits, sizeof bits);
+}
 
 /// Eight rows of pixels with `elements` elements, of which the first is meant: placeOf(x, lane) is the place of the
 /// pixels x of rows from `lane` on.
@@ -24,10 +35,10 @@ HWY_INLINE void loadChannel(const EightRows<T>& rows, ptrdiff_t width, const Pla
     });
   } else {
     for (ptrdiff_t x = 0; x < width; ++x) {
-      for (ptrdiff_t lane = 0; lane < 8; ++lane) {
-        const LanePlace place = placeOf(x, lane);
-        const float value = elementOf(rows.row[lane] + x * elements);
-        *place.at = place.isNegative ? -value : value;
+      for (ptrdiff_t first = 0; first < 8; first += columnLanes) {
+        const LanePlace place = placeOf(x, first);
+        unrolled<columnLanes>(
+            [&](auto i) { moveElement(rows.row[first + i] + x * elements, place.at + i, place.isNegative); });
       }
     }
   }
@@ -44,9 +55,10 @@ HWY_INLINE void storeChannel(const EightRows<float>& rows, ptrdiff_t width, cons
     });
   } else {
     for (ptrdiff_t x = 0; x < width; ++x) {
-      for (ptrdiff_t lane = 0; lane < 8; ++lane) {
-        const LanePlace place = placeOf(x, lane);
-        setElement(rows.row[lane] + x * elements, place.isNegative ? -*place.at : *place.at);
+      for (ptrdiff_t first = 0; first < 8; first += columnLanes) {
+        const LanePlace place = placeOf(x, first);
+        unrolled<columnLanes>(
+            [&](auto i) { moveElement(place.at + i, rows.row[first + i] + x * elements, place.isNegative); });
       }
     }
   }

@@ -26,6 +26,8 @@ namespace {
 // ---- Complex numbers to one -----------------------------------------------------------------------------------------
 
 struct Magnitude {
+  static constexpr Stores stores = Stores::streamed;
+
   template <class D, class V>
   HWY_INLINE V operator()(D, V re, V im) const {
     return hn::Sqrt(hn::Add(hn::Mul(re, re), hn::Mul(im, im)));
@@ -33,6 +35,8 @@ struct Magnitude {
 };
 
 struct Phase {
+  static constexpr Stores stores = Stores::cached;
+
   template <class D, class V>
   HWY_INLINE V operator()(D d, V re, V im) const {
     return signal::ArcTangent()(d, im, re);
@@ -87,8 +91,8 @@ template <int channels, class Op>
 VemiStatus ofFloats(Image<const Vemi32fc> src, Image<Vemi32f> dst, VemiSize size) {
   if (const VemiStatus bad = firstOf(checkNull(src, dst), checkSize(size), checkStep(src, dst))) return bad;
   const Image<const float> parts = {reinterpret_cast<const float*>(src.first), src.step};
-  mapPixelRows(CallerRows(), {ptrdiff_t{size.width} * channels, size.height}, Op(), pixelsOf<C1>(dst),
-               pixelsOf<C2>(parts));
+  mapPixelRows<Op::stores>(CallerRows(), {ptrdiff_t{size.width} * channels, size.height}, Op(), pixelsOf<C1>(dst),
+                           pixelsOf<C2>(parts));
   return vemiOk;
 }
 
