@@ -15,7 +15,9 @@
 // Checks: null, size, step, mask size.
 #pragma once
 
+#include <algorithm>
 #include <array>
+#include <type_traits>
 #include <utility>
 
 #include "core/checks.h"

@@ -7,7 +7,6 @@
 // in question is the number of sums that do not reach the rank.
 
 #include <algorithm>
-#include <array>
 
 #include "core/lanes.h"
 #include "core/parallel.h"

@@ -5,7 +5,6 @@
 #include <algorithm>
 #include <cstring>
 
-#include "core/parallel.h"
 #include "core/scratch.h"
 #include "filter/median_counts.h"
 

@@ -6,6 +6,7 @@
 #include <cmath>
 #include <vector>
 
+#include "filter/caller_modes.h"
 #include "support/check.h"
 #include "vemi/filter.h"
 
@@ -115,6 +116,8 @@ void mean(Call& call) {
 }  // namespace
 
 TEST(Box, EveryMember) { expectDefinition(membersOf("vemiFilterBox"), mean); }
+
+TEST(Box, IntegersInEveryRoundingMode) { expectToNearestInEveryMode(membersOf("vemiFilterBox", "(8u|16s)_.*"), mean); }
 
 // Just below and above the masks at which bytes go over to floats: two thirds are rounded to nearest or dropped.
 TEST(Box, BytesAreTruncatedAbove8100Taps) {

@@ -7,6 +7,7 @@
 #include <cstdint>
 #include <vector>
 
+#include "filter/caller_modes.h"
 #include "support/check.h"
 #include "vemi/filter.h"
 
@@ -108,6 +109,13 @@ TEST(Linear, EveryMember) {
 TEST(Linear, FloatTapsOnIntegers) {
   for (const char* const operation : {"vemiFilter32f", "vemiFilterRow32f", "vemiFilterColumn32f"}) {
     expectDefinition(membersOf(operation), convolution);
+  }
+}
+
+TEST(Linear, IntegersInEveryRoundingMode) {
+  for (const char* const operation : {"vemiFilter", "vemiFilterRow", "vemiFilterColumn", "vemiFilter32f",
+                                      "vemiFilterRow32f", "vemiFilterColumn32f"}) {
+    expectToNearestInEveryMode(membersOf(operation, "(8u|16s)_.*"), convolution);
   }
 }
 

@@ -7,6 +7,7 @@
 #include <cmath>
 #include <vector>
 
+#include "filter/caller_modes.h"
 #include "support/check.h"
 #include "vemi/filter.h"
 
@@ -82,6 +83,10 @@ void wiener(Call& call) {
 }  // namespace
 
 TEST(Wiener, EveryMember) { expectDefinition(membersOf("vemiFilterWiener"), wiener); }
+
+TEST(Wiener, IntegersInEveryRoundingMode) {
+  expectToNearestInEveryMode(membersOf("vemiFilterWiener", "(8u|16s)_.*"), wiener);
+}
 
 TEST(Wiener, BufferSizes) {
   const int threads = omp_get_max_threads();
