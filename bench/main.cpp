@@ -15,6 +15,7 @@
 #include "image.h"
 #include "peers.h"
 #include "race.h"
+#include "transform_errors.h"
 
 namespace bench {
 namespace {
@@ -37,9 +38,11 @@ constexpr FamilyTable families[] = {
 
 constexpr const char* usage =
     "usage: vemi_bench [--quick] [--size WIDTHxHEIGHT]... [WORD]...\n"
+    "       vemi_bench --errors\n"
     "  Runs the rows whose family, name or peer contains all of the WORDs; without one, all rows.\n"
     "  --size   an image size; default 64x64, 320x240, 1920x1080 and 4096x4096\n"
-    "  --quick  one round instead of three: rougher figures in a third of the time\n";
+    "  --quick  one round instead of three: rougher figures in a third of the time\n"
+    "  --errors the errors of transforms beside those of FFTW's, instead of any times\n";
 
 struct Options {
   std::vector<VemiSize> sizes;
@@ -203,6 +206,10 @@ int run(const Options& options) {
 }  // namespace bench
 
 int main(int count, char** arguments) {
+  if (count == 2 && std::string(arguments[1]) == "--errors") {
+    bench::printTransformErrors();
+    return EXIT_SUCCESS;
+  }
   const std::optional<bench::Options> options = bench::parse(count, arguments);
   if (!options) {
     std::fputs(bench::usage, stderr);
