@@ -506,7 +506,7 @@ VEMI_API VemiStatus vemiZigzagInv8x8_16s_C1(const Vemi16s pSrc[64], Vemi16s pDst
  *     Haar                    (2, 1) (2, 1)      (2, 1) (2, 1)
  *     5/3                     (5, 2) (3, 2)      (3, 2) (5, 2)
  *     9/7                     (9, 4) (7, 4)      (7, 4) (9, 4)
- *     Daubechies of 4 taps    (4, a) (4, b)      (4, 4 - a) (4, 4 - b), a - b even
+ *     Daubechies of 4 taps    (4, a) (4, b)      (4, 4 - a) (4, 4 - b), a, b from 1 to 3, a - b even
  *
  * **Pixels read around the region.** There is no border handling (vemiCopy...Border functions make one). Let the larger
  * number of both filters count. Forward, of the source: n - 1 - a to the left of its region of 2 W by 2 H and above it,

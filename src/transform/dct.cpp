@@ -122,8 +122,8 @@ class Lines {
   ptrdiff_t distance_, octetsAtOnce_;
 };
 
-/// Eight columns of floats. The last ones of an image overlap those before them, which stay; where there are fewer than
-/// eight, or where the octet is to begin with its own channel, there are copies.
+/// Eight columns of floats. The last ones of an image overlap those before them, which stay. There are copies of fewer
+/// than eight, and of the last ones of three channels, as an overlap would shift the channels.
 struct ColumnOctet {
   ptrdiff_t x, count;
   bool keeps;
