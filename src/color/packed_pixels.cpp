@@ -49,27 +49,23 @@ struct FullRate {
   Row pixel(ptrdiff_t x) const { return row.from(x); }
 };
 
-// An image gives row(y), and how many of its rows have groups: of an odd number of rows that share chroma in pairs, the
-// last one has none.
+// An image gives row(y).
 
 template <class Image>
 struct FullRateImage {
   Image image;
   auto row(ptrdiff_t y) const { return FullRate<decltype(image.row(y))>{image.row(y)}; }
-  static ptrdiff_t rowsWithGroups(ptrdiff_t height) { return height; }
 };
 
 template <int rowsOfChroma>
 struct SharedChromaImage {
   ChromaPlanes planes;
   auto row(ptrdiff_t y) const { return chromaRow<2>(planes, y, y / rowsOfChroma); }
-  static ptrdiff_t rowsWithGroups(ptrdiff_t height) { return height / rowsOfChroma * rowsOfChroma; }
 };
 
 struct PairsImage {
   Image<const Vemi8u> image;
   auto row(ptrdiff_t y) const { return PackedChroma<Packed422::lumaFirst>{image.row(y)}; }
-  static ptrdiff_t rowsWithGroups(ptrdiff_t height) { return height; }
 };
 
 // ---- From a source to words -----------------------------------------------------------------------------------------
@@ -82,18 +78,35 @@ struct Piece {
 
 enum class Order { rgb, bgr };
 
+/// The channels of a piece from column x on.
+auto channelsFrom(Piece& piece, Order order, ptrdiff_t x) {
+  const int red = order == Order::rgb ? 0 : 2;
+  return planeRow(piece.channel[red] + x, piece.channel[1] + x, piece.channel[2 - red] + x);
+}
+
+/// Columns of a row, or of two that share chroma, to to(x) from column x on.
+template <class Groups, class Rest, class Row, class To>
+void expandColumns(ptrdiff_t first, ptrdiff_t columns, const Row& row, const To& to) {
+  forRegimes<4, Row::sharing, 1>(
+      columns, [&](ptrdiff_t x, ptrdiff_t n) { mapPixels(n, Groups(), to(x), row.groups().from(first + x)); },
+      [&](ptrdiff_t x, ptrdiff_t n) { mapPixels(n, Rest(), to(x), row.groups().from(first + x)); },
+      [&](ptrdiff_t x, ptrdiff_t n) { mapPixels(n, Rest(), to(x), row.pixel(first + x)); });
+}
+
 template <class Groups, class Rest, class Src>
 HWY_NOINLINE void expandPiece(ptrdiff_t first, ptrdiff_t columns, const Src& src, ptrdiff_t y, Order order,
                               Piece& piece) {
-  const auto row = src.row(y);
-  const int red = order == Order::rgb ? 0 : 2;
-  const auto map = [&](ptrdiff_t x, ptrdiff_t n, const auto& op, auto from) {
-    mapPixels(n, op, planeRow(piece.channel[red] + x, piece.channel[1] + x, piece.channel[2 - red] + x), from);
+  const auto to = [&](ptrdiff_t x) { return channelsFrom(piece, order, x); };
+  expandColumns<Groups, Rest>(first, columns, src.row(y), to);
+}
+
+template <class Groups, class Rest>
+HWY_NOINLINE void expandPieces(ptrdiff_t first, ptrdiff_t columns, ChromaPlanes src, ptrdiff_t y, Order order,
+                               Piece (&pieces)[2]) {
+  const auto to = [&](ptrdiff_t x) {
+    return rowsBeside(channelsFrom(pieces[0], order, x), channelsFrom(pieces[1], order, x));
   };
-  forRegimes<4, decltype(row)::sharing, 1>(
-      columns, [&](ptrdiff_t x, ptrdiff_t n) { map(x, n, Groups(), row.groups().from(first + x)); },
-      [&](ptrdiff_t x, ptrdiff_t n) { map(x, n, Rest(), row.groups().from(first + x)); },
-      [&](ptrdiff_t x, ptrdiff_t n) { map(x, n, Rest(), row.pixel(first + x)); });
+  expandColumns<OnPairedRows<Groups>, OnPairedRows<Rest>>(first, columns, pairedRows(src, y, y / 2), to);
 }
 
 using ToWords = void(ptrdiff_t columns, const Piece& piece, ptrdiff_t y, WordRow words, bool streamed);
@@ -130,20 +143,39 @@ struct Packing {
 };
 
 template <class Groups, class Rest, class Src>
-void packRows(Extent extent, Src src, Image<Vemi16u> dst, const Packing& packing) {
-  const ptrdiff_t rowsWithGroups = Src::rowsWithGroups(extent.height);
-  const auto packRow = [&](ptrdiff_t y, bool streamed) {
-    const auto expand = y < rowsWithGroups ? expandPiece<Groups, Rest, Src> : expandPiece<Rest, Rest, Src>;
-    Piece piece;
-    for (ptrdiff_t x = 0; x < extent.width; x += Piece::most) {
-      const ptrdiff_t columns = std::min(Piece::most, extent.width - x);
-      expand(x, columns, src, y, packing.order, piece);
-      packing.toWords(columns, piece, y, {dst.row(y) + x}, streamed);
-    }
+void packRow(ptrdiff_t width, const Src& src, ptrdiff_t y, Image<Vemi16u> dst, const Packing& packing, bool streamed) {
+  Piece piece;
+  for (ptrdiff_t x = 0; x < width; x += Piece::most) {
+    const ptrdiff_t columns = std::min(Piece::most, width - x);
+    expandPiece<Groups, Rest>(x, columns, src, y, packing.order, piece);
+    packing.toWords(columns, piece, y, {dst.row(y) + x}, streamed);
+  }
+}
+
+template <class Groups, class Rest, class Src>
+void packRows(Extent extent, const Src& src, Image<Vemi16u> dst, const Packing& packing) {
+  const auto rowBy = [&](bool streamed) {
+    return [&, streamed](ptrdiff_t y) { packRow<Groups, Rest>(extent.width, src, y, dst, packing, streamed); };
   };
-  runPlainOrStreamed(
-      CallerRows(), extent.height, trafficOf(extent, 5), [&](ptrdiff_t y) { packRow(y, false); },
-      [&](ptrdiff_t y) { packRow(y, true); });
+  runPlainOrStreamed(CallerRows(), extent.height, trafficOf(extent, 5), rowBy(false), rowBy(true));
+}
+
+/// 4:2:0: pairs of rows, and an odd last one, which has no whole groups.
+template <class Groups, class Rest>
+void packRows(Extent extent, const SharedChromaImage<2>& src, Image<Vemi16u> dst, const Packing& packing) {
+  const auto pairBy = [&](bool streamed) {
+    return [&, streamed](ptrdiff_t k) {
+      Piece pieces[2];
+      for (ptrdiff_t x = 0; x < extent.width; x += Piece::most) {
+        const ptrdiff_t columns = std::min(Piece::most, extent.width - x);
+        expandPieces<Groups, Rest>(x, columns, src.planes, 2 * k, packing.order, pieces);
+        packing.toWords(columns, pieces[0], 2 * k, {dst.row(2 * k) + x}, streamed);
+        packing.toWords(columns, pieces[1], 2 * k + 1, {dst.row(2 * k + 1) + x}, streamed);
+      }
+    };
+  };
+  runPlainOrStreamed(CallerRows(), extent.height / 2, trafficOf(extent, 5), pairBy(false), pairBy(true));
+  if (extent.height % 2 != 0) packRow<Rest, Rest>(extent.width, src, extent.height - 1, dst, packing, false);
 }
 
 // ---- Whole calls ----------------------------------------------------------------------------------------------------

@@ -61,17 +61,23 @@ template <class Op>
 struct OnPairedRows {
   Op op;
 
-  explicit constexpr OnPairedRows(Op of) : op(of) {}
-
   template <class D, class V, class C>
   HWY_INLINE auto operator()(D d, V y0, V y1, C u, C v) const {
     return std::tuple_cat(op(d, y0, u, v), op(d, y1, u, v));
   }
 };
 
+template <class Op>
+OnPairedRows(Op) -> OnPairedRows<Op>;
+
 template <int shared, class T>
 PlanarChroma<shared, T> chromaRow(SteppedPlanes<T, 3> planes, ptrdiff_t y, ptrdiff_t chroma) {
   return {planes[0].row(y), planes[1].row(chroma), planes[2].row(chroma)};
+}
+
+/// Of 4:2:0, from row y on.
+inline PairedRows pairedRows(SteppedPlanes<const uint8_t, 3> planes, ptrdiff_t y, ptrdiff_t chroma) {
+  return {planes[0].row(y), planes[0].row(y + 1), planes[1].row(chroma), planes[2].row(chroma)};
 }
 
 /// The operations of a row's columns, each of them op(d, Y, U, V).
@@ -131,8 +137,7 @@ void expandRowPairs(const Rows& rows, Extent extent, const Ops& ops, Dst dst, Ch
   };
   const auto pair = [&](ptrdiff_t y, ptrdiff_t chroma) {
     const ColumnOps paired = {OnPairedRows{ops.groups}, OnPairedRows{ops.rest}, OnPairedRows{ops.single}};
-    const PairedRows from = {src[0].row(y), src[0].row(y + 1), src[1].row(chroma), src[2].row(chroma)};
-    expandRow<Stores::cached>(extent.width, paired, rowsBeside(dst.row(y), dst.row(y + 1)), from);
+    expandRow<Stores::cached>(extent.width, paired, rowsBeside(dst.row(y), dst.row(y + 1)), pairedRows(src, y, chroma));
   };
   const auto streamedRows = [&](ptrdiff_t y, ptrdiff_t chroma) {
     expandRow<Stores::streamed>(extent.width, ops, dst.row(y), chromaRow<2>(src, y, chroma));

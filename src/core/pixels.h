@@ -405,7 +405,7 @@ struct PixelBlocks {
 };
 
 template <class Blocks, class Op, class... S>
-HWY_NOINLINE void mapItems(ptrdiff_t count, const Op& operation, S... strand) {
+HWY_FLATTEN HWY_NOINLINE void mapItems(ptrdiff_t count, const Op& operation, S... strand) {
   if (count < Blocks::items) {
     const auto wholeBlock = [](const void* context, typename S::Pointer... block) {
       mapItems<Blocks>(Blocks::items, *static_cast<const Op*>(context), S{block}...);
