@@ -9,6 +9,7 @@
 
 #include "geometry/warp_reference.h"
 #include "support/check.h"
+#include "support/guarded_row.h"
 
 using namespace vemi::test;
 
@@ -276,18 +277,21 @@ namespace {
 template <class T, class Function>
 void expectQuarterTurns(Function* rotate, int elements, int channels) {
   const auto n = static_cast<size_t>(elements);
-  for (const VemiSize size : {VemiSize{37, 300}, VemiSize{270, 41}, VemiSize{70, 5}}) {
-    for (const int turns : {1, 2, 3}) {
+  for (const VemiSize size : {VemiSize{37, 300}, {270, 41}, {70, 5}, {4, 33}, {6, 40}, {7, 19}}) {
+    for (const int run : {0, 1, 2, 3, 4, 5}) {
+      const int turns = 1 + run % 3;
+      const Place place = places[run / 3];
       const VemiSize to = turns == 2 ? size : VemiSize{size.height, size.width};
-      std::vector<T> src(n * static_cast<size_t>(size.width * size.height)), dst(src.size(), T(7)), expected = dst;
-      for (size_t i = 0; i < src.size(); ++i) src[i] = static_cast<T>(i * 2654435761u >> 8);
+      std::vector<T> pixels(n * static_cast<size_t>(size.width * size.height)), expected(pixels.size(), T(7));
+      for (size_t i = 0; i < pixels.size(); ++i) pixels[i] = static_cast<T>(i * 2654435761u >> 8);
+      const GuardedRow<T> src(pixels, place), dst(expected, place);
       for (int y = 0; y < to.height; ++y) {
         for (int x = 0; x < to.width; ++x) {
           const int column = turns == 1 ? size.width - 1 - y : turns == 2 ? size.width - 1 - x : y;
           const int row = turns == 1 ? x : turns == 2 ? size.height - 1 - y : size.height - 1 - x;
           for (size_t c = 0; c < static_cast<size_t>(channels); ++c) {
             expected[n * static_cast<size_t>(y * to.width + x) + c] =
-                src[n * static_cast<size_t>(row * size.width + column) + c];
+                pixels[n * static_cast<size_t>(row * size.width + column) + c];
           }
         }
       }
@@ -297,8 +301,8 @@ void expectQuarterTurns(Function* rotate, int elements, int channels) {
                        bytesIn(to.width), {0, 0, to.width, to.height}, 90 * turns + (turns == 2 ? -360 : 720),
                        turns == 1 ? 0 : to.width - 1, turns == 3 ? 0 : to.height - 1, 77),
                 vemiOk);
-      EXPECT_TRUE(dst == expected) << turns << " turns of " << size.width << " columns, " << elements << " elements of "
-                                   << sizeof(T) << " bytes";
+      EXPECT_TRUE(dst.holds(expected)) << turns << " turns of " << size.width << " columns, " << elements
+                                       << " elements of " << sizeof(T) << " bytes";
     }
   }
 }

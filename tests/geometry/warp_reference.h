@@ -47,14 +47,14 @@ inline Corners cut(const Corners& corners, const std::function<double(Spot)>& in
 }
 
 /// What rounding may do to a clipped polygon.
-inline constexpr double slack = 1e-9;
+inline constexpr double clipSlack = 1e-9;
 
 inline Corners cutTo(const Corners& corners, VemiRect roi) {
   const Corners rect = cornersOf(roi);
-  const auto first = cut(cut(corners, [&](Spot p) { return p.x - rect[0].x + slack; }),
-                         [&](Spot p) { return rect[2].x - p.x + slack; });
-  return cut(cut(first, [&](Spot p) { return p.y - rect[0].y + slack; }),
-             [&](Spot p) { return rect[2].y - p.y + slack; });
+  const auto first = cut(cut(corners, [&](Spot p) { return p.x - rect[0].x + clipSlack; }),
+                         [&](Spot p) { return rect[2].x - p.x + clipSlack; });
+  return cut(cut(first, [&](Spot p) { return p.y - rect[0].y + clipSlack; }),
+             [&](Spot p) { return rect[2].y - p.y + clipSlack; });
 }
 
 inline bool hasPixelInBox(const Corners& corners) {
@@ -63,8 +63,8 @@ inline bool hasPixelInBox(const Corners& corners) {
       std::minmax_element(corners.begin(), corners.end(), [](Spot a, Spot b) { return a.x < b.x; });
   const auto [top, bottom] =
       std::minmax_element(corners.begin(), corners.end(), [](Spot a, Spot b) { return a.y < b.y; });
-  return std::ceil(left->x - slack) <= std::floor(right->x + slack) &&
-         std::ceil(top->y - slack) <= std::floor(bottom->y + slack);
+  return std::ceil(left->x - clipSlack) <= std::floor(right->x + clipSlack) &&
+         std::ceil(top->y - clipSlack) <= std::floor(bottom->y + clipSlack);
 }
 
 /// Quadrangle, and what else pixels must lie in; where the span that begins with a pixel comes from.

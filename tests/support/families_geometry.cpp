@@ -400,6 +400,8 @@ std::vector<Family> geometryFamilies() {
     faults.push_back(fault);
     return faults;
   };
+  const std::vector<OwnFault> transformFaults = {{"quad", 0, "quad", vemiErrCoeff, crossedQuad},
+                                                 {"column", 0, "region", vemiErrRect, sourceColumn}};
   const char* const warpOrder = "null size step interpolation planes map intersection region";
   return {
       {"vemiResize vemiResizeCenter", ".*", "null srcSize step srcRoi beside dstRoiSize factor interpolation",
@@ -427,11 +429,7 @@ std::vector<Family> geometryFamilies() {
        {},
        nullptr,
        {.lateError = vemiErrQuad}},
-      {"vemiGetAffineTransform",
-       ".*",
-       "size null quad",
-       setAffineQuery,
-       {{"quad", 0, "quad", vemiErrCoeff, crossedQuad}}},
+      {"vemiGetAffineTransform", ".*", "size null quad region", setAffineQuery, transformFaults},
 
       // Perspective and bilinear warps
 
@@ -448,16 +446,8 @@ std::vector<Family> geometryFamilies() {
       {"vemiGetBilinearQuad", ".*", "size null", setBentQuery<false>},
       {"vemiGetPerspectiveBound", ".*", "size null", setBentQuery<true>, {}, nullptr, {.lateError = vemiErrQuad}},
       {"vemiGetBilinearBound", ".*", "size null", setBentQuery<false>, {}, nullptr, {.lateError = vemiErrQuad}},
-      {"vemiGetPerspectiveTransform",
-       ".*",
-       "size null quad",
-       setBentQuery<true>,
-       {{"quad", 0, "quad", vemiErrCoeff, crossedQuad}}},
-      {"vemiGetBilinearTransform",
-       ".*",
-       "size null quad",
-       setBentQuery<false>,
-       {{"quad", 0, "quad", vemiErrCoeff, crossedQuad}}},
+      {"vemiGetPerspectiveTransform", ".*", "size null quad region", setBentQuery<true>, transformFaults},
+      {"vemiGetBilinearTransform", ".*", "size null quad region", setBentQuery<false>, transformFaults},
 
       {"vemiRemap",
        ".*",
