@@ -7,7 +7,6 @@
 #include "core/lane_width.h"
 #include "core/numbers.h"
 #include "geometry/fetch_kernels.h"
-#include "geometry/three_bytes.h"
 
 namespace vemi::geometry {
 namespace {
@@ -85,19 +84,6 @@ struct LinearC1 {
     return pixelValue(productSum(pairOf(inRow(0), inRow(1)), row.weights));
   }
 };
-
-template <class L>
-HWY_INLINE void storePixels(hn::Vec<DBytes> pixels, Vemi8u* out) {
-  const DBytes d;
-  if constexpr (L::elements == 3) {
-    storeWithoutFourth(pixels, out);
-  } else if constexpr (L::keepsAlpha) {
-    const auto colours = hn::BitCast(d, hn::Set(DIntegers(), 0xffffff));
-    hn::StoreU(hn::IfVecThenElse(colours, pixels, hn::LoadU(d, out)), d, out);
-  } else {
-    hn::StoreU(pixels, d, out);
-  }
-}
 
 /// Three or four channels: both columns of a row are a long word, and lanes of 16 bits are the channels of a pixel. The
 /// formula is h = 64 p0 + (w (p1 - p0) >> 8) in a row and h0 + (w (h1 - h0) >> 14) + 32 >> 6 between rows, as what the

@@ -7,11 +7,14 @@
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
+#include <type_traits>
 
 #include "core/blocks.h"
+#include "core/lane_width.h"
 #include "core/layout.h"
 #include "core/processor.h"
 #include "geometry/fetch.h"
+#include "geometry/three_bytes.h"
 
 namespace vemi::geometry {
 
@@ -34,6 +37,109 @@ HWY_INLINE Integers insideOf(const FetchLimits& limits, const float* x, const fl
       hn::And(within(hn::LoadU(d, x), limits.left, limits.right), within(hn::LoadU(d, y), limits.top, limits.bottom));
   return hn::VecFromMask(DIntegers(), hn::RebindMask(DIntegers(), both));
 }
+
+// ---- Places -----------------------------------------------------------------------------------------------------
+
+/// The nearest coordinate of the image; a NaN becomes one too.
+HWY_INLINE Floats limited(Floats v, float last) {
+  const DFloats d;
+  return greater(lesser(v, hn::Set(d, last)), hn::Zero(d));
+}
+
+/// A column or row, and how far behind it the coordinate lies.
+struct Tap {
+  Integers first;
+  Floats rest;
+};
+
+/// The first of two; the last one of the image is a whole pixel behind the last but one. What is subtracted are floats
+/// without fractions, so that widths that no float holds do no harm.
+HWY_INLINE Tap firstOfTwo(const float* at, float last, int pixels) {
+  const DFloats d;
+  const DIntegers di;
+  const auto v = limited(hn::LoadU(d, at), last);
+  const auto whole = truncated(di, v);
+  const auto isLast = hn::Gt(whole, hn::Set(di, pixels - 2));
+  const auto rest = hn::Sub(v, hn::ConvertTo(d, whole));
+  return {hn::Add(whole, hn::VecFromMask(di, isLast)),
+          hn::IfThenElse(hn::RebindMask(d, isLast), hn::Set(d, 1.0f), rest)};
+}
+
+/// The first of four.
+HWY_INLINE Tap firstOfFour(const float* at, float last, int pixels) {
+  const DFloats d;
+  const DIntegers di;
+  const auto v = limited(hn::LoadU(d, at), last);
+  const auto whole = truncated(di, v);
+  const auto before = hn::Sub(whole, hn::Set(di, 1));
+  const auto first = hn::Max(hn::Min(before, hn::Set(di, pixels - 4)), hn::Zero(di));
+  const auto fraction = hn::Sub(v, hn::ConvertTo(d, whole));
+  return {first, hn::Add(fraction, hn::ConvertTo(d, hn::Sub(whole, first)))};
+}
+
+// ---- The nearest pixel --------------------------------------------------------------------------------------------
+
+/// The column and row of the nearest pixel.
+struct NearestPlace {
+  Integers column, row;
+
+  HWY_INLINE static NearestPlace of(const FetchSource& source, const float* x, const float* y) {
+    const DFloats d;
+    const DIntegers di;
+    return {rounded(di, limited(hn::LoadU(d, x), source.image.right)),
+            rounded(di, limited(hn::LoadU(d, y), source.image.bottom))};
+  }
+};
+
+template <class T, class L>
+struct Nearest {
+  static constexpr ptrdiff_t items = placeCount;
+  FetchSource source;
+
+  HWY_INLINE void operator()(T* out, const float* x, const float* y) const {
+    const DIntegers di;
+    alignas(laneAlignment) int32_t column[items], row[items];
+    const NearestPlace place = NearestPlace::of(source, x, y);
+    hn::Store(place.column, di, column);
+    hn::Store(place.row, di, row);
+    for (ptrdiff_t i = 0; i < items; ++i) {
+      const char* const pixel = source.pixels.at(column[i] * pixelBytes<T, L>, row[i]);
+      std::memcpy(out + i * L::elements, pixel, L::channels * sizeof(T));
+    }
+  }
+};
+
+/// Pixels of up to four bytes, each of which is a word.
+template <class T, class L>
+struct NearestWords {
+  static constexpr int size = static_cast<int>(pixelBytes<T, L>);
+  static constexpr bool isNarrow = L::elements == 1 && size < 4;
+  static constexpr ptrdiff_t items = isNarrow ? laneCount<T> : placeCount;
+  FetchSource source;
+
+  HWY_INLINE void operator()(T* out, const float* x, const float* y) const {
+    const Lanes<T> d;
+    const DIntegers di;
+    const auto wordsAt = [&](ptrdiff_t k) HWY_ATTR {
+      const NearestPlace place = NearestPlace::of(source, x + k, y + k);
+      return source.pixels.words<size>(hn::Mul(place.column, hn::Set(di, size)), place.row).v[0];
+    };
+    if constexpr (isNarrow) {
+      constexpr int32_t bits = (1 << 8 * size) - 1;
+      const auto element = [&](auto k) HWY_ATTR { return hn::And(wordsAt(k * placeCount), hn::Set(di, bits)); };
+      hn::StoreU(packEach<int32_t>(d, element), d, out);
+    } else if constexpr (L::elements == 1) {
+      hn::StoreU(hn::BitCast(d, wordsAt(0)), d, out);
+    } else {
+      storePixels<L>(hn::BitCast(d, wordsAt(0)), out);
+    }
+  }
+};
+
+template <class T, class L>
+using NearestOf = std::conditional_t<pixelBytes<T, L> <= 4, NearestWords<T, L>, Nearest<T, L>>;
+
+// ---- Rows ---------------------------------------------------------------------------------------------------------
 
 /// A block of which parts may lie outside.
 template <class T, class L, class Kernel>
@@ -83,73 +189,12 @@ void fetchByKernel(const FetchSource& source, ptrdiff_t count, const float* x, c
   }
 }
 
-// ---- Places -----------------------------------------------------------------------------------------------------
-
-/// The nearest coordinate of the image; a NaN becomes one too.
-HWY_INLINE Floats limited(Floats v, float last) {
-  const DFloats d;
-  return greater(lesser(v, hn::Set(d, last)), hn::Zero(d));
-}
-
-/// A column or row, and how far behind it the coordinate lies.
-struct Tap {
-  Integers first;
-  Floats rest;
-};
-
-/// The first of two; the last one of the image is a whole pixel behind the last but one. What is subtracted are floats
-/// without fractions, so that widths that no float holds do no harm.
-HWY_INLINE Tap firstOfTwo(const float* at, float last, int pixels) {
-  const DFloats d;
-  const DIntegers di;
-  const auto v = limited(hn::LoadU(d, at), last);
-  const auto whole = truncated(di, v);
-  const auto isLast = hn::Gt(whole, hn::Set(di, pixels - 2));
-  const auto rest = hn::Sub(v, hn::ConvertTo(d, whole));
-  return {hn::Add(whole, hn::VecFromMask(di, isLast)),
-          hn::IfThenElse(hn::RebindMask(d, isLast), hn::Set(d, 1.0f), rest)};
-}
-
-/// The first of four.
-HWY_INLINE Tap firstOfFour(const float* at, float last, int pixels) {
-  const DFloats d;
-  const DIntegers di;
-  const auto v = limited(hn::LoadU(d, at), last);
-  const auto whole = truncated(di, v);
-  const auto before = hn::Sub(whole, hn::Set(di, 1));
-  const auto first = hn::Max(hn::Min(before, hn::Set(di, pixels - 4)), hn::Zero(di));
-  const auto fraction = hn::Sub(v, hn::ConvertTo(d, whole));
-  return {first, hn::Add(fraction, hn::ConvertTo(d, hn::Sub(whole, first)))};
-}
-
-// ---- The nearest pixel --------------------------------------------------------------------------------------------
-
-template <class T, class L>
-struct Nearest {
-  static constexpr ptrdiff_t items = placeCount;
-  FetchSource source;
-
-  HWY_INLINE void operator()(T* out, const float* x, const float* y) const {
-    const DFloats d;
-    const DIntegers di;
-    alignas(laneAlignment) int32_t column[items], row[items];
-    hn::Store(rounded(di, limited(hn::LoadU(d, x), source.image.right)), di, column);
-    hn::Store(rounded(di, limited(hn::LoadU(d, y), source.image.bottom)), di, row);
-    for (ptrdiff_t i = 0; i < items; ++i) {
-      const char* const pixel = source.pixels.at(column[i] * pixelBytes<T, L>, row[i]);
-      std::memcpy(out + i * L::elements, pixel, L::channels * sizeof(T));
-    }
-  }
-};
-
-// ---- Rows ---------------------------------------------------------------------------------------------------------
-
 /// Linear and Cubic are the kernels of these pixels.
 template <class T, class L, class Linear, class Cubic>
 FetchRow<T> fetchRowOf(int interpolation) {
   switch (interpolation) {
     case vemiInterNearest:
-      return fetchByKernel<T, L, Nearest<T, L>>;
+      return fetchByKernel<T, L, NearestOf<T, L>>;
     case vemiInterLinear:
       return fetchByKernel<T, L, Linear>;
     default:

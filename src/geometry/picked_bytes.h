@@ -94,14 +94,8 @@ class PickedBytes {
     const Lanes<uint8_t> d;
     const auto place = hn::LoadU(d, place_ + 16 * block);
     const int32_t* const base = base_ + windows * block;
-    const auto part = [&](auto w) HWY_ATTR {
-      const auto bytes = detail::blocksFrom(d, [&](ptrdiff_t b) HWY_ATTR { return row + base[windows * b + w]; });
-      if constexpr (windows == 1) return hn::TableLookupBytesOr0(bytes, place);
-      const auto outside = hn::LoadDup128(d, detail::outsideOfPart<windows>.index[w]);
-      return hn::TableLookupBytesOr0(bytes, hn::Or(place, outside));
-    };
-    auto all = part(std::integral_constant<int, 0>());
-    unrolled<windows - 1>([&](auto w) HWY_ATTR { all = hn::Or(all, part(std::integral_constant<int, w + 1>())); });
+    auto all = part<windows, 0>(row, base, place);
+    unrolled<windows - 1>([&](auto w) HWY_ATTR { all = hn::Or(all, part<windows, w + 1>(row, base, place)); });
     return all;
   }
 
@@ -133,6 +127,17 @@ class PickedBytes {
   int windows_ = 1;
   int32_t* base_;   // of each window of each block
   uint8_t* place_;  // in its window, of each byte
+
+  /// What window w of each block gives. A function, as all of these must be inlined.
+  template <int windows, int w>
+  HWY_INLINE static hn::Vec<Lanes<uint8_t>> part(const uint8_t* row, const int32_t* base,
+                                                 hn::Vec<Lanes<uint8_t>> place) {
+    const Lanes<uint8_t> d;
+    const auto bytes = detail::blocksFrom(d, [&](ptrdiff_t b) HWY_ATTR { return row + base[windows * b + w]; });
+    if constexpr (windows == 1) return hn::TableLookupBytesOr0(bytes, place);
+    const auto outside = hn::LoadDup128(d, detail::outsideOfPart<windows>.index[w]);
+    return hn::TableLookupBytesOr0(bytes, hn::Or(place, outside));
+  }
 };
 
 }  // namespace vemi::geometry

@@ -269,19 +269,17 @@ template <class L, class T, class At>
 HWY_INLINE void storeVectors(ptrdiff_t elements, T* dst, const At& at) {
   const Lanes<T> d;
   constexpr ptrdiff_t N = laneCount<T>;
-  const auto store = [&](ptrdiff_t i, T* out) HWY_ATTR {
+  alignas(laneAlignment) T rest[N] = {};
+  for (ptrdiff_t i = 0; i < elements; i += N) {  // one place where `at` is called, as it is to be inlined
+    const bool isWhole = i + N <= elements;
+    const size_t bytes = isWhole ? 0 : static_cast<size_t>(elements - i) * sizeof(T);
+    T* const out = isWhole ? dst + i : rest;
+    if (!isWhole) std::memcpy(rest, dst + i, bytes);
     auto v = at(d, i);
     if constexpr (L::keepsAlpha) v = hn::IfThenElse(colourLanes(d), v, hn::LoadU(d, out));
     hn::StoreU(v, d, out);
-  };
-  ptrdiff_t i = 0;
-  for (; i + N <= elements; i += N) store(i, dst + i);
-  if (i == elements) return;
-  alignas(laneAlignment) T rest[N] = {};
-  const size_t bytes = static_cast<size_t>(elements - i) * sizeof(T);
-  std::memcpy(rest, dst + i, bytes);
-  store(i, rest);
-  std::memcpy(dst + i, rest, bytes);
+    if (!isWhole) std::memcpy(dst + i, rest, bytes);
+  }
 }
 
 // ---- Linear interpolation of bytes ---------------------------------------------------------------------------------
@@ -571,20 +569,36 @@ class NearestAcross {
   };
 
   NearestAcross(const Scratch& scratch, const Room& room, const Axis& x, int firstColumn)
-      : elements_(ptrdiff_t{x.count} * L::elements), picks_(scratch, room.picks) {
-    int32_t* const offset = scratch[room.offset];
+      : elements_(ptrdiff_t{x.count} * L::elements), picks_(scratch, room.picks), offset_(scratch[room.offset]) {
+    int32_t* const offset = offset_;
     forNodes(x, nearestNode,
              [&](int column, const Node& node) { setOffsets<T, L>(offset, column, node.first - firstColumn); });
-    picks_.make(offset, elements_, BytePattern::ofSamples(sizeof(T), 1, sizeof(T), 0));
+    if constexpr (!byPixels) picks_.make(offset, elements_, BytePattern::ofSamples(sizeof(T), 1, sizeof(T), 0));
   }
 
   void operator()(const uint8_t* line, T* dst) const {
+    if constexpr (byPixels) return copyPixels(line, dst);
     picks_.template withWindows<16 / sizeof(T)>([&](auto windows) { run<windows>(line, dst); });
   }
 
  private:
+  /// Pixels that take most of a block: blocks are copied, each over the end of the one before.
+  static constexpr bool byPixels = pixelBytes<T, L> == 12;
+
   ptrdiff_t elements_;
   PickedBytes picks_;
+  int32_t* offset_;
+
+  HWY_NOINLINE void copyPixels(const uint8_t* line, T* dst) const {
+    const hn::FixedTag<uint8_t, 16> d;
+    const int32_t* const offset = offset_;
+    auto* const out = reinterpret_cast<uint8_t*>(dst);
+    const ptrdiff_t last = elements_ - L::elements;
+    for (ptrdiff_t i = 0; i < last; i += L::elements) {
+      hn::StoreU(hn::LoadU(d, line + offset[i]), d, out + i * ptrdiff_t{sizeof(T)});
+    }
+    std::memcpy(dst + last, line + offset[last], pixelBytes<T, L>);
+  }
 
   template <int windows>
   HWY_NOINLINE void run(const uint8_t* line, T* dst) const {
@@ -737,6 +751,7 @@ class AreaAcross {
     const auto* const bytes = reinterpret_cast<const uint8_t*>(line);
     picks_.template withWindows<4>([&](auto windows) {
       if (taps_ == 2) return run<windows>(std::integral_constant<ptrdiff_t, 2>(), bytes, out);
+      if (taps_ == 3) return run<windows>(std::integral_constant<ptrdiff_t, 3>(), bytes, out);
       run<windows>(ptrdiff_t{taps_}, bytes, out);
     });
   }

@@ -1,10 +1,11 @@
-// Pixels of three bytes out of lanes of four.
+// Pixels of three and four bytes out of lanes of four.
 #pragma once
 
 #include <array>
 #include <cstdint>
 
 #include "core/lanes.h"
+#include "core/layout.h"
 
 namespace vemi::geometry {
 
@@ -27,6 +28,20 @@ HWY_INLINE void storeWithoutFourth(hn::Vec<Lanes<uint8_t>> pixels, uint8_t* out)
   const auto bytes = hn::BitCast(d, three);
   hn::StoreU(hn::LowerHalf(dHalf, bytes), dHalf, out);
   hn::StoreU(hn::LowerHalf(dQuarter, hn::UpperHalf(dHalf, bytes)), dQuarter, out + laneCount<uint8_t> / 2);
+}
+
+/// A vector of pixels with a word each, in their layout.
+template <class L>
+HWY_INLINE void storePixels(hn::Vec<Lanes<uint8_t>> pixels, uint8_t* out) {
+  const Lanes<uint8_t> d;
+  if constexpr (L::elements == 3) {
+    storeWithoutFourth(pixels, out);
+  } else if constexpr (L::keepsAlpha) {
+    const auto colours = hn::BitCast(d, hn::Set(Lanes<int32_t>(), 0xffffff));
+    hn::StoreU(hn::IfVecThenElse(colours, pixels, hn::LoadU(d, out)), d, out);
+  } else {
+    hn::StoreU(pixels, d, out);
+  }
 }
 
 }  // namespace vemi::geometry
