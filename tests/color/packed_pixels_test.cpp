@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "bottom_up.h"
 #include "luma_chroma.h"
 
 using namespace vemi::test;
@@ -149,8 +150,12 @@ TEST(PackedPixels, EveryMember) {
   for (const char* const source : {"vemiYCbCr", "vemiYCbCr422", "vemiYCbCr420", "vemiYUV420"}) {
     for (const char* const format : {"565", "555", "444"}) {
       for (const char* const dither : {"", "Dither"}) {
-        expectDefinition(membersOf(std::string(source) + "ToRGB" + format + dither), packed);
-        expectDefinition(membersOf(std::string(source) + "ToBGR" + format + dither), packed);
+        for (const char* const order : {"ToRGB", "ToBGR"}) {
+          const std::string operation = std::string(source) + order + format + dither;
+          expectDefinition(membersOf(operation), packed);
+          const bool looksAtSteps = operation.size() == std::string("vemiYCbCrToRGB565").size();
+          expectBottomUp(membersOf(operation, looksAtSteps ? ".*P3C3R" : ".*"), packed);
+        }
       }
     }
   }

@@ -4,6 +4,7 @@
 
 #include <cmath>
 
+#include "bottom_up.h"
 #include "every_colour.h"
 
 using namespace vemi::test;
@@ -215,6 +216,13 @@ TEST(YCbCr, EveryMemberFromRgb) {
   expectDefinition(membersOf("vemiRGBToCbYCr422"), filtered);
   expectDefinition(membersOf("vemiRGBToCbYCr422Gamma"), filtered);
   expectDefinition(membersOf("vemiBGRToCbYCr422"), averaged);
+}
+
+TEST(YCbCr, BottomUp) {
+  for (const char* const operation : {"vemiYCbCr411ToBGR", "vemiCbYCr422ToRGB", "vemiCbYCr422ToBGR"}) {
+    expectBottomUp(membersOf(operation), toRgb);
+  }
+  expectBottomUp(membersOf("vemiBGRToCbYCr422"), averaged);
 }
 
 TEST(YCbCr, EveryColour) {

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "bands.h"
 #include "every_colour.h"
 
 using namespace vemi::test;
@@ -143,4 +144,19 @@ TEST(Yuv, EveryColour) {
   expectEveryColour(besideGroups, vemiYUVToRGB_8u_C3R, always(plain));
   expectEveryLumaChroma<2>(inGroups, vemiYUV422ToRGB_8u_P3C3R, always(plain));
   expectEveryLumaChroma<2>(6, vemiYUV422ToRGB_8u_P3C3R, always(exact));
+}
+
+TEST(Yuv, PastTheCachesAsInBands) {
+  const auto expect = [](const PlanesInMemory& yuv, auto* toPixels) {
+    const std::vector<Vemi8u> memory = yuv.random();
+    const int step = 3 * yuv.size.width + 7;
+    expectAsInBands(static_cast<size_t>(step) * static_cast<size_t>(yuv.size.height), yuv.size.height,
+                    [&](Vemi8u* rgb, int y, int rows) {
+                      return toPixels(yuv.from(memory.data(), y).data(), yuv.step, rgb + ptrdiff_t{step} * y, step,
+                                      {yuv.size.width, rows});
+                    });
+  };
+  expect({{2731, 1403}, 2, 1}, vemiYUV422ToRGB_8u_P3C3R);
+  expect({{3301, 1403}, 2, 2}, vemiYUV420ToRGB_8u_P3C3R);
+  expect({{3301, 1403}, 2, 2}, vemiYCbCr420ToBGR_8u_P3C3R);
 }
