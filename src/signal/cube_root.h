@@ -22,9 +22,9 @@ struct CubeRoot {
     const V third = hn::Mul(hn::ConvertTo(d, hn::BitCast(di, x)), hn::Set(d, 1 / 3.0f));
     const V guess = hn::BitCast(d, hn::Add(truncated(di, third), hn::Set(di, logarithmOfOne)));
     const V half = hn::Set(d, 0.5f), quarter = hn::Set(d, 0.25f);  // so that nothing is beyond the range
-    const V cube = hn::Mul(hn::Mul(guess, hn::Mul(guess, quarter)), guess);
-    const V above = hn::Add(cube, hn::Mul(x, half));
-    const V below = hn::Add(hn::Add(cube, cube), hn::Mul(x, quarter));
+    const V quarterCube = hn::Mul(hn::Mul(guess, hn::Mul(guess, quarter)), guess);
+    const V above = hn::Add(quarterCube, hn::Mul(x, half));
+    const V below = hn::Add(hn::Add(quarterCube, quarterCube), hn::Mul(x, quarter));
     const V near = hn::Mul(guess, hn::Div(above, below));
     const V root = inHalves(
         d, [](auto y, auto halfOfX) HWY_ATTR { return refined(y, halfOfX); }, near, x);
