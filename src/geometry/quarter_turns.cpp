@@ -10,8 +10,8 @@ VemiStatus turnedPart(const Regions& regions, int quarterTurns, Point shift, Tur
   if (const VemiStatus bad = checkIntersection(regions.src, regions.srcSize)) return bad;
   const VemiSize clipped = clippedSize(regions.src, regions.srcSize);
   const Edges from(VemiRect{regions.src.x, regions.src.y, clipped.width, clipped.height}), to(regions.dst);
-  // Of destination pixel (x, y): quarter turns lead to source pixel (sy - y, x - sx), (sx - x, sy - y), (y - sy, sx -
-  // x).
+  // Of destination pixel (x, y) and shift (sx, sy): one quarter turn leads to source pixel (sy - y, x - sx), two lead
+  // to (sx - x, sy - y), three to (y - sy, sx - x).
   const bool isHalf = quarterTurns == 2;
   const bool rowsLeadRight = quarterTurns == 1, columnsLeadDown = quarterTurns == 3;
   const double low = isHalf ? from.left : from.top, high = isHalf ? from.right : from.bottom;

@@ -1,9 +1,9 @@
 // What all warps share: the checks in their order, and the walk over the pixels of a quadrangle. A warp has
 //
 //   - a quadrangle, into which its map takes the source region,
-//   - a generator of coordinates, which says where pixels of the destination come from: generator(piece, x, y) fills
-//   two
-//     arrays with as many floats as the piece has pixels, and up to a vector more. fillPlaces does so, from doubles.
+//   - a generator of coordinates, which says where pixels of the destination come from:
+//     generator(piece, x, y) fills two arrays with as many floats as the piece has pixels,
+//     and up to a vector more. fillPlaces does so, from doubles.
 //
 //   if (const VemiStatus bad = checkWarp(src, dst, regions, interpolation, coeffs)) return bad;
 //   return roundingToNearest([&]() -> VemiStatus {
