@@ -18,6 +18,11 @@ target_include_directories(vemi_compile INTERFACE ${PROJECT_SOURCE_DIR}/src ${PR
 add_library(vemi_objects OBJECT ${vemi_sources})
 target_link_libraries(vemi_objects PRIVATE vemi_compile)
 set_target_properties(vemi_objects PROPERTIES POSITION_INDEPENDENT_CODE ON)
+# Off where files are edited, so that each goes on including what it uses.
+if(VEMI_PRECOMPILED_HEADERS)
+  target_precompile_headers(vemi_objects PRIVATE
+    <algorithm> <cmath> ${PROJECT_SOURCE_DIR}/src/core/exports.h ${PROJECT_SOURCE_DIR}/src/core/map_region.h)
+endif()
 
 add_library(vemi SHARED ${vemi_allocator} $<TARGET_OBJECTS:vemi_objects>)
 add_library(vemi::vemi ALIAS vemi)

@@ -6,7 +6,7 @@ set -euo pipefail
 cd "$(dirname "$0")/.."
 export LC_ALL=C
 rm -rf build/odr
-cmake --preset odr >/dev/null
+cmake --preset odr -DVEMI_PRECOMPILED_HEADERS=ON >/dev/null
 cmake --build build/odr -j "$(nproc)" --target vemi_objects
 mapfile -t objects < <(find build/odr/CMakeFiles/vemi_objects.dir -name '*.o')
 g++ -O0 -r -nostdlib -flto -flinker-output=rel -Werror=odr -Werror=lto-type-mismatch "${objects[@]}" -o build/odr/all.o

@@ -6,6 +6,16 @@
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
+# digests THREADS LIBRARY COMMAND...: prints its lines at once, because two run side by side
+digests() {
+  local output status=0
+  output=$(LD_LIBRARY_PATH=$2 OMP_NUM_THREADS=$1 OMP_DYNAMIC=false OMP_WAIT_POLICY=passive \
+    tools/check-digests.sh "${@:3}" 2>&1) || status=$?
+  printf '%s, %s threads:\n%s\n' "$build" "$1" "$output"
+  return $status
+}
+
+running=0
 for build in "$@"; do
   case $build in
     */*)
@@ -20,7 +30,9 @@ for build in "$@"; do
       ;;
   esac
   for threads in 1 2 3; do
-    echo "$build, $threads threads:"
-    LD_LIBRARY_PATH=$library OMP_NUM_THREADS=$threads OMP_DYNAMIC=false tools/check-digests.sh $emulator "$program"
+    [ $running -lt 2 ] || { wait -n; running=$((running - 1)); }
+    digests $threads "$library" $emulator "$program" &
+    running=$((running + 1))
   done
 done
+while [ $running -gt 0 ]; do wait -n; running=$((running - 1)); done

@@ -13,12 +13,17 @@ if ! { mkdir -p "${DESTDIR:-}$prefix" && [ -w "${DESTDIR:-}$prefix" ]; } 2>/dev/
   root=(sudo env DESTDIR="${DESTDIR:-}")
 fi
 
+# A compiler cache, where one is used, knows the units as other builds compile them.
+precompiled=ON
+[ -z "${CMAKE_CXX_COMPILER_LAUNCHER:-}" ] || precompiled=OFF
+
 baseline=x86-64-v2 higher=(x86-64-v3 x86-64-v4)
 [ "$(uname -m)" != aarch64 ] || baseline=armv8-a higher=()
 for level in $baseline "${higher[@]}"; do
   build=build/install/$level
   cmake --preset $level -B "$build" -DCMAKE_INSTALL_PREFIX="$prefix" \
-    -DVEMI_BUILD_TESTS=OFF -DVEMI_BUILD_EXAMPLES=OFF -DVEMI_WERROR="${VEMI_WERROR:-OFF}" >/dev/null
+    -DVEMI_BUILD_TESTS=OFF -DVEMI_BUILD_EXAMPLES=OFF -DVEMI_WERROR="${VEMI_WERROR:-OFF}" \
+    -DVEMI_PRECOMPILED_HEADERS=$precompiled >/dev/null
   cmake --build "$build" --target vemi
   rm -f "$build"/install_manifest*.txt  # of an earlier installation, by root
 done

@@ -154,7 +154,7 @@ int signalOf(int light) {
 }
 
 void filtered(Call& call) {
-  const auto [width, height] = call.scenario.roiSize;
+  const int width = call.scenario.roiSize.width, height = call.scenario.roiSize.height;
   const bool isLight = call.function.operation.find("Gamma") != std::string::npos;
   const Channels in = channelsOf(call, true, false), out = channelsOf(call, false, false);
   static const auto signals = [] {
