@@ -1,6 +1,6 @@
 // Matrices of the user's on the channels of pixels. Our sums of integers are rounded as those of doubles are; OpenCV's
-// of bytes have ten bits behind the point, those of words are single: results are not compared. Sums of halves are exact
-// as floats.
+// of bytes have ten bits behind the point, those of words are single: results are not compared. Sums of halves are
+// exact as floats.
 
 #include "peers.h"
 
