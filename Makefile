@@ -52,11 +52,11 @@ test: build
 # What the fuzzer found worth keeping stays in the build folder, and the next run begins with it.
 fuzz:
 	@tools/need.sh $(BUILD_PACKAGES) $(CLANG_PACKAGES)
-	@cmake --preset sanitize >/dev/null
-	cmake --build build/sanitize -j $(JOBS) --target vemi_fuzz
-	@mkdir -p build/sanitize/corpus
-	build/sanitize/tests/vemi_fuzz -seed=$(SEED) -max_total_time=$(SECONDS) -max_len=512 -verbosity=0 -print_final_stats=1 \
-	  -artifact_prefix=build/sanitize/ build/sanitize/corpus
+	@cmake --preset fuzz >/dev/null
+	cmake --build build/fuzz -j $(JOBS) --target vemi_fuzz
+	@mkdir -p build/fuzz/corpus
+	build/fuzz/tests/vemi_fuzz -seed=$(SEED) -max_total_time=$(SECONDS) -max_len=512 -verbosity=0 -print_final_stats=1 \
+	  -artifact_prefix=build/fuzz/ build/fuzz/corpus
 
 # Twice, because libarcher, which tells the sanitizer where the threads of a team wait for each other, hides races
 # between callers: the threads of teams with it, then eight callers without it and without teams.
