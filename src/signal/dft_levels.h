@@ -187,7 +187,7 @@ HWY_NOINLINE HWY_FLATTEN void levelOf(ColumnGroups data, const From& from, ptrdi
     const ColumnGroups own = data.from(block * radix * count);
     const From source = sourceOf(from, block * radix * count);
     const float* w = factors;
-    for (ptrdiff_t j = 0; j < count; ++j, w += ptrdiff_t{2} * (radix - 1)) {
+    for (ptrdiff_t j = 0; j < count; ++j, w += factors != nullptr ? ptrdiff_t{2} * (radix - 1) : 0) {
       unrolled<ColumnGroups::vectors>([&](auto k) HWY_ATTR {
         Numbers z[radix];
         unrolled<radix>([&](auto i) HWY_ATTR { z[i] = source.load(j + i * count, k); });
@@ -219,7 +219,7 @@ HWY_NOINLINE HWY_FLATTEN void levelOfPrime(ColumnGroups data, const From& from, 
     const ColumnGroups own = data.from(block * prime * count);
     const From source = sourceOf(from, block * prime * count);
     const float* w = factors;
-    for (ptrdiff_t j = 0; j < count; ++j, w += ptrdiff_t{2} * (prime - 1)) {
+    for (ptrdiff_t j = 0; j < count; ++j, w += factors != nullptr ? ptrdiff_t{2} * (prime - 1) : 0) {
       unrolled<ColumnGroups::vectors>([&](auto lanes) HWY_ATTR {
         const Numbers first = source.load(j, lanes);
         Numbers sum = first;

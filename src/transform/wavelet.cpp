@@ -41,8 +41,8 @@ struct Sum {
     Vectors<hn::Vec<D>, vectors> sum;
     for (auto& each : sum.v) each = hn::Zero(d);
     for (const Products& products : set) {
-      const char* from = products.first + element * floatBytes;
-      for (ptrdiff_t k = 0; k < products.count; ++k, from += products.step) {
+      for (ptrdiff_t k = 0; k < products.count; ++k) {
+        const char* const from = products.first + element * floatBytes + k * products.step;
         const auto tap = hn::Set(d, products.tap[k]);
         unrolled<vectors>([&](auto n) HWY_ATTR {
           const auto* const place = reinterpret_cast<const float*>(from) + n * ptrdiff_t{hn::MaxLanes(D())};

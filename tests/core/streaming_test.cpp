@@ -28,7 +28,7 @@ void forStreamedRows(ptrdiff_t blockItems, ptrdiff_t longest, const F& f) {
 template <int period>
 void expectEachItemOnce() {
   constexpr ptrdiff_t items = period * static_cast<ptrdiff_t>(laneAlignment / sizeof(Vemi16u));
-  forStreamedRows(items, 4 * items, [](ptrdiff_t count, Place place) {
+  forStreamedRows(items, 4 * items, [&](ptrdiff_t count, Place place) {
     const GuardedRow<Vemi16u> row(count, place);
     ptrdiff_t next = 0;
     const auto plain = [&](ptrdiff_t first, ptrdiff_t n) {
