@@ -107,11 +107,11 @@ struct NearWordTwist {
     template <int c, class V>
     HWY_INLINE V channel(V x0, V x1, V x2) {
       const D d;
-      const int16_t(&high)[4] = twist.high[c];
-      const int16_t(&low)[3] = twist.low[c];
-      const V first = hn::Add(hn::MulHigh(x0, hn::Set(d, low[0])), hn::MulHigh(x1, hn::Set(d, low[1])));
-      const V rest = hn::Add(first, hn::MulHigh(x2, hn::Set(d, low[2])));
-      const V high01 = weights(high[0], high[1]), high2 = weights(high[2], high[3]);
+      const int16_t(&upper)[4] = twist.high[c];
+      const int16_t(&lower)[3] = twist.low[c];
+      const V first = hn::Add(hn::MulHigh(x0, hn::Set(d, lower[0])), hn::MulHigh(x1, hn::Set(d, lower[1])));
+      const V rest = hn::Add(first, hn::MulHigh(x2, hn::Set(d, lower[2])));
+      const V high01 = weights(upper[0], upper[1]), high2 = weights(upper[2], upper[3]);
       const auto sum = [&](V two, V third) VEMI_INLINED {
         const auto withConstant = hn::Add(pairsOfProducts(two, high01), hn::Set(DSums(), twist.constant[c]));
         return whole(hn::Add(withConstant, pairsOfProducts(third, high2)));
