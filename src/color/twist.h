@@ -57,11 +57,11 @@ HWY_INLINE hn::Vec<D> packedByTurns(D d, V v0, V v1) {
 
 /// The elements of each lane at their places.
 template <class D, class V>
-HWY_INLINE hn::Vec<D> joined(D d, V v0, V v1) {
+HWY_INLINE hn::Vec<D> joinedTurns(D d, V v0, V v1) {
   return packedByTurns(d, v0, v1);
 }
 template <class D, class V>
-HWY_INLINE hn::Vec<D> joined(D d, V v0, V v1, V v2, V v3) {
+HWY_INLINE hn::Vec<D> joinedTurns(D d, V v0, V v1, V v2, V v3) {
   const hn::Repartition<int16_t, D> dHalf;
   return packedByTurns(d, packedByTurns(dHalf, v0, v1), packedByTurns(dHalf, v2, v3));
 }
@@ -130,7 +130,7 @@ struct ExactTwist {
 
   template <class D, class... V>
   HWY_INLINE static hn::Vec<D> join(D d, V... v) {
-    return joined(d, v...);
+    return joinedTurns(d, v...);
   }
 
  private:
@@ -174,7 +174,7 @@ struct ExactFloatTwist {
 
   template <class D, class... V>
   HWY_INLINE static hn::Vec<D> join(D d, V... v) {
-    return joined(d, v...);
+    return joinedTurns(d, v...);
   }
 
  private:
