@@ -57,11 +57,7 @@ struct NearTwist {
 
     template <int c, class V>
     HWY_INLINE V channel(V x0, V x1, V x2) const {
-      const float(&f)[4] = twist.factor[c];
-      auto sum = hn::MulAdd(hn::Set(df, f[0]), hn::ConvertTo(df, x0), hn::Set(df, f[3]));
-      sum = hn::MulAdd(hn::Set(df, f[1]), hn::ConvertTo(df, x1), sum);
-      sum = hn::MulAdd(hn::Set(df, f[2]), hn::ConvertTo(df, x2), sum);
-      const V fixed = rounded(di, sum);
+      const V fixed = rounded(di, floatSum(df, twist.factor[c], x0, x1, x2));
       least = hn::Min(least, hn::BitCast(dHalves, fixed));
       return fixed;
     }

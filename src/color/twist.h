@@ -23,8 +23,7 @@ namespace vemi::color {
 /// The rows of a twist: the factors of the channels, and what is added, or the factor of a fourth channel.
 using Twist = const Vemi32f (*)[4];
 
-// ---- Lanes of 32 bits
-// ------------------------------------------------------------------------------------------------
+// ---- Lanes of 32 bits ----------------------------------------------------------------------------------------------
 
 /// Where the bytes of 32-bit lanes are: byte k of each, the others zero.
 template <int k>
@@ -78,6 +77,14 @@ HWY_INLINE hn::Vec<D> channelOf(D d, const Op& op, V v0, V v1, V v2) {
 template <class D, class Op, class V>
 HWY_INLINE auto channelsOf(D d, const Op& op, V v0, V v1, V v2) {
   return std::tuple(channelOf<0>(d, op, v0, v1, v2), channelOf<1>(d, op, v0, v1, v2), channelOf<2>(d, op, v0, v1, v2));
+}
+
+/// A row of factors times three channels, and what it adds.
+template <class D, class V>
+HWY_INLINE hn::Vec<D> floatSum(D d, const float (&f)[4], V x0, V x1, V x2) {
+  auto sum = hn::MulAdd(hn::Set(d, f[0]), hn::ConvertTo(d, x0), hn::Set(d, f[3]));
+  sum = hn::MulAdd(hn::Set(d, f[1]), hn::ConvertTo(d, x1), sum);
+  return hn::MulAdd(hn::Set(d, f[2]), hn::ConvertTo(d, x2), sum);
 }
 
 /// The largest sum that a row of factors may give. No number where one of them is none.
@@ -165,11 +172,7 @@ struct ExactFloatTwist {
   template <int c, class V>
   HWY_INLINE V channel(V x0, V x1, V x2) const {
     const hn::DFromV<V> di;
-    const hn::RebindToFloat<decltype(di)> df;
-    const float(&f)[4] = factor[c];
-    auto sum = hn::MulAdd(hn::Set(df, f[0]), hn::ConvertTo(df, x0), hn::Set(df, f[3]));
-    sum = hn::MulAdd(hn::Set(df, f[1]), hn::ConvertTo(df, x1), sum);
-    return rounded(di, hn::MulAdd(hn::Set(df, f[2]), hn::ConvertTo(df, x2), sum));
+    return rounded(di, floatSum(hn::RebindToFloat<decltype(di)>(), factor[c], x0, x1, x2));
   }
 
   template <class D, class... V>
@@ -210,14 +213,8 @@ VemiStatus twistIntegersBy(Src src, Dst dst, VemiSize roiSize, Twist twist) {
     const auto run = [&](const auto& op) {
       mapPixelRegion(CallerRows(), roiSize, op, pixelsIn<L>(dst), pixelsIn<L>(src));
     };
-    bool done = false;
-    const auto tryFast = [&]<class Op>(std::type_identity<Op>) {
-      if (done || !Op::pays(twist)) return;
-      run(Op(twist));
-      done = true;
-    };
-    (tryFast(std::type_identity<Fast>()), ...);
-    if (!done) run(ExactTwist<T>(twist));
+    const bool isDone = (... || (Fast::pays(twist) && (run(Fast(twist)), true)));
+    if (!isDone) run(ExactTwist<T>(twist));
     return vemiOk;
   });
 }

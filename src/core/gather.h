@@ -49,10 +49,7 @@ class PixelBytes {
   HWY_INLINE Vectors<V, rows> words(V byte, V y) const {
     const D d;
     if (HWY_LIKELY(isNear_)) {
-      const V step = hn::Set(d, static_cast<int32_t>(step_));
-      Vectors<V, rows> offset;
-      offset.v[0] = hn::Add(hn::Mul(y, step), byte);
-      unrolled<rows - 1>([&](auto k) HWY_ATTR { offset.v[k + 1] = hn::Add(offset.v[k], step); });
+      const Vectors<V, rows> offset = offsets<rows>(byte, y);
       if (bytes == 4 || HWY_LIKELY(hn::AllFalse(d, hn::Gt(offset.v[rows - 1], hn::Set(d, lastWord_))))) {
         Vectors<V, rows> word;
         unrolled<rows>([&](auto k) HWY_ATTR { word.v[k] = wordsAt(offset.v[k]); });
@@ -75,10 +72,7 @@ class PixelBytes {
   HWY_INLINE LongWords<rows> longWords(V byte, V y) const {
     const D d;
     if (HWY_LIKELY(isNear_)) {
-      const V step = hn::Set(d, static_cast<int32_t>(step_));
-      Vectors<V, rows> offset;
-      offset.v[0] = hn::Add(hn::Mul(y, step), byte);
-      unrolled<rows - 1>([&](auto k) HWY_ATTR { offset.v[k + 1] = hn::Add(offset.v[k], step); });
+      const Vectors<V, rows> offset = offsets<rows>(byte, y);
       if (bytes == 8 || HWY_LIKELY(hn::AllFalse(d, hn::Gt(offset.v[rows - 1], hn::Set(d, lastWord_ - 4))))) {
         const DLong dLong;
         LongWords<rows> words;
@@ -106,6 +100,16 @@ class PixelBytes {
   }
 
  private:
+  /// Of a byte of a row, and of the same of the rows below.
+  template <int rows>
+  HWY_INLINE Vectors<V, rows> offsets(V byte, V y) const {
+    const V step = hn::Set(D(), static_cast<int32_t>(step_));
+    Vectors<V, rows> offset;
+    offset.v[0] = hn::Add(hn::Mul(y, step), byte);
+    unrolled<rows - 1>([&](auto k) HWY_ATTR { offset.v[k + 1] = hn::Add(offset.v[k], step); });
+    return offset;
+  }
+
   const char *first_, *end_;
   ptrdiff_t step_;
   int32_t lastWord_;  // the last offset at which four bytes can be read; below 0 there is none

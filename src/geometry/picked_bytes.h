@@ -8,6 +8,7 @@
 #include "core/gather.h"
 #include "core/lanes.h"
 #include "core/scratch.h"
+#include "geometry/blocks_from.h"
 
 namespace vemi::geometry {
 
@@ -48,19 +49,6 @@ struct OutsideOfPart {
 
 template <int windows>
 inline constexpr OutsideOfPart<windows> outsideOfPart;
-
-/// A vector of bytes whose block b is read from at(b).
-template <class D, class At>
-HWY_INLINE hn::Vec<D> blocksFrom(D d, const At& at) {
-  if constexpr (hn::MaxLanes(D()) == 16) {
-    return hn::LoadU(d, at(0));
-  } else {
-    const hn::Half<D> dHalf;
-    constexpr ptrdiff_t half = hn::MaxLanes(decltype(dHalf)()) / 16;
-    const auto lower = blocksFrom(dHalf, at);
-    return hn::Combine(d, blocksFrom(dHalf, [&](ptrdiff_t b) HWY_ATTR { return at(b + half); }), lower);
-  }
-}
 
 }  // namespace detail
 
@@ -133,7 +121,7 @@ class PickedBytes {
   HWY_INLINE static hn::Vec<Lanes<uint8_t>> part(const uint8_t* row, const int32_t* base,
                                                  hn::Vec<Lanes<uint8_t>> place) {
     const Lanes<uint8_t> d;
-    const auto bytes = detail::blocksFrom(d, [&](ptrdiff_t b) HWY_ATTR { return row + base[windows * b + w]; });
+    const auto bytes = blocksFrom(d, [&](ptrdiff_t b) HWY_ATTR { return row + base[windows * b + w]; });
     if constexpr (windows == 1) return hn::TableLookupBytesOr0(bytes, place);
     const auto outside = hn::LoadDup128(d, detail::outsideOfPart<windows>.index[w]);
     return hn::TableLookupBytesOr0(bytes, hn::Or(place, outside));

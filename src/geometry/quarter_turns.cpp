@@ -2,6 +2,7 @@
 
 #include <cstring>
 
+#include "geometry/blocks_from.h"
 #include "geometry/three_bytes.h"
 
 namespace vemi::geometry {
@@ -30,18 +31,6 @@ VemiStatus turnedPart(const Regions& regions, int quarterTurns, Point shift, Tur
 }
 
 namespace {
-
-/// The block that begins with the row at(k) in its first 16 bytes.
-template <class D, class At>
-HWY_INLINE hn::Vec<D> blocksFrom(D d, const At& at) {
-  if constexpr (hn::MaxLanes(D()) * sizeof(hn::TFromD<D>) == 16) {
-    return hn::LoadU(d, at(0));
-  } else {
-    const hn::Half<D> dHalf;
-    constexpr int half = static_cast<int>(hn::MaxLanes(dHalf) * sizeof(hn::TFromD<D>) / 16);
-    return hn::Combine(d, blocksFrom(dHalf, [&](int k) HWY_ATTR { return at(k + half); }), blocksFrom(dHalf, at));
-  }
-}
 
 /// Squares of 16 bytes by 16 bytes, as many side by side as a vector has: rows become columns.
 template <class D, class V, int columns>

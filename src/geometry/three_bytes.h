@@ -20,7 +20,7 @@ HWY_INLINE void storeWithoutFourth(hn::Vec<Lanes<uint8_t>> pixels, uint8_t* out)
   const Lanes<uint8_t> d;
   const Lanes<int32_t> di;
   auto three = hn::BitCast(di, hn::TableLookupBytes(pixels, hn::LoadDup128(d, colours)));
-  if constexpr (laneCount < uint8_t >> 16) {
+  if constexpr (hn::MaxLanes(d) > 16) {
     three = hn::TableLookupLanes(three, hn::SetTableIndices(di, close.data()));
   }
   const hn::Half<Lanes<uint8_t>> dHalf;
