@@ -8,7 +8,7 @@
 #include <algorithm>
 #include <thread>
 
-#include "support/call.h"
+#include "support/caller_modes.h"
 
 using namespace vemi::test;
 
@@ -29,9 +29,7 @@ struct Setting {
   VemiStatus invoke(Call& call) const {
     const int former = omp_get_max_threads();
     omp_set_num_threads(team);
-    EXPECT_EQ(fesetround(mode), 0);
-    const VemiStatus status = call.invoke();
-    EXPECT_EQ(fesetround(FE_TONEAREST), 0);
+    const VemiStatus status = invokeUnder(mode, call);
     omp_set_num_threads(former);
     return status;
   }
@@ -41,12 +39,7 @@ struct Setting {
 void expectSame(const Setting& one, const Setting& other, const Export& function, const Scenario& scenario) {
   Call expected(function, scenario), call(function, scenario);
   const VemiStatus expectedStatus = one.invoke(expected);
-  for (size_t image = 0; image < call.images.size(); ++image) {
-    for (size_t plane = 0; plane < call.images[image].planes.size(); ++plane) {
-      const GuardedMemory& left = expected.images[image].planes[plane].memory;
-      std::copy(left.begin(), left.end(), call.images[image].planes[plane].expected.begin());
-    }
-  }
+  expectWhatWasLeft(call, expected);
   EXPECT_EQ(other.invoke(call), expectedStatus) << call.text();
   EXPECT_EQ(call.difference(), "");
 }
@@ -78,7 +71,7 @@ TEST(RoundingMode, DecidesNoInteger) {
     if (matches(function.operation, "vemiGet.*Moments?")) continue;  // doubles, converted in the processor's mode
     const std::vector<int> scaleFactors = function.scaled ? std::vector{-9, -3, 0, 1, 4} : std::vector{0};
     for (const int scaleFactor : scaleFactors) {
-      for (const int mode : {FE_UPWARD, FE_DOWNWARD, FE_TOWARDZERO}) {
+      for (const int mode : directedModes) {
         expectSame({}, {.mode = mode}, function, {{131, 9}, Rows::odd, Edge::back, 1, scaleFactor});
       }
     }

@@ -7,7 +7,7 @@
 #include <cmath>
 #include <vector>
 
-#include "filter/caller_modes.h"
+#include "filter/integers_in_every_mode.h"
 #include "support/check.h"
 #include "vemi/filter.h"
 

@@ -2,9 +2,9 @@
 
 #include <gtest/gtest.h>
 
-#include <cfenv>
 #include <sstream>
 
+#include "support/caller_modes.h"
 #include "support/check.h"
 #include "support/families.h"
 
@@ -20,20 +20,10 @@ TEST(Geometry, ResultsDoNotDependOnTheCallersRounding) {
         const Scenario scenario = {{67, 9}, Rows::padded, Edge::back, static_cast<unsigned>(count)};
         Call nearest(*function, scenario);
         const VemiStatus expected = nearest.invoke();
-        for (const int mode : {FE_DOWNWARD, FE_UPWARD, FE_TOWARDZERO}) {
+        for (const int mode : directedModes) {
           Call call(*function, scenario);
-          for (size_t n = 0; n < call.images.size(); ++n) {
-            for (size_t plane = 0; plane < call.images[n].planes.size(); ++plane) {
-              const GuardedMemory& memory = nearest.images[n].planes[plane].memory;
-              call.images[n].planes[plane].expected.assign(memory.begin(), memory.end());
-            }
-          }
-          std::fesetround(mode);
-          const VemiStatus status = call.invoke();
-          const int left = std::fegetround();
-          std::fesetround(FE_TONEAREST);
-          ASSERT_EQ(status, expected) << call.text() << ", mode " << mode;
-          ASSERT_EQ(left, mode) << call.text();
+          expectWhatWasLeft(call, nearest);
+          ASSERT_EQ(invokeUnder(mode, call), expected) << call.text() << ", mode " << mode;
           ASSERT_EQ(call.difference(), "") << "mode " << mode;
         }
       }

@@ -1,11 +1,11 @@
-// Calls under the rounding modes that a caller may have set.
+// Filters of integers under the rounding modes that a caller may have set.
 #pragma once
 
-#include <fenv.h>
 #include <gtest/gtest.h>
 
 #include <vector>
 
+#include "support/caller_modes.h"
 #include "support/check.h"
 
 namespace vemi::test {
@@ -13,16 +13,11 @@ namespace vemi::test {
 /// Each leaves what the reference computes to nearest.
 inline void expectToNearestInEveryMode(const std::vector<const Export*>& members, const Reference& reference) {
   for (const Export* const function : members) {
-    for (const int mode : {FE_UPWARD, FE_DOWNWARD, FE_TOWARDZERO}) {
+    for (const int mode : directedModes) {
       for (unsigned seed = 1; seed <= 8; ++seed) {
         Call call(*function, {{67, 3}, Rows::padded, Edge::back, seed, 1});
         reference(call);
-        fesetround(mode);
-        const VemiStatus status = call.invoke();
-        const int after = fegetround();
-        fesetround(FE_TONEAREST);
-        EXPECT_EQ(after, mode) << call.text();
-        EXPECT_EQ(status, call.expectedStatus) << call.text() << " under rounding mode " << mode;
+        EXPECT_EQ(invokeUnder(mode, call), call.expectedStatus) << call.text() << " under rounding mode " << mode;
         EXPECT_EQ(call.difference(), "") << "under rounding mode " << mode;
       }
     }
