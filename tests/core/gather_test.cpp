@@ -1,5 +1,5 @@
-// Fetches at computed places: every place of small images that end or begin at an unmapped page, an image beyond 2 GiB,
-// and linear fetches against the formula.
+// Fetches at computed places: every place of small images that end or begin at an unmapped page, and an image beyond
+// 2 GiB.
 
 #include "core/gather.h"
 
@@ -7,13 +7,10 @@
 
 #include <sys/mman.h>
 
-#include <cmath>
 #include <cstring>
-#include <vector>
 
 #include "support/elements.h"
 #include "support/guarded_row.h"
-#include "warp_fetches.h"
 
 using namespace vemi;
 using namespace vemi::test;
@@ -97,7 +94,7 @@ TEST(Gather, NothingBesideTheImageIsRead) {
       for (const Place place : places) {
         const int rowBytes = 3 * size.width, step = rowBytes + gap;
         const GuardedRow<Vemi8u> memory(step * (size.height - 1) + rowBytes, place);
-        const auto pixels = PixelBytes::of<C3>(Image<const Vemi8u>{memory.data(), step}, size);
+        const auto pixels = PixelBytes::of<C3>(vemi::Image<const Vemi8u>{memory.data(), step}, size);
         const auto expectAll = [&](const auto& expect) {
           expect(pixels, reinterpret_cast<const char*>(memory.data()), step, rowBytes, size.height);
         };
@@ -127,50 +124,12 @@ TEST(Gather, ImagesBeyondTwoGibibytes) {
   auto* const first = static_cast<Vemi8u*>(block);
   Random random(1);
   for (ptrdiff_t y = 0; y < height; ++y) random.fill(reinterpret_cast<std::byte*>(first + y * step), width);
-  const auto pixels = PixelBytes::of<C1>(Image<const Vemi8u>{first, step}, {width, height});
+  const auto pixels = PixelBytes::of<C1>(vemi::Image<const Vemi8u>{first, step}, {width, height});
   expectAllWords<2, 2>(pixels, static_cast<const char*>(block), step, width, height);
   expectAllWords<4, 1>(pixels, static_cast<const char*>(block), step, width, height);
   expectAllWords<6, 2>(pixels, static_cast<const char*>(block), step, width, height);
   expectAllRuns<3, 8>(pixels, static_cast<const char*>(block), step, width, height);
   munmap(block, bytes);
-}
-
-int interpolated(const Vemi8u* pixel, ptrdiff_t step, int channels, float across, float down) {
-  const int wx = static_cast<int>(std::nearbyint(across * 16384)), wy = static_cast<int>(std::nearbyint(down * 16384));
-  const auto inRow = [&](const Vemi8u* p) { return (p[0] * (16384 - wx) + p[channels] * wx) >> 8; };
-  return (inRow(pixel) * (16384 - wy) + inRow(pixel + step) * wy + 0x80000) >> 20;
-}
-
-TEST(Gather, LinearFetches) {
-  Random random(2);
-  for (const VemiSize size : {VemiSize{2, 2}, VemiSize{7, 3}, VemiSize{40, 30}}) {
-    for (const int channels : {1, 3, 4}) {
-      for (ptrdiff_t width = 1; width <= 70; ++width) {
-        const int step = size.width * channels;
-        const GuardedRow<Vemi8u> src(ptrdiff_t{step} * size.height, places[width % 2]);
-        const GuardedRow<Vemi8u> dst(width * channels, places[width % 3]);
-        std::vector<float> x, y;
-        for (ptrdiff_t i = 0; i < width; ++i) {  // first and last pixels among them
-          x.push_back(static_cast<float>(random.below(5) * (size.width - 1)) / 4 + (i % 7 == 3 ? -0.0f : 0.0f));
-          y.push_back(static_cast<float>(random.below(1001) * (size.height - 1)) / 1000);
-        }
-        const GuardedRow<float> xs(x, places[0]), ys(y, places[1]);
-        std::vector<Vemi8u> expected;
-        for (size_t i = 0; i < x.size(); ++i) {
-          const int column = std::min(static_cast<int>(x[i]), size.width - 2);
-          const int row = std::min(static_cast<int>(y[i]), size.height - 2);
-          for (int c = 0; c < channels; ++c) {
-            const Vemi8u* const pixel = src.data() + ptrdiff_t{row} * step + column * channels + c;
-            expected.push_back(static_cast<Vemi8u>(interpolated(
-                pixel, step, channels, x[i] - static_cast<float>(column), y[i] - static_cast<float>(row))));
-          }
-        }
-        const auto fetch = channels == 1 ? linearRow : channels == 3 ? linearPixels<C3> : linearPixels<C4>;
-        fetch(width, {src.data(), step}, size, xs.data(), ys.data(), dst.data());
-        ASSERT_TRUE(dst.holds(expected)) << channels << " channels, width " << width << ", image " << size.width;
-      }
-    }
-  }
 }
 
 }  // namespace
