@@ -12,10 +12,10 @@ namespace vemi::test {
 
 /// Makes the first row of all images the last one in memory.
 inline void turnOver(Call& call) {
-  for (Image& image : call.images) {
+  for (CallImage& image : call.images) {
     if (image.role != Role::image) continue;
     for (size_t n = 0; n < image.planes.size(); ++n) {
-      Image::Plane& plane = image.planes[n];
+      CallImage::Plane& plane = image.planes[n];
       plane.first += ptrdiff_t{image.sizeOf(n).height - 1} * plane.step;
       plane.step = -plane.step;
       const std::string step = call.function.parameters[static_cast<size_t>(image.stepParameter)].name;

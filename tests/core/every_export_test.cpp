@@ -156,7 +156,7 @@ TEST(EveryExport, StaysWithinItsMemory) {
 class DistantRows {
  public:
   explicit DistantRows(Call& call) {
-    for (Image& image : call.images) {
+    for (CallImage& image : call.images) {
       if (image.stepParameter < 0) continue;
       for (size_t n = 0; n < image.planes.size(); ++n) moveAway(call, image, n);
     }
@@ -183,8 +183,8 @@ class DistantRows {
   std::vector<Block> blocks_;
   std::vector<Row> rows_;
 
-  void moveAway(Call& call, Image& image, size_t n) {
-    Image::Plane& plane = image.planes[n];
+  void moveAway(Call& call, CallImage& image, size_t n) {
+    CallImage::Plane& plane = image.planes[n];
     const Margin& margin = image.margin;
     const VemiSize size = image.sizeOf(n);
     // Images that share a step are as far apart from row to row.

@@ -94,7 +94,7 @@ TEST(Gather, NothingBesideTheImageIsRead) {
       for (const Place place : places) {
         const int rowBytes = 3 * size.width, step = rowBytes + gap;
         const GuardedRow<Vemi8u> memory(step * (size.height - 1) + rowBytes, place);
-        const auto pixels = PixelBytes::of<C3>(vemi::Image<const Vemi8u>{memory.data(), step}, size);
+        const auto pixels = PixelBytes::of<C3>(Image<const Vemi8u>{memory.data(), step}, size);
         const auto expectAll = [&](const auto& expect) {
           expect(pixels, reinterpret_cast<const char*>(memory.data()), step, rowBytes, size.height);
         };
@@ -124,7 +124,7 @@ TEST(Gather, ImagesBeyondTwoGibibytes) {
   auto* const first = static_cast<Vemi8u*>(block);
   Random random(1);
   for (ptrdiff_t y = 0; y < height; ++y) random.fill(reinterpret_cast<std::byte*>(first + y * step), width);
-  const auto pixels = PixelBytes::of<C1>(vemi::Image<const Vemi8u>{first, step}, {width, height});
+  const auto pixels = PixelBytes::of<C1>(Image<const Vemi8u>{first, step}, {width, height});
   expectAllWords<2, 2>(pixels, static_cast<const char*>(block), step, width, height);
   expectAllWords<4, 1>(pixels, static_cast<const char*>(block), step, width, height);
   expectAllWords<6, 2>(pixels, static_cast<const char*>(block), step, width, height);

@@ -39,14 +39,14 @@ TEST(Harness, AFaultInATeamNamesTheCall) {
 
 TEST(Harness, ImagesTouchTheGuardPages) {
   Call back(function("vemiCopy", "16s_C3MR"), {{5, 3}, Rows::odd, Edge::back, 1, 0});
-  for (Image& image : back.images) {
-    const View view = image.view(&Image::Plane::before);
+  for (CallImage& image : back.images) {
+    const View view = image.view(&CallImage::Plane::before);
     EXPECT_EQ(view.at(4, 2, view.channels - 1) + bytesOf(view.element),
               image.planes[0].before.data() + image.planes[0].before.size());
   }
   Call front(function("vemiCopy", "8u_C4P4R"), {{5, 3}, Rows::odd, Edge::front, 1, 0});
-  for (Image& image : front.images) {
-    for (Image::Plane& plane : image.planes) EXPECT_EQ(plane.first, plane.memory.begin());
+  for (CallImage& image : front.images) {
+    for (CallImage::Plane& plane : image.planes) EXPECT_EQ(plane.first, plane.memory.begin());
   }
 }
 

@@ -72,7 +72,7 @@ void expectFetches(int interpolation) {
       }
     }
     const GuardedRow<float> xs(x, places[0]), ys(y, places[1]);
-    const auto source = FetchSource::of<L>(vemi::Image<const T>{reinterpret_cast<const T*>(src.data()), step}, size,
+    const auto source = FetchSource::of<L>(Image<const T>{reinterpret_cast<const T*>(src.data()), step}, size,
                                            FetchLimits::within(limits.left, limits.top, limits.right, limits.bottom));
     fetchRow<T, L>(interpolation)(source, width, xs.data(), ys.data(), dst.data());
     ASSERT_TRUE(dst.holds(expected)) << sizeof(T) << " bytes, " << L::elements << " elements, " << L::channels
@@ -99,7 +99,7 @@ TEST(Fetch, CubicWeights) {
   for (int k = 0; k < 4; ++k) {
     Vemi8u image[16] = {};
     for (int row = 0; row < 4; ++row) image[4 * row + k] = 255;
-    const auto source = FetchSource::of<C1>(vemi::Image<const Vemi8u>{image, 4}, {4, 4}, {0, 0, 3, 3});
+    const auto source = FetchSource::of<C1>(Image<const Vemi8u>{image, 4}, {4, 4}, {0, 0, 3, 3});
     for (int t = 0; t <= 1536; ++t) {
       const float x = static_cast<float>(t) / 512, y = 1;
       Vemi8u value = 77;

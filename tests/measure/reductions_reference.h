@@ -59,10 +59,10 @@ inline void allowFastSum(Call& call, double magnitudes, double result) {
 /// Gives float sources numbers whose squares neither overflow nor underflow. Where rows overlap, any four bytes are
 /// such one.
 inline void makeModerate(Call& call) {
-  for (Image& image : call.images) {
+  for (CallImage& image : call.images) {
     if (image.role != Role::image || image.element != Element::f32) continue;
-    Image::Plane& plane = image.planes[0];
-    const View view = image.view(&Image::Plane::before);
+    CallImage::Plane& plane = image.planes[0];
+    const View view = image.view(&CallImage::Plane::before);
     if (call.scenario.rows == Rows::overlapping) {
       for (std::byte& each : plane.before) each = static_cast<std::byte>(0x3e + call.random.below(3));
     } else {

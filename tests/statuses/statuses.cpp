@@ -65,10 +65,10 @@ void addZeros(const Export& function, Statuses& statuses) {
   for (size_t n = 0; n < function.parameters.size(); ++n) {
     if (function.parameters[n].role == Role::constant) call.arguments[n] = {};
   }
-  for (Image& image : call.images) {
+  for (CallImage& image : call.images) {
     const bool isConstant = function.parameters[static_cast<size_t>(image.parameter)].name == "value";
     if (image.role != Role::image && !isConstant) continue;
-    for (Image::Plane& plane : image.planes) std::fill(plane.memory.begin(), plane.memory.end(), std::byte{0});
+    for (CallImage::Plane& plane : image.planes) std::fill(plane.memory.begin(), plane.memory.end(), std::byte{0});
   }
   statuses.insert(call.invoke());
 }

@@ -96,7 +96,7 @@ std::string Scenario::text() const {
 
 std::string Call::text() const { return function.name + " (" + scenario.text() + ")"; }
 
-View Image::view(std::vector<std::byte> Plane::*bytes) {
+View CallImage::view(std::vector<std::byte> Plane::*bytes) {
   View view = {};
   view.pixelBytes = bytesOf(element) * (layout.planar ? 1 : layout.elements);
   view.element = element;
@@ -130,18 +130,18 @@ Call::Call(const Export& called, const Scenario& how)
   if (!undecided_.empty()) {
     throw std::logic_error(function.name + ": its family's shape must set " + *undecided_.begin());
   }
-  for (Image& each : images) {
+  for (CallImage& each : images) {
     layOut(each);
     fill(each);
     pass(each);
-    if (each.role == Role::mask) mask_ = each.view(&Image::Plane::before);
+    if (each.role == Role::mask) mask_ = each.view(&CallImage::Plane::before);
   }
   if (const int index = function.indexOf("value"); index >= 0) {
     constants_ = constant("value");
     constantBytes_ = bytesOf(function.parameters[static_cast<size_t>(index)].element);
   }
   if (family.retouch != nullptr) family.retouch(*this);
-  for (Image& each : images) settle(each);
+  for (CallImage& each : images) settle(each);
   goodArguments_ = arguments;
 }
 
@@ -161,7 +161,7 @@ void Call::addArgument(const Parameter& parameter, int index) {
       break;
     case Role::step:
     case Role::steps:
-      for (Image& each : images) {
+      for (CallImage& each : images) {
         if (!each.isArray() && each.stepParameter < 0) each.stepParameter = index;
       }
       if (parameter.role == Role::steps) addImage(parameter, index);
@@ -193,7 +193,7 @@ void Call::addArgument(const Parameter& parameter, int index) {
 
 void Call::addImage(const Parameter& parameter, int index) {
   const bool hasStep = parameter.role == Role::image || parameter.role == Role::mask;
-  Image added;
+  CallImage added;
   added.parameter = index;
   added.role = parameter.role;
   added.element = parameter.element;
@@ -214,21 +214,21 @@ void Call::addImage(const Parameter& parameter, int index) {
   }
 }
 
-Image& Call::image(const std::string& parameter) {
-  for (Image& each : images) {
+CallImage& Call::image(const std::string& parameter) {
+  for (CallImage& each : images) {
     if (each.parameter == function.indexOf(parameter)) return each;
   }
   throw std::logic_error(function.name + " has no image " + parameter);
 }
 
 /// A pointer to something that is no element gets its memory when its contents are set.
-Image& Call::arrayOf(const std::string& parameter) {
+CallImage& Call::arrayOf(const std::string& parameter) {
   const int index = function.indexOf(parameter);
   const Parameter& described = function.parameters.at(static_cast<size_t>(index));
-  for (Image& each : images) {
+  for (CallImage& each : images) {
     if (each.parameter == index) return each;
   }
-  Image added;
+  CallImage added;
   added.parameter = index;
   added.role = Role::array;
   added.element = described.element == Element::none ? Element::u8 : described.element;
@@ -238,7 +238,7 @@ Image& Call::arrayOf(const std::string& parameter) {
 }
 
 void Call::setLengths(const std::string& parameter, const std::vector<int>& lengths) {
-  Image& array = arrayOf(parameter);
+  CallImage& array = arrayOf(parameter);
   const int count = static_cast<int>(lengths.size());
   const bool isPlanes = function.parameters[static_cast<size_t>(array.parameter)].isPlanes;
   array.lengths = lengths;
@@ -286,13 +286,13 @@ void Call::setNumber(const std::string& parameter, double number, int index) {
     storeNumber(element, arguments[static_cast<size_t>(at)].bytes + index * bytesOf(element), number);
     return;
   }
-  Image::Plane& plane = image(parameter).planes.at(0);
+  CallImage::Plane& plane = image(parameter).planes.at(0);
   const ptrdiff_t offset = plane.first - plane.memory.begin() + index * bytesOf(described.element);
   storeNumber(described.element, plane.memory.begin() + offset, number);
   storeNumber(described.element, plane.expected.data() + offset, number);
 }
 
-int Call::stepFor(const Image& image, int64_t rowBytes, size_t plane) const {
+int Call::stepFor(const CallImage& image, int64_t rowBytes, size_t plane) const {
   if (scenario.rows == Rows::overlapping && !image.written) return 3;
   // Its number among all steps, and the last of the images that share it.
   unsigned number = static_cast<unsigned>(plane);
@@ -301,7 +301,7 @@ int Call::stepFor(const Image& image, int64_t rowBytes, size_t plane) const {
     number += before.role == Role::step ? 1 : before.role == Role::steps ? static_cast<unsigned>(before.bound) : 0;
   }
   int index = image.parameter;
-  for (const Image& each : images) {
+  for (const CallImage& each : images) {
     if (each.stepParameter == image.stepParameter && image.stepParameter >= 0) index = each.parameter;
   }
   index += static_cast<int>(plane);
@@ -314,7 +314,7 @@ int Call::stepFor(const Image& image, int64_t rowBytes, size_t plane) const {
 
 /// What the call may touch, from the first byte to the last, lies against a guard page; a buffer begins at an odd
 /// address.
-void Call::layOut(Image& image) {
+void Call::layOut(CallImage& image) {
   const Parameter& parameter = function.parameters[static_cast<size_t>(image.parameter)];
   const bool isBuffer = image.role == Role::buffer;
   if (image.size.width < (isBuffer ? 0 : 1)) {
@@ -341,27 +341,27 @@ void Call::layOut(Image& image) {
   }
   if (parameter.role == Role::steps) {
     std::vector<int> steps;
-    for (const Image& each : images) {
+    for (const CallImage& each : images) {
       if (each.stepParameter != image.parameter) continue;
-      for (const Image::Plane& plane : each.planes) steps.push_back(plane.step);
+      for (const CallImage::Plane& plane : each.planes) steps.push_back(plane.step);
     }
     const auto* const bytes = reinterpret_cast<const std::byte*>(steps.data());
     image.contents = {{bytes, bytes + steps.size() * sizeof(int)}};
   }
 }
 
-void Call::fill(Image& image) {
-  for (Image::Plane& plane : image.planes) {
+void Call::fill(CallImage& image) {
+  for (CallImage::Plane& plane : image.planes) {
     plane.before.resize(plane.memory.size());
     // Of a buffer by numbers of their own: its size, which may depend on the team, leaves all else as it is.
     Random ofBuffer(scenario.seed);
     (image.role == Role::buffer ? ofBuffer : random).fill(plane.before.data(), plane.before.size());
   }
-  const View view = image.view(&Image::Plane::before);
+  const View view = image.view(&CallImage::Plane::before);
   const Margin& margin = image.margin;
   const bool isRead = !image.written || function.inPlace;  // what is only written may hold anything
   for (size_t n = 0; n < image.contents.size(); ++n) {
-    Image::Plane& plane = image.planes[n];
+    CallImage::Plane& plane = image.planes[n];
     std::copy(image.contents[n].begin(), image.contents[n].end(),
               plane.before.begin() + (plane.first - plane.memory.begin()));
   }
@@ -383,17 +383,17 @@ void Call::fill(Image& image) {
   }
 }
 
-void Call::settle(Image& image) {
-  for (Image::Plane& plane : image.planes) {
+void Call::settle(CallImage& image) {
+  for (CallImage::Plane& plane : image.planes) {
     plane.expected = plane.before;
     std::memcpy(plane.memory.begin(), plane.before.data(), plane.before.size());
   }
 }
 
-void Call::pass(Image& image) {
+void Call::pass(CallImage& image) {
   Slot& pointer = arguments[static_cast<size_t>(image.parameter)];
   if (image.layout.planar) {
-    for (const Image::Plane& plane : image.planes) image.pointers.push_back(plane.first);
+    for (const CallImage::Plane& plane : image.planes) image.pointers.push_back(plane.first);
     pointer.put(image.pointers.data());
   } else {
     const bool isNull = image.mayBeNull && random.below(3) == 0;
@@ -408,16 +408,16 @@ void Call::pass(Image& image) {
 // ---- What references read and write ----
 
 View Call::source(int index) {
-  for (Image& each : images) {
+  for (CallImage& each : images) {
     const bool isSource = each.role == Role::image && (!each.written || function.inPlace);
-    if (isSource && index-- == 0) return each.view(&Image::Plane::before);
+    if (isSource && index-- == 0) return each.view(&CallImage::Plane::before);
   }
   throw std::logic_error(function.name + " has fewer sources");
 }
 
 View Call::destination() {
-  for (Image& each : images) {
-    if (each.role == Role::image && each.written) return each.view(&Image::Plane::expected);
+  for (CallImage& each : images) {
+    if (each.role == Role::image && each.written) return each.view(&CallImage::Plane::expected);
   }
   throw std::logic_error(function.name + " has no destination");
 }
@@ -426,12 +426,12 @@ std::byte* Call::constant(const std::string& parameter, int channel) {
   const int index = function.indexOf(parameter);
   const Parameter& described = function.parameters.at(static_cast<size_t>(index));
   if (described.role != Role::array) return arguments[static_cast<size_t>(index)].bytes;
-  return image(parameter).view(&Image::Plane::before).at(channel, 0);
+  return image(parameter).view(&CallImage::Plane::before).at(channel, 0);
 }
 
 View Call::array(const std::string& parameter) {
-  Image& found = image(parameter);
-  return found.view(found.written ? &Image::Plane::expected : &Image::Plane::before);
+  CallImage& found = image(parameter);
+  return found.view(found.written ? &CallImage::Plane::expected : &CallImage::Plane::before);
 }
 
 // ---- Calling and comparing ----
@@ -459,17 +459,17 @@ VemiStatus Call::invoke() {
 }
 
 void Call::acceptWritten() {
-  for (Image& image : images) {
+  for (CallImage& image : images) {
     if (image.written) accept(image);
   }
 }
 
-void Call::accept(Image& image) {
-  const View view = image.view(&Image::Plane::expected);
+void Call::accept(CallImage& image) {
+  const View view = image.view(&CallImage::Plane::expected);
   const Margin& margin = image.margin;
   for (int channel = 0; channel < view.channels; ++channel) {
     const VemiSize size = view.sizes[channel];
-    const Image::Plane& plane = image.planes[image.layout.planar ? static_cast<size_t>(channel) : 0];
+    const CallImage::Plane& plane = image.planes[image.layout.planar ? static_cast<size_t>(channel) : 0];
     const ptrdiff_t bytes = bytesOf(image.element);
     for (int y = -margin.top; y < size.height + margin.bottom; ++y) {
       for (int x = -margin.left; x < size.width + margin.right; ++x) {
@@ -483,9 +483,9 @@ void Call::accept(Image& image) {
 
 void Call::restore() {
   arguments = goodArguments_;
-  for (Image& image : images) {
+  for (CallImage& image : images) {
     for (size_t n = 0; n < image.planes.size(); ++n) {
-      Image::Plane& plane = image.planes[n];
+      CallImage::Plane& plane = image.planes[n];
       if (n < image.pointers.size()) image.pointers[n] = plane.first;
       if (image.isArray()) {  // images are never spoiled
         plane.expected = plane.before;
@@ -497,14 +497,14 @@ void Call::restore() {
 
 /// Calls f(expected, actual, part) for each float of an image's region, or of a record.
 template <class F>
-void Call::forEachFloat(Image& image, const F& f) {
+void Call::forEachFloat(CallImage& image, const F& f) {
   const bool isRecord = image.fields != Element::none;
   const Element part = isRecord ? image.fields : partOf(image.element);
   if (part != Element::f32 && part != Element::f64) return;
-  const View view = image.view(&Image::Plane::expected);
+  const View view = image.view(&CallImage::Plane::expected);
   const int partBytes = bytesOf(part), elementBytes = std::max(bytesOf(image.element), partBytes);
   for (int channel = 0; channel < view.channels; ++channel) {
-    Image::Plane& plane = image.planes[image.layout.planar ? static_cast<size_t>(channel) : 0];
+    CallImage::Plane& plane = image.planes[image.layout.planar ? static_cast<size_t>(channel) : 0];
     const int width = view.sizes[channel].width * bytesOf(image.element) / elementBytes;
     for (int y = 0; y < view.sizes[channel].height; ++y) {
       for (int x = 0; x < width; ++x) {
@@ -518,14 +518,14 @@ void Call::forEachFloat(Image& image, const F& f) {
 }
 
 void Call::unifyWrittenNaNs() {
-  for (Image& image : images) {
+  for (CallImage& image : images) {
     if (!image.written) continue;
     forEachFloat(image, [](std::byte*, std::byte* actual, Element part) { unifyNaNs(part, actual); });
   }
 }
 
 /// Expects the float that is there wherever it will do.
-void Call::acceptFloats(Image& image) {
+void Call::acceptFloats(CallImage& image) {
   forEachFloat(image, [&](std::byte* expected, const std::byte* actual, Element part) {
     const bool accepted = part == Element::f32 ? isAccepted<float>(expected, actual, anyNaN, tolerance)
                                                : isAccepted<double>(expected, actual, anyNaN, tolerance);
@@ -534,11 +534,11 @@ void Call::acceptFloats(Image& image) {
 }
 
 std::string Call::difference() {
-  for (Image& image : images) {
+  for (CallImage& image : images) {
     if (image.role == Role::buffer) accept(image);
     const std::string name = function.parameters[static_cast<size_t>(image.parameter)].name;
     for (size_t n = 0; n < image.planes.size(); ++n) {
-      Image::Plane& plane = image.planes[n];
+      CallImage::Plane& plane = image.planes[n];
       const auto isEqual = [&] {
         return std::equal(plane.expected.begin(), plane.expected.end(), plane.memory.begin());
       };

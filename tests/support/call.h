@@ -64,7 +64,8 @@ struct Margin {
   int left = 0, top = 0, right = 0, bottom = 0;
 };
 
-struct Image {
+/// An argument that is memory: an image, an array, a record or a buffer, with what the call may not change around it.
+struct CallImage {
   int parameter = 0;
   int stepParameter = -1;  // -1: an array, which is one row
   Role role = Role::image;
@@ -107,7 +108,7 @@ class Call {
   const Scenario scenario;
   Random random;
   std::vector<Slot> arguments;
-  std::vector<Image> images;  // in the order of the arguments
+  std::vector<CallImage> images;  // in the order of the arguments
 
   // For a family's shape, by the prototype's names.
   template <class T>
@@ -119,7 +120,7 @@ class Call {
     arguments.at(static_cast<size_t>(function.indexOf(parameter))).put(value);
     undecided_.erase(parameter);
   }
-  Image& image(const std::string& parameter);
+  CallImage& image(const std::string& parameter);
   /// What a pointer without a step points at: elements of the prototype's type, or anything where that is no element.
   template <class T>
   void setArray(const std::string& parameter, const std::vector<T>& elements) {
@@ -199,16 +200,16 @@ class Call {
   void fillRead(Element element, std::byte* place);
   void addArgument(const Parameter& parameter, int index);
   void addImage(const Parameter& parameter, int index);
-  int stepFor(const Image& image, int64_t rowBytes, size_t plane) const;
-  void layOut(Image& image);
-  void fill(Image& image);
-  void settle(Image& image);
-  void pass(Image& image);
-  Image& arrayOf(const std::string& parameter);
-  void accept(Image& image);
+  int stepFor(const CallImage& image, int64_t rowBytes, size_t plane) const;
+  void layOut(CallImage& image);
+  void fill(CallImage& image);
+  void settle(CallImage& image);
+  void pass(CallImage& image);
+  CallImage& arrayOf(const std::string& parameter);
+  void accept(CallImage& image);
   template <class F>
-  void forEachFloat(Image& image, const F& f);
-  void acceptFloats(Image& image);
+  void forEachFloat(CallImage& image, const F& f);
+  void acceptFloats(CallImage& image);
 
   std::vector<Slot> goodArguments_;
   void* newRecord_ = nullptr;                                 // where the function stores a record that it makes

@@ -30,9 +30,9 @@ void addCall(const Export& function, const Scenario& scenario, Hash& hash) {
   Call call(function, scenario);
   hash.add(static_cast<uint64_t>(call.invoke()));
   call.unifyWrittenNaNs();
-  for (const Image& image : call.images) {
+  for (const CallImage& image : call.images) {
     if (image.role == Role::buffer) continue;
-    for (const Image::Plane& plane : image.planes) hash.add(plane.memory.begin(), plane.memory.size());
+    for (const CallImage::Plane& plane : image.planes) hash.add(plane.memory.begin(), plane.memory.size());
   }
 }
 

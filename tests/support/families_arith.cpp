@@ -9,7 +9,7 @@ namespace {
 void withAlpha(Call& call) {
   if (call.function.indexOf("alphaType") >= 0) call.set("alphaType", call.random.below(12));
   if (call.function.operation == "vemiAlphaCompC" && !call.function.destination.planar) return;
-  for (Image& image : call.images) image.layout.channels = image.layout.elements;
+  for (CallImage& image : call.images) image.layout.channels = image.layout.elements;
 }
 
 }  // namespace

@@ -75,7 +75,7 @@ void withWeights(Call& call) {
 /// Between layouts of four channels with planes among them the fourth is copied.
 void withCopiedAlpha(Call& call) {
   if (!call.function.source.planar && !call.function.destination.planar) return;
-  for (Image& image : call.images) image.layout.channels = image.layout.elements;
+  for (CallImage& image : call.images) image.layout.channels = image.layout.elements;
 }
 
 /// Pixels with channels that are equal, all of them or two, of black and white, and of floats that are colours.
@@ -166,7 +166,7 @@ void asVideo(Call& call) {
   if (size.height < unit.height) size.height = unit.height + (unit.height - 1) * (size.height - 1);
   call.set("roiSize", size);
   size = {size.width / unit.width * unit.width, size.height / unit.height * unit.height};
-  for (Image& image : call.images) {
+  for (CallImage& image : call.images) {
     if (image.role != Role::image) continue;
     const VemiSize shared = image.written ? to : from,
                    chroma = {size.width / shared.width, size.height / shared.height};
@@ -183,7 +183,7 @@ void withLayer(Call& call) {
   const int layer = layers[call.random.below(7)];
   call.set("layer", layer);
   if (layer != 4 && layer != 16) return;
-  for (Image& image : call.images) {
+  for (CallImage& image : call.images) {
     if (image.role != Role::image) continue;
     const std::string& name = call.function.parameters[static_cast<size_t>(image.parameter)].name;
     image.margin.top = name == "pSrcY" ? 3 : name == "pSrcCbCr" ? 1 : 2;

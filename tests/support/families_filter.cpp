@@ -104,7 +104,7 @@ void surroundRoberts(Call& call) {
 void surround3x3(Call& call) { call.image(call.function.inPlace ? "pSrcDst" : "pSrc").margin = {1, 1, 1, 1}; }
 
 bool selectNothing(Call& call) {
-  for (Image::Plane& plane : call.image("pMask").planes) {
+  for (CallImage::Plane& plane : call.image("pMask").planes) {
     const auto length = static_cast<size_t>(call.image("pMask").size.width);
     std::fill_n(plane.first, length, std::byte{0});
     std::fill_n(plane.expected.begin() + (plane.first - plane.memory.begin()), length, std::byte{0});

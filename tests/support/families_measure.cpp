@@ -89,7 +89,7 @@ bool shortStep(Call& call) {
 bool noDivisor(Call& call) {
   if (call.function.operation.find("Spatial") != std::string::npos) return false;
   const MomentState cleared = {hasDoubles(call) ? 33 : 34, 0, 3, 0, {}};
-  for (Image::Plane& plane : call.image("pState").planes) {
+  for (CallImage::Plane& plane : call.image("pState").planes) {
     const ptrdiff_t offset = plane.first - plane.memory.begin();
     std::memcpy(plane.memory.begin() + offset, &cleared, sizeof cleared);
     std::memcpy(plane.expected.data() + offset, &cleared, sizeof cleared);

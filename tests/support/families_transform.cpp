@@ -42,10 +42,10 @@ void sizeByFFT(Call& call) {
 
 /// Bytes that are floats from 2^-7 to 2^9 of either sign, wherever they begin: rows may overlap.
 void moderateFloats(Call& call) {
-  for (Image& each : call.images) {
+  for (CallImage& each : call.images) {
     if (each.role != Role::image || each.written || each.element == Element::u8 || each.element == Element::s32)
       continue;
-    const View view = each.view(&Image::Plane::before);
+    const View view = each.view(&CallImage::Plane::before);
     for (int y = -each.margin.top; y < view.size.height + each.margin.bottom; ++y) {
       for (int x = -each.margin.left; x < view.size.width + each.margin.right; ++x) {
         for (ptrdiff_t i = 0; i < view.pixelBytes; ++i) {
@@ -106,7 +106,7 @@ void moderateBlock(Call& call) {
 }
 
 void sizeByBlock(Call& call) {
-  for (Image& image : call.images) {
+  for (CallImage& image : call.images) {
     if (image.role == Role::image) image.size = {8, 8};
   }
 }
@@ -140,7 +140,7 @@ void surroundByFilters(Call& call) {
   const VemiSize size = call.scenario.roiSize, doubled = {2 * size.width, 2 * size.height};
   if (isForward) call.image("pSrc").size = doubled;
   if (!isForward) call.image("pDst").size = doubled;
-  for (Image& each : call.images) {
+  for (CallImage& each : call.images) {
     if (each.role == Role::image && !each.written) each.margin = {before, before, behind, behind};
   }
   const std::string query = std::string("vemiWT") + (isForward ? "Fwd" : "Inv") + "GetBufSize_C";

@@ -26,7 +26,7 @@ std::string stageOf(const Family& family, const std::string& parameter, const st
 auto imageOf(const Call& call, const std::string& parameter) {
   const int index = call.function.indexOf(parameter);
   return std::find_if(call.images.begin(), call.images.end(),
-                      [=](const Image& image) { return image.parameter == index; });
+                      [=](const CallImage& image) { return image.parameter == index; });
 }
 
 template <class T>
@@ -45,7 +45,7 @@ void addNullFaults(const Call& call, const Family& family, std::vector<Fault>& f
   }
   const bool byChannel = hasStage(family, "channels");
   for (size_t n = 0; n < call.images.size(); ++n) {
-    const Image& image = call.images[n];
+    const CallImage& image = call.images[n];
     if (image.mayBeNull) continue;
     const std::string name = call.function.parameters[static_cast<size_t>(image.parameter)].name;
     const std::string stage = stageOf(family, name, image.isArray() && hasStage(family, "arrays") ? "arrays" : "null");

@@ -59,7 +59,7 @@ const std::string quarters[2][2] = {{"pApprox", "pDetailY"}, {"pDetailX", "pDeta
 void forward(Call& call) {
   Call& maker = call.record("pSpec");
   const Filter filters[2] = {filterOf(maker, "Low"), filterOf(maker, "High")};
-  const Image& image = call.image("pSrc");
+  const CallImage& image = call.image("pSrc");
   const View source = call.source();
   const int left = image.margin.left, columns = left + image.size.width + image.margin.right;
   double largest = 0;
@@ -74,7 +74,7 @@ void forward(Call& call) {
           });
         }
         for (const int horizontal : {0, 1}) {
-          const View result = call.image(quarters[vertical][horizontal]).view(&Image::Plane::expected);
+          const View result = call.image(quarters[vertical][horizontal]).view(&CallImage::Plane::expected);
           for (int x = 0; x < call.scenario.roiSize.width; ++x) {
             const Value value =
                 filters[horizontal].forward(x, [&](int i) { return row[static_cast<size_t>(i + left)]; });
@@ -102,7 +102,7 @@ void inverse(Call& call) {
         for (int x = -left; x < size.width + right; ++x) {
           Value value;
           for (const int vertical : {0, 1}) {
-            const View quarter = call.image(quarters[vertical][horizontal]).view(&Image::Plane::before);
+            const View quarter = call.image(quarters[vertical][horizontal]).view(&CallImage::Plane::before);
             filters[vertical].addInverse(value, y, [&](int m) {
               const double pixel = load<float>(quarter.at(x, m, channel));
               return Value{pixel, std::fabs(pixel)};
