@@ -28,9 +28,8 @@ struct Filtered {
     const auto pixels = rgbOfPixels(d, r, g, b);
     const auto before = rgbOfPixels(d, rBefore, gBefore, bBefore).even;
     const auto luma = [](const auto& p) VEMI_INLINED { return affineRow<rgbToYCbCr, 0>(p.r, p.g, p.b); };
-    return std::tuple(bytesOfPixels(d, luma(pixels.even), luma(pixels.odd)),
-                      chromaBytes(d, chroma<1>(before, pixels.even, pixels.odd)),
-                      chromaBytes(d, chroma<2>(before, pixels.even, pixels.odd)));
+    return withChromaBytes(d, chroma<1>(before, pixels.even, pixels.odd), chroma<2>(before, pixels.even, pixels.odd),
+                           bytesOfPixels(d, luma(pixels.even), luma(pixels.odd)));
   }
 
  private:

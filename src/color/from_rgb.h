@@ -9,6 +9,7 @@
 #include "color/shared_chroma.h"
 #include "core/inlined.h"
 #include "core/numbers.h"
+#include "core/processor_bytes.h"
 
 namespace vemi::color {
 
@@ -45,7 +46,7 @@ HWY_INLINE V doubledLuma(RgbWords<V> p) {
   const V weights = detail::weightsOfPairs(d, m.red, m.green);
   const auto part = [&](V pairs) VEMI_INLINED { return hn::ShiftRight<14>(pairsOfProducts(pairs, weights)); };
   const V redAndGreen = packHalves(d, part(hn::InterleaveLower(d, p.r, p.g)), part(hn::InterleaveUpper(d, p.r, p.g)));
-  return hn::Add(redAndGreen, hn::MulHigh(hn::ShiftLeft<2>(p.b), hn::Set(d, m.blue)));
+  return hn::Add(redAndGreen, hn::MulHigh(p.b, hn::Set(d, 4 * m.blue)));
 }
 
 template <class V>
@@ -83,9 +84,9 @@ struct ByDifferences422 {
     const auto even = doubledLuma<m>(p.even), odd = doubledLuma<m>(p.odd);
     const auto luma = hn::ShiftRight<1>(hn::Add(even, odd));
     const auto sums = p.sums();
-    return std::tuple(bytesOfPixels(d, hn::ShiftRight<1>(even), hn::ShiftRight<1>(odd)),
-                      chromaBytes(d, chromaOfDifference(hn::Sub(sums.b, luma), m.blueToU)),
-                      chromaBytes(d, chromaOfDifference(hn::Sub(sums.r, luma), m.redToV)));
+    return withChromaBytes(d, chromaOfDifference(hn::Sub(sums.b, luma), m.blueToU),
+                           chromaOfDifference(hn::Sub(sums.r, luma), m.redToV),
+                           bytesOfPixels(d, hn::ShiftRight<1>(even), hn::ShiftRight<1>(odd)));
   }
 };
 
@@ -99,12 +100,11 @@ struct ByDifferences420 {
     const auto even1 = doubledLuma<m>(bottom.even), odd1 = doubledLuma<m>(bottom.odd);
     const auto luma = hn::ShiftRight<2>(hn::Add(hn::Add(even0, odd0), hn::Add(even1, odd1)));
     const auto sums = top.sums() + bottom.sums();
-    const auto chroma = [&](auto sum, int16_t weight) VEMI_INLINED {
-      return chromaBytes(d, chromaOfDifference(hn::Sub(hn::ShiftRight<1>(sum), luma), weight));
-    };
-    return std::tuple(bytesOfPixels(d, hn::ShiftRight<1>(even0), hn::ShiftRight<1>(odd0)),
-                      bytesOfPixels(d, hn::ShiftRight<1>(even1), hn::ShiftRight<1>(odd1)), chroma(sums.b, m.blueToU),
-                      chroma(sums.r, m.redToV));
+    const auto chroma = [&](auto sum, int16_t weight)
+                            VEMI_INLINED { return chromaOfDifference(hn::Sub(hn::ShiftRight<1>(sum), luma), weight); };
+    return withChromaBytes(d, chroma(sums.b, m.blueToU), chroma(sums.r, m.redToV),
+                           bytesOfPixels(d, hn::ShiftRight<1>(even0), hn::ShiftRight<1>(odd0)),
+                           bytesOfPixels(d, hn::ShiftRight<1>(even1), hn::ShiftRight<1>(odd1)));
   }
 };
 
@@ -146,9 +146,9 @@ struct To422 {
   HWY_INLINE auto operator()(D d, V r, V g, V b) const {
     const auto p = rgbOfPixels(d, r, g, b);
     const auto sums = p.sums();
-    return std::tuple(bytesOfPixels(d, lumaOf(p.even), lumaOf(p.odd)),
-                      chromaBytes(d, affineRow<chroma, 0>(sums.r, sums.g, sums.b)),
-                      chromaBytes(d, affineRow<chroma, 1>(sums.r, sums.g, sums.b)));
+    return withChromaBytes(d, affineRow<chroma, 0>(sums.r, sums.g, sums.b),
+                           affineRow<chroma, 1>(sums.r, sums.g, sums.b),
+                           bytesOfPixels(d, lumaOf(p.even), lumaOf(p.odd)));
   }
 
  private:
@@ -164,26 +164,53 @@ struct To422 {
 
 // ---- 4:2:0 ---------------------------------------------------------------------------------------------------------
 
+/// Channels come 2^5 times as large, to which weights add what is left of their row's shift.
 template <const HighProductMatrix& m>
 struct To420 {
   template <class D, class V>
   HWY_INLINE auto operator()(D d, V r0, V g0, V b0, V r1, V g1, V b1) const {
-    const auto top = rgbOfPixels(d, r0, g0, b0), bottom = rgbOfPixels(d, r1, g1, b1);
+    const auto top = largerRgb(d, r0, g0, b0), bottom = largerRgb(d, r1, g1, b1);
     const auto sums = top.sums() + bottom.sums();
-    return std::tuple(bytesOfPixels(d, row<0>(top.even), row<0>(top.odd)),
-                      bytesOfPixels(d, row<0>(bottom.even), row<0>(bottom.odd)), chromaBytes(d, row<1>(sums)),
-                      chromaBytes(d, row<2>(sums)));
+    const hn::Repartition<int8_t, D> dSigned;
+    const hn::Half<D> dHalf;
+    const auto signedChroma = packInOrder(dSigned, row<1>(sums), row<2>(sums));
+    const auto chroma = hn::Add(hn::BitCast(d, signedChroma), hn::Set(d, offset<1>));
+    static_assert(offset<1> == 128 && offset<2> == 128);
+    return std::tuple(luma(d, top), luma(d, bottom), hn::LowerHalf(chroma), hn::UpperHalf(dHalf, chroma));
   }
 
  private:
+  static constexpr int shift = 5;
+  static_assert(4 * 255 << shift <= INT16_MAX);
+
+  template <class D, class V>
+  HWY_INLINE static auto largerRgb(D, V r, V g, V b) {
+    const Words<D> dWords;
+    const auto even = [&](V v) VEMI_INLINED { return pairsOfByteProducts<1 << shift, 0>(dWords, v); };
+    const auto odd = [&](V v) VEMI_INLINED { return pairsOfByteProducts<0, 1 << shift>(dWords, v); };
+    return RgbOfPixels<hn::Vec<Words<D>>>{{even(r), even(g), even(b)}, {odd(r), odd(g), odd(b)}};
+  }
+
+  template <class D, class V>
+  HWY_INLINE static hn::Vec<D> luma(D d, const RgbOfPixels<V>& p) {
+    return hn::Add(bytesOfPixels(d, row<0>(p.even), row<0>(p.odd)), hn::Set(d, offset<0>));
+  }
+
+  /// All but the multiple of 8 in the offset, which is left for the bytes: what remains of it is 4, the half that
+  /// rounds to nearest.
+  template <int i>
+  static constexpr uint8_t offset = static_cast<uint8_t>(m.row[i].offset / 8);
+
   template <int i, class V>
   HWY_INLINE static V row(RgbWords<V> p) {
     constexpr HighProductRow r = m.row[i];
+    static_assert(r.offset % 8 == 4);
     const hn::DFromV<V> d;
-    const auto product = [&](V channel, int16_t weight)
-                             VEMI_INLINED { return hn::MulHigh(hn::ShiftLeft<r.shift>(channel), hn::Set(d, weight)); };
+    const auto product = [&](V channel, int weight) VEMI_INLINED {
+      return hn::MulHigh(channel, hn::Set(d, static_cast<int16_t>(weight * (1 << (r.shift - shift)))));
+    };
     const V sum = hn::Add(hn::Add(product(p.r, r.weight[0]), product(p.g, r.weight[1])), product(p.b, r.weight[2]));
-    return hn::ShiftRight<3>(hn::Add(sum, hn::Set(d, r.offset)));
+    return hn::MulFixedPoint15(sum, hn::Set(d, 1 << 12));  // an eighth
   }
 };
 

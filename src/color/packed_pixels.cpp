@@ -12,7 +12,7 @@
 #include "color/subsampled.h"
 #include "color/to_rgb.h"
 #include "core/exports.h"
-#include "core/regimes.h"
+#include "core/inlined.h"
 #include "vemi/color.h"
 
 namespace vemi::color {
@@ -84,26 +84,26 @@ auto channelsFrom(Piece& piece, Order order, ptrdiff_t x) {
   return planeRow(piece.channel[red] + x, piece.channel[1] + x, piece.channel[2 - red] + x);
 }
 
-/// Columns of a row, or of two that share chroma, to to(x) from column x on.
+/// Columns of a row, or of two that share chroma, to to(x) from column x on. Inlined for the reason of expandRow.
 template <class Groups, class Rest, class Row, class To>
-void expandColumns(ptrdiff_t first, ptrdiff_t columns, const Row& row, const To& to) {
-  forRegimes<4, Row::sharing, 1>(
-      columns, [&](ptrdiff_t x, ptrdiff_t n) { mapPixels(n, Groups(), to(x), row.groups().from(first + x)); },
-      [&](ptrdiff_t x, ptrdiff_t n) { mapPixels(n, Rest(), to(x), row.groups().from(first + x)); },
-      [&](ptrdiff_t x, ptrdiff_t n) { mapPixels(n, Rest(), to(x), row.pixel(first + x)); });
+HWY_INLINE void expandColumns(ptrdiff_t first, ptrdiff_t columns, const Row& row, const To& to) {
+  const ptrdiff_t inGroups = columns / 4 * 4, inShared = columns / Row::sharing * Row::sharing;
+  if (inGroups > 0) mapPixels(inGroups, Groups(), to(0), row.groups().from(first));
+  if (inShared > inGroups) mapPixels(inShared - inGroups, Rest(), to(inGroups), row.groups().from(first + inGroups));
+  if (columns > inShared) mapPixels(columns - inShared, Rest(), to(inShared), row.pixel(first + inShared));
 }
 
 template <class Groups, class Rest, class Src>
 HWY_NOINLINE void expandPiece(ptrdiff_t first, ptrdiff_t columns, const Src& src, ptrdiff_t y, Order order,
                               Piece& piece) {
-  const auto to = [&](ptrdiff_t x) { return channelsFrom(piece, order, x); };
+  const auto to = [&](ptrdiff_t x) VEMI_INLINED { return channelsFrom(piece, order, x); };
   expandColumns<Groups, Rest>(first, columns, src.row(y), to);
 }
 
 template <class Groups, class Rest>
 HWY_NOINLINE void expandPieces(ptrdiff_t first, ptrdiff_t columns, ChromaPlanes src, ptrdiff_t y, Order order,
                                Piece (&pieces)[2]) {
-  const auto to = [&](ptrdiff_t x) {
+  const auto to = [&](ptrdiff_t x) VEMI_INLINED {
     return rowsBeside(channelsFrom(pieces[0], order, x), channelsFrom(pieces[1], order, x));
   };
   expandColumns<OnPairedRows<Groups>, OnPairedRows<Rest>>(first, columns, pairedRows(src, y, y / 2), to);
@@ -131,8 +131,9 @@ void cut(ptrdiff_t columns, const Piece& piece, ptrdiff_t, WordRow words, bool s
 template <class Format>
 void dither(ptrdiff_t columns, const Piece& piece, ptrdiff_t y, WordRow words, bool streamed) {
   const DitheredLevels<Format> op = {y % 4};
-  const auto run = [&](ptrdiff_t x, ptrdiff_t n) { runWords(x, n, op, piece, words, streamed); };
-  forRegimes<4, 1>(columns, run, run);
+  const ptrdiff_t inGroups = columns / 4 * 4;
+  if (inGroups > 0) runWords(0, inGroups, op, piece, words, streamed);
+  if (columns > inGroups) runWords(inGroups, columns - inGroups, op, piece, words, streamed);
 }
 
 /// The words of a member: what becomes of bytes, and which channel lies in the lower bits.

@@ -48,64 +48,83 @@ HWY_INLINE auto upperWords(V lower, V upper) {
 
 }  // namespace detail
 
-/// R, G and B of pairs Cb Y Cr Y as words, in the order of the pixels. With weight = 256 high + low,
-///   weight (C - 128) = 256 (C - 128) high + C low - 128 low.
+namespace detail {
+
+/// A weight as low + 256 high, for a byte b in words b + toLow and 256 b + toHigh, which 16 bits hold.
+struct WeightOfByte {
+  int low, high, toLow, toHigh;
+
+  /// weight b + offset. With a high part there are few ways to the offset; the compiler finds one.
+  static constexpr WeightOfByte withOffset(int weight, int offset) {
+    for (int high = weight / 256 - 126; high < weight / 256 + 126; ++high) {
+      for (int toHigh = INT16_MIN; toHigh < INT16_MIN + 256; ++toHigh) {
+        const int low = weight - 256 * high, rest = offset - high * toHigh;
+        if (low == 0 || rest % low != 0) continue;
+        const int toLow = rest / low;
+        if (toLow >= INT16_MIN && toLow <= INT16_MAX - 255) return {low, high, toLow, toHigh};
+      }
+    }
+    return {};
+  }
+  /// weight (b - 128)
+  static constexpr WeightOfByte ofChroma(int weight) { return {weight % 256, weight / 256, -128, INT16_MIN}; }
+
+  constexpr bool exists() const { return high != 0; }
+};
+
+}  // namespace detail
+
+/// R, G and B of pairs Cb Y Cr Y as words, in the order of the pixels.
 template <const ExactMatrix& m, class D>
 HWY_INLINE auto rgbOfPairs(D d, hn::Vec<D> pairs) {
   using namespace detail;
-  const hn::Repartition<int32_t, D> dSums;
-  const auto luma = [&](const uint8_t(&places)[16]) VEMI_INLINED {
-    static_assert(m.luma % 2 == 0);
-    return hn::ShiftLeft<1>(timesBoth<m.luma / 2>(wordsAt(d, pairs, places)));
+  using Weight = WeightOfByte;
+  const hn::Repartition<int16_t, D> dWords;
+  const auto words = [&](const uint8_t(&places)[16], const Weight& w) VEMI_INLINED {
+    return hn::Add(wordsAt(d, pairs, places), weightsOfPairs(dWords, fraction(w.toLow), fraction(w.toHigh)));
   };
-  const auto chroma = [&](const uint8_t(&places)[16]) VEMI_INLINED {
-    const auto words = wordsAt(d, pairs, places);
-    const auto sign = hn::Set(hn::Repartition<uint32_t, D>(), 0x80000000u);
-    return hn::Xor(words, hn::BitCast(hn::DFromV<decltype(words)>(), sign));
+  const auto times = [&](auto v, const Weight& w) VEMI_INLINED {
+    return pairsOfProducts(v, weightsOfPairs(dWords, fraction(w.low), fraction(w.high)));
   };
-  const auto low = [](int weight) { return weight % 256; };
-  const auto times = [&](auto words, int weight) VEMI_INLINED {
-    const auto weights = weightsOfPairs(hn::DFromV<decltype(words)>(), fraction(low(weight)), fraction(weight / 256));
-    return pairsOfProducts(words, weights);
-  };
-  const auto even = luma(byteTwice<1>), odd = luma(byteTwice<3>);
-  const auto cb = chroma(byteAndHigh<0>), cr = chroma(byteAndHigh<2>);
-  const auto pixels = [&](auto chromaSum, int lows) VEMI_INLINED {
-    const auto sum = hn::Add(chromaSum, hn::Set(dSums, m.offset - 128 * lows));
-    return upperWords(hn::Add(even, sum), hn::Add(odd, sum));
-  };
-  const auto red = pixels(times(cr, m.redV), low(m.redV));
-  const auto green = pixels(hn::Add(times(cb, m.greenU), times(cr, m.greenV)), low(m.greenU) + low(m.greenV));
-  const auto blue = pixels(times(cb, m.blueU), low(m.blueU));
+  constexpr Weight luma = Weight::withOffset(m.luma, m.offset);
+  static_assert(luma.exists());
+  const auto even = times(words(byteAndHigh<1>, luma), luma), odd = times(words(byteAndHigh<3>, luma), luma);
+  constexpr Weight redV = Weight::ofChroma(m.redV), greenU = Weight::ofChroma(m.greenU),
+                   greenV = Weight::ofChroma(m.greenV), blueU = Weight::ofChroma(m.blueU);
+  const auto cb = words(byteAndHigh<0>, blueU), cr = words(byteAndHigh<2>, redV);
+  const auto pixels = [&](auto chroma) VEMI_INLINED { return upperWords(hn::Add(even, chroma), hn::Add(odd, chroma)); };
+  const auto red = pixels(times(cr, redV)), blue = pixels(times(cb, blueU));
+  const auto green = pixels(hn::Add(times(cb, greenU), times(cr, greenV)));
   return Vectors<std::remove_const_t<decltype(red)>, 3>{{red, green, blue}};
 }
 
 namespace detail {
+
+/// Weights of words blue and red.
+template <class D>
+HWY_INLINE hn::Vec<D> weightsOfBlueAndRed(D d, const AffineRow& r) {
+  return weightsOfPairs(d, fraction(r.weight[2]), fraction(r.weight[0]));
+}
 
 /// Row i of the matrix in lanes of 32 bits, of words blue and red, and green twice.
 template <const auto& matrix, int i, class V>
 HWY_INLINE auto sumOfBgr(V blueAndRed, V green) {
   constexpr AffineRow r = matrix.row[i];
   static_assert(fraction(r.weight[2]) == r.weight[2] && fraction(r.weight[0]) == r.weight[0]);
-  const V weights = weightsOfPairs(hn::DFromV<V>(), fraction(r.weight[2]), fraction(r.weight[0]));
+  const auto weights = weightsOfBlueAndRed(hn::DFromV<V>(), r);
   const auto products = hn::Add(pairsOfProducts(blueAndRed, weights), timesBoth<r.weight[1]>(green));
   return hn::Add(products, hn::Set(hn::DFromV<decltype(products)>(), r.offset));
 }
 
-/// Where the lanes of two runs are that stand by turns.
-struct RunsByTurns {
-  alignas(laneAlignment) uint32_t index[laneCount<uint32_t>];
-
-  constexpr RunsByTurns() : index() {
-    constexpr uint32_t half = laneCount<uint32_t> / 2;
-    for (uint32_t i = 0; i < half; ++i) {
-      index[i] = 2 * i;
-      index[half + i] = 2 * i + 1;
-    }
-  }
-};
-
-inline constexpr RunsByTurns runsByTurns;
+/// The same of weights whose sum is 0, of words blue and red less green.
+template <const auto& matrix, int i, class V>
+HWY_INLINE auto sumOfDifferences(V blueAndRed) {
+  constexpr AffineRow r = matrix.row[i];
+  static_assert(fraction(r.weight[2]) == r.weight[2] && fraction(r.weight[0]) == r.weight[0]);
+  static_assert(r.weight[0] + r.weight[1] + r.weight[2] == 0);
+  const auto products = pairsOfProducts(blueAndRed, weightsOfBlueAndRed(hn::DFromV<V>(), r));
+  return hn::Add(products, hn::Set(hn::DFromV<decltype(products)>(), r.offset));
+}
 
 }  // namespace detail
 
@@ -118,20 +137,18 @@ HWY_INLINE hn::Vec<D> pairsOfBgra(D d, hn::Vec<D> first, hn::Vec<D> second) {
   const hn::Repartition<int16_t, D> dWords;
   static_assert(lumas.row[0].shift == 16 && chromas.row[0].shift == 17 && chromas.row[1].shift == 17);
   const auto p = hn::BitCast(dPixels, first), q = hn::BitCast(dPixels, second);
-  // Pairs of the first vector and of the second by turns.
-  const auto even = hn::OddEven(hn::Shuffle2301(q), p), odd = hn::OddEven(q, hn::Shuffle2301(p));
+  const auto even = hn::ConcatEven(dPixels, q, p), odd = hn::ConcatOdd(dPixels, q, p);
   const auto blueAndRed = [&](auto pixels) VEMI_INLINED {
     return hn::BitCast(dWords, hn::And(pixels, hn::Set(dPixels, 0x00ff00ff)));
   };
   const auto green = [&](auto pixels) VEMI_INLINED { return wordsAt(d, hn::BitCast(d, pixels), byteTwice<1>); };
-  const auto br0 = blueAndRed(even), br1 = blueAndRed(odd), brSum = hn::Add(br0, br1);
-  const auto g0 = green(even), g1 = green(odd), gSum = hn::Add(g0, g1);
+  const auto br0 = blueAndRed(even), br1 = blueAndRed(odd), g0 = green(even), g1 = green(odd);
   const auto luma = upperWords(sumOfBgr<lumas, 0>(br0, g0), sumOfBgr<lumas, 0>(br1, g1));
-  const auto cb = hn::ShiftRight<17>(sumOfBgr<chromas, 0>(brSum, gSum));
-  const auto cr = hn::ShiftRight<17 - 16>(sumOfBgr<chromas, 1>(brSum, gSum));
+  const auto differences = hn::Sub(hn::Add(br0, br1), hn::Add(g0, g1));
+  const auto cb = hn::ShiftRight<17>(sumOfDifferences<chromas, 0>(differences));
+  const auto cr = hn::ShiftRight<17 - 16>(sumOfDifferences<chromas, 1>(differences));
   const auto chroma = hn::OddEven(hn::BitCast(dWords, cr), hn::BitCast(dWords, cb));
-  const auto pairs = hn::BitCast(dPixels, hn::Or(chroma, hn::ShiftLeft<8>(luma)));
-  return hn::BitCast(d, hn::TableLookupLanes(pairs, hn::SetTableIndices(dPixels, runsByTurns.index)));
+  return hn::BitCast(d, hn::Or(chroma, hn::ShiftLeft<8>(luma)));
 }
 
 }  // namespace vemi::color

@@ -2,6 +2,8 @@
 // of either.
 #pragma once
 
+#include <tuple>
+
 #include "core/inlined.h"
 #include "core/lane_width.h"
 #include "core/lanes.h"
@@ -67,10 +69,12 @@ HWY_INLINE auto bytesByWords(D d, const F& f, V... channel) {
   return ofWords(wordsOfPixels(d, channel)...);
 }
 
-/// Words of chroma that two pixels share, as bytes.
-template <class D, class V>
-HWY_INLINE auto chromaBytes(D, V words) {
-  return hn::DemoteTo(hn::Half<D>(), words);
+/// luma... and both words of chroma that two pixels share, these as bytes, in one tuple.
+template <class D, class V, class... Luma>
+HWY_INLINE auto withChromaBytes(D d, V first, V second, Luma... luma) {
+  const hn::Half<D> dHalf;
+  const auto both = packInOrder(d, first, second);
+  return std::tuple(luma..., hn::LowerHalf(both), hn::UpperHalf(dHalf, both));
 }
 
 }  // namespace vemi::color

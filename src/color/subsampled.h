@@ -90,21 +90,22 @@ struct ColumnOps {
 template <class Groups, class Rest, class Single>
 ColumnOps(Groups, Rest, Single) -> ColumnOps<Groups, Rest, Single>;
 
-/// One row, or two that share chroma. Streamed, groups of eight are written past the caches.
+/// One row, or two that share chroma. Streamed, groups of eight are written past the caches. Inlined, the pointers of
+/// rows stay in registers: a record of them that goes through memory takes as long as a short row.
 template <Stores how, class Ops, class Dst, class Src>
-void expandRow(ptrdiff_t width, const Ops& ops, Dst dst, Src src) {
-  const auto groups = [&](ptrdiff_t x, ptrdiff_t n) {
+HWY_INLINE void expandRow(ptrdiff_t width, const Ops& ops, Dst dst, Src src) {
+  const ptrdiff_t inGroups = width / 8 * 8, inShared = width / Src::sharing * Src::sharing;
+  if (inGroups > 0) {
     if constexpr (how == Stores::streamed) {
-      streamPixels<8>(n, ops.groups, dst.from(x), src.groups().from(x));
+      streamPixels<8>(inGroups, ops.groups, dst, src.groups());
     } else {
-      mapPixels(n, ops.groups, dst.from(x), src.groups().from(x));
+      mapPixels(inGroups, ops.groups, dst, src.groups());
     }
-  };
-  const auto rest = [&](ptrdiff_t x, ptrdiff_t n) { mapPixels(n, ops.rest, dst.from(x), src.groups().from(x)); };
-  const auto singles = [&](ptrdiff_t x, ptrdiff_t n) {
-    for (ptrdiff_t i = x; i < x + n; ++i) mapPixels(1, ops.single, dst.from(i), src.pixel(i));
-  };
-  forRegimes<8, Src::sharing, 1>(width, groups, rest, singles);
+  }
+  if (inShared > inGroups) {
+    mapPixels(inShared - inGroups, ops.rest, dst.from(inGroups), src.groups().from(inGroups));
+  }
+  for (ptrdiff_t x = inShared; x < width; ++x) mapPixels(1, ops.single, dst.from(x), src.pixel(x));
 }
 
 using ChromaPlanes = SteppedPlanes<const uint8_t, 3>;

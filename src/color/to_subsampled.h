@@ -3,6 +3,7 @@
 
 #include <array>
 
+#include "color/rgb_row.h"
 #include "color/subsampled.h"
 
 namespace vemi::color {
@@ -17,11 +18,11 @@ struct WithoutLast {
 
 /// One row to planes or pairs: whole groups of `group` columns, pairs, and a single one.
 template <int group, class Ops, class Dst, class Src>
-void reduceRow(ptrdiff_t width, const Ops& ops, Dst dst, Src src) {
-  forRegimes<group, 2, 1>(
-      width, [&](ptrdiff_t x, ptrdiff_t n) { mapPixels(n, ops.groups, dst.groups().from(x), src.from(x)); },
-      [&](ptrdiff_t x, ptrdiff_t n) { mapPixels(n, ops.rest, dst.groups().from(x), src.from(x)); },
-      [&](ptrdiff_t x, ptrdiff_t n) { mapPixels(n, ops.single, dst.pixel(x), src.from(x)); });
+HWY_INLINE void reduceRow(ptrdiff_t width, const Ops& ops, Dst dst, Src src) {
+  const ptrdiff_t inGroups = width / group * group, inPairs = width / 2 * 2;
+  if (inGroups > 0) mapPixels(inGroups, ops.groups, dst.groups(), src);
+  if (inPairs > inGroups) mapPixels(inPairs - inGroups, ops.rest, dst.groups().from(inGroups), src.from(inGroups));
+  if (width > inPairs) mapPixels(1, ops.single, dst.pixel(inPairs), src.from(inPairs));
 }
 
 /// 4:2:2 in planes.
@@ -76,7 +77,7 @@ void reduceRowPairs(Extent extent, const Op& op, const Edge& edge, SteppedPlanes
     const auto top = src.row(y), bottom = src.row(y + 1);
     const auto luma = planeRow(dst[0].row(y), dst[0].row(y + 1));
     mapPixels(inPairs, op, rowsBeside(luma, planeRow<2>(dst[1].row(shared), dst[2].row(shared))),
-              rowsBeside(top, bottom));
+              rowsBeside(rgbRow(top), rgbRow(bottom)));
     if (inPairs == extent.width) return;
     const std::array pixels = {pixelOf(top, inPairs), pixelOf(bottom, inPairs)};
     lumaTo(inPairs, y, pixels[0]);
