@@ -25,7 +25,7 @@ struct SigDCTSpec {
   DFTLines lines;  // of lines side by side
   Roots roots;     // of a long line, or of its convolution with a chirp
   Scratch tables;
-  const float* turns;       // factors of pairs of frequencies
+  const double* turns;      // factors of pairs of frequencies
   const Vemi32s *in, *out;  // of lines side by side: where element n goes to, and where result k stands
   const float *chirp, *filter;
 
