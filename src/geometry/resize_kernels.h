@@ -113,7 +113,55 @@ void setOffsets(int32_t* offset, int column, int sample) {
 /// So many elements of rows in memory of our own, with what a vector may have behind them.
 constexpr Vemi64s withVectorEnd(Vemi64s elements) { return elements + laneCount<uint8_t>; }
 
+/// Elements of T of two pixels with four channels, in pairs of a channel.
+template <class T>
+struct PairsOfBlock {
+  alignas(16) uint8_t index[16];
+
+  constexpr PairsOfBlock() : index() {
+    constexpr int size = sizeof(T);
+    for (int i = 0; i < 16; ++i) {
+      const int pair = i / (2 * size), sample = i / size % 2, byte = i % size;
+      index[i] = static_cast<uint8_t>(pair / 4 * 8 * size + sample * 4 * size + pair % 4 * size + byte);
+    }
+  }
+};
+
+template <class T>
+inline constexpr PairsOfBlock<T> pairsOfBlock;
+
+// ---- Source and destination ---------------------------------------------------------------------------------------
+
+/// A row of vectors that begin at multiples of their length: at(d, first element).
+template <class L, class T, class At>
+HWY_INLINE void storeVectors(ptrdiff_t elements, T* dst, const At& at) {
+  const Lanes<T> d;
+  constexpr ptrdiff_t N = laneCount<T>;
+  alignas(laneAlignment) T rest[N] = {};
+  for (ptrdiff_t i = 0; i < elements; i += N) {  // one place where `at` is called, as it is to be inlined
+    const bool isWhole = i + N <= elements;
+    const size_t bytes = isWhole ? 0 : static_cast<size_t>(elements - i) * sizeof(T);
+    T* const out = isWhole ? dst + i : rest;
+    if (!isWhole) std::memcpy(rest, dst + i, bytes);
+    auto v = at(d, i);
+    if constexpr (L::keepsAlpha) v = hn::IfThenElse(colourLanes(d), v, hn::LoadU(d, out));
+    hn::StoreU(v, d, out);
+    if (!isWhole) std::memcpy(dst + i, rest, bytes);
+  }
+}
+
 // ---- Filters in single precision -----------------------------------------------------------------------------------
+
+/// Lanes of T out of floats: as they are, or to nearest, which the weights of integers leave far within 32 bits.
+template <class T, class D, class At>
+HWY_INLINE hn::Vec<D> elementsOf(D d, const At& at) {
+  if constexpr (sizeof(T) == 4) {
+    return at(0);
+  } else {
+    const Lanes<int32_t> di;
+    return packEach<int32_t>(d, [&](auto k) HWY_ATTR { return rounded(di, at(k * laneCount<float>)); });
+  }
+}
 
 /// A row of floats out of a source line: words of neighbouring samples, of which a group has 4 / sizeof(T).
 template <class F, class T, class L>
@@ -138,8 +186,11 @@ class FloatAcross {
         picks_(scratch, room.picks),
         weight_(scratch[room.weight]) {
     int32_t* const offset = scratch[room.offset];
+    inTurn_ = mayBeInTurn;
     forNodes(x, F::nodeOf, [&](int column, const Node& node) {
-      setOffsets<T, L>(offset, column, node.first - firstColumn);
+      const int sample = node.first - firstColumn;
+      inTurn_ = inTurn_ && sample == 2 * column;
+      setOffsets<T, L>(offset, column, sample);
       float weight[F::weights];
       F::weigh(static_cast<float>(node.fraction), weight);
       for (int k = 0; k < F::weights; ++k) {
@@ -147,6 +198,7 @@ class FloatAcross {
       }
     });
     for (int k = 0; k < F::weights; ++k) std::fill_n(weight_ + k * pitch_ + elements_, laneCount<uint8_t>, 0.0f);
+    if (inTurn_) return;
     const auto pattern = [](int samples) {
       return BytePattern::ofSamples(4, samples, sizeof(T), static_cast<int>(pixelBytes<T, L>));
     };
@@ -158,28 +210,54 @@ class FloatAcross {
   }
 
   void operator()(const uint8_t* line, float* out) const {
-    picks_.template withWindows<4>([&](auto windows) {
-      if constexpr (most > 1) {
-        if (inWords_) return run<windows, most>(line, out);
-      }
-      run<windows, 1>(line, out);
-    });
+    withSamples([&](auto windows, auto perWord) { run<windows, perWord>(line, out); });
+  }
+
+  /// Whether both stages may be one: where samples are gathered it gains nothing.
+  bool goesBetween() const { return L::elements == 3 || inTurn_; }
+
+  /// Both stages at once, of two lines.
+  void between(const uint8_t* line0, const uint8_t* line1, float weight, T* dst) const {
+    if constexpr (mayBeInTurn) {
+      runBetween<1, inTurn>(line0, line1, weight, dst);
+    } else {
+      withSamples([&](auto windows, auto perWord) { runBetween<windows, perWord>(line0, line1, weight, dst); });
+    }
   }
 
  private:
   /// Samples in a word. A word of one has closer places, so that fewer windows may do.
   static constexpr int most = std::min(F::taps, 4 / static_cast<int>(sizeof(T)));
+  /// In place of the samples in a word: all are where the source has them, pair by pair.
+  static constexpr int inTurn = 0;
+  static constexpr bool mayBeInTurn = F::taps == 2 && L::elements != 3;
 
   ptrdiff_t elements_, pitch_;
   PickedBytes picks_;
   float* weight_;
-  bool inWords_;
+  bool inWords_ = false, inTurn_;
+
+  using V = hn::Vec<Lanes<float>>;
+  using Samples = Vectors<V, F::taps>;
 
   static constexpr int wordsOf(int perWord) { return (F::taps + perWord - 1) / perWord; }
 
+  template <class Run>
+  HWY_INLINE void withSamples(const Run& run) const {
+    if constexpr (mayBeInTurn) {
+      if (inTurn_) return run(std::integral_constant<int, 1>(), std::integral_constant<int, inTurn>());
+    }
+    picks_.template withWindows<4>([&](auto windows) {
+      if constexpr (most > 1) {
+        if (inWords_) return run(windows, std::integral_constant<int, most>());
+      }
+      run(windows, std::integral_constant<int, 1>());
+    });
+  }
+
   /// Sample k of each word, as a float.
   template <int k, int perWord, class D>
-  HWY_INLINE static hn::Vec<D> sample(D d, hn::Vec<Lanes<uint8_t>> words) {
+  HWY_INLINE static V sample(D d, hn::Vec<Lanes<uint8_t>> words) {
     if constexpr (sizeof(T) == 4) {
       return hn::BitCast(d, words);
     } else {
@@ -193,39 +271,80 @@ class FloatAcross {
     }
   }
 
-  template <int windows, int perWord>
-  HWY_NOINLINE void run(const uint8_t* line, float* out) const {
-    const Lanes<float> d;
-    using V = hn::Vec<Lanes<float>>;
-    constexpr ptrdiff_t N = laneCount<float>, groupBytes = perWord * pixelBytes<T, L>;
+  /// The samples of the elements from i on.
+  template <int windows, int perWord, class D>
+  HWY_INLINE static Samples samplesAt(D d, const PickedBytes& picks, const uint8_t* line, ptrdiff_t i) {
+    constexpr ptrdiff_t groupBytes = perWord * pixelBytes<T, L>;
     constexpr bool areNeighbours = sizeof(T) == 4 || (L::elements == 1 && perWord * sizeof(T) == 4);
-    const PickedBytes picks = picks_;
-    const float* const weights = weight_;
-    for (ptrdiff_t i = 0; i < elements_; i += N) {
-      Vectors<V, F::taps> p;
+    Samples p;
+    if constexpr (perWord == inTurn) {
+      samplesInTurn(d, line, i, p);
+    } else {
       unrolled<wordsOf(perWord)>([&](auto group) HWY_ATTR {
         const uint8_t* const first = line + group * groupBytes;
         const auto words = areNeighbours ? picks.words<windows>(first, i / 4) : picks.vector<windows>(first, i / 4);
         unrolled<std::min(perWord, F::taps - group * perWord)>(
             [&](auto k) HWY_ATTR { p.v[group * perWord + k] = sample<k, perWord>(d, words); });
       });
-      Vectors<V, F::weights> w;
-      unrolled<F::weights>([&](auto k) HWY_ATTR { w.v[k] = hn::LoadU(d, weights + k * pitch_ + i); });
-      hn::StoreU(F::apply(d, p, w), d, out + i);
+    }
+    return p;
+  }
+
+  template <class D>
+  HWY_INLINE static void samplesInTurn(D d, const uint8_t* line, ptrdiff_t i, Samples& p) {
+    if constexpr (sizeof(T) == 2) {
+      const Lanes<uint8_t> dBytes;
+      auto pairs = hn::LoadU(dBytes, line + 4 * i);
+      if constexpr (L::elements == 4)
+        pairs = hn::TableLookupBytes(pairs, hn::LoadDup128(dBytes, pairsOfBlock<T>.index));
+      p.v[0] = sample<0, 2>(d, pairs);
+      p.v[1] = sample<1, 2>(d, pairs);
+    } else {
+      const auto* const first = reinterpret_cast<const float*>(line) + 2 * i;
+      if constexpr (L::elements == 1) {
+        const auto lower = hn::LoadU(d, first), upper = hn::LoadU(d, first + laneCount<float>);
+        p = {{hn::ConcatEven(d, upper, lower), hn::ConcatOdd(d, upper, lower)}};
+      } else {
+        p.v[0] = blocksFrom(d, [&](ptrdiff_t k) HWY_ATTR { return first + 8 * k; });
+        p.v[1] = blocksFrom(d, [&](ptrdiff_t k) HWY_ATTR { return first + 8 * k + 4; });
+      }
     }
   }
-};
 
-/// Lanes of T out of floats: as they are, or to nearest.
-template <class T, class D, class At>
-HWY_INLINE hn::Vec<D> elementsOf(D d, const At& at) {
-  if constexpr (sizeof(T) == 4) {
-    return at(0);
-  } else {
-    const Lanes<int32_t> di;
-    return packEach<int32_t>(d, [&](auto k) HWY_ATTR { return nearestOf<T>(di, at(k * laneCount<float>)); });
+  /// What becomes of a line, from element i on.
+  template <int windows, int perWord, class D>
+  HWY_INLINE static V valuesAt(D d, const PickedBytes& picks, const uint8_t* line, const float* weights,
+                               ptrdiff_t pitch, ptrdiff_t i) {
+    Vectors<V, F::weights> w;
+    unrolled<F::weights>([&](auto k) HWY_ATTR { w.v[k] = hn::LoadU(d, weights + k * pitch + i); });
+    return F::apply(d, samplesAt<windows, perWord>(d, picks, line, i), w);
   }
-}
+
+  template <int windows, int perWord>
+  HWY_NOINLINE void run(const uint8_t* line, float* out) const {
+    const Lanes<float> d;
+    const PickedBytes picks = picks_;
+    const float* const weights = weight_;
+    for (ptrdiff_t i = 0; i < elements_; i += laneCount<float>) {
+      hn::StoreU(valuesAt<windows, perWord>(d, picks, line, weights, pitch_, i), d, out + i);
+    }
+  }
+
+  template <int windows, int perWord>
+  HWY_NOINLINE void runBetween(const uint8_t* line0, const uint8_t* line1, float weight, T* dst) const {
+    const Lanes<float> df;
+    const PickedBytes picks = picks_;
+    const float* const weights = weight_;
+    const Vectors<V, 1> down = {{hn::Set(df, weight)}};
+    storeVectors<L>(elements_, dst, [&](auto d, ptrdiff_t first) HWY_ATTR {
+      return elementsOf<T>(d, [&](ptrdiff_t place) HWY_ATTR {
+        const auto at = [&](const uint8_t* line)
+                            HWY_ATTR { return valuesAt<windows, perWord>(df, picks, line, weights, 0, first + place); };
+        return F::apply(df, Samples{{at(line0), at(line1)}}, down);
+      });
+    });
+  }
+};
 
 /// The stage in y: elements of a destination row.
 template <class F, class T>
@@ -249,10 +368,19 @@ struct FloatDown {
   }
 };
 
+/// Rows and the weight of the second one.
+struct FloatPair {
+  static constexpr int first = 0;
+  float weight;
+
+  explicit FloatPair(const Node& node) : weight(static_cast<float>(node.fraction)) {}
+};
+
 template <class F, class T, class L>
 struct FloatStages {
   using Filter = F;
   using Across = FloatAcross<F, T, L>;
+  using Pair = FloatPair;
 
   static void down(ptrdiff_t elements, const float* const* rows, const Node& node, bool, T* dst) {
     FloatDown<F, T> stage;
@@ -262,56 +390,18 @@ struct FloatStages {
   }
 };
 
-// ---- Straight from the source to the destination -------------------------------------------------------------------
-
-/// A row of vectors that begin at multiples of their length: at(d, first element).
-template <class L, class T, class At>
-HWY_INLINE void storeVectors(ptrdiff_t elements, T* dst, const At& at) {
-  const Lanes<T> d;
-  constexpr ptrdiff_t N = laneCount<T>;
-  alignas(laneAlignment) T rest[N] = {};
-  for (ptrdiff_t i = 0; i < elements; i += N) {  // one place where `at` is called, as it is to be inlined
-    const bool isWhole = i + N <= elements;
-    const size_t bytes = isWhole ? 0 : static_cast<size_t>(elements - i) * sizeof(T);
-    T* const out = isWhole ? dst + i : rest;
-    if (!isWhole) std::memcpy(rest, dst + i, bytes);
-    auto v = at(d, i);
-    if constexpr (L::keepsAlpha) v = hn::IfThenElse(colourLanes(d), v, hn::LoadU(d, out));
-    hn::StoreU(v, d, out);
-    if (!isWhole) std::memcpy(dst + i, rest, bytes);
-  }
-}
-
 // ---- Linear interpolation of bytes ---------------------------------------------------------------------------------
 
-/// h0 + (v (h1 - h0) >> 14) + 32 >> 6, which is the formula, as what the first shift drops is less than one of the
-/// second one's units. 0 <= v < 16384, and rows do not go beyond the pixels.
+/// base + (v (other - base) >> 14) + 32 >> 6, which is the formula, as what the first shift drops is less than one of
+/// the second one's units. weight = -4 v, and rows do not go beyond the pixels; a rounded product is the second shift.
 template <class D, class V = hn::Vec<D>>
-HWY_INLINE V betweenRows(D d, V h0, V h1, V doubledWeight) {
-  const auto difference = hn::Sub(h1, h0);
-  const auto part = hn::MulHigh(hn::Add(difference, difference), doubledWeight);
-  return hn::ShiftRight<6>(hn::Add(hn::Add(h0, part), hn::Set(d, int16_t{32})));
+HWY_INLINE V betweenRows(D d, V base, V other, V weight) {
+  const auto sum = hn::Add(base, hn::MulHigh(hn::Sub(base, other), weight));
+  return hn::MulFixedPoint15(sum, hn::Set(d, int16_t{512}));
 }
 
-/// Elements of T of two pixels with four channels, in pairs of a channel.
-template <class T>
-struct PairsOfBlock {
-  alignas(16) uint8_t index[16];
-
-  constexpr PairsOfBlock() : index() {
-    constexpr int size = sizeof(T);
-    for (int i = 0; i < 16; ++i) {
-      const int pair = i / (2 * size), sample = i / size % 2, byte = i % size;
-      index[i] = static_cast<uint8_t>(pair / 4 * 8 * size + sample * 4 * size + pair % 4 * size + byte);
-    }
-  }
-};
-
-template <class T>
-inline constexpr PairsOfBlock<T> pairsOfBlock;
-
-/// h = 64 p0 + (w (p1 - p0) + 128 >> 8), which is the formula in lanes of 16 bits: the rounded product shifts by 15,
-/// seven of which the difference has in advance. It never leaves them, also where w is negative.
+/// h = 64 p0 + (w (p1 - p0) + 128 >> 8), which is the formula in lanes of 16 bits: the rounded product shifts by 15, of
+/// which p0 - p1 has six in advance, and the weight -2 w one. It never leaves them, also where w is negative.
 template <class L>
 class ByteAcross {
  public:
@@ -336,22 +426,25 @@ class ByteAcross {
       const int sample = node.first - firstColumn;
       inTurn = inTurn && sample == 2 * column;
       setOffsets<uint8_t, L>(offset, column, sample);
-      std::fill_n(weight_ + ptrdiff_t{column} * L::elements, L::elements, static_cast<int16_t>(linearWeight(node)));
+      std::fill_n(weight_ + ptrdiff_t{column} * L::elements, L::elements,
+                  static_cast<int16_t>(-2 * linearWeight(node)));
     });
     std::fill_n(weight_ + elements_, laneCount<uint8_t>, int16_t{0});
     const auto pattern = [](int samples) { return BytePattern::ofSamples(2, samples, 1, L::elements); };
     const auto windows = [&](int samples) { return PickedBytes::windowsFor(offset, elements_, pattern(samples)); };
     samples_ = inTurn ? Samples::inTurn : windows(2) == 1 || windows(1) > 1 ? Samples::inPairs : Samples::apart;
-    picks_.make(offset, elements_, pattern(samples_ == Samples::apart ? 1 : 2));
+    if (!inTurn) picks_.make(offset, elements_, pattern(samples_ == Samples::apart ? 1 : 2));
   }
 
   void operator()(const uint8_t* line, int16_t* out) const {
     withSamples([&](auto windows, auto samples) { run<windows, samples>(line, out); });
   }
 
-  /// Both stages at once, of two lines: (h0 + (doubledWeight (h1 - h0) >> 15) + 32) >> 6.
-  void between(const uint8_t* line0, const uint8_t* line1, int16_t doubledWeight, uint8_t* dst) const {
-    withSamples([&](auto windows, auto samples) { runBetween<windows, samples>(line0, line1, doubledWeight, dst); });
+  bool goesBetween() const { return true; }
+
+  /// Both stages at once, of two lines, with the weight of betweenRows.
+  void between(const uint8_t* base, const uint8_t* other, int16_t weight, uint8_t* dst) const {
+    withSamples([&](auto windows, auto samples) { runBetween<windows, samples>(base, other, weight, dst); });
   }
 
  private:
@@ -383,12 +476,11 @@ class ByteAcross {
     if constexpr (samples == Samples::apart) {
       const auto at = [&](const uint8_t* from) HWY_ATTR { return hn::BitCast(d, picks.vector<windows>(from, i / 8)); };
       const auto p0 = at(line), p1 = at(line + L::elements);
-      const auto product = hn::MulFixedPoint15(hn::ShiftLeft<7>(hn::Sub(p1, p0)), weight);
+      const auto product = hn::MulFixedPoint15(hn::ShiftLeft<6>(hn::Sub(p0, p1)), weight);
       return hn::Add(hn::ShiftLeft<6>(p0), product);
     } else {
       const auto pairs = pairsAt<windows, samples>(picks, line, i);
-      const auto difference = pairsOfByteProducts<-64, 64>(d, pairs);
-      const auto product = hn::MulFixedPoint15(hn::Add(difference, difference), weight);
+      const auto product = hn::MulFixedPoint15(pairsOfByteProducts<64, -64>(d, pairs), weight);
       return hn::Add(pairsOfByteProducts<64, 0>(d, pairs), product);
     }
   }
@@ -416,15 +508,15 @@ class ByteAcross {
   }
 
   template <int windows, Samples samples>
-  HWY_NOINLINE void runBetween(const uint8_t* line0, const uint8_t* line1, int16_t doubledWeight, uint8_t* dst) const {
+  HWY_NOINLINE void runBetween(const uint8_t* base, const uint8_t* other, int16_t weight, uint8_t* dst) const {
     const Lanes<int16_t> d16;
     const PickedBytes picks = picks_;
     const int16_t* const weights = weight_;
-    const auto down = hn::Set(d16, doubledWeight);
+    const auto down = hn::Set(d16, weight);
     storeVectors<L>(elements_, dst, [&](auto d, ptrdiff_t first) HWY_ATTR {
       const auto at = [&](ptrdiff_t i) HWY_ATTR {
-        const auto h0 = valuesAt<windows, samples>(d16, picks, line0, weights, i);
-        return betweenRows(d16, h0, valuesAt<windows, samples>(d16, picks, line1, weights, i), down);
+        const auto ofBase = valuesAt<windows, samples>(d16, picks, base, weights, i);
+        return betweenRows(d16, ofBase, valuesAt<windows, samples>(d16, picks, other, weights, i), down);
       };
       return packInOrder(d, at(first), at(first + laneCount<int16_t>));
     });
@@ -433,14 +525,14 @@ class ByteAcross {
 
 /// For rows and weights that do not go beyond the pixels.
 struct ByteDown {
-  const int16_t *row0, *row1;
-  int16_t doubledWeight;
+  const int16_t *base, *other;
+  int16_t weight;
 
   template <class D>
   HWY_INLINE auto operator()(D d, ptrdiff_t i) const {
     const Lanes<int16_t> d16;
     const auto at = [&](ptrdiff_t place) HWY_ATTR {
-      return betweenRows(d16, hn::LoadU(d16, row0 + place), hn::LoadU(d16, row1 + place), hn::Set(d16, doubledWeight));
+      return betweenRows(d16, hn::LoadU(d16, base + place), hn::LoadU(d16, other + place), hn::Set(d16, weight));
     };
     return packInOrder(d, at(i), at(i + laneCount<int16_t>));
   }
@@ -464,19 +556,24 @@ struct ByteDownBeyond {
   }
 };
 
-/// The second row of two and its weight, twice: all of the second row is none of the first one.
-struct RowPair {
+/// Of two rows, the one that has at least half of all weight comes first. The other one's weight, times -4, is one of
+/// 16 bits.
+struct BytePair {
   int first;
-  int16_t doubledWeight;
+  int16_t weight;
 
-  explicit RowPair(int weight)
-      : first(weight == 16384 ? 1 : 0), doubledWeight(static_cast<int16_t>(first == 1 ? 0 : 2 * weight)) {}
+  explicit BytePair(const Node& node) : BytePair(linearWeight(node)) {}
+
+ private:
+  explicit BytePair(int second)
+      : first(second >= 8192 ? 1 : 0), weight(static_cast<int16_t>(-4 * (first == 1 ? 16384 - second : second))) {}
 };
 
 template <class L>
 struct ByteStages {
   using Filter = LinearFilter;
   using Across = ByteAcross<L>;
+  using Pair = BytePair;
 
   /// `beyond`: the rows go beyond the pixels.
   static void down(ptrdiff_t elements, const int16_t* const* rows, const Node& node, bool beyond, uint8_t* dst) {
@@ -484,55 +581,29 @@ struct ByteStages {
     if (beyond || weight < 0) {
       return mapPlaces<alphaOf<L>>(elements, eachPlace<1>(ByteDownBeyond{rows[0], rows[1], weight}), dst);
     }
-    const RowPair pair(weight);
-    mapPlaces<alphaOf<L>>(elements, eachPlace(ByteDown{rows[pair.first], rows[1], pair.doubledWeight}), dst);
+    const BytePair pair(node);
+    mapPlaces<alphaOf<L>>(elements, eachPlace(ByteDown{rows[pair.first], rows[1 - pair.first], pair.weight}), dst);
   }
 };
 
-/// Where no row of the first stage serves two of the destination, it is not kept.
-template <class L>
-VemiStatus resizeBytesBetweenLines(const Vemi8u* const* src, int srcStep, Vemi8u* const* dst, int dstStep, int count,
-                                   const ResizePlan& plan) {
-  const Vemi64s elements = Vemi64s{plan.x.count} * L::elements;
-  const ColumnRange range = ColumnRange::of(plan.x, linearNode, 2);
-  SourceLines upper(range.first, range.columns(), L::elements), lower = upper;
-  Pieces pieces;
-  const typename ByteAcross<L>::Room room(pieces, elements);
-  const auto upperCopy = pieces.add<uint8_t>(upper.bytes()), lowerCopy = pieces.add<uint8_t>(lower.bytes());
-  const Scratch scratch(pieces);
-  if (!range.fits(L::elements) || scratch.failed()) return vemiErrMemAlloc;
-  const ByteAcross<L> across(scratch, room, plan.x, range.first);
-  upper.setCopy(scratch[upperCopy]);
-  lower.setCopy(scratch[lowerCopy]);
-  for (int n = 0; n < count; ++n) {
-    const Image<Vemi8u> destination = {dst[n], dstStep};
-    const Image<const Vemi8u> source = {src[n], srcStep};
-    upper.setSource(source, plan.image);
-    lower.setSource(source, plan.image);
-    forNodes(plan.y, linearNode, [&](int y, const Node& node) {
-      const RowPair pair(linearWeight(node));
-      across.between(upper.row(ptrdiff_t{node.first} + pair.first), lower.row(ptrdiff_t{node.first} + 1),
-                     pair.doubledWeight, destination.row(y));
-    });
-  }
-  return vemiOk;
-}
-
 // ---- Rows through both stages --------------------------------------------------------------------------------------
 
+/// Where no row of a linear interpolation's first stage serves two of the destination, both stages are one. Bytes
+/// before the image's edge are beyond what such kernels take.
 template <class Stages, class T, class L>
 VemiStatus resizeByStages(const T* const* src, int srcStep, T* const* dst, int dstStep, int count,
                           const ResizePlan& plan) {
   using F = typename Stages::Filter;
   using Across = typename Stages::Across;
   using E = typename Across::Element;
+  constexpr bool isLinear = F::taps == 2;
   const Vemi64s elements = Vemi64s{plan.x.count} * L::elements;
   const ColumnRange range = ColumnRange::of(plan.x, F::nodeOf, F::taps);
-  SourceLines lines(range.first, range.columns(), pixelBytes<T, L>);
+  SourceLines lines(range.first, range.columns(), pixelBytes<T, L>), others = lines;
   HeldRows<E, F::taps> held(elements);
   Pieces pieces;
   const typename Across::Room room(pieces, elements);
-  const auto copy = pieces.add<uint8_t>(lines.bytes());
+  const auto copy = pieces.add<uint8_t>(lines.bytes()), otherCopy = pieces.add<uint8_t>(isLinear ? others.bytes() : 0);
   const auto rowsOfStage = pieces.add<E>(held.elements());
   const Scratch scratch(pieces);
   if (!range.fits(pixelBytes<T, L>) || scratch.failed()) return vemiErrMemAlloc;
@@ -541,7 +612,21 @@ VemiStatus resizeByStages(const T* const* src, int srcStep, T* const* dst, int d
   held.place(scratch[rowsOfStage]);
   for (int n = 0; n < count; ++n) {
     const Image<T> destination = {dst[n], dstStep};
-    lines.setSource(Image<const T>{src[n], srcStep}, plan.image);
+    const Image<const T> source = {src[n], srcStep};
+    lines.setSource(source, plan.image);
+    if constexpr (isLinear) {
+      if (plan.y.step >= 2 && plan.x.start >= 0 && plan.y.start >= 0 && across.goesBetween()) {
+        others.setCopy(scratch[otherCopy]);
+        others.setSource(source, plan.image);
+        forNodes(plan.y, F::nodeOf, [&](int y, const Node& node) {
+          const typename Stages::Pair pair(node);
+          const ptrdiff_t first = node.first;
+          across.between(lines.row(first + pair.first), others.row(first + 1 - pair.first), pair.weight,
+                         destination.row(y));
+        });
+        continue;
+      }
+    }
     held.forget();
     forNodes(plan.y, F::nodeOf, [&](int y, const Node& node) {
       const E* rows[F::taps];
@@ -571,23 +656,32 @@ class NearestAcross {
   NearestAcross(const Scratch& scratch, const Room& room, const Axis& x, int firstColumn)
       : elements_(ptrdiff_t{x.count} * L::elements), picks_(scratch, room.picks), offset_(scratch[room.offset]) {
     int32_t* const offset = offset_;
-    forNodes(x, nearestNode,
-             [&](int column, const Node& node) { setOffsets<T, L>(offset, column, node.first - firstColumn); });
+    forNodes(x, nearestNode, [&](int column, const Node& node) {
+      const int sample = node.first - firstColumn;
+      isEverySecond_ = isEverySecond_ && sample == 2 * column;
+      setOffsets<T, L>(offset, column, sample);
+    });
+    if (isEverySecond_) return;
     if constexpr (!byPixels) picks_.make(offset, elements_, BytePattern::ofSamples(sizeof(T), 1, sizeof(T), 0));
   }
 
   void operator()(const uint8_t* line, T* dst) const {
     if constexpr (byPixels) return copyPixels(line, dst);
+    if constexpr (asWords) {
+      if (isEverySecond_) return everySecond(line, dst);
+    }
     picks_.template withWindows<16 / sizeof(T)>([&](auto windows) { run<windows>(line, dst); });
   }
 
  private:
   /// Pixels that take most of a block: blocks are copied, each over the end of the one before.
   static constexpr bool byPixels = pixelBytes<T, L> == 12;
+  static constexpr bool asWords = pixelBytes<T, L> == 4;
 
   ptrdiff_t elements_;
   PickedBytes picks_;
   int32_t* offset_;
+  bool isEverySecond_ = asWords;  // from the line's first one on
 
   HWY_NOINLINE void copyPixels(const uint8_t* line, T* dst) const {
     const hn::FixedTag<uint8_t, 16> d;
@@ -598,6 +692,17 @@ class NearestAcross {
       hn::StoreU(hn::LoadU(d, line + offset[i]), d, out + i * ptrdiff_t{sizeof(T)});
     }
     std::memcpy(dst + last, line + offset[last], pixelBytes<T, L>);
+  }
+
+  HWY_NOINLINE void everySecond(const uint8_t* line, T* dst) const {
+    const Lanes<uint32_t> dWords;
+    storeVectors<L>(elements_, dst, [&](auto d, ptrdiff_t i) HWY_ATTR {
+      const auto at = [&](ptrdiff_t k) HWY_ATTR {
+        return hn::LoadU(dWords,
+                         reinterpret_cast<const uint32_t*>(line + (2 * i + k * laneCount<T>)*ptrdiff_t{sizeof(T)}));
+      };
+      return hn::BitCast(d, hn::ConcatEven(dWords, at(1), at(0)));
+    });
   }
 
   template <int windows>
@@ -831,20 +936,26 @@ class QuartersAcross {
 
   QuartersAcross(const Scratch& scratch, const Room& room, const Axis& x)
       : elements_(ptrdiff_t{x.count} * L::elements), picks_(scratch, room.picks) {
-    int32_t* const offset = scratch[room.offset];
-    for (int column = 0; column < x.count; ++column) setOffsets<T, L>(offset, column, 2 * column);
-    picks_.make(offset, elements_, BytePattern::ofSamples(wordBytes, sizeof(T) == 1 ? 2 : 1, sizeof(T), pixel));
+    if constexpr (byTable) {
+      int32_t* const offset = scratch[room.offset];
+      for (int column = 0; column < x.count; ++column) setOffsets<T, L>(offset, column, 2 * column);
+      picks_.make(offset, elements_, BytePattern::ofSamples(wordBytes, sizeof(T) == 1 ? 2 : 1, sizeof(T), pixel));
+    }
   }
 
   void operator()(const uint8_t* line0, const uint8_t* line1, T* dst) const {
-    picks_.template withWindows<sizeof(T) == 1 ? 8 : 4>([&](auto windows) { run<windows>(line0, line1, dst); });
+    if constexpr (byTable) {
+      picks_.template withWindows<sizeof(T) == 1 ? 8 : 4>([&](auto windows) { run<windows>(line0, line1, dst); });
+    } else {
+      run<1>(line0, line1, dst);
+    }
   }
 
  private:
   static constexpr int pixel = static_cast<int>(pixelBytes<T, L>);
   static constexpr int wordBytes = sizeof(T) == 1 ? 2 : 4;
-  /// Blocks hold whole pairs of pixels, so that no table is needed.
-  static constexpr bool byBlocks = L::elements == 4;
+  /// Blocks of others hold whole pixels.
+  static constexpr bool byTable = L::elements == 3;
 
   ptrdiff_t elements_;
   PickedBytes picks_;
@@ -864,8 +975,12 @@ class QuartersAcross {
           left = hn::ConcatEven(d, second, first);
           right = hn::ConcatOdd(d, second, first);
         } else {
-          const auto at = [&](const uint8_t* line)
-                              HWY_ATTR { return hn::BitCast(d, picks.words<windows>(line, i / 4)); };
+          const auto at = [&](const uint8_t* line) HWY_ATTR {
+            if constexpr (byTable) return hn::BitCast(d, picks.words<windows>(line, i / 4));
+            return blocksFrom(d, [&](ptrdiff_t k) HWY_ATTR {
+              return reinterpret_cast<const float*>(line + (i / 4 + k) * 2 * pixel);
+            });
+          };
           left = sum(at(line0), at(line1));
           right = sum(at(line0 + pixel), at(line1 + pixel));
         }
@@ -879,11 +994,19 @@ class QuartersAcross {
       storeVectors<L>(elements_, dst, [&](auto d, ptrdiff_t i) HWY_ATTR {
         const auto means = [&](ptrdiff_t element) HWY_ATTR {
           const auto pairs = [&](const uint8_t* line) HWY_ATTR { return sumsOfPairs<windows>(picks, line, element); };
-          return hn::BitCast(dWide, roundShift(dWords, hn::Add(pairs(line0), pairs(line1)), 2));
+          return hn::BitCast(dWide, quarterOf(dWords, hn::Add(pairs(line0), pairs(line1))));
         };
         return packInOrder(d, means(i), means(i + laneCount<Wide>));
       });
     }
+  }
+
+  /// To nearest, ties to even; an average rounds up.
+  template <class D, class V = hn::Vec<D>>
+  HWY_INLINE static V quarterOf(D d, V sum) {
+    const V odd = hn::And(hn::ShiftRight<2>(sum), hn::Set(d, 1));
+    if constexpr (sizeof(T) == 1) return hn::ShiftRight<1>(hn::AverageRound(sum, odd));
+    return hn::ShiftRight<2>(hn::Add(sum, hn::Add(odd, hn::Set(d, 1))));
   }
 
   /// Of integers that are neighbours in x, from an element on.
@@ -902,7 +1025,7 @@ class QuartersAcross {
     const Lanes<uint8_t> dBytes;
     if constexpr (L::elements == 1) {
       return sums(hn::LoadU(dBytes, line + byte));
-    } else if constexpr (byBlocks) {
+    } else if constexpr (!byTable) {
       const auto order = hn::LoadDup128(dBytes, pairsOfBlock<T>.index);
       return sums(hn::TableLookupBytes(hn::LoadU(dBytes, line + byte), order));
     } else if constexpr (sizeof(T) == 1) {
@@ -982,17 +1105,13 @@ VemiStatus resizeByAreas(const T* const* src, int srcStep, T* const* dst, int ds
 template <class T, class L>
 VemiStatus resizeImages(const T* const* src, int srcStep, T* const* dst, int dstStep, int count,
                         const ResizePlan& plan) {
+  using Linear = std::conditional_t<sizeof(T) == 1, ByteStages<L>, FloatStages<LinearFilter, T, L>>;
   const auto by = [&](auto routine) { return routine(src, srcStep, dst, dstStep, count, plan); };
   switch (plan.interpolation) {
     case vemiInterNearest:
       return by(resizeToNearest<T, L>);
     case vemiInterLinear:
-      if constexpr (sizeof(T) == 1) {
-        if (plan.x.start >= 0 && plan.y.start >= 0 && plan.y.step >= 2) return by(resizeBytesBetweenLines<L>);
-        return by(resizeByStages<ByteStages<L>, T, L>);
-      } else {
-        return by(resizeByStages<FloatStages<LinearFilter, T, L>, T, L>);
-      }
+      return by(resizeByStages<Linear, T, L>);
     case vemiInterCubic:
       return by(resizeByStages<FloatStages<CubicFilter, T, L>, T, L>);
     case vemiInterSuper:
