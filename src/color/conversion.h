@@ -4,6 +4,7 @@
 
 #include <type_traits>
 
+#include "color/triple_row.h"
 #include "core/checks.h"
 #include "core/float_control.h"
 #include "core/pixel_region.h"
@@ -18,6 +19,8 @@ template <class L, class Images>
 auto pixelsIn(Images images) {
   if constexpr (requires { pixelsOf(images); }) {
     return pixelsOf(images);
+  } else if constexpr (requires { tripleImage<L>(images); }) {
+    return tripleImage<L>(images);
   } else {
     return pixelsOf<L>(images);
   }

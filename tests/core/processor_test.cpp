@@ -13,6 +13,7 @@
 
 #include "core/numbers.h"
 #include "core/processor_bytes.h"
+#include "core/processor_triples.h"
 #include "support/for_types.h"
 
 using namespace vemi;
@@ -179,4 +180,28 @@ TEST(Processor, PairsOfProductsStandInOrder) {
   }
   hn::StoreU(pairsOfProducts(hn::LoadU(d, a), hn::LoadU(d, b)), dWide, sums);
   for (int i = 0; i < N / 2; ++i) EXPECT_EQ(sums[i], a[2 * i] * b[2 * i] + a[2 * i + 1] * b[2 * i + 1]) << i;
+}
+
+TEST(Processor, TriplesGoToLanesAndBack) {
+  const Lanes<float> d;
+  constexpr int N = laneCount<float>;
+  float in[3 * N], stored[3 * N], places[3][N];
+  alignas(laneAlignment) float streamed[3 * N];
+  for (int i = 0; i < 3 * N; ++i) in[i] = static_cast<float>(i);
+  loadTriples(d, in, [&](auto v0, auto v1, auto v2) {
+    hn::StoreU(v0, d, places[0]);
+    hn::StoreU(v1, d, places[1]);
+    hn::StoreU(v2, d, places[2]);
+    storeTriples(d, v0, v1, v2, stored);
+    streamTriples(d, v0, v1, v2, streamed);
+  });
+  for (int i = 0; i < 3 * N; ++i) EXPECT_TRUE(stored[i] == in[i] && streamed[i] == in[i]) << i;
+  float sum = 0;
+  for (int i = 0; i < N; ++i) {  // lanes hold whole triples, each of them once
+    EXPECT_EQ(std::fmod(places[0][i], 3.0f), 0);
+    EXPECT_EQ(places[1][i], places[0][i] + 1);
+    EXPECT_EQ(places[2][i], places[0][i] + 2);
+    sum += places[0][i];
+  }
+  EXPECT_EQ(sum, 3 * N * (N - 1) / 2);
 }

@@ -1,0 +1,120 @@
+// Triples of floats in memory as a vector of each place, and back, in half the instructions that the lane library takes
+// where there are shuffles of two vectors: for kernels whose arithmetic is as short as that.
+//
+// Which triple is in which lane is the business of loadTriples and storeTriples alone; they are each other's inverse.
+#pragma once
+
+#include "core/lanes.h"
+
+namespace vemi {
+
+#if HWY_ARCH_X86
+
+namespace detail {
+
+template <int order>
+HWY_INLINE __m128 shuffle(__m128 a, __m128 b) {
+  return _mm_shuffle_ps(a, b, order);
+}
+#if HWY_TARGET <= HWY_AVX2
+template <int order>
+HWY_INLINE __m256 shuffle(__m256 a, __m256 b) {
+  return _mm256_shuffle_ps(a, b, order);
+}
+#endif
+#if HWY_TARGET <= HWY_AVX3
+template <int order>
+HWY_INLINE __m512 shuffle(__m512 a, __m512 b) {
+  return _mm512_shuffle_ps(a, b, order);
+}
+#endif
+
+/// Of each block of 128 bits: lanes a0 and a1 of `a`, b0 and b1 of `b`.
+template <int a0, int a1, int b0, int b1, class V>
+HWY_INLINE V lanesOfTwo(V a, V b) {
+  return V{shuffle<a0 | a1 << 2 | b0 << 4 | b1 << 6>(a.raw, b.raw)};
+}
+
+/// A block of 128 bits out of each 48 bytes from `in` on.
+template <class D>
+HWY_INLINE hn::Vec<D> loadThirds(D d, const float* in) {
+  if constexpr (hn::MaxLanes(d) == 4) {
+    return hn::LoadU(d, in);
+  } else {
+    const hn::Half<D> dHalf;
+    return hn::Combine(d, loadThirds(dHalf, in + 3 * hn::MaxLanes(dHalf)), loadThirds(dHalf, in));
+  }
+}
+
+/// The inverse of three such vectors, by store(tag, block, place) of each block, in the order of their places.
+template <class D, class V, class Store>
+HWY_INLINE void storeThirds(D d, V a, V b, V c, float* out, const Store& store) {
+  if constexpr (hn::MaxLanes(d) == 4) {
+    store(d, a, out);
+    store(d, b, out + 4);
+    store(d, c, out + 8);
+  } else {
+    const hn::Half<D> dHalf;
+    float* const upper = out + 3 * hn::MaxLanes(dHalf);
+    storeThirds(dHalf, hn::LowerHalf(a), hn::LowerHalf(b), hn::LowerHalf(c), out, store);
+    storeThirds(dHalf, hn::UpperHalf(dHalf, a), hn::UpperHalf(dHalf, b), hn::UpperHalf(dHalf, c), upper, store);
+  }
+}
+
+template <class D, class V, class Store>
+HWY_INLINE void storeTriplesBy(D d, V v0, V v1, V v2, float* out, const Store& store) {
+  const V evens01 = lanesOfTwo<0, 2, 0, 2>(v0, v1), odds12 = lanesOfTwo<1, 3, 1, 3>(v1, v2);
+  const V evens2Odds0 = lanesOfTwo<0, 2, 1, 3>(v2, v0);
+  storeThirds(d, lanesOfTwo<0, 2, 0, 2>(evens01, evens2Odds0), lanesOfTwo<0, 2, 1, 3>(odds12, evens01),
+              lanesOfTwo<1, 3, 1, 3>(evens2Odds0, odds12), out, store);
+}
+
+}  // namespace detail
+
+/// f(first, second, third) of as many triples as D has lanes.
+template <class D, class F>
+HWY_INLINE auto loadTriples(D d, const float* in, const F& f) {
+  using namespace detail;
+  // Places 0 1 2 0, 1 2 0 1, 2 0 1 2 of triples 0 to 3.
+  const auto a = loadThirds(d, in), b = loadThirds(d, in + 4), c = loadThirds(d, in + 8);
+  const auto places01 = lanesOfTwo<2, 3, 1, 2>(b, c), places12 = lanesOfTwo<1, 2, 0, 1>(a, b);
+  return f(lanesOfTwo<0, 3, 0, 2>(a, places01), lanesOfTwo<0, 2, 1, 3>(places12, places01),
+           lanesOfTwo<1, 3, 0, 3>(places12, c));
+}
+
+template <class D, class V>
+HWY_INLINE void storeTriples(D d, V v0, V v1, V v2, float* out) {
+  detail::storeTriplesBy(d, v0, v1, v2, out,
+                         [](auto dBlock, auto v, float* place) HWY_ATTR { hn::StoreU(v, dBlock, place); });
+}
+
+/// Past the caches, where `out` is aligned to a vector.
+template <class D, class V>
+HWY_INLINE void streamTriples(D d, V v0, V v1, V v2, float* out) {
+  detail::storeTriplesBy(d, v0, v1, v2, out,
+                         [](auto dBlock, auto v, float* place) HWY_ATTR { hn::Stream(v, dBlock, place); });
+}
+
+#else
+
+template <class D, class F>
+HWY_INLINE auto loadTriples(D d, const float* in, const F& f) {
+  hn::Vec<D> v0, v1, v2;
+  hn::LoadInterleaved3(d, in, v0, v1, v2);
+  return f(v0, v1, v2);
+}
+
+template <class D, class V>
+HWY_INLINE void storeTriples(D d, V v0, V v1, V v2, float* out) {
+  hn::StoreInterleaved3(v0, v1, v2, d, out);
+}
+
+/// Stores past the caches are a gain of other processors.
+template <class D, class V>
+HWY_INLINE void streamTriples(D d, V v0, V v1, V v2, float* out) {
+  hn::StoreInterleaved3(v0, v1, v2, d, out);
+}
+
+#endif
+
+}  // namespace vemi
