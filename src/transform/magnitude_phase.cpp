@@ -9,6 +9,7 @@
 #include <cstring>
 #include <limits>
 #include <tuple>
+#include <type_traits>
 
 #include "core/checks.h"
 #include "core/exports.h"
@@ -26,8 +27,6 @@ namespace {
 // ---- Complex numbers to one -----------------------------------------------------------------------------------------
 
 struct Magnitude {
-  static constexpr Stores stores = Stores::streamed;
-
   template <class D, class V>
   HWY_INLINE V operator()(D, V re, V im) const {
     return hn::Sqrt(hn::Add(hn::Mul(re, re), hn::Mul(im, im)));
@@ -35,8 +34,6 @@ struct Magnitude {
 };
 
 struct Phase {
-  static constexpr Stores stores = Stores::cached;
-
   template <class D, class V>
   HWY_INLINE V operator()(D d, V re, V im) const {
     return signal::ArcTangent()(d, im, re);
@@ -87,12 +84,40 @@ void floatRow(ptrdiff_t count, const Pair<float>* src, float* dst) {
   mapPixels(count, Op(), planeRow(dst), pixelRow<C2>(&src->re));
 }
 
+/// Rows in pieces, the next of which is asked for in time: beside a long computation a processor looks too few elements
+/// ahead to find memory that is far away. f(y, x, count) for the elements from x on.
+template <class F, class... T>
+void forPiecesAhead(Extent extent, const F& f, Image<const T>... src) {
+  constexpr ptrdiff_t piece = 128, line = 64;
+  for (ptrdiff_t y = 0; y < extent.height; ++y) {
+    for (ptrdiff_t x = 0; x < extent.width; x += piece) {
+      const bool isLast = x + piece >= extent.width;
+      const auto ask = [&](const auto* next) {
+        const auto* const from = reinterpret_cast<const char*>(next);
+        const ptrdiff_t bytes = std::min(piece, extent.width) * ptrdiff_t{sizeof *next};
+        for (ptrdiff_t i = 0; i < bytes; i += line) __builtin_prefetch(from + i);
+      };
+      (ask(isLast ? src.row(std::min(y + 1, extent.height - 1)) : src.row(y) + x + piece), ...);
+      f(y, x, std::min(piece, extent.width - x));
+    }
+  }
+}
+
 template <int channels, class Op>
 VemiStatus ofFloats(Image<const Vemi32fc> src, Image<Vemi32f> dst, VemiSize size) {
   if (const VemiStatus bad = firstOf(checkNull(src, dst), checkSize(size), checkStep(src, dst))) return bad;
-  const Image<const float> parts = {reinterpret_cast<const float*>(src.first), src.step};
-  mapPixelRows<Op::stores>(CallerRows(), {ptrdiff_t{size.width} * channels, size.height}, Op(), pixelsOf<C1>(dst),
-                           pixelsOf<C2>(parts));
+  const Extent extent = {ptrdiff_t{size.width} * channels, size.height};
+  if constexpr (std::is_same_v<Op, Magnitude>) {
+    const Image<const float> parts = {reinterpret_cast<const float*>(src.first), src.step};
+    mapPixelRows(CallerRows(), extent, Op(), pixelsOf<C1>(dst), pixelsOf<C2>(parts));
+  } else {
+    forPiecesAhead(
+        extent,
+        [&](ptrdiff_t y, ptrdiff_t x, ptrdiff_t count) {
+          floatRow<Op>(count, reinterpret_cast<const Pair<float>*>(src.row(y) + x), dst.row(y) + x);
+        },
+        src);
+  }
   return vemiOk;
 }
 
@@ -226,9 +251,13 @@ VemiStatus polarToCartesian(Image<const Vemi32f> magnitude, Image<const Vemi32f>
           firstOf(checkNull(magnitude, phase, dst), checkSize(size), checkStep(magnitude, phase, dst))) {
     return bad;
   }
-  const Image<float> parts = {reinterpret_cast<float*>(dst.first), dst.step};
-  mapPixelRows(CallerRows(), {size.width, size.height}, Cartesian(), pixelsOf<C2>(parts), pixelsOf<C1>(magnitude),
-               pixelsOf<C1>(phase));
+  forPiecesAhead(
+      {size.width, size.height},
+      [&](ptrdiff_t y, ptrdiff_t x, ptrdiff_t count) {
+        mapPixels(count, Cartesian(), pixelRow<C2>(&(dst.row(y) + x)->re), planeRow(magnitude.row(y) + x),
+                  planeRow(phase.row(y) + x));
+      },
+      magnitude, phase);
   return vemiOk;
 }
 
