@@ -4,6 +4,7 @@
 #pragma once
 
 #include "core/image.h"
+#include "core/inlined.h"
 #include "signal/fft_columns.h"
 
 namespace vemi::signal {
@@ -188,7 +189,7 @@ HWY_NOINLINE HWY_FLATTEN void levelOf(ColumnGroups data, const From& from, ptrdi
     const From source = sourceOf(from, block * radix * count);
     const float* w = factors;
     for (ptrdiff_t j = 0; j < count; ++j, w += factors != nullptr ? ptrdiff_t{2} * (radix - 1) : 0) {
-      unrolled<ColumnGroups::vectors>([&](auto k) HWY_ATTR {
+      unrolled<ColumnGroups::vectors>([&](auto k) VEMI_INLINED {
         Numbers z[radix];
         unrolled<radix>([&](auto i) HWY_ATTR { z[i] = source.load(j + i * count, k); });
         ShortTransform<radix>::run(z);
