@@ -4,6 +4,7 @@
 
 #include <bit>
 
+#include "core/inlined.h"
 #include "signal/fft_lanes.h"
 
 namespace vemi::signal {
@@ -17,7 +18,7 @@ HWY_INLINE void endColumns(ColumnGroups data, int order, const Store& store) {
   const ptrdiff_t count = (ptrdiff_t{1} << order) / points;
   for (ptrdiff_t first = 0; first < count; ++first) {
     const ptrdiff_t i = bitsReversed(first, order - bits);
-    unrolled<ColumnGroups::vectors>([&](auto k) HWY_ATTR {
+    unrolled<ColumnGroups::vectors>([&](auto k) VEMI_INLINED {
       ColumnGroups::Numbers z[points];
       unrolled<points>([&](auto n) HWY_ATTR { z[n] = data.load(i * points + n, k); });
       ShortTransform<points>::run(z);

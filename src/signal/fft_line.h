@@ -5,6 +5,7 @@
 // q + G, ..., q + 15 G for G tiles, gives what belongs to tile bitsReversed(q), so that tiles change places by twos.
 #pragma once
 
+#include "core/inlined.h"
 #include "signal/fft_lanes.h"
 #include "signal/transposed.h"
 
@@ -33,9 +34,9 @@ template <int points, class V, class Load>
 HWY_INLINE void transformAcross(ComplexLanes<V>* z, const Load& load) {
   const hn::DFromV<V> d;
   constexpr int N = static_cast<int>(hn::MaxLanes(hn::DFromV<V>()));
-  unrolled<points / N>([&](auto k) HWY_ATTR {
+  unrolled<points / N>([&](auto k) VEMI_INLINED {
     V re[N], im[N];
-    unrolled<N>([&](auto lane) HWY_ATTR {
+    unrolled<N>([&](auto lane) VEMI_INLINED {
       const ComplexLanes<V> numbers = load(lane, k);
       re[lane] = numbers.re;
       im[lane] = numbers.im;
