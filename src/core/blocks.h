@@ -76,7 +76,7 @@ struct StackBlock<items, byHalves, Strand<T, elementsPerItem>> {
   T* at() { return element; }
 };
 
-/// The last whole block of a strand: inputs are copied, outputs stay where they are.
+/// The last block of a strand where it overlaps the block before: inputs are copied, outputs stay where they are.
 template <ptrdiff_t items, class S>
 struct LastBlock;
 
@@ -86,9 +86,9 @@ struct LastBlock<items, Strand<const T, elementsPerItem>> {
 
   LastBlock(const LastBlock&) = delete;
   HWY_INLINE LastBlock(Strand<const T, elementsPerItem> strand, ptrdiff_t item) {
-    std::memcpy(element, strand.at(item), sizeof element);
+    if (item % items != 0) std::memcpy(element, strand.at(item), sizeof element);
   }
-  const T* at() const { return element; }
+  Strand<const T, elementsPerItem> strand() const { return {element}; }
 };
 
 template <ptrdiff_t items, class T, int elementsPerItem>
@@ -96,7 +96,7 @@ requires(!std::is_const_v<T>) struct LastBlock<items, Strand<T, elementsPerItem>
   T* first;
 
   LastBlock(Strand<T, elementsPerItem> strand, ptrdiff_t item) : first(strand.at(item)) {}
-  T* at() const { return first; }
+  Strand<T, elementsPerItem> strand() const { return {first}; }
 };
 
 template <ptrdiff_t items, int period, class Kernel, class... S>
@@ -135,11 +135,18 @@ void shortRow(ptrdiff_t count, void (*row)(const void* context, typename S::Poin
 /// Runs kernel(pointer of each strand) over `items` items or more, `items` at a time.
 template <ptrdiff_t items, class Kernel, class... S>
 HWY_INLINE void forWholeBlocks(ptrdiff_t count, const Kernel& kernel, S... strand) {
-  const ptrdiff_t last = count - items;
   [&](auto... lastBlock) HWY_ATTR {
-    for (ptrdiff_t i = 0; i < last; i += items) kernel(strand.at(i)...);
-    kernel(lastBlock.at()...);
-  }(detail::LastBlock<items, S>(strand, last)...);
+    // One loop that goes round once more for the last block, so that the kernel stands in the code once.
+    for (ptrdiff_t i = 0, last = count - items;;) {
+      kernel(strand.at(i)...);
+      i += items;
+      if (i <= last) continue;
+      if (i >= count) return;
+      ((strand = lastBlock.strand()), ...);
+      i = last = 0;
+      count = items;
+    }
+  }(detail::LastBlock<items, S>(strand, count - items)...);
 }
 
 /// The same over any number of items.

@@ -53,11 +53,10 @@ HWY_NOINLINE void mapRowMasked(ptrdiff_t width, const Vemi8u* mask, const Indexe
     const auto store = [&](auto chosen, auto k) HWY_ATTR {
       hn::StoreU(hn::IfThenElse(chosen, result(k), hn::LoadU(d, old + k * N)), d, out + k * N);
     };
-    const auto chosenPixels =
-        hn::VecFromMask(dMask, hn::Ne(hn::LoadU(dMask, reinterpret_cast<const int8_t*>(selection)), hn::Zero(dMask)));
+    const auto skipped = hn::Eq(hn::LoadU(dMask, reinterpret_cast<const int8_t*>(selection)), hn::Zero(dMask));
     if constexpr (!blendsAll) {
-      if (hn::AllTrue(dMask, hn::Eq(chosenPixels, hn::Zero(dMask)))) return;
-      if (hn::AllTrue(dMask, hn::Ne(chosenPixels, hn::Zero(dMask)))) {
+      if (hn::AllTrue(dMask, skipped)) return;
+      if (hn::AllFalse(dMask, skipped)) {
         if constexpr (L::keepsAlpha) {
           unrolled<vectors>([&](auto k) HWY_ATTR { store(colour, k); });
         } else {
@@ -66,6 +65,7 @@ HWY_NOINLINE void mapRowMasked(ptrdiff_t width, const Vemi8u* mask, const Indexe
         return;
       }
     }
+    const auto chosenPixels = hn::VecFromMask(dMask, hn::Not(skipped));
     const auto pixelFlags = [&] {
       if constexpr (sizeof(T) == 1)
         return chosenPixels;

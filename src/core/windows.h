@@ -160,17 +160,19 @@ void placeRings(Memory block, Ring&... ring) {
 /// are, which wants rows of at least a block, or slack. For outputs in rows with slack, which need no care at their
 /// end: forWholeBlocks<items>(std::max(count, items), kernel, Strand<T>{row}..., Places()).
 struct Places {
-  ptrdiff_t at(ptrdiff_t item) const { return item; }
+  ptrdiff_t first = 0;
+
+  ptrdiff_t at(ptrdiff_t item) const { return first + item; }
 };
 
 namespace detail {
 
 template <ptrdiff_t items>
 struct LastBlock<items, Places> {
-  ptrdiff_t item;
+  ptrdiff_t first;
 
-  LastBlock(Places, ptrdiff_t last) : item(last) {}
-  ptrdiff_t at() const { return item; }
+  LastBlock(Places places, ptrdiff_t item) : first(places.at(item)) {}
+  Places strand() const { return {first}; }
 };
 
 }  // namespace detail
