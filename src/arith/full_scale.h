@@ -33,27 +33,36 @@ HWY_INLINE V fullScaleProduct16(V a, V b) {
   return hn::Add(upper, hn::ShiftRight<15>(hn::AverageRound(hn::Mul(a, b), upper)));
 }
 
-/// floor(x y / 255) in the odd bytes, from x in the odd bytes and y in both of a pair. It is the upper byte of
-/// (256 x + 1) (257 y) / 2^16; what the even bytes hold does not matter.
+/// Of bytes: the odd ones over the even ones. Some processors take three steps to choose bytes by a mask.
 template <class D, class V>
-HWY_INLINE V timesOdd8(D d, V x, V y) {
+HWY_INLINE V oddOver(D d, V odd, V even) {
   const hn::RepartitionToWide<D> dWide;
-  const V xAndOne = hn::OddEven(x, hn::Set(d, 1));
+  return hn::Or(hn::And(odd, hn::BitCast(d, hn::Set(dWide, 0xFF00))), even);
+}
+
+/// floor(x y / 255) in the odd bytes, from x in the odd bytes beside ones, and y in both of a pair. It is the upper
+/// byte of (256 x + 1) (257 y) / 2^16.
+template <class D, class V>
+HWY_INLINE V timesOdd8(D d, V xAndOne, V y) {
+  const hn::RepartitionToWide<D> dWide;
   return hn::BitCast(d, hn::MulHigh(hn::BitCast(dWide, xAndOne), hn::BitCast(dWide, y)));
 }
 
 /// x times one factor after the other, each product rounded down by itself.
-template <class D, class V, class... Factor>
-HWY_INLINE V product(D d, V x, Factor... factor) {
+template <class D, class V, class First, class... Factor>
+HWY_INLINE V product(D d, V x, First first, Factor... factor) {
   if constexpr (sizeof(hn::TFromD<D>) > 1) {
+    x = fullScaleProduct16(x, first.odd);
     ((x = fullScaleProduct16(x, factor.odd)), ...);
     return x;
   } else {
     const hn::RepartitionToWide<D> dWide;
-    V even = hn::BitCast(d, hn::ShiftLeft<8>(hn::BitCast(dWide, x)));
-    ((even = timesOdd8(d, even, factor.even)), ...);
-    ((x = timesOdd8(d, x, factor.odd)), ...);
-    return hn::OddEven(x, hn::BitCast(d, hn::ShiftRight<8>(hn::BitCast(dWide, even))));
+    const V one = hn::BitCast(d, hn::Set(dWide, 1));
+    V even = timesOdd8(d, hn::Or(hn::BitCast(d, hn::ShiftLeft<8>(hn::BitCast(dWide, x))), one), first.even);
+    V odd = timesOdd8(d, oddOver(d, x, one), first.odd);
+    ((even = timesOdd8(d, oddOver(d, even, one), factor.even)), ...);
+    ((odd = timesOdd8(d, oddOver(d, odd, one), factor.odd)), ...);
+    return oddOver(d, odd, hn::BitCast(d, hn::ShiftRight<8>(hn::BitCast(dWide, even))));
   }
 }
 
