@@ -85,12 +85,17 @@ struct LanczosFilter {
 struct ColumnRange {
   int first, last;
 
-  /// From the first column's node to the last one's: none between them lies outside.
+  /// From the first column's node to the last one's: none between them lies outside. A product tells where the last one
+  /// is, but for what additions may round, and they are only made where that decides.
   template <class NodeOf>
-  static ColumnRange of(const Axis& x, const NodeOf& nodeOf, int taps) {
+  HWY_NOINLINE static ColumnRange of(const Axis& x, const NodeOf& nodeOf, int taps) {
     const auto first = [&](double position) { return nodeOf(placeOf(position, x.image), x.image).first; };
-    double position = x.start;
-    for (int i = 1; i < x.count; ++i) position += x.step;
+    double position = x.start + x.step * (x.count - 1);
+    const double slack = (std::fabs(x.start) + std::fabs(position)) * x.count * 0x1p-52;
+    if (!(slack < 1) || first(position - slack) != first(position + slack)) {
+      position = x.start;
+      for (int i = 1; i < x.count; ++i) position += x.step;
+    }
     return {first(x.start), first(position) + taps - 1};
   }
 
@@ -746,17 +751,20 @@ VemiStatus resizeToNearest(const T* const* src, int srcStep, T* const* dst, int 
 
 // ---- Area averages -------------------------------------------------------------------------------------------------
 
-/// Rows times their weights, added one by one to what there is of a sum, or to zero, which has no negative zeros.
+/// Rows times their weights, added one by one to what there is of a sum, or to zero. That leaves no negative zeros;
+/// rows of integers, which are given by their address, have none.
 template <int rows, bool toZero>
 struct WeightedRows {
   float weight[rows];
 
-  template <class D, class... In>
-  HWY_INLINE hn::Vec<D> operator()(D d, In... in) const {
-    if constexpr (toZero) {
-      return sum<0>(d, hn::Zero(d), in...);
+  template <class D, class First, class... Rest>
+  HWY_INLINE hn::Vec<D> operator()(D d, First first, Rest... rest) const {
+    if constexpr (!toZero) {
+      return sum<0>(d, first, rest...);
+    } else if constexpr (std::is_pointer_v<First>) {
+      return sum<1>(d, hn::Mul(lanes(d, first), hn::Set(d, weight[0])), rest...);
     } else {
-      return sum<0>(d, in...);
+      return sum<0>(d, hn::Zero(d), first, rest...);
     }
   }
 
