@@ -1,5 +1,6 @@
 #include "geometry/quarter_turns.h"
 
+#include <array>
 #include <cstring>
 
 #include "geometry/blocks_from.h"
@@ -70,20 +71,30 @@ struct Squares {
   }
 };
 
-/// Pixels of three bytes, in lanes of four on the way. A row's four pixels are the first 12 bytes of the 16 that are
+/// Pixels of three elements, in lanes of four on the way. A row's pixels are the first 12 bytes of the 16 that are
 /// read, or the last ones where the row has no more.
+template <class T, class Pixel>
 struct Triples {
-  static constexpr int columns = 4, rows = static_cast<int>(laneCount<uint32_t>), leastHeight = 6;
+  static constexpr size_t size = sizeof(T);
+  static constexpr int columns = 16 / sizeof(Pixel), rows = static_cast<int>(laneCount<Pixel>);
+  static constexpr int leastHeight = 6 / size;  // which have more than 16 bytes
 
   HWY_INLINE static void copy(const char* src, ptrdiff_t srcStep, char* dst, ptrdiff_t dstStep, bool isLast) {
-    alignas(16) static constexpr uint8_t words[2][16] = {
-        {0, 1, 2, 128, 3, 4, 5, 128, 6, 7, 8, 128, 9, 10, 11, 128},
-        {4, 5, 6, 128, 7, 8, 9, 128, 10, 11, 12, 128, 13, 14, 15, 128}};
-    const Lanes<uint32_t> d;
+    alignas(16) static constexpr auto words = [] {
+      std::array<std::array<uint8_t, 16>, 2> index = {};
+      for (size_t i = 0; i < 16; ++i) {
+        const bool isColour = i % (4 * size) < 3 * size;
+        const size_t byte = i / (4 * size) * 3 * size + i % (4 * size);
+        index[0][i] = static_cast<uint8_t>(isColour ? byte : 128);
+        index[1][i] = static_cast<uint8_t>(isColour ? byte + 4 : 128);
+      }
+      return index;
+    }();
+    const Lanes<Pixel> d;
     const Lanes<uint8_t> dBytes;
-    const auto place = hn::LoadDup128(dBytes, words[isLast ? 1 : 0]);
+    const auto place = hn::LoadDup128(dBytes, words[isLast ? 1 : 0].data());
     const char* const from = src - (isLast ? 4 : 0);
-    hn::Vec<Lanes<uint32_t>> v[columns];
+    hn::Vec<Lanes<Pixel>> v[columns];
     unrolled<columns>([&](auto k) HWY_ATTR {
       const auto bytes = blocksFrom(dBytes, [&](int block) HWY_ATTR {
         return reinterpret_cast<const uint8_t*>(from + (k + ptrdiff_t{columns} * block) * srcStep);
@@ -92,7 +103,7 @@ struct Triples {
     });
     transpose(d, v);
     unrolled<columns>([&](auto k) HWY_ATTR {
-      storeWithoutFourth(hn::BitCast(dBytes, v[k]), reinterpret_cast<uint8_t*>(dst + k * dstStep));
+      storeWithoutFourth<T>(hn::BitCast(dBytes, v[k]), reinterpret_cast<uint8_t*>(dst + k * dstStep));
     });
   }
 };
@@ -126,7 +137,11 @@ struct BlockOf<2, written> {
 };
 template <>
 struct BlockOf<3, 3> {
-  using Type = Triples;
+  using Type = Triples<uint8_t, uint32_t>;
+};
+template <>
+struct BlockOf<6, 6> {
+  using Type = Triples<uint16_t, uint64_t>;
 };
 template <int written>
 struct BlockOf<4, written> {

@@ -1,4 +1,4 @@
-// Pixels of three and four bytes out of lanes of four.
+// Pixels of three and four elements of T out of lanes of four of them.
 #pragma once
 
 #include <array>
@@ -9,9 +9,15 @@
 
 namespace vemi::geometry {
 
-/// A vector of pixels with a word each, as three bytes each.
+/// A vector of pixels of four elements, without the fourth ones.
+template <class T = uint8_t>
 HWY_INLINE void storeWithoutFourth(hn::Vec<Lanes<uint8_t>> pixels, uint8_t* out) {
-  alignas(16) static constexpr uint8_t colours[16] = {0, 1, 2, 4, 5, 6, 8, 9, 10, 12, 13, 14};
+  alignas(16) static constexpr auto colours = [] {
+    constexpr size_t size = sizeof(T);
+    std::array<uint8_t, 16> index = {};
+    for (size_t i = 0; i < 12; ++i) index[i] = static_cast<uint8_t>(i / (3 * size) * 4 * size + i % (3 * size));
+    return index;
+  }();
   static constexpr auto close = [] {
     std::array<int32_t, laneCount<int32_t>> index = {};
     for (size_t i = 0; i < index.size() / 4 * 3; ++i) index[i] = static_cast<int32_t>(i / 3 * 4 + i % 3);
@@ -19,7 +25,7 @@ HWY_INLINE void storeWithoutFourth(hn::Vec<Lanes<uint8_t>> pixels, uint8_t* out)
   }();
   const Lanes<uint8_t> d;
   const Lanes<int32_t> di;
-  auto three = hn::BitCast(di, hn::TableLookupBytes(pixels, hn::LoadDup128(d, colours)));
+  auto three = hn::BitCast(di, hn::TableLookupBytes(pixels, hn::LoadDup128(d, colours.data())));
   if constexpr (hn::MaxLanes(d) > 16) {
     three = hn::TableLookupLanes(three, hn::SetTableIndices(di, close.data()));
   }
