@@ -92,10 +92,10 @@ HWY_INLINE void loadRows(ptrdiff_t blocks, const Block& block, ptrdiff_t first, 
   for (ptrdiff_t i = 0; i < blocks; ++i) {
     const ColumnGroups from = block(i);
     unrolled<2>([&](auto part) HWY_ATTR {
-      signal::transpose8([&](auto row, auto number)
-                             HWY_ATTR { return hn::LoadU(d, from.at(first + row, number) + part * N); },
-                         [&](auto column, auto number, auto v)
-                             HWY_ATTR { hn::StoreU(v, d, lines.at(8 * i + column, number) + part * N); });
+      signal::transposeLoaded8([&](auto dOf, auto row, auto number)
+                                   HWY_ATTR { return hn::LoadU(dOf, from.at(first + row, number) + part * N); },
+                               [&](auto column, auto number, auto v)
+                                   HWY_ATTR { hn::StoreU(v, d, lines.at(8 * i + column, number) + part * N); });
     });
   }
 }
@@ -107,9 +107,10 @@ HWY_INLINE void storeRows(ptrdiff_t blocks, const Block& block, ptrdiff_t first,
   for (ptrdiff_t i = 0; i < blocks; ++i) {
     const ColumnGroups to = block(i);
     unrolled<2>([&](auto part) HWY_ATTR {
-      signal::transpose8(
-          [&](auto column, auto number) HWY_ATTR { return hn::LoadU(d, lines.at(8 * i + column, number) + part * N); },
-          [&](auto row, auto number, auto v) HWY_ATTR { hn::StoreU(v, d, to.at(first + row, number) + part * N); });
+      signal::transposeLoaded8([&](auto dOf, auto column, auto number)
+                                   HWY_ATTR { return hn::LoadU(dOf, lines.at(8 * i + column, number) + part * N); },
+                               [&](auto row, auto number, auto v)
+                                   HWY_ATTR { hn::StoreU(v, d, to.at(first + row, number) + part * N); });
     });
   }
 }

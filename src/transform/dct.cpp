@@ -210,10 +210,9 @@ struct RowOctet {
   }
   HWY_INLINE static void store(Image<float> dst, ptrdiff_t y, ptrdiff_t height, const Lines& lines, ptrdiff_t octet,
                                ptrdiff_t width) {
-    const ColumnGroups::D d;
     const EightRows<float> eight(y, height, [&](ptrdiff_t i) { return dst.row(i); });
-    eight.template store<Alpha::none>(width, [&](ptrdiff_t x, auto first) HWY_ATTR {
-      return hn::LoadU(d, lines.result(octet, x, first / vectorLanes));
+    eight.template store<Alpha::none>(width, [&](auto d, ptrdiff_t x, auto first) HWY_ATTR {
+      return hn::LoadU(d, lines.result(octet, x, first / vectorLanes) + first % vectorLanes);
     });
   }
 };

@@ -44,11 +44,23 @@ HWY_NOINLINE HWY_FLATTEN void rows(Floats image, ptrdiff_t height, const DFTLine
     from.load(2 * width, [&](ptrdiff_t e, auto first, auto v)
                              HWY_ATTR { hn::StoreU(v, d, part(lines.entry(e / 2), first, e % 2 != 0)); });
     lines.transform(data);
-    to.store<Alpha::none>(2 * width, [&](ptrdiff_t e, auto first) HWY_ATTR {
-      const bool isEight = e < inEights;
-      const ptrdiff_t x = isEight ? e / 16 * 8 + e % 8 : e / 2;
-      return hn::LoadU(d, part(lines.place(x), first, (isEight ? e / 8 : e) % 2 != 0));
-    });
+    for (ptrdiff_t e = 0; e < inEights; e += 16) {
+      const float* number[8];
+      for (ptrdiff_t i = 0; i < 8; ++i) number[i] = part(lines.place(e / 2 + i), 0, false);
+      for (const bool isImaginary : {false, true}) {
+        const ptrdiff_t at = !isImaginary ? 0 : isForward ? N : -N;
+        signal::transposeLoaded8(
+            [&](auto dOf, auto i, auto first)
+                HWY_ATTR { return hn::LoadU(dOf, number[i] + at + first / N * (2 * N) + first % N); },
+            [&](auto i, auto first, auto v)
+                HWY_ATTR { hn::StoreU(v, d, to.row[i] + e + (isImaginary ? 8 : 0) + first); });
+      }
+    }
+    to.store<Alpha::none>(
+        2 * width,
+        [&](auto dOf, ptrdiff_t e, auto first)
+            HWY_ATTR { return hn::LoadU(dOf, part(lines.place(e / 2), first, e % 2 != 0)); },
+        inEights);
   }
 }
 

@@ -46,9 +46,8 @@ HWY_INLINE void loadChannel(const EightRows<T>& rows, ptrdiff_t width, const Pla
 
 template <int elements, class PlaceOf>
 HWY_INLINE void storeChannel(const EightRows<float>& rows, ptrdiff_t width, const PlaceOf& placeOf) {
-  const ColumnGroups::D d;
   if constexpr (elements == 1) {
-    rows.template store<Alpha::none>(width, [&](ptrdiff_t x, auto first) HWY_ATTR {
+    rows.template store<Alpha::none>(width, [&](auto d, ptrdiff_t x, auto first) HWY_ATTR {
       const LanePlace place = placeOf(x, first);
       const auto v = hn::LoadU(d, place.at);
       return place.isNegative ? hn::Neg(v) : v;

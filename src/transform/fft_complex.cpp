@@ -50,11 +50,11 @@ HWY_NOINLINE HWY_FLATTEN void shortRows(Floats image, ptrdiff_t height, const Ro
     signal::transformColumns(
         data, roots, order, [&](ptrdiff_t x, auto k) HWY_ATTR { return turnedTo<isForward>(data.load(x, k)); },
         [&](ptrdiff_t place, ptrdiff_t, auto k, auto z) HWY_ATTR { data.store(place, k, turnedTo<isForward>(z)); });
-    to.store<Alpha::none>(floats, [&](ptrdiff_t e, auto first) HWY_ATTR {
+    to.store<Alpha::none, false>(floats, [&](auto dOf, ptrdiff_t e, auto first) HWY_ATTR {
       const bool inEights = order >= 3;
       const ptrdiff_t x = inEights ? e / 16 * 8 + e % 8 : e / 2;
       const bool isImaginary = (inEights ? e / 8 : e) % 2 != 0;
-      return hn::LoadU(d8, data.at(placeOf(x, order), first) + (isImaginary ? N : 0));
+      return hn::LoadU(dOf, data.at(placeOf(x, order), first) + (isImaginary ? N : 0));
     });
   }
 }

@@ -140,17 +140,19 @@ HWY_NOINLINE HWY_FLATTEN void shortLines(Image<float> dst, const FFTFloats& spec
       }
     }
     // Pixels hold the real parts of frequencies 0, 1, 2, ... and, in between, the imaginary ones.
-    const auto element = [&](ptrdiff_t e, ptrdiff_t first, bool isBelow) HWY_ATTR {
+    const auto element = [&](auto dOf, ptrdiff_t e, ptrdiff_t first, bool isBelow) HWY_ATTR {
       const ptrdiff_t pixel = e / L::elements, u = (pixel + 1) / 2;
       const bool isImaginary = pixel > 0 && pixel % 2 == 0;
       const ptrdiff_t place = placeOf(isBelow ? (width - u) % width : u, order);
       const float* const at = all.at(place * L::elements + e % L::elements, first);
-      const auto v = hn::LoadU(d, at + (isImaginary ? columnLanes : 0));
+      const auto v = hn::LoadU(dOf, at + (isImaginary ? columnLanes : 0));
       return isBelow && isImaginary ? hn::Neg(v) : v;
     };
     constexpr Alpha alpha = alphaOf<L>;
-    top.template store<alpha>(floats, [&](ptrdiff_t e, auto first) HWY_ATTR { return element(e, first, false); });
-    bottom.template store<alpha>(floats, [&](ptrdiff_t e, auto first) HWY_ATTR { return element(e, first, true); });
+    top.template store<alpha, false>(
+        floats, [&](auto dOf, ptrdiff_t e, auto first) HWY_ATTR { return element(dOf, e, first, false); });
+    bottom.template store<alpha, false>(
+        floats, [&](auto dOf, ptrdiff_t e, auto first) HWY_ATTR { return element(dOf, e, first, true); });
     if (v0 > 0) continue;
     for (int channel = 0; channel < L::channels; ++channel) {
       const ColumnGroups own = lines.ofChannel(channel);

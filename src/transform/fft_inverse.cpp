@@ -166,11 +166,11 @@ HWY_NOINLINE HWY_FLATTEN void shortLines(Image<const float> src, Image<float> ds
       return all.at(placeOf(e / L::elements, order) * L::elements + e % L::elements, first);
     };
     constexpr Alpha alpha = alphaOf<L>;
-    topRows(dst, v0, height).template store<alpha>(floats, [&](ptrdiff_t e, auto first) HWY_ATTR {
-      return hn::LoadU(d, element(e, first));
+    topRows(dst, v0, height).template store<alpha, false>(floats, [&](auto dOf, ptrdiff_t e, auto first) HWY_ATTR {
+      return hn::LoadU(dOf, element(e, first));
     });
-    bottomRows(dst, v0, height).template store<alpha>(floats, [&](ptrdiff_t e, auto first) HWY_ATTR {
-      return hn::LoadU(d, element(e, first) + columnLanes);
+    bottomRows(dst, v0, height).template store<alpha, false>(floats, [&](auto dOf, ptrdiff_t e, auto first) HWY_ATTR {
+      return hn::LoadU(dOf, element(e, first) + columnLanes);
     });
   }
 }

@@ -58,8 +58,9 @@ struct EightRows {
     const signal::ColumnGroups::D d;
     const ptrdiff_t whole = floats & ~ptrdiff_t{7};
     for (ptrdiff_t e = 0; e < whole; e += 8) {
-      signal::transpose8([&](auto i, auto first) HWY_ATTR { return hn::LoadU(d, row[i] + e + first); },
-                         [&](auto i, auto first, auto v) HWY_ATTR { place(e + i, first, v); });
+      signal::transposeLoaded8([&](auto dOf, auto i, auto first)
+                                   HWY_ATTR { return hn::LoadU(dOf, row[i] + e + first); },
+                               [&](auto i, auto first, auto v) HWY_ATTR { place(e + i, first, v); });
     }
     for (ptrdiff_t e = whole; e < floats; ++e) {
       float lane[8];
@@ -70,26 +71,29 @@ struct EightRows {
     }
   }
 
-  /// of(e, first) gives them back. With `alpha` each fourth element stays.
-  template <Alpha alpha, class Of>
-  HWY_INLINE void store(ptrdiff_t floats, const Of& of) const {
+  /// of(d, e, first) gives them back from element `start` on, a multiple of 8, in lanes of d: in halves of vectors, or
+  /// whole. With `alpha` each fourth element stays.
+  template <Alpha alpha, bool inHalves = true, class Of>
+  HWY_INLINE void store(ptrdiff_t floats, const Of& of, ptrdiff_t start = 0) const {
     const signal::ColumnGroups::D d;
     const ptrdiff_t whole = floats & ~ptrdiff_t{7};
-    for (ptrdiff_t e = 0; e < whole; e += 8) {
-      signal::transpose8([&](auto i, auto first) HWY_ATTR { return of(e + i, first); },
-                         [&](auto i, auto first, auto v) HWY_ATTR {
-                           float* const to = row[i] + e + first;
-                           if constexpr (alpha == Alpha::kept) {
-                             v = hn::IfThenElse(colourLanes(d), v, hn::LoadU(d, to));
-                           }
-                           hn::StoreU(v, d, to);
-                         });
+    for (ptrdiff_t e = start; e < whole; e += 8) {
+      const auto put = [&](auto i, auto first, auto v) HWY_ATTR {
+        float* const to = row[i] + e + first;
+        if constexpr (alpha == Alpha::kept) v = hn::IfThenElse(colourLanes(d), v, hn::LoadU(d, to));
+        hn::StoreU(v, d, to);
+      };
+      if constexpr (inHalves) {
+        signal::transposeLoaded8([&](auto dOf, auto i, auto first) HWY_ATTR { return of(dOf, e + i, first); }, put);
+      } else {
+        signal::transpose8([&](auto i, auto first) HWY_ATTR { return of(d, e + i, first); }, put);
+      }
     }
     for (ptrdiff_t e = whole; e < floats; ++e) {
       if (alpha == Alpha::kept && e % 4 == 3) continue;
       float lane[8];
       unrolled<signal::ColumnGroups::vectors>([&](auto k) HWY_ATTR {
-        hn::StoreU(of(e, k * signal::ColumnGroups::N), d, lane + k * signal::ColumnGroups::N);
+        hn::StoreU(of(d, e, k * signal::ColumnGroups::N), d, lane + k * signal::ColumnGroups::N);
       });
       for (int i = 0; i < 8; ++i) setElement(row[i] + e, lane[i]);
     }
