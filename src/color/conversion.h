@@ -4,7 +4,7 @@
 
 #include <type_traits>
 
-#include "color/triple_row.h"
+#include "color/pixel_rows.h"
 #include "core/checks.h"
 #include "core/float_control.h"
 #include "core/pixel_region.h"
@@ -19,8 +19,8 @@ template <class L, class Images>
 auto pixelsIn(Images images) {
   if constexpr (requires { pixelsOf(images); }) {
     return pixelsOf(images);
-  } else if constexpr (requires { tripleImage<L>(images); }) {
-    return tripleImage<L>(images);
+  } else if constexpr (requires { imageOfRows<L>(images); }) {
+    return imageOfRows<L>(images);
   } else {
     return pixelsOf<L>(images);
   }
