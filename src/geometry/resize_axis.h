@@ -58,8 +58,8 @@ inline Node cubicNode(Place place, int image) {
 inline Node lanczosNode(Place place, int) { return {place.index - 2, place.position - place.index}; }
 
 /// Calls f(column, nodeOf(its position)). Positions are reached by additions, one for each column.
-template <class NodeOf, class F>
-void forNodes(const Axis& axis, const NodeOf& nodeOf, const F& f) {
+template <auto nodeOf, class F>
+void forNodes(const Axis& axis, const F& f) {
   double position = axis.start;
   for (int i = 0; i < axis.count; ++i) {
     f(i, nodeOf(placeOf(position, axis.image), axis.image));

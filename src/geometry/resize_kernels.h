@@ -87,8 +87,8 @@ struct ColumnRange {
 
   /// From the first column's node to the last one's: none between them lies outside. A product tells where the last one
   /// is, but for what additions may round, and they are only made where that decides.
-  template <class NodeOf>
-  HWY_NOINLINE static ColumnRange of(const Axis& x, const NodeOf& nodeOf, int taps) {
+  template <auto nodeOf>
+  HWY_NOINLINE static ColumnRange of(const Axis& x, int taps) {
     const auto first = [&](double position) { return nodeOf(placeOf(position, x.image), x.image).first; };
     double position = x.start + x.step * (x.count - 1);
     const double slack = (std::fabs(x.start) + std::fabs(position)) * x.count * 0x1p-52;
@@ -192,7 +192,7 @@ class FloatAcross {
         weight_(scratch[room.weight]) {
     int32_t* const offset = scratch[room.offset];
     inTurn_ = mayBeInTurn;
-    forNodes(x, F::nodeOf, [&](int column, const Node& node) {
+    forNodes<F::nodeOf>(x, [&](int column, const Node& node) {
       const int sample = node.first - firstColumn;
       inTurn_ = inTurn_ && sample == 2 * column;
       setOffsets<T, L>(offset, column, sample);
@@ -427,7 +427,7 @@ class ByteAcross {
       : elements_(ptrdiff_t{x.count} * L::elements), picks_(scratch, room.picks), weight_(scratch[room.weight]) {
     int32_t* const offset = scratch[room.offset];
     bool inTurn = L::elements != 3;
-    forNodes(x, linearNode, [&](int column, const Node& node) {
+    forNodes<linearNode>(x, [&](int column, const Node& node) {
       const int sample = node.first - firstColumn;
       inTurn = inTurn && sample == 2 * column;
       setOffsets<uint8_t, L>(offset, column, sample);
@@ -603,7 +603,7 @@ VemiStatus resizeByStages(const T* const* src, int srcStep, T* const* dst, int d
   using E = typename Across::Element;
   constexpr bool isLinear = F::taps == 2;
   const Vemi64s elements = Vemi64s{plan.x.count} * L::elements;
-  const ColumnRange range = ColumnRange::of(plan.x, F::nodeOf, F::taps);
+  const ColumnRange range = ColumnRange::of<F::nodeOf>(plan.x, F::taps);
   SourceLines lines(range.first, range.columns(), pixelBytes<T, L>), others = lines;
   HeldRows<E, F::taps> held(elements);
   Pieces pieces;
@@ -623,7 +623,7 @@ VemiStatus resizeByStages(const T* const* src, int srcStep, T* const* dst, int d
       if (plan.y.step >= 2 && plan.x.start >= 0 && plan.y.start >= 0 && across.goesBetween()) {
         others.setCopy(scratch[otherCopy]);
         others.setSource(source, plan.image);
-        forNodes(plan.y, F::nodeOf, [&](int y, const Node& node) {
+        forNodes<F::nodeOf>(plan.y, [&](int y, const Node& node) {
           const typename Stages::Pair pair(node);
           const ptrdiff_t first = node.first;
           across.between(lines.row(first + pair.first), others.row(first + 1 - pair.first), pair.weight,
@@ -633,7 +633,7 @@ VemiStatus resizeByStages(const T* const* src, int srcStep, T* const* dst, int d
       }
     }
     held.forget();
-    forNodes(plan.y, F::nodeOf, [&](int y, const Node& node) {
+    forNodes<F::nodeOf>(plan.y, [&](int y, const Node& node) {
       const E* rows[F::taps];
       for (int k = 0; k < F::taps; ++k) {
         const int row = std::clamp(node.first + k, 0, plan.image.height - 1);
@@ -661,7 +661,7 @@ class NearestAcross {
   NearestAcross(const Scratch& scratch, const Room& room, const Axis& x, int firstColumn)
       : elements_(ptrdiff_t{x.count} * L::elements), picks_(scratch, room.picks), offset_(scratch[room.offset]) {
     int32_t* const offset = offset_;
-    forNodes(x, nearestNode, [&](int column, const Node& node) {
+    forNodes<nearestNode>(x, [&](int column, const Node& node) {
       const int sample = node.first - firstColumn;
       isEverySecond_ = isEverySecond_ && sample == 2 * column;
       setOffsets<T, L>(offset, column, sample);
@@ -723,7 +723,7 @@ template <class T, class L>
 VemiStatus resizeToNearest(const T* const* src, int srcStep, T* const* dst, int dstStep, int count,
                            const ResizePlan& plan) {
   const Vemi64s elements = Vemi64s{plan.x.count} * L::elements;
-  const ColumnRange range = ColumnRange::of(plan.x, nearestNode, 1);
+  const ColumnRange range = ColumnRange::of<nearestNode>(plan.x, 1);
   SourceLines lines(range.first, range.columns(), pixelBytes<T, L>);
   Pieces pieces;
   const typename NearestAcross<T, L>::Room room(pieces, elements);
@@ -736,7 +736,7 @@ VemiStatus resizeToNearest(const T* const* src, int srcStep, T* const* dst, int 
     const Image<T> destination = {dst[n], dstStep};
     lines.setSource(Image<const T>{src[n], srcStep}, plan.image);
     int last = -1;
-    forNodes(plan.y, nearestNode, [&](int y, const Node& node) {
+    forNodes<nearestNode>(plan.y, [&](int y, const Node& node) {
       if (node.first == last && !L::keepsAlpha) {
         rowCopyBytes(destination.row(y - 1), destination.row(y),
                      static_cast<ptrdiff_t>(elements) * ptrdiff_t{sizeof(T)});

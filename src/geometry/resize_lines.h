@@ -33,18 +33,15 @@ class SourceLines {
     source_ = {reinterpret_cast<const uint8_t*>(image.first), image.step};
     width_ = size.width;
     end_ = source_.row(ptrdiff_t{size.height} - 1) + size.width * pixel_;
+    const ptrdiff_t wanted = first_ + columns();
+    isInside_ = first_ >= 0 && wanted <= width_;
+    reach_ = wanted * pixel_ + windowSlack;
   }
 
   /// Valid until the next one is asked for; windowSlack bytes behind it can be read.
   const uint8_t* row(ptrdiff_t y) const {
     const uint8_t* const row = source_.row(y);
-    const ptrdiff_t left = std::max(0, -first_), wanted = first_ + columns(), inner = std::min(wanted, width_);
-    const uint8_t* const own = row + (first_ + left) * pixel_;
-    if (left == 0 && wanted == inner && end_ - row >= wanted * pixel_ + windowSlack) return own;
-    rowCopyBytes(own, copy_ + left * pixel_, (inner - first_ - left) * pixel_);
-    for (ptrdiff_t x = 0; x < left; ++x) copyPixel(row, x);
-    for (ptrdiff_t x = inner; x < wanted; ++x) copyPixel(row + (width_ - 1) * pixel_, x - first_);
-    return copy_;
+    return isInside_ && end_ - row >= reach_ ? row + first_ * pixel_ : copyOf(row);
   }
 
  private:
@@ -53,7 +50,17 @@ class SourceLines {
   ptrdiff_t pixel_, width_ = 0;
   Image<const uint8_t> source_ = {};
   const uint8_t* end_ = nullptr;
+  bool isInside_ = false;  // all columns are the image's
+  ptrdiff_t reach_ = 0;    // bytes of a row up to the end of what can be read
   uint8_t* copy_ = nullptr;
+
+  HWY_NOINLINE const uint8_t* copyOf(const uint8_t* row) const {
+    const ptrdiff_t left = std::max(0, -first_), wanted = first_ + columns(), inner = std::min(wanted, width_);
+    rowCopyBytes(row + (first_ + left) * pixel_, copy_ + left * pixel_, (inner - first_ - left) * pixel_);
+    for (ptrdiff_t x = 0; x < left; ++x) copyPixel(row, x);
+    for (ptrdiff_t x = inner; x < wanted; ++x) copyPixel(row + (width_ - 1) * pixel_, x - first_);
+    return copy_;
+  }
 
   ptrdiff_t columns() const { return static_cast<ptrdiff_t>(columns_); }
   void copyPixel(const uint8_t* from, ptrdiff_t x) const {
