@@ -58,7 +58,12 @@ struct ArcTangent {
     // A NaN is one of the two.
     V a = vemi::lesser(magnitudeX, magnitudeY), b = vemi::greater(magnitudeY, magnitudeX);
     const auto isPlain = hn::And(hn::Ge(b, hn::Set(d, Numbers::least)), hn::Lt(b, hn::Set(d, Numbers::most)));
-    if (HWY_UNLIKELY(!hn::AllTrue(d, isPlain))) scaleOrdered(d, a, b);
+    if (HWY_UNLIKELY(!hn::AllTrue(d, isPlain))) {
+      V scaledA = a, scaledB = b;
+      scaleOrdered(d, scaledA, scaledB);
+      a = hn::IfThenElse(isPlain, a, scaledA);  // whatever the neighbours: a quotient may be denormal
+      b = hn::IfThenElse(isPlain, b, scaledB);
+    }
     const V halfB = hn::Mul(b, half);
     const auto isLarge = hn::Ge(a, halfB);
     const auto ifLarge = [&](V v) HWY_ATTR { return hn::IfThenElseZero(isLarge, v); };
