@@ -8,6 +8,7 @@
 #include "color/from_rgb.h"
 #include "color/luma_chroma.h"
 #include "color/pairs.h"
+#include "color/pixel_rows.h"
 #include "color/to_subsampled.h"
 #include "core/inlined.h"
 #include "vemi/color.h"
@@ -143,19 +144,6 @@ HWY_NOINLINE void mapPixels(ptrdiff_t width, const Inverse&, InterleavedRow<uint
   forBlocks<N / 2>(width / 2, kernel, Strand<const uint8_t, 4>{src.first}, Strand<uint8_t, 6>{dst.first});
 }
 
-/// The blocks of 128 bits of two vectors by turns.
-template <class D>
-HWY_INLINE void storeBlocksByTurns(D d, hn::Vec<D> first, hn::Vec<D> second, uint8_t* out) {
-  if constexpr (hn::MaxLanes(d) == 16) {
-    hn::StoreU(first, d, out);
-    hn::StoreU(second, d, out + 16);
-  } else {
-    const hn::Half<D> dHalf;
-    storeBlocksByTurns(dHalf, hn::LowerHalf(first), hn::LowerHalf(second), out);
-    storeBlocksByTurns(dHalf, hn::UpperHalf(dHalf, first), hn::UpperHalf(dHalf, second), out + hn::MaxLanes(d));
-  }
-}
-
 HWY_NOINLINE void mapPixels(ptrdiff_t width, const InverseToBgra& op, InterleavedRow<uint8_t, C4> dst,
                             Packed422Row<const uint8_t, order> src) {
   constexpr ptrdiff_t N = laneCount<uint8_t>;
@@ -168,8 +156,10 @@ HWY_NOINLINE void mapPixels(ptrdiff_t width, const InverseToBgra& op, Interleave
       const auto blueAndRed = packHalves(d, words.v[2], words.v[0]), greenAndFourth = packHalves(d, words.v[1], fourth);
       const auto lower = hn::BitCast(dPairs, hn::InterleaveLower(d, blueAndRed, greenAndFourth));
       const auto upper = hn::BitCast(dPairs, hn::InterleaveUpper(d, blueAndRed, greenAndFourth));
-      storeBlocksByTurns(d, hn::BitCast(d, hn::InterleaveLower(dPairs, lower, upper)),
-                         hn::BitCast(d, hn::InterleaveUpper(dPairs, lower, upper)), out + 2 * k * N);
+      const auto storeBlock = [](auto dBlock, auto block, uint8_t* place)
+                                  VEMI_INLINED { hn::StoreU(block, dBlock, place); };
+      storeBlocksByTurns(d, out + 2 * k * N, storeBlock, hn::BitCast(d, hn::InterleaveLower(dPairs, lower, upper)),
+                         hn::BitCast(d, hn::InterleaveUpper(dPairs, lower, upper)));
     });
   };
   forBlocks<N / 2>(width / 2, kernel, Strand<const uint8_t, 4>{src.first}, Strand<uint8_t, 8>{dst.first});

@@ -59,19 +59,16 @@ requires(std::is_same_v<std::remove_const_t<T>, Vemi32f>) TripleImage<T> imageOf
   return {{image}};
 }
 
-/// store(tag, block of 128 bits, place): the blocks of four vectors by turns.
-template <class D, class V, class Store>
-HWY_INLINE void storeBlocksOfFour(D d, V a, V b, V c, V e, uint8_t* out, const Store& store) {
+/// store(tag, block of 128 bits, place): the blocks of several vectors by turns.
+template <class D, class Store, class... V>
+HWY_INLINE void storeBlocksByTurns(D d, uint8_t* out, const Store& store, V... v) {
   if constexpr (hn::MaxLanes(d) == 16) {
-    store(d, a, out);
-    store(d, b, out + 16);
-    store(d, c, out + 32);
-    store(d, e, out + 48);
+    ptrdiff_t place = 0;
+    (store(d, v, out + 16 * place++), ...);
   } else {
     const hn::Half<D> dHalf;
-    const auto upper = [&](V v) VEMI_INLINED { return hn::UpperHalf(dHalf, v); };
-    storeBlocksOfFour(dHalf, hn::LowerHalf(a), hn::LowerHalf(b), hn::LowerHalf(c), hn::LowerHalf(e), out, store);
-    storeBlocksOfFour(dHalf, upper(a), upper(b), upper(c), upper(e), out + 2 * hn::MaxLanes(d), store);
+    storeBlocksByTurns(dHalf, out, store, hn::LowerHalf(v)...);
+    storeBlocksByTurns(dHalf, out + sizeof...(V) * hn::MaxLanes(dHalf), store, hn::UpperHalf(dHalf, v)...);
   }
 }
 
@@ -99,17 +96,17 @@ struct FourBytesRow {
     const auto lower = [&](V a, V b) VEMI_INLINED { return hn::BitCast(dPairs, hn::InterleaveLower(d, a, b)); };
     const auto upper = [&](V a, V b) VEMI_INLINED { return hn::BitCast(dPairs, hn::InterleaveUpper(d, a, b)); };
     const auto lower01 = lower(v0, v1), lower23 = lower(v2, v3), upper01 = upper(v0, v1), upper23 = upper(v2, v3);
-    storeBlocksOfFour(d, hn::BitCast(d, hn::InterleaveLower(dPairs, lower01, lower23)),
-                      hn::BitCast(d, hn::InterleaveUpper(dPairs, lower01, lower23)),
-                      hn::BitCast(d, hn::InterleaveLower(dPairs, upper01, upper23)),
-                      hn::BitCast(d, hn::InterleaveUpper(dPairs, upper01, upper23)), first,
-                      [](auto dBlock, auto block, uint8_t* place) VEMI_INLINED {
-                        if constexpr (how == Stores::streamed) {
-                          hn::Stream(block, dBlock, place);
-                        } else {
-                          hn::StoreU(block, dBlock, place);
-                        }
-                      });
+    const auto storeBlock = [](auto dBlock, auto block, uint8_t* place) VEMI_INLINED {
+      if constexpr (how == Stores::streamed) {
+        hn::Stream(block, dBlock, place);
+      } else {
+        hn::StoreU(block, dBlock, place);
+      }
+    };
+    storeBlocksByTurns(d, first, storeBlock, hn::BitCast(d, hn::InterleaveLower(dPairs, lower01, lower23)),
+                       hn::BitCast(d, hn::InterleaveUpper(dPairs, lower01, lower23)),
+                       hn::BitCast(d, hn::InterleaveLower(dPairs, upper01, upper23)),
+                       hn::BitCast(d, hn::InterleaveUpper(dPairs, upper01, upper23)));
   }
 };
 
