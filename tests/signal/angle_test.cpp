@@ -60,6 +60,34 @@ TEST(ArcTangentLanes, SpecialValuesAreTheStandards) {
   EXPECT_TRUE(std::isnan(angleOf(1.0f, NAN)));
 }
 
+template <class T>
+void expectLanesApart() {
+  const Lanes<T> d;
+  constexpr T least = std::numeric_limits<T>::denorm_min(), largest = std::numeric_limits<T>::max();
+  constexpr T infinite = std::numeric_limits<T>::infinity();
+  const T value[] = {0, 1, 3, least, 5 * least, std::numeric_limits<T>::min(), largest, largest / 3, infinite, -7};
+  const auto same = [](T a, T b) { return a == b && std::signbit(a) == std::signbit(b); };
+  for (const T y : value) {
+    for (const T x : value) {
+      const T alone = angleOf(y, x);
+      for (const T otherY : value) {
+        for (const T otherX : value) {
+          const auto first = hn::FirstN(d, 1);
+          const auto ys = hn::IfThenElse(first, hn::Set(d, y), hn::Set(d, otherY));
+          const auto xs = hn::IfThenElse(first, hn::Set(d, x), hn::Set(d, otherX));
+          const T beside = hn::GetLane(signal::ArcTangent()(d, ys, xs));
+          ASSERT_TRUE(same(beside, alone)) << y << " " << x << " beside " << otherY << " " << otherX;
+        }
+      }
+    }
+  }
+}
+
+TEST(ArcTangentLanes, NoneDependsOnItsNeighbours) {
+  expectLanesApart<float>();
+  expectLanesApart<double>();
+}
+
 TEST(ArcTangentLanes, WithinOneUnit) {
   AnyFloats floats;
   for (int n = 0; n < 3000000; ++n) {
