@@ -49,7 +49,7 @@ HWY_INLINE ptrdiff_t reverseVectors(D d, const uint8_t* src, uint8_t* dst, ptrdi
 HWY_INLINE ptrdiff_t reverseTriples(const uint8_t* src, uint8_t* dst, ptrdiff_t bytes, ptrdiff_t i) {
   const hn::FixedTag<uint8_t, 16> d;
   for (; i + 48 <= bytes; i += 48) {
-    const auto from = [&](int word) HWY_ATTR { return hn::LoadU(d, src + bytes - i - 48 + 4 * word); };
+    const auto from = [&](ptrdiff_t word) HWY_ATTR { return hn::LoadU(d, src + bytes - i - 48 + 4 * word); };
     hn::StoreU(hn::CombineShiftRightBytes<4>(d, from(6), from(8)), d, dst + i);
     hn::StoreU(hn::CombineShiftRightBytes<8>(d, from(3), from(5)), d, dst + i + 16);
     hn::StoreU(hn::CombineShiftRightBytes<12>(d, from(0), from(2)), d, dst + i + 32);
