@@ -91,10 +91,12 @@ struct SineAndCosine {
     const V sineOfR = hn::Or(sum, hn::And(r, signBit));  // a zero keeps its sign
     const V less = hn::Sub(hn::Mul(z, hn::Set(d, 0.5f)), hn::Mul(hn::Mul(z, z), polynomial(d, z, cosine)));
     const V cosineOfR = hn::Sub(one, less);
-    // The last two bits of k stand where signs do.
-    const V lower = hn::BitCast(d, hn::ShiftLeft<31>(quarters)), upper = hn::BitCast(d, hn::ShiftLeft<30>(quarters));
-    return {hn::Xor(hn::IfNegativeThenElse(lower, cosineOfR, sineOfR), hn::And(upper, signBit)),
-            hn::Xor(hn::IfNegativeThenElse(lower, sineOfR, cosineOfR), hn::And(hn::Xor(upper, lower), signBit))};
+    // The last two bits of k where signs stand.
+    const VI lower = hn::ShiftLeft<31>(quarters), upper = hn::ShiftLeft<30>(quarters);
+    const auto isOdd = hn::RebindMask(d, hn::Lt(lower, hn::Zero(hn::DFromV<VI>())));
+    const auto signOf = [&](VI k) HWY_ATTR { return hn::And(hn::BitCast(d, k), signBit); };
+    return {hn::Xor(hn::IfThenElse(isOdd, cosineOfR, sineOfR), signOf(upper)),
+            hn::Xor(hn::IfThenElse(isOdd, sineOfR, cosineOfR), signOf(hn::Xor(upper, lower)))};
   }
 
   /// The quarter turns of one angle from 2^20 on, which becomes its rest. It is m 2^e with an integer m of 24 bits: of
