@@ -8,9 +8,9 @@
 #include "color/from_rgb.h"
 #include "color/luma_chroma.h"
 #include "color/pairs.h"
-#include "color/pixel_rows.h"
 #include "color/to_subsampled.h"
 #include "core/inlined.h"
+#include "core/vector_blocks.h"
 #include "vemi/color.h"
 #include "vemi/map.h"
 
@@ -156,10 +156,8 @@ HWY_NOINLINE void mapPixels(ptrdiff_t width, const InverseToBgra& op, Interleave
       const auto blueAndRed = packHalves(d, words.v[2], words.v[0]), greenAndFourth = packHalves(d, words.v[1], fourth);
       const auto lower = hn::BitCast(dPairs, hn::InterleaveLower(d, blueAndRed, greenAndFourth));
       const auto upper = hn::BitCast(dPairs, hn::InterleaveUpper(d, blueAndRed, greenAndFourth));
-      const auto storeBlock = [](auto dBlock, auto block, uint8_t* place)
-                                  VEMI_INLINED { hn::StoreU(block, dBlock, place); };
-      storeBlocksByTurns(d, out + 2 * k * N, storeBlock, hn::BitCast(d, hn::InterleaveLower(dPairs, lower, upper)),
-                         hn::BitCast(d, hn::InterleaveUpper(dPairs, lower, upper)));
+      storeBlocksByTurns<Stores::cached>(d, out + 2 * k * N, hn::BitCast(d, hn::InterleaveLower(dPairs, lower, upper)),
+                                         hn::BitCast(d, hn::InterleaveUpper(dPairs, lower, upper)));
     });
   };
   forBlocks<N / 2>(width / 2, kernel, Strand<const uint8_t, 4>{src.first}, Strand<uint8_t, 8>{dst.first});

@@ -46,10 +46,6 @@ HWY_INLINE auto upperWords(V lower, V upper) {
   return hn::OddEven(hn::BitCast(d, upper), hn::BitCast(d, hn::ShiftRight<16>(lower)));
 }
 
-}  // namespace detail
-
-namespace detail {
-
 /// A weight as low + 256 high, for a byte b in words b + toLow and 256 b + toHigh, which 16 bits hold.
 struct WeightOfByte {
   int low, high, toLow, toHigh;

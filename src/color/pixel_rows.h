@@ -13,6 +13,7 @@
 #include "core/pixel_region.h"
 #include "core/pixels.h"
 #include "core/processor_triples.h"
+#include "core/vector_blocks.h"
 
 namespace vemi::color {
 
@@ -41,11 +42,7 @@ struct TripleRow {
   template <Stores how, ptrdiff_t pixels, class V>
   HWY_INLINE void store(V v0, V v1, V v2) const {
     static_assert(pixels == blockPixels);
-    if constexpr (how == Stores::streamed) {
-      streamTriples(Lanes<float>(), v0, v1, v2, first);
-    } else {
-      storeTriples(Lanes<float>(), v0, v1, v2, first);
-    }
+    storeTriples<how>(Lanes<float>(), v0, v1, v2, first);
   }
 };
 
@@ -57,19 +54,6 @@ struct TripleImage : PixelImage<C3, T> {
 template <std::same_as<C3> L, class T>
 requires(std::is_same_v<std::remove_const_t<T>, Vemi32f>) TripleImage<T> imageOfRows(Image<T> image) {
   return {{image}};
-}
-
-/// store(tag, block of 128 bits, place): the blocks of several vectors by turns.
-template <class D, class Store, class... V>
-HWY_INLINE void storeBlocksByTurns(D d, uint8_t* out, const Store& store, V... v) {
-  if constexpr (hn::MaxLanes(d) == 16) {
-    ptrdiff_t place = 0;
-    (store(d, v, out + 16 * place++), ...);
-  } else {
-    const hn::Half<D> dHalf;
-    storeBlocksByTurns(dHalf, out, store, hn::LowerHalf(v)...);
-    storeBlocksByTurns(dHalf, out + sizeof...(V) * hn::MaxLanes(dHalf), store, hn::UpperHalf(dHalf, v)...);
-  }
 }
 
 /// Four interleaved bytes, all of which are written.
@@ -96,17 +80,10 @@ struct FourBytesRow {
     const auto lower = [&](V a, V b) VEMI_INLINED { return hn::BitCast(dPairs, hn::InterleaveLower(d, a, b)); };
     const auto upper = [&](V a, V b) VEMI_INLINED { return hn::BitCast(dPairs, hn::InterleaveUpper(d, a, b)); };
     const auto lower01 = lower(v0, v1), lower23 = lower(v2, v3), upper01 = upper(v0, v1), upper23 = upper(v2, v3);
-    const auto storeBlock = [](auto dBlock, auto block, uint8_t* place) VEMI_INLINED {
-      if constexpr (how == Stores::streamed) {
-        hn::Stream(block, dBlock, place);
-      } else {
-        hn::StoreU(block, dBlock, place);
-      }
-    };
-    storeBlocksByTurns(d, first, storeBlock, hn::BitCast(d, hn::InterleaveLower(dPairs, lower01, lower23)),
-                       hn::BitCast(d, hn::InterleaveUpper(dPairs, lower01, lower23)),
-                       hn::BitCast(d, hn::InterleaveLower(dPairs, upper01, upper23)),
-                       hn::BitCast(d, hn::InterleaveUpper(dPairs, upper01, upper23)));
+    storeBlocksByTurns<how>(d, first, hn::BitCast(d, hn::InterleaveLower(dPairs, lower01, lower23)),
+                            hn::BitCast(d, hn::InterleaveUpper(dPairs, lower01, lower23)),
+                            hn::BitCast(d, hn::InterleaveLower(dPairs, upper01, upper23)),
+                            hn::BitCast(d, hn::InterleaveUpper(dPairs, upper01, upper23)));
   }
 };
 

@@ -7,6 +7,7 @@
 
 #include "core/inlined.h"
 #include "core/pixels.h"
+#include "core/vector_blocks.h"
 
 namespace vemi::color {
 
@@ -32,13 +33,8 @@ inline constexpr ChannelsOfFour channelsOfFour(isLast ? 4 : 0);
 /// is read.
 template <bool isLast, class D>
 HWY_INLINE hn::Vec<D> loadFours(D d, const uint8_t* in) {
-  if constexpr (hn::MaxLanes(d) == 16) {
-    return hn::LoadU(d, in - (isLast ? 4 : 0));
-  } else {
-    const hn::Half<D> dHalf;
-    const uint8_t* const upper = in + 3 * hn::MaxLanes(dHalf);
-    return hn::Combine(d, loadFours<isLast>(dHalf, upper), loadFours<false>(dHalf, in));
-  }
+  constexpr int last = static_cast<int>(hn::MaxLanes(D()) / 16) - 1;
+  return blocksFrom(d, [&](int k) VEMI_INLINED { return in + ptrdiff_t{48} * k - (isLast && k == last ? 4 : 0); });
 }
 
 }  // namespace detail

@@ -9,7 +9,6 @@
 #include "core/image.h"
 #include "core/map_region.h"
 #include "core/pixel_region.h"
-#include "core/regimes.h"
 
 namespace vemi::color {
 

@@ -4,7 +4,11 @@
 // Which triple is in which lane is the business of loadTriples and storeTriples alone; they are each other's inverse.
 #pragma once
 
+#include <cstddef>
+
 #include "core/lanes.h"
+#include "core/streaming.h"
+#include "core/vector_blocks.h"
 
 namespace vemi {
 
@@ -38,35 +42,7 @@ HWY_INLINE V lanesOfTwo(V a, V b) {
 /// A block of 128 bits out of each 48 bytes from `in` on.
 template <class D>
 HWY_INLINE hn::Vec<D> loadThirds(D d, const float* in) {
-  if constexpr (hn::MaxLanes(d) == 4) {
-    return hn::LoadU(d, in);
-  } else {
-    const hn::Half<D> dHalf;
-    return hn::Combine(d, loadThirds(dHalf, in + 3 * hn::MaxLanes(dHalf)), loadThirds(dHalf, in));
-  }
-}
-
-/// The inverse of three such vectors, by store(tag, block, place) of each block, in the order of their places.
-template <class D, class V, class Store>
-HWY_INLINE void storeThirds(D d, V a, V b, V c, float* out, const Store& store) {
-  if constexpr (hn::MaxLanes(d) == 4) {
-    store(d, a, out);
-    store(d, b, out + 4);
-    store(d, c, out + 8);
-  } else {
-    const hn::Half<D> dHalf;
-    float* const upper = out + 3 * hn::MaxLanes(dHalf);
-    storeThirds(dHalf, hn::LowerHalf(a), hn::LowerHalf(b), hn::LowerHalf(c), out, store);
-    storeThirds(dHalf, hn::UpperHalf(dHalf, a), hn::UpperHalf(dHalf, b), hn::UpperHalf(dHalf, c), upper, store);
-  }
-}
-
-template <class D, class V, class Store>
-HWY_INLINE void storeTriplesBy(D d, V v0, V v1, V v2, float* out, const Store& store) {
-  const V evens01 = lanesOfTwo<0, 2, 0, 2>(v0, v1), odds12 = lanesOfTwo<1, 3, 1, 3>(v1, v2);
-  const V evens2Odds0 = lanesOfTwo<0, 2, 1, 3>(v2, v0);
-  storeThirds(d, lanesOfTwo<0, 2, 0, 2>(evens01, evens2Odds0), lanesOfTwo<0, 2, 1, 3>(odds12, evens01),
-              lanesOfTwo<1, 3, 1, 3>(evens2Odds0, odds12), out, store);
+  return blocksFrom(d, [&](int k) HWY_ATTR { return in + ptrdiff_t{12} * k; });
 }
 
 }  // namespace detail
@@ -82,17 +58,14 @@ HWY_INLINE auto loadTriples(D d, const float* in, const F& f) {
            lanesOfTwo<1, 3, 0, 3>(places12, c));
 }
 
-template <class D, class V>
+/// Streamed, `out` is aligned to a vector.
+template <Stores how, class D, class V>
 HWY_INLINE void storeTriples(D d, V v0, V v1, V v2, float* out) {
-  detail::storeTriplesBy(d, v0, v1, v2, out,
-                         [](auto dBlock, auto v, float* place) HWY_ATTR { hn::StoreU(v, dBlock, place); });
-}
-
-/// Past the caches, where `out` is aligned to a vector.
-template <class D, class V>
-HWY_INLINE void streamTriples(D d, V v0, V v1, V v2, float* out) {
-  detail::storeTriplesBy(d, v0, v1, v2, out,
-                         [](auto dBlock, auto v, float* place) HWY_ATTR { hn::Stream(v, dBlock, place); });
+  using namespace detail;
+  const V evens01 = lanesOfTwo<0, 2, 0, 2>(v0, v1), odds12 = lanesOfTwo<1, 3, 1, 3>(v1, v2);
+  const V evens2Odds0 = lanesOfTwo<0, 2, 1, 3>(v2, v0);
+  storeBlocksByTurns<how>(d, out, lanesOfTwo<0, 2, 0, 2>(evens01, evens2Odds0), lanesOfTwo<0, 2, 1, 3>(odds12, evens01),
+                          lanesOfTwo<1, 3, 1, 3>(evens2Odds0, odds12));
 }
 
 #else
@@ -104,14 +77,9 @@ HWY_INLINE auto loadTriples(D d, const float* in, const F& f) {
   return f(v0, v1, v2);
 }
 
-template <class D, class V>
-HWY_INLINE void storeTriples(D d, V v0, V v1, V v2, float* out) {
-  hn::StoreInterleaved3(v0, v1, v2, d, out);
-}
-
 /// Stores past the caches are a gain of other processors.
-template <class D, class V>
-HWY_INLINE void streamTriples(D d, V v0, V v1, V v2, float* out) {
+template <Stores, class D, class V>
+HWY_INLINE void storeTriples(D d, V v0, V v1, V v2, float* out) {
   hn::StoreInterleaved3(v0, v1, v2, d, out);
 }
 

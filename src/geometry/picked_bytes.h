@@ -8,7 +8,7 @@
 #include "core/gather.h"
 #include "core/lanes.h"
 #include "core/scratch.h"
-#include "geometry/blocks_from.h"
+#include "core/vector_blocks.h"
 
 namespace vemi::geometry {
 

@@ -3,7 +3,7 @@
 #include <array>
 #include <cstring>
 
-#include "geometry/blocks_from.h"
+#include "core/vector_blocks.h"
 #include "geometry/three_bytes.h"
 
 namespace vemi::geometry {

@@ -192,8 +192,8 @@ TEST(Processor, TriplesGoToLanesAndBack) {
     hn::StoreU(v0, d, places[0]);
     hn::StoreU(v1, d, places[1]);
     hn::StoreU(v2, d, places[2]);
-    storeTriples(d, v0, v1, v2, stored);
-    streamTriples(d, v0, v1, v2, streamed);
+    storeTriples<Stores::cached>(d, v0, v1, v2, stored);
+    storeTriples<Stores::streamed>(d, v0, v1, v2, streamed);
   });
   for (int i = 0; i < 3 * N; ++i) EXPECT_TRUE(stored[i] == in[i] && streamed[i] == in[i]) << i;
   float sum = 0;
