@@ -7,10 +7,10 @@
 
 #include <algorithm>
 #include <bit>
-#include <cstring>
 
 #include "arith/complex_arithmetic.h"
 #include "arith/quotient.h"
+#include "core/element.h"
 #include "core/exports.h"
 #include "core/float_control.h"
 #include "core/numbers.h"
@@ -113,12 +113,6 @@ Vemi32sc quotient32sc(Vemi32sc x, Vemi32sc d, int scaleFactor) {
           scaledQuotient(sumOfProducts(product(d.re, x.im), -product(d.im, x.re)), den, scaleFactor)};
 }
 
-Vemi32sc element(const Vemi32sc* row, ptrdiff_t index) {
-  Vemi32sc value;
-  std::memcpy(&value, row + index, sizeof value);
-  return value;
-}
-
 /// A region, with divisorOf(row, index of the element, channel).
 template <class L, class DivisorOf>
 void quotients32sc(VemiSize roiSize, int scaleFactor, const DivisorOf& divisorOf, Image<const Vemi32sc> src,
@@ -127,8 +121,7 @@ void quotients32sc(VemiSize roiSize, int scaleFactor, const DivisorOf& divisorOf
     for (ptrdiff_t x = 0; x < roiSize.width; ++x) {
       for (int channel = 0; channel < L::channels; ++channel) {
         const ptrdiff_t i = x * L::elements + channel;
-        const Vemi32sc result = quotient32sc(element(src.row(y), i), divisorOf(y, i, channel), scaleFactor);
-        std::memcpy(dst.row(y) + i, &result, sizeof result);
+        setElement(dst.row(y) + i, quotient32sc(elementOf(src.row(y) + i), divisorOf(y, i, channel), scaleFactor));
       }
     }
   }
@@ -197,7 +190,7 @@ VemiStatus divide32sc(Image<const Vemi32sc> src1, Image<const Vemi32sc> src2, Im
   }
   VemiStatus status = vemiOk;
   const auto divisorOf = [&](ptrdiff_t y, ptrdiff_t i, int) {
-    const Vemi32sc divisor = element(src1.row(y), i);
+    const Vemi32sc divisor = elementOf(src1.row(y) + i);
     if (divisor.re == 0 && divisor.im == 0) status = vemiWarnDivByZero;
     return divisor;
   };

@@ -2,11 +2,11 @@
 // numbers below zero gives a warning; each element type has its own rule for it.
 
 #include <algorithm>
-#include <cstring>
 
 #include "core/any_element.h"
 #include "core/byte_table.h"
 #include "core/checks.h"
+#include "core/element.h"
 #include "core/exports.h"
 #include "core/image.h"
 #include "core/map_region.h"
@@ -88,7 +88,7 @@ struct IsNotPositive {
 VemiStatus lnStatus16s(const Vemi16s* row, ptrdiff_t len) {
   if (!anyElement(len, IsNotPositive(), row)) return vemiOk;
   Vemi16s first;
-  do std::memcpy(&first, row++, sizeof first);
+  do first = elementOf(row++);
   while (first > 0);
   return first == 0 ? vemiWarnLnZero : vemiWarnLnNegative;
 }

@@ -2,9 +2,9 @@
 #pragma once
 
 #include <cstddef>
-#include <cstring>
 #include <limits>
 
+#include "core/element.h"
 #include "core/image.h"
 
 namespace vemi {
@@ -16,9 +16,7 @@ namespace detail {
 /// The table begins with the result of the lowest value of T.
 template <class T>
 T lookedUp(const T* table, const T* place) {
-  T value;
-  std::memcpy(&value, place, sizeof value);
-  return table[value - std::numeric_limits<T>::min()];
+  return table[elementOf(place) - std::numeric_limits<T>::min()];
 }
 
 }  // namespace detail
@@ -33,8 +31,7 @@ void mapByWordTables(VemiSize roiSize, const T* const (&table)[tables], Image<T>
     T* out = dst.row(y);
     for (ptrdiff_t x = 0; x < extent.width; ++x, in += L::elements, out += L::elements) {
       for (int channel = 0; channel < L::channels; ++channel) {
-        const T value = detail::lookedUp(table[channel], in + channel);
-        std::memcpy(out + channel, &value, sizeof value);
+        setElement(out + channel, detail::lookedUp(table[channel], in + channel));
       }
     }
   }

@@ -25,6 +25,7 @@
 #include <type_traits>
 
 #include "core/checks.h"
+#include "core/element.h"
 #include "core/float_control.h"
 #include "core/image.h"
 #include "core/lanes.h"
@@ -155,18 +156,15 @@ class Coverage {
 /// The mixture of elements, in floats, rounded to nearest and saturated. Elements that are alike stay so.
 template <class T>
 void mix(T* element, T fresh, float coverage) {
-  T old;
-  std::memcpy(&old, element, sizeof old);
+  const T old = elementOf(element);
   using Bits = hwy::UnsignedFromSize<sizeof(T)>;
   if (std::bit_cast<Bits>(old) == std::bit_cast<Bits>(fresh)) return;
   const float mixture = static_cast<float>(old) * (1 - coverage) + static_cast<float>(fresh) * coverage;
-  T result;
   if constexpr (std::is_floating_point_v<T>) {
-    result = mixture;
+    setElement(element, mixture);
   } else {
-    result = nearestTo<T>(mixture);
+    setElement(element, nearestTo<T>(mixture));
   }
-  std::memcpy(element, &result, sizeof result);
 }
 
 // ---- The walk -----------------------------------------------------------------------------------------------------

@@ -5,12 +5,12 @@
 // kernel differs from channel to channel, and vemiFilter has one for all: it gets a channel at a time.
 
 #include <array>
-#include <cstring>
 #include <limits>
 #include <type_traits>
 #include <utility>
 
 #include "core/checks.h"
+#include "core/element.h"
 #include "core/exports.h"
 #include "core/float_control.h"
 #include "core/pixels.h"
@@ -208,9 +208,7 @@ VemiStatus byFilter(Operand<T> src, Operand<T> kernel, Image<T> dst, VemiSize re
     Tap taps[smallKernel];
     for (ptrdiff_t y = 0, n = 0; y < kernel.size.height; ++y) {
       for (ptrdiff_t x = 0; x < kernel.size.width; ++x, ++n) {
-        T tap;
-        std::memcpy(&tap, kernel.image.row(y) + x * L::elements + channel, sizeof tap);
-        taps[n] = tap;
+        taps[n] = elementOf(kernel.image.row(y) + x * L::elements + channel);
       }
     }
     Image<const T> in = src.image;

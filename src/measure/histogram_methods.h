@@ -7,6 +7,7 @@
 #include <limits>
 #include <type_traits>
 
+#include "core/element.h"
 #include "core/image.h"
 #include "core/processor.h"
 #include "core/row_pieces.h"
@@ -64,8 +65,7 @@ void countRow(const T* row, ptrdiff_t width, Counter (*table)[L::channels][value
   for (int channel = 0; channel < L::channels; ++channel) {
     Counter* const counters[2] = {table[0][channel], table[tables - 1][channel]};
     const auto count = [&](ptrdiff_t x, int half) {
-      T value;
-      std::memcpy(&value, row + x * L::elements + channel, sizeof value);
+      const T value = elementOf(row + x * L::elements + channel);
       ++counters[half][value - std::numeric_limits<T>::min()];
     };
     constexpr ptrdiff_t apart = 8;

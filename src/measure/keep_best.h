@@ -4,10 +4,10 @@
 // what was best so far.
 #pragma once
 
-#include <cstring>
 #include <limits>
 #include <type_traits>
 
+#include "core/element.h"
 #include "core/map_row.h"
 #include "core/processor.h"
 #include "core/reduce_region.h"
@@ -74,11 +74,7 @@ struct KeepBest {
     constexpr Lane worst[] = {Extreme::template worst<Lane>...};
     return worst[accumulator];
   }
-  static T padding(const T* row, int channel) {
-    T element;
-    std::memcpy(&element, row + channel, sizeof element);
-    return element;
-  }
+  static T padding(const T* row, int channel) { return elementOf(row + channel); }
 
   template <class D, class K, class A, class... V>
   HWY_INLINE void add(D d, K k, A& bests, V... v) const {

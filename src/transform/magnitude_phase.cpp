@@ -12,6 +12,7 @@
 #include <type_traits>
 
 #include "core/checks.h"
+#include "core/element.h"
 #include "core/exports.h"
 #include "core/float_control.h"
 #include "core/pixel_region.h"
@@ -142,14 +143,6 @@ Vemi32s negated(Vemi32s v) {
   return v == std::numeric_limits<Vemi32s>::min() ? std::numeric_limits<Vemi32s>::max() : -v;
 }
 
-/// Images begin at any address.
-template <class T>
-T loaded(const T* from) {
-  T value;
-  std::memcpy(&value, from, sizeof value);
-  return value;
-}
-
 /// One channel of a packed spectrum of `elements` to a pixel.
 template <int elements, class T>
 struct Packed {
@@ -159,7 +152,7 @@ struct Packed {
   /// What column x has for row y: one element, or a pair of rows, in the lower half conjugated.
   template <class Part>
   Pair<Part> edge(ptrdiff_t x, ptrdiff_t y) const {
-    const auto at = [&](ptrdiff_t row) { return static_cast<Part>(loaded(image.row(row) + x * elements)); };
+    const auto at = [&](ptrdiff_t row) { return static_cast<Part>(elementOf(image.row(row) + x * elements)); };
     const ptrdiff_t v = std::min(y, height - y);
     if (v == 0) return {at(0), Part(0)};
     if (2 * v == height) return {at(height - 1), Part(0)};
@@ -174,8 +167,8 @@ struct Packed {
       std::memcpy(static_cast<char*>(row) + u * ptrdiff_t{sizeof pair}, &pair, sizeof pair);
     };
     const auto numberIn = [](const T* from, ptrdiff_t u) {
-      return Pair<Part>{static_cast<Part>(loaded(from + (2 * u - 1) * elements)),
-                        static_cast<Part>(loaded(from + 2 * u * elements))};
+      return Pair<Part>{static_cast<Part>(elementOf(from + (2 * u - 1) * elements)),
+                        static_cast<Part>(elementOf(from + 2 * u * elements))};
     };
     put(0, edge<Part>(0, y));
     if (width > 1 && width % 2 == 0) put(width / 2, edge<Part>(width - 1, y));

@@ -2,22 +2,14 @@
 #pragma once
 
 #include <algorithm>
-#include <cstring>
 
+#include "core/element.h"
 #include "core/image.h"
 #include "core/map_row.h"
 #include "signal/fft_columns.h"
 #include "signal/transposed.h"
 
 namespace vemi::transform {
-
-/// Elements that may be misaligned.
-inline float elementOf(const float* at) {
-  float value;
-  std::memcpy(&value, at, sizeof value);
-  return value;
-}
-inline void setElement(float* at, float value) { std::memcpy(at, &value, sizeof value); }
 
 /// Columns of a large image are as many pages as they have rows: what is wanted from a row soon is asked for at once.
 inline constexpr ptrdiff_t rowsAhead = 8;
