@@ -84,13 +84,15 @@ auto channelsFrom(Piece& piece, Order order, ptrdiff_t x) {
   return planeRow(piece.channel[red] + x, piece.channel[1] + x, piece.channel[2 - red] + x);
 }
 
-/// Columns of a row, or of two that share chroma, to to(x) from column x on. Inlined for the reason of expandRow.
+/// Columns of a row, or of two that share chroma, to to(x) from column x on.
 template <class Groups, class Rest, class Row, class To>
 HWY_INLINE void expandColumns(ptrdiff_t first, ptrdiff_t columns, const Row& row, const To& to) {
-  const ptrdiff_t inGroups = columns / 4 * 4, inShared = columns / Row::sharing * Row::sharing;
-  if (inGroups > 0) mapPixels(inGroups, Groups(), to(0), row.groups().from(first));
-  if (inShared > inGroups) mapPixels(inShared - inGroups, Rest(), to(inGroups), row.groups().from(first + inGroups));
-  if (columns > inShared) mapPixels(columns - inShared, Rest(), to(inShared), row.pixel(first + inShared));
+  const auto shared = [&](auto op) VEMI_INLINED {
+    return [&, op](ptrdiff_t x, ptrdiff_t n) VEMI_INLINED { mapPixels(n, op, to(x), row.groups().from(first + x)); };
+  };
+  forRegimes<4, Row::sharing, 1>(columns, shared(Groups()), shared(Rest()), [&](ptrdiff_t x, ptrdiff_t n) VEMI_INLINED {
+    mapPixels(n, Rest(), to(x), row.pixel(first + x));
+  });
 }
 
 template <class Groups, class Rest, class Src>

@@ -89,22 +89,22 @@ struct ColumnOps {
 template <class Groups, class Rest, class Single>
 ColumnOps(Groups, Rest, Single) -> ColumnOps<Groups, Rest, Single>;
 
-/// One row, or two that share chroma. Streamed, groups of eight are written past the caches. Inlined, the pointers of
-/// rows stay in registers: a record of them that goes through memory takes as long as a short row.
+/// One row, or two that share chroma. Streamed, groups of eight are written past the caches.
 template <Stores how, class Ops, class Dst, class Src>
 HWY_INLINE void expandRow(ptrdiff_t width, const Ops& ops, Dst dst, Src src) {
-  const ptrdiff_t inGroups = width / 8 * 8, inShared = width / Src::sharing * Src::sharing;
-  if (inGroups > 0) {
-    if constexpr (how == Stores::streamed) {
-      streamPixels<8>(inGroups, ops.groups, dst, src.groups());
-    } else {
-      mapPixels(inGroups, ops.groups, dst, src.groups());
-    }
-  }
-  if (inShared > inGroups) {
-    mapPixels(inShared - inGroups, ops.rest, dst.from(inGroups), src.groups().from(inGroups));
-  }
-  for (ptrdiff_t x = inShared; x < width; ++x) mapPixels(1, ops.single, dst.from(x), src.pixel(x));
+  forRegimes<8, Src::sharing, 1>(
+      width,
+      [&](ptrdiff_t x, ptrdiff_t n) VEMI_INLINED {
+        if constexpr (how == Stores::streamed) {
+          streamPixels<8>(n, ops.groups, dst.from(x), src.groups().from(x));
+        } else {
+          mapPixels(n, ops.groups, dst.from(x), src.groups().from(x));
+        }
+      },
+      [&](ptrdiff_t x, ptrdiff_t n) VEMI_INLINED { mapPixels(n, ops.rest, dst.from(x), src.groups().from(x)); },
+      [&](ptrdiff_t x, ptrdiff_t n) VEMI_INLINED {
+        for (; n > 0; ++x, --n) mapPixels(1, ops.single, dst.from(x), src.pixel(x));
+      });
 }
 
 using ChromaPlanes = SteppedPlanes<const uint8_t, 3>;

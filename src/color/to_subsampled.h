@@ -19,10 +19,12 @@ struct WithoutLast {
 /// One row to planes or pairs: whole groups of `group` columns, pairs, and a single one.
 template <int group, class Ops, class Dst, class Src>
 HWY_INLINE void reduceRow(ptrdiff_t width, const Ops& ops, Dst dst, Src src) {
-  const ptrdiff_t inGroups = width / group * group, inPairs = width / 2 * 2;
-  if (inGroups > 0) mapPixels(inGroups, ops.groups, dst.groups(), src);
-  if (inPairs > inGroups) mapPixels(inPairs - inGroups, ops.rest, dst.groups().from(inGroups), src.from(inGroups));
-  if (width > inPairs) mapPixels(1, ops.single, dst.pixel(inPairs), src.from(inPairs));
+  const auto shared = [&](const auto& op) VEMI_INLINED {
+    return [&](ptrdiff_t x, ptrdiff_t n) VEMI_INLINED { mapPixels(n, op, dst.groups().from(x), src.from(x)); };
+  };
+  forRegimes<group, 2, 1>(width, shared(ops.groups), shared(ops.rest), [&](ptrdiff_t x, ptrdiff_t n) VEMI_INLINED {
+    mapPixels(n, ops.single, dst.pixel(x), src.from(x));
+  });
 }
 
 /// 4:2:2 in planes.

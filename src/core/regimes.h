@@ -11,12 +11,13 @@
 namespace vemi {
 
 /// regime(first column, columns), one for each size of group: the first takes all whole groups of the first size, the
-/// second those of the second size in what is left, and so on. One that has no columns is not called.
+/// second those of the second size in what is left, and so on. One that has no columns is not called. Inlined, so that
+/// what regimes know of a row stays in registers: a record that goes through memory takes as long as a short row.
 template <int... group, class... Regime>
-void forRegimes(ptrdiff_t width, const Regime&... regime) {
+HWY_INLINE void forRegimes(ptrdiff_t width, const Regime&... regime) {
   static_assert(sizeof...(group) == sizeof...(Regime));
   ptrdiff_t x = 0;
-  const auto run = [&](ptrdiff_t size, const auto& ofGroup) {
+  const auto run = [&](ptrdiff_t size, const auto& ofGroup) VEMI_INLINED {
     const ptrdiff_t columns = (width - x) / size * size;
     if (columns > 0) ofGroup(x, columns);
     x += columns;
@@ -51,16 +52,17 @@ template <int group, class BlockOp, class RestOp, class Dst, class... Src>
 void mapPixels(ptrdiff_t width, const Regimes<group, BlockOp, RestOp>& op, Dst dst, Src... src) {
   static_assert(detail::PixelBlocks<BlockOp, Dst, Src...>::pixels % group == 0);
   forRegimes<group, 1>(
-      width, [&](ptrdiff_t x, ptrdiff_t n) { mapPixels(n, op.block, dst.from(x), src.from(x)...); },
-      [&](ptrdiff_t x, ptrdiff_t n) { mapPixels(n, op.rest, dst.from(x), src.from(x)...); });
+      width, [&](ptrdiff_t x, ptrdiff_t n) VEMI_INLINED { mapPixels(n, op.block, dst.from(x), src.from(x)...); },
+      [&](ptrdiff_t x, ptrdiff_t n) VEMI_INLINED { mapPixels(n, op.rest, dst.from(x), src.from(x)...); });
 }
 
 template <int group, class BlockOp, class RestOp, class Dst, class... Src>
 void streamPixels(ptrdiff_t width, const Regimes<group, BlockOp, RestOp>& op, Dst dst, Src... src) {
   static_assert(detail::PixelBlocks<BlockOp, Dst, Src...>::pixels % group == 0);
   forRegimes<group, 1>(
-      width, [&](ptrdiff_t x, ptrdiff_t n) { streamPixels<group>(n, op.block, dst.from(x), src.from(x)...); },
-      [&](ptrdiff_t x, ptrdiff_t n) { mapPixels(n, op.rest, dst.from(x), src.from(x)...); });
+      width,
+      [&](ptrdiff_t x, ptrdiff_t n) VEMI_INLINED { streamPixels<group>(n, op.block, dst.from(x), src.from(x)...); },
+      [&](ptrdiff_t x, ptrdiff_t n) VEMI_INLINED { mapPixels(n, op.rest, dst.from(x), src.from(x)...); });
 }
 
 /// The rows of 4:2:0: pair(first row, chroma row) of each two rows, by `rows`, which says who runs them; then
