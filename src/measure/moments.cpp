@@ -3,7 +3,8 @@
 //
 // A row first gives its four sums of x^m f, which then join those of the other rows under y^n. Bytes are summed as
 // integers, so nothing is rounded before a sum leaves 64 bits (64s) or the 53 bits of a double (64f). Floats are summed
-// in double precision in eight fixed strands of columns. The accurate way is the plain one, pixel by pixel.
+// in double precision in eight fixed strands of columns. The accurate way is the plain one, pixel by pixel. Bytes of
+// one channel whose sums are exact in any order go by tiles of 32x64 pixels.
 //
 // Checks: null, tag, step, size, stride.
 
@@ -14,7 +15,9 @@
 
 #include "core/checks.h"
 #include "core/image.h"
+#include "core/lane_width.h"
 #include "core/lanes.h"
+#include "core/numbers.h"
 #include "core/row_pieces.h"
 #include "measure/exports.h"
 #include "measure/moment_state.h"
@@ -63,6 +66,13 @@ HWY_INLINE RowSums<hn::Vec<D>> noSums(D d) {
   RowSums<hn::Vec<D>> sums;
   unrolled<momentOrders>([&](auto m) HWY_ATTR { sums.v[m] = hn::Zero(d); });
   return sums;
+}
+
+/// The sums of d^k f from those under the binomials C(d + k - 1, k); of numbers or of lanes.
+template <class Sum>
+HWY_INLINE RowSums<Sum> ofPowers(const RowSums<Sum>& binomials) {
+  const Sum b1 = binomials.v[1], b2 = binomials.v[2], rest = binomials.v[3] - b2, thrice = rest + rest + rest;
+  return {{binomials.v[0], b1, b2 + b2 - b1, thrice + thrice + b1}};
 }
 
 template <class Sum>
@@ -117,10 +127,10 @@ HWY_INLINE RowSums<Sum> sumsOfPiece(ptrdiff_t x, const Vemi8u* values, ptrdiff_t
   const auto of = [&](double number) HWY_ATTR { return hn::Set(dSums, number); };
   auto total = noSums(dSums);
   const auto addLanes = [&](ptrdiff_t first, const auto& part) HWY_ATTR {
-    const auto d0 = part(0), d1 = part(1), binomial2 = part(2), binomial3 = part(3);
-    const auto d2 = binomial2 + binomial2 - d1, d3 = of(6) * (binomial3 - binomial2) + d1;
+    const auto sums = ofPowers(decltype(total){{part(0), part(1), part(2), part(3)}}).v;
     const auto end = hn::Iota(dSums, static_cast<double>(padded + first));
-    addTo(total, shifted(end, decltype(total){{d0, of(-n) * d1, of(n * n) * d2, of(-n * n * n) * d3}}));
+    const auto d1 = of(-n) * sums[1], d2 = of(n * n) * sums[2], d3 = of(-n * n * n) * sums[3];
+    addTo(total, shifted(end, decltype(total){{sums[0], d1, d2, d3}}));
   };
   unrolled<ladders>([&](auto k) HWY_ATTR {
     const auto lower = [&](int m) HWY_ATTR { return hn::PromoteTo(dSums, hn::LowerHalf(sum[k].v[m])); };
@@ -205,6 +215,95 @@ void sumByRows(Image<const T> src, VemiSize roiSize, Table<A>* table) {
   }
 }
 
+// ---- Bytes by tiles -------------------------------------------------------------------------------------------------
+
+constexpr ptrdiff_t tileWidth = 32, tileHeight = 64;
+
+/// The powers of a tile's columns, behind as many zeros: read from `tileWidth - c` on they begin with the tile's column
+/// c, and the columns ahead of it count nothing.
+struct ColumnPowers {
+  int16_t of[momentOrders][2 * tileWidth] = {};
+
+  constexpr ColumnPowers() {
+    for (int x = 0; x < tileWidth; ++x) {
+      int power = 1;
+      for (int m = 0; m < momentOrders; ++m, power *= x) of[m][tileWidth + x] = static_cast<int16_t>(power);
+    }
+  }
+};
+constexpr ColumnPowers columnPowers;
+
+/// What a lane of 32 bits holds at most, when over the rows of a tile sums of sums of x^m f were added up.
+constexpr uint64_t largestOfTile(int m) {
+  uint64_t largest = static_cast<uint64_t>(255 * tileWidth / laneCount<uint32_t>);
+  for (int i = 0; i < m; ++i) largest *= tileWidth - 1;
+  for (int k = 0; k < momentOrders - m; ++k) largest = largest * static_cast<uint64_t>(tileHeight + k) / (k + 1);
+  return largest;
+}
+static_assert(std::max({largestOfTile(0), largestOfTile(1), largestOfTile(2), largestOfTile(3)}) < uint64_t{1} << 32);
+
+/// In each row lanes get the sums of x^m f over some of the columns, which go up the ladder of sums of sums as the
+/// bytes of a row do. Adds the binomials' sums of all columns to `band`, a record for each rung.
+HWY_NOINLINE void addTile(Image<const Vemi8u> tile, ptrdiff_t rows, ptrdiff_t seen, uint64_t x0,
+                          RowSums<uint64_t> (&band)[momentOrders]) {
+  const Lanes<int16_t> d;
+  const hn::Rebind<uint8_t, decltype(d)> dBytes;
+  const Lanes<uint32_t> dSums;
+  constexpr ptrdiff_t N = laneCount<int16_t>;
+  constexpr int vectors = static_cast<int>(tileWidth / N);
+  using V = hn::Vec<decltype(dSums)>;
+  RowSums<V> sum[momentOrders];  // of x^m f, on each rung
+  unrolled<momentOrders>([&](auto m) HWY_ATTR { sum[m] = noSums(dSums); });
+  for (ptrdiff_t y = 0; y < rows; ++y) {
+    Vectors<hn::Vec<decltype(d)>, vectors> value;
+    unrolled<vectors>([&](auto i) HWY_ATTR { value.v[i] = hn::PromoteTo(d, hn::LoadU(dBytes, tile.row(y) + i * N)); });
+    unrolled<momentOrders>([&](auto m) HWY_ATTR {
+      V row = hn::Zero(dSums);
+      unrolled<vectors>([&](auto i) HWY_ATTR {
+        const auto power = hn::LoadU(d, columnPowers.of[m] + tileWidth - seen + i * N);
+        row = hn::Add(row, hn::BitCast(dSums, pairsOfProducts(value.v[i], power)));
+      });
+      unrolled<momentOrders - m>([&](auto k) HWY_ATTR { row = sum[m].v[k] = hn::Add(sum[m].v[k], row); });
+    });
+  }
+  unrolled<momentOrders>([&](auto k) HWY_ATTR {
+    RowSums<uint64_t> sums = {};
+    unrolled<momentOrders - k>([&](auto m) HWY_ATTR {
+      const auto [even, odd] = evenAndOdd(sum[m].v[k]);
+      sums.v[m] = hn::GetLane(hn::SumOfLanes(Lanes<uint64_t>(), hn::Add(even, odd)));
+    });
+    addTo(band[k], shifted(x0, sums));
+  });
+}
+
+/// Rows are at least as long as a tile, and the last tile of a row ends with it.
+void sumByTiles(Image<const Vemi8u> src, VemiSize roiSize, Table<uint64_t>& table) {
+  for (ptrdiff_t y = 0; y < roiSize.height; y += tileHeight) {
+    const ptrdiff_t rows = std::min(tileHeight, roiSize.height - y);
+    RowSums<uint64_t> band[momentOrders] = {};
+    for (ptrdiff_t x = 0; x < roiSize.width; x += tileWidth) {
+      const ptrdiff_t first = std::min(x, roiSize.width - tileWidth);
+      addTile({src.row(y) + first, src.step}, rows, x - first, static_cast<uint64_t>(x), band);
+    }
+    for (int m = 0; m < momentOrders; ++m) {
+      const auto d = ofPowers(RowSums<uint64_t>{{band[0].v[m], band[1].v[m], band[2].v[m], band[3].v[m]}}).v;
+      const auto sums = shifted(static_cast<uint64_t>(y + rows), RowSums<uint64_t>{{d[0], 0 - d[1], d[2], 0 - d[3]}});
+      for (int n = 0; n < momentOrders - m; ++n) table[momentEntry(m, n)] += sums.v[n];
+    }
+  }
+}
+
+/// Whether the order of additions has no bearing on sums of bytes: integers wrap, doubles must hold them all. The sums
+/// of order 3 are the largest, and none is above a quarter of 255 width height (the longer side)^3.
+template <class A>
+bool anyOrder(VemiSize roiSize) {
+  if (std::is_integral_v<A>) return true;
+  const double side = std::max(roiSize.width, roiSize.height);
+  return 255.0 / 4 * roiSize.width * roiSize.height * side * side * side < 9007199254740992.0;
+}
+
+// ---- Pixel by pixel -------------------------------------------------------------------------------------------------
+
 /// Pixels and the powers of their columns, set out where a loop can load one number into all lanes.
 struct PixelsSetOut {
   static constexpr int most = 256;
@@ -259,6 +358,19 @@ void sumByPixels(Image<const T> src, VemiSize roiSize, Table<double>* table) {
   }
 }
 
+template <class L, class A, class T>
+void sumFast(Image<const T> src, VemiSize roiSize, Table<A>* table) {
+  if constexpr (std::is_same_v<T, Vemi8u> && L::elements == 1) {
+    if (roiSize.width >= tileWidth && anyOrder<A>(roiSize)) {
+      Table<uint64_t> sums = {};
+      sumByTiles(src, roiSize, sums);
+      std::copy_n(sums, momentEntries, table[0]);
+      return;
+    }
+  }
+  sumByRows<L>(src, roiSize, table);
+}
+
 template <class Sum, class L, class T>
 VemiStatus moments(Image<const T> src, VemiSize roiSize, VemiMomentState* pState) {
   if (VemiStatus bad =
@@ -273,10 +385,10 @@ VemiStatus moments(Image<const T> src, VemiSize roiSize, VemiMomentState* pState
     if (pState->hint == vemiHintAccurate) {
       sumByPixels<L>(src, roiSize, table);
     } else {
-      sumByRows<L, A>(src, roiSize, table);
+      sumFast<L>(src, roiSize, table);
     }
   } else {
-    sumByRows<L, A>(src, roiSize, table);
+    sumFast<L>(src, roiSize, table);
   }
   std::memcpy(&pState->sum, table, sizeof table);
   pState->nChannels = L::channels;

@@ -118,6 +118,53 @@ TEST(Moments, OfFloatsAreTheSumsInTheirOrder) {
   }
 }
 
+/// As white as can be, and large enough for tiles of 32x64 pixels, whole ones and cut ones.
+TEST(Moments, OfWhiteImagesFillTheirLanes) {
+  for (const VemiSize size : {VemiSize{32, 64}, VemiSize{33, 65}, VemiSize{63, 1}, VemiSize{95, 63}, VemiSize{96, 130},
+                              VemiSize{640, 480}, VemiSize{700, 500}}) {
+    const std::vector<Vemi8u> white(ptrdiff_t{1} * size.width * size.height, 255);
+    VemiMomentState f = stateOf(33, 0), s = stateOf(34, 0);
+    ASSERT_EQ(vemiMoments64f_8u_C1R(white.data(), size.width, size, &f), vemiOk);
+    ASSERT_EQ(vemiMoments64s_8u_C1R(white.data(), size.width, size, &s), vemiOk);
+    const auto powers = [](int count, int exponent) {
+      Vemi64s sum = 0;
+      for (Vemi64s i = 0; i < count; ++i)
+        sum += exponent == 0 ? 1 : exponent == 1 ? i : exponent == 2 ? i * i : i * i * i;
+      return sum;
+    };
+    for (int n = 0; n < 4; ++n) {
+      for (int m = 0; m + n < 4; ++m) {
+        const Vemi64s expected = 255 * powers(size.width, m) * powers(size.height, n);
+        EXPECT_EQ(s.sum.s[0][m + 4 * n], expected) << size.width << "x" << size.height << " " << m << n;
+        EXPECT_EQ(f.sum.f[0][m + 4 * n], static_cast<double>(expected)) << size.width << "x" << size.height;
+      }
+    }
+  }
+}
+
+/// Sums of 64f that leave 53 bits are rounded row by row.
+TEST(Moments, OfLargeBrightImagesAreRoundedByRows) {
+  constexpr int width = 890, height = 700;
+  std::vector<Vemi8u> bright(ptrdiff_t{1} * width * height);
+  Random random(5);
+  for (Vemi8u& value : bright) value = static_cast<Vemi8u>(252 + random.below(4));
+  double rounded[16] = {};
+  for (int y = 0; y < height; ++y) {
+    uint64_t row[4] = {};
+    for (int x = 0; x < width; ++x) {
+      uint64_t term = bright[static_cast<size_t>(y * width + x)];
+      for (int m = 0; m < 4; ++m, term *= static_cast<uint64_t>(x)) row[m] += term;
+    }
+    double power = 1;
+    for (int n = 0; n < 4; ++n, power *= y) {
+      for (int m = 0; m + n < 4; ++m) rounded[m + 4 * n] += power * static_cast<double>(row[m]);
+    }
+  }
+  VemiMomentState f = stateOf(33, 0);
+  ASSERT_EQ(vemiMoments64f_8u_C1R(bright.data(), width, {width, height}, &f), vemiOk);
+  for (int i = 0; i < 16; ++i) EXPECT_EQ(f.sum.f[0][i], rounded[i]) << i;
+}
+
 /// Long and bright enough that sums leave 53 bits, at last 64. Those of 64f are then rounded piece by piece.
 TEST(Moments, OfLongBrightRows) {
   const int width = 300000;
