@@ -25,35 +25,16 @@ namespace {
 template <class L, class Level>
 using Channels = Bins<Level>[L::channels];
 
-/// Counters of 16 bits keep all tables in the nearest cache; they are collected before one of them can overflow.
 template <class L>
 void countBytes(Image<const Vemi8u> src, VemiSize roiSize, const Channels<L, Vemi32s>& bins) {
-  constexpr int tables = 2;
-  constexpr ptrdiff_t mostPixels = 65535;
-  Vemi16u table[tables][L::channels][valueCount<Vemi8u>] = {};
-  uint32_t total[L::channels][valueCount<Vemi8u>] = {};
-  const auto collect = [&] {
-    for (auto& part : table) {
-      for (int channel = 0; channel < L::channels; ++channel) {
-        for (int v = 0; v < valueCount<Vemi8u>; ++v) total[channel][v] += part[channel][v];
-      }
+  uint32_t table[rowParts][L::channels][valueCount<Vemi8u>] = {};
+  for (ptrdiff_t y = 0; y < roiSize.height; ++y) countRow<L, rowParts>(src.row(y), roiSize.width, table);
+  for (int channel = 0; channel < L::channels; ++channel) {
+    for (int v = 0; v < valueCount<Vemi8u>; ++v) {
+      for (int part = 1; part < rowParts; ++part) table[0][channel][v] += table[part][channel][v];
     }
-    std::memset(table, 0, sizeof table);
-  };
-  ptrdiff_t room = mostPixels;
-  for (ptrdiff_t y = 0; y < roiSize.height; ++y) {
-    for (ptrdiff_t x = 0, count; x < roiSize.width; x += count) {
-      if (room == 0) {
-        collect();
-        room = mostPixels;
-      }
-      count = std::min(room, roiSize.width - x);
-      room -= count;
-      countRow<L, tables>(src.row(y) + x * L::elements, count, table);
-    }
+    fillBins<Vemi8u>(table[0][channel], bins[channel]);
   }
-  collect();
-  for (int channel = 0; channel < L::channels; ++channel) fillBins<Vemi8u>(total[channel], bins[channel]);
 }
 
 /// False, and nothing counted, where there is no memory.
@@ -77,20 +58,27 @@ template <class L, class T, class Level>
 void countBetween(Image<const T> src, VemiSize roiSize, const Channels<L, Level>& bins) {
   constexpr ptrdiff_t pieceLength = 1024;
   Sections<Level> sections[L::channels];
+  SearchCounters counters[L::channels];
   bool searched[L::channels];
   for (int channel = 0; channel < L::channels; ++channel) {
     bins[channel].clear();
     searched[channel] = bins[channel].nLevels > mostCompared<T> && increase(bins[channel]);
-    if (searched[channel]) sections[channel].divide(bins[channel]);
+    if (!searched[channel]) continue;
+    sections[channel].divide(bins[channel]);
+    counters[channel].begin(bins[channel]);
   }
   const auto count = [&](int channel, ptrdiff_t /*x*/, const T* values, ptrdiff_t pixels) {
     if (searched[channel]) {
-      countBySearching<pieceLength>(values, pixels, bins[channel], sections[channel]);
+      countBySearching<pieceLength>(values, pixels, bins[channel], sections[channel], counters[channel].parts);
     } else {
       countByComparing(values, pixels, bins[channel]);
     }
   };
-  for (ptrdiff_t y = 0; y < roiSize.height; ++y) forEachPiece<L, pieceLength>(src.row(y), roiSize.width, count);
+  const Extent pixels = mergedExtent(roiSize, isContiguous<L>(src, roiSize));
+  for (ptrdiff_t y = 0; y < pixels.height; ++y) forEachPiece<L, pieceLength>(src.row(y), pixels.width, count);
+  for (int channel = 0; channel < L::channels; ++channel) {
+    if (searched[channel]) counters[channel].collect(bins[channel]);
+  }
 }
 
 // ---- The rule for the table of 16-bit values ----------------------------------------------------------------------

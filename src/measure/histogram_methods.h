@@ -58,25 +58,28 @@ void fillBins(uint32_t* table, const Bins<Vemi32s>& bins) {
   }
 }
 
-/// table[half][channel][value]. Two places of the row take turns at tables of their own, so that an addition need not
-/// wait for the one before it where neighbours are equal. A single table serves both where tables are large.
-template <class L, int tables, class Counter, class T>
-void countRow(const T* row, ptrdiff_t width, Counter (*table)[L::channels][valueCount<T>]) {
+/// Calls f(x, part) for all places of a row, by turns in its parts: where neighbours are equal an addition need not
+/// wait for the one before it. The last few are the first part's.
+constexpr int rowParts = 4;
+
+template <class F>
+HWY_INLINE void inParts(ptrdiff_t width, const F f) {
+  const ptrdiff_t length = width / rowParts;
+  for (ptrdiff_t x = 0; x < length; ++x) {
+    unrolled<rowParts>([&](auto part) { f(x + part * length, static_cast<int>(part)); });
+  }
+  for (ptrdiff_t x = rowParts * length; x < width; ++x) f(x, 0);
+}
+
+/// table[part][channel][value]. The parts of a row have tables of their own, for rows of one value, or share a large
+/// one.
+template <class L, int tables, class T>
+void countRow(const T* row, ptrdiff_t width, uint32_t (*table)[L::channels][valueCount<T>]) {
   for (int channel = 0; channel < L::channels; ++channel) {
-    Counter* const counters[2] = {table[0][channel], table[tables - 1][channel]};
-    const auto count = [&](ptrdiff_t x, int half) {
-      const T value = elementOf(row + x * L::elements + channel);
-      ++counters[half][value - std::numeric_limits<T>::min()];
-    };
-    constexpr ptrdiff_t apart = 8;
-    ptrdiff_t x = 0;
-    for (; x + 2 * apart <= width; x += 2 * apart) {
-      unrolled<apart>([&](auto i) {
-        count(x + i, 0);
-        count(x + apart + i, 1);
-      });
-    }
-    for (; x < width; ++x) count(x, 0);
+    inParts(width, [first = row + channel, counters = table[0][channel]](ptrdiff_t x, int part) {
+      const T value = elementOf(first + x * L::elements);
+      ++counters[part % tables * L::channels * valueCount<T> + value - std::numeric_limits<T>::min()];
+    });
   }
 }
 
@@ -206,13 +209,17 @@ void Sections<Level>::divide(const Bins<Level>& bins) {
   const double range = static_cast<double>(std::min(high, largest)) - static_cast<double>(base);
   scale = static_cast<float>(std::min(count / range, static_cast<double>(largest)));
   reach = 1;
-  int bin = 0;
-  for (int index = 0; index < count; ++index) {
-    const int first = bin;
-    while (bin + 1 < bins.count() && of(static_cast<float>(bins.pLevels[bin + 1])) == index) ++bin;
-    section[index] = {first, first < bin ? bins.pLevels[first + 1] : beyondAll<Level>};
+  int index = 0, first = 0;  // the section behind those that are made, and the first bin of the last one
+  for (int bin = 1; bin < bins.count(); ++bin) {
+    const int at = of(static_cast<float>(bins.pLevels[bin]));
+    if (at >= index) {
+      first = bin - 1;
+      for (; index < at; ++index) section[index] = {first, beyondAll<Level>};
+      section[index++] = {first, bins.pLevels[bin]};
+    }
     reach = std::max(reach, bin - first + 1);
   }
+  for (; index < count; ++index) section[index] = {bins.count() - 1, beyondAll<Level>};
   section[outside] = {0, beyondAll<Level>};
 }
 
@@ -227,10 +234,41 @@ HWY_INLINE auto loadFloats(D d, const Vemi16s* values) {
   return hn::ConvertTo(d, hn::PromoteTo(di, hn::LoadU(hn::Rebind<Vemi16s, D>(), values)));
 }
 
+/// The counters of a search: the histogram itself for the first part of a row, and where bins are not too many others
+/// for the rest, so that pixels of one bin need not wait for each other.
+struct SearchCounters {
+  static constexpr int mostBins = 512;
+  struct Parts {
+    uint32_t* of[rowParts];
+  };
+
+  Parts parts;
+  uint32_t counter[rowParts - 1][mostBins];
+
+  /// The histogram is cleared already.
+  template <class Level>
+  void begin(const Bins<Level>& bins) {
+    std::fill_n(parts.of, rowParts, reinterpret_cast<uint32_t*>(bins.pHist));
+    if (bins.count() > mostBins) return;
+    for (int part = 1; part < rowParts; ++part) {
+      parts.of[part] = counter[part - 1];
+      std::fill_n(parts.of[part], bins.count(), 0);
+    }
+  }
+  template <class Level>
+  void collect(const Bins<Level>& bins) const {
+    if (bins.count() > mostBins) return;
+    for (const auto& part : counter) {
+      for (int bin = 0; bin < bins.count(); ++bin) bins.add(bin, part[bin]);
+    }
+  }
+};
+
 /// Adds the values of a piece of at most `pieceLength` to the bins that the sections were made of. A pixel outside adds
 /// nothing to the first bin.
 template <ptrdiff_t pieceLength, class T, class Level>
-void countBySearching(const T* values, ptrdiff_t count, const Bins<Level>& bins, const Sections<Level>& sections) {
+void countBySearching(const T* values, ptrdiff_t count, const Bins<Level>& bins, const Sections<Level>& sections,
+                      const SearchCounters::Parts& counters) {
   const Lanes<float> d;
   const hn::RebindToSigned<decltype(d)> di;
   alignas(laneAlignment) Vemi32s index[pieceLength];
@@ -239,11 +277,10 @@ void countBySearching(const T* values, ptrdiff_t count, const Bins<Level>& bins,
   forBlocks<laneCount<float>>(count, kernel, Strand<const T>{values}, Strand<Vemi32s>{index});
 
   const auto countWith = [&](const auto& binOf) {
-    for (ptrdiff_t i = 0; i < count; ++i) {
-      T value;
-      std::memcpy(&value, values + i, sizeof value);
-      bins.add(binOf(sections.section[index[i]], value), index[i] != sections.outside);
-    }
+    inParts(count, [=, section = sections.section, index = index](ptrdiff_t i, int part) {
+      const T value = elementOf(values + i);
+      counters.of[part][binOf(section[index[i]], value)] += index[i] != Sections<Level>::outside;
+    });
   };
   if (sections.reach <= 2) {
     countWith([](const auto& section, T value) { return section.firstBin + (value >= section.next); });
