@@ -33,7 +33,7 @@ namespace vemi {
 enum class ReductionOrder {
   any,     // of exact sums; contiguous rows are one long row
   repeat,  // any, and an element may count more than once
-  fixed    // of float sums: each element of a block has its lane, and the lanes are emptied after each row
+  fixed    // of float sums: each element of a block has its lane; their walk is measure/float_sums.h
 };
 
 /// The capacity of lanes that are never full.
@@ -100,12 +100,11 @@ struct EmptiedLanes {
 
 namespace detail {
 
-/// A function of its own, so that the accumulators have the registers to themselves.
+/// To a local, which stays in registers.
 template <class A, class Reduction, class... Src>
-HWY_NOINLINE void addBlocks(A& accumulators, ptrdiff_t blocks, const Reduction& reduction, const Src*... src) {
+HWY_INLINE void addBlocksTo(A& sums, ptrdiff_t blocks, const Reduction& reduction, const Src*... src) {
   const Lanes<typename A::Element> d;
   constexpr ptrdiff_t N = laneCount<typename A::Element>;
-  A sums = accumulators;  // a local, which stays in registers
   for (; blocks > 0; --blocks) {
     unrolled<A::vectors>([&](auto k) HWY_ATTR {
       const std::integral_constant<int, k % A::chains> chain;
@@ -113,6 +112,13 @@ HWY_NOINLINE void addBlocks(A& accumulators, ptrdiff_t blocks, const Reduction& 
     });
     ((src += A::items), ...);
   }
+}
+
+/// A function of its own, so that the accumulators have the registers to themselves.
+template <class A, class Reduction, class... Src>
+HWY_NOINLINE void addBlocks(A& accumulators, ptrdiff_t blocks, const Reduction& reduction, const Src*... src) {
+  A sums = accumulators;
+  addBlocksTo(sums, blocks, reduction, src...);
   accumulators = sums;
 }
 
@@ -155,9 +161,9 @@ template <class L, class Reduction, class Sink, class T, class... Others>
 HWY_NOINLINE void reduceRegion(VemiSize roiSize, const Reduction& reduction, Sink& sink, Image<const T> src,
                                Others... others) {
   using A = Accumulators<L, Reduction>;
-  constexpr bool byRow = Reduction::order == ReductionOrder::fixed;
+  static_assert(Reduction::order != ReductionOrder::fixed);
   const bool contiguous = isContiguous<L>(src, roiSize) && (isContiguous<L>(others, roiSize) && ...);
-  const Extent pixels = mergedExtent(roiSize, contiguous && !byRow);
+  const Extent pixels = mergedExtent(roiSize, contiguous);
   const ptrdiff_t elements = pixels.width * L::elements;
   A sums;
   sums.restart();
@@ -183,9 +189,8 @@ HWY_NOINLINE void reduceRegion(VemiSize roiSize, const Reduction& reduction, Sin
       const auto endOf = [&](const T* row) { return detail::RowEnd<L, A>(reduction, row, elements); };
       [&](const auto&... end) { add(1, end.element...); }(endOf(src.row(y)), endOf(others.row(y))...);
     }
-    if (byRow) empty();
   }
-  if (!byRow && room < A::capacity) empty();
+  if (room < A::capacity) empty();
 }
 
 }  // namespace vemi

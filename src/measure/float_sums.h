@@ -2,6 +2,7 @@
 // depends on the length of a vector: the order of additions is the same in every build.
 #pragma once
 
+#include <algorithm>
 #include <cstring>
 
 #include "core/processor.h"
@@ -28,35 +29,88 @@ struct FloatSums {
 
 namespace detail {
 
-template <class L, class A>
-struct ExtendedTotals {
-  ExtendedFloat channel[L::elements] = {};
+/// Extended precision that waits for some rows, so that these need not wait for it.
+template <int channels>
+class ExtendedTotals {
+ public:
+  /// For sums that are added next.
+  double* next() {
+    if (count_ == most) add();
+    return waiting_[count_++];
+  }
 
-  /// Lanes are added by halves in double precision.
-  void operator()(const EmptiedLanes<A>& lanes) {
-    const Lanes<double> d;
-    const hn::Rebind<float, decltype(d)> dFloat;
-    constexpr ptrdiff_t N = laneCount<double>;
-    alignas(laneAlignment) double sum[A::items];
-    for (ptrdiff_t i = 0; i < A::items; i += N) {
-      hn::Store(hn::PromoteTo(d, hn::Load(dFloat, lanes.of[0] + i)), d, sum + i);
-    }
-    for (ptrdiff_t half = A::items / 2; half >= L::elements; half /= 2) {
-      ptrdiff_t i = 0;
-      for (; i + N <= half; i += N) hn::Store(hn::Add(hn::Load(d, sum + i), hn::LoadU(d, sum + half + i)), d, sum + i);
-      for (; i < half; ++i) sum[i] += sum[half + i];
-    }
-    for (int c = 0; c < L::elements; ++c) channel[c] += sum[c];
+  void put(double (&sum)[channels]) {
+    add();
+    for (int c = 0; c < channels; ++c) sum[c] = static_cast<double>(total_[c]);
+  }
+
+ private:
+  static constexpr int most = 32;
+  ExtendedFloat total_[channels] = {};
+  int count_ = 0;
+  double waiting_[most][channels];
+
+  void add() {
+    unrolled<channels>([&](auto c) {
+      ExtendedFloat total = total_[c];
+      for (int i = 0; i < count_; ++i) total += waiting_[i][c];
+      total_[c] = total;
+    });
+    count_ = 0;
   }
 };
 
+/// Lanes are added by halves in double precision, in registers as long as a half is whole vectors.
+template <class L, class A>
+HWY_INLINE void addByHalves(const A& sums, double* channelSums) {
+  const Lanes<double> d;
+  constexpr ptrdiff_t N = laneCount<double>;
+  constexpr int vectors = static_cast<int>(A::items / N);
+  Vectors<hn::Vec<decltype(d)>, vectors> sum;
+  unrolled<vectors / 2>([&](auto k) HWY_ATTR {
+    const auto v = sums.of[0].v[k];
+    sum.v[2 * k] = hn::PromoteTo(d, hn::LowerHalf(v));
+    sum.v[2 * k + 1] = hn::PromoteTo(d, hn::UpperHalf(hn::Half<hn::DFromV<decltype(v)>>(), v));
+  });
+  constexpr int odd = vectors % 3 == 0 ? 3 : 1;  // vectors that are left; channels of four do not share one
+  constexpr int left = std::max(odd, static_cast<int>(L::elements / N));
+  unrolled<4>([&](auto step) HWY_ATTR {
+    constexpr int half = vectors >> (step + 1);
+    if constexpr (half >= left) unrolled<half>([&](auto k) HWY_ATTR { sum.v[k] = hn::Add(sum.v[k], sum.v[k + half]); });
+  });
+  alignas(laneAlignment) double lane[left * N];
+  unrolled<left>([&](auto k) HWY_ATTR { hn::Store(sum.v[k], d, lane + k * N); });
+  for (ptrdiff_t half = left * N / 2; half >= L::elements; half /= 2) {
+    for (ptrdiff_t i = 0; i < half; ++i) lane[i] += lane[half + i];
+  }
+  std::copy_n(lane, L::elements, channelSums);
+}
+
 }  // namespace detail
 
+/// Row by row; the last block of a row ends with it, as in other reductions.
 template <class L, class Term, class... Src>
-void fastSums(VemiSize roiSize, double (&sum)[L::elements], Image<Src>... src) {
-  detail::ExtendedTotals<L, Accumulators<L, FloatSums<Term>>> totals;
-  reduceRegion<L>(roiSize, FloatSums<Term>(), totals, src...);
-  for (int c = 0; c < L::elements; ++c) sum[c] = static_cast<double>(totals.channel[c]);
+HWY_NOINLINE void fastSums(VemiSize roiSize, double (&sum)[L::elements], Image<Src>... src) {
+  using A = Accumulators<L, FloatSums<Term>>;
+  const FloatSums<Term> reduction;
+  const ptrdiff_t elements = ptrdiff_t{roiSize.width} * L::elements, whole = elements / A::items;
+  const bool hasEnd = elements % A::items != 0;
+  detail::ExtendedTotals<L::elements> totals;
+  for (ptrdiff_t y = 0; y < roiSize.height; ++y) {
+    for (ptrdiff_t block = 0; block < whole + hasEnd; block += A::capacity) {
+      A sums;
+      sums.restart();
+      const ptrdiff_t some = std::min(A::capacity, whole - block);
+      vemi::detail::addBlocksTo(sums, some, reduction, src.row(y) + block * A::items...);
+      if (some < A::capacity && hasEnd) {
+        [&](const auto&... end) HWY_ATTR {
+          vemi::detail::addBlocksTo(sums, 1, reduction, end.element...);
+        }(vemi::detail::RowEnd<L, A>(reduction, src.row(y), elements)...);
+      }
+      detail::addByHalves<L>(sums, totals.next());
+    }
+  }
+  totals.put(sum);
 }
 
 /// Doubles are added in the order of the elements: of one channel to two accumulators in turn, which runs on from row
