@@ -68,9 +68,10 @@ struct ScaledLn {
 
 /// One entry is not the nearest value: ln 18 * 4 = 11.56 gives 11, as vemi/arith.h has it.
 ByteTable lnTable(int scaleFactor) {
-  ByteTable table = byteTableOf<Vemi16s>(ScaledLn(scaleFactor));
-  if (scaleFactor == -2) table.entry[18] = 11;
-  return table;
+  uint8_t result[256];
+  fillBytes<Vemi16s>(ScaledLn(scaleFactor), result);
+  if (scaleFactor == -2) result[18] = 11;
+  return result;
 }
 
 VemiStatus lnStatus8u(const Vemi8u* row, ptrdiff_t len) {

@@ -94,7 +94,9 @@ VemiStatus root16u(Image<const Vemi16u> src, Image<Vemi16u> dst, VemiSize roiSiz
 template <class L>
 VemiStatus root8u(Image<const Vemi8u> src, Image<Vemi8u> dst, VemiSize roiSize, int scaleFactor) {
   if (const VemiStatus bad = firstOf(checkNull(src, dst), checkSize(roiSize), checkStep(src, dst))) return bad;
-  const ByteTable table = byteTableOf<Vemi16u>(ScaledRoot<Vemi16u>(scaleFactor));
+  uint8_t result[256];
+  fillBytes<Vemi16u>(ScaledRoot<Vemi16u>(scaleFactor), result);
+  const ByteTable table = result;
   mapRegion<L>(CallerRows(), roiSize, eachVector(table), dst, src);
   return vemiOk;
 }

@@ -1,5 +1,5 @@
-// Pairs of bytes times weights of a byte: two products in a lane of 16 bits by one instruction, where the processor has
-// it.
+// Bytes as the processor likes them. Pairs times weights of a byte: two products in a lane of 16 bits by one
+// instruction, where it has that. How it looks up in tables of more than 16 bytes.
 #pragma once
 
 #include <cstdint>
@@ -22,6 +22,14 @@ HWY_INLINE __m512i pairsOfByteProducts(__m512i a, __m512i b) { return _mm512_mad
 
 }  // namespace detail
 
+#endif
+
+/// Whether a look-up goes by the lower four bits of any index up to 127 and gives 0 above, while a choice by a mask
+/// takes several instructions.
+#if HWY_ARCH_X86 && HWY_TARGET >= HWY_AVX2
+inline constexpr bool looksUpByLowerBits = true;
+#else
+inline constexpr bool looksUpByLowerBits = false;
 #endif
 
 /// Of the bytes of each lane of 16 bits: first lower + second upper. What leaves the lane is anything.

@@ -20,6 +20,27 @@
 namespace vemi::map {
 namespace {
 
+/// curve(d, v) of the numbers from `from` to `to`, truncated and limited as truncatedTo does it.
+template <class T, class F>
+void fillBy(const F& curve, int from, int to, T* result) {
+  const Lanes<double> d;
+  const hn::Rebind<T, decltype(d)> dResult;
+  constexpr int N = static_cast<int>(laneCount<double>);
+  const auto lowest = hn::Set(d, std::numeric_limits<T>::min()), highest = hn::Set(d, std::numeric_limits<T>::max());
+  for (int v = from; v < to; v += N, result += N) {
+    const auto value = curve(d, hn::Iota(d, v));
+    const auto limited = hn::IfThenElse(hn::Gt(value, lowest), hn::Min(value, highest), lowest);
+    const auto results = hn::DemoteTo(dResult, hn::DemoteTo(hn::Rebind<int32_t, decltype(d)>(), limited));
+    if (to - v >= N) {
+      hn::StoreU(results, dResult, result);
+    } else {
+      alignas(laneAlignment) T last[N];
+      hn::Store(results, dResult, last);
+      std::copy_n(last, to - v, result);
+    }
+  }
+}
+
 /// What the curve makes of the numbers from `from` to `to`, which lie in the interval.
 template <class T>
 void fillInterval(Curve curve, const Levels<Vemi32s>& levels, int interval, int from, int to, T* result) {
@@ -31,13 +52,17 @@ void fillInterval(Curve curve, const Levels<Vemi32s>& levels, int interval, int 
     std::fill(result, result + (to - from), saturate<T>(Vemi64s{value[0]}));
   } else if (curve == Curve::lines) {
     const double slope = (value[1] - y) / width;
-    for (int v = from; v < to; ++v) *result++ = truncatedTo<T>(y + 0.5 + slope * (v - x));
+    const auto line = [=](auto d, auto v) HWY_ATTR {
+      return hn::Add(hn::Set(d, y + 0.5), hn::Mul(hn::Set(d, slope), hn::Sub(v, hn::Set(d, x))));
+    };
+    fillBy(line, from, to, result);
   } else {
-    const Cubic cubic = cubicOf(levels, interval);
-    for (int v = from; v < to; ++v) {
-      const double t = v - cubic.x;
-      *result++ = truncatedTo<T>(cubic.y + 0.5 + cubic.a * t + cubic.b * (t * t) + cubic.c * (t * t * t));
-    }
+    const auto curveOf = [cubic = cubicOf(levels, interval)](auto d, auto v) HWY_ATTR {
+      const auto t = hn::Sub(v, hn::Set(d, cubic.x)), t2 = hn::Mul(t, t);
+      const auto first = hn::Add(hn::Set(d, cubic.y + 0.5), hn::Mul(hn::Set(d, cubic.a), t));
+      return hn::Add(hn::Add(first, hn::Mul(hn::Set(d, cubic.b), t2)), hn::Mul(hn::Set(d, cubic.c), hn::Mul(t2, t)));
+    };
+    fillBy(curveOf, from, to, result);
   }
 }
 
@@ -61,7 +86,11 @@ VemiStatus lut8u(Image<const Vemi8u> src, Image<Vemi8u> dst, VemiSize roiSize, L
   return roundingToNearest([&] {
     const Curve curve = possibleCurve<L>(wanted, lists);
     PerChannel<ByteTable, L::channels> tables;
-    for (int channel = 0; channel < L::channels; ++channel) fillTable(curve, lists[channel], tables.of[channel].entry);
+    for (int channel = 0; channel < L::channels; ++channel) {
+      uint8_t result[256];
+      fillTable(curve, lists[channel], result);
+      tables.of[channel] = result;
+    }
     mapChannels<L>(roiSize, tables, dst, src);
     return vemiOk;
   });
