@@ -61,7 +61,7 @@ HWY_NOINLINE void shortLine(const float* src, float* dst, const Roots& roots, in
     std::memcpy(data.at(n, 0) + re, src + 2 * n, sizeof(float));
     std::memcpy(data.at(n, 0) + im, src + 2 * n + 1, sizeof(float));
   }
-  transformColumns(
+  transformColumns<PreciseTransform>(
       data, roots, order, [&](ptrdiff_t group, auto k) HWY_ATTR { return data.load(group, k); },
       [&](ptrdiff_t place, ptrdiff_t frequency, auto k, ColumnGroups::Numbers z) HWY_ATTR {
         if (k > 0) return;

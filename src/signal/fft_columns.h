@@ -12,7 +12,7 @@ namespace vemi::signal {
 using ColumnGroups = Groups<AcrossLines::width>;
 
 /// The transforms of `points` numbers that all lines end with: store(place, frequency, k, numbers).
-template <int points, class Store>
+template <template <int> class Short, int points, class Store>
 HWY_INLINE void endColumns(ColumnGroups data, int order, const Store& store) {
   constexpr int bits = std::bit_width(unsigned{points}) - 1;
   const ptrdiff_t count = (ptrdiff_t{1} << order) / points;
@@ -21,15 +21,15 @@ HWY_INLINE void endColumns(ColumnGroups data, int order, const Store& store) {
     unrolled<ColumnGroups::vectors>([&](auto k) VEMI_INLINED {
       ColumnGroups::Numbers z[points];
       unrolled<points>([&](auto n) HWY_ATTR { z[n] = data.load(i * points + n, k); });
-      ShortTransform<points>::run(z);
+      Short<points>::run(z);
       unrolled<points>([&](auto n) HWY_ATTR { store(i * points + n, first + bitsReversed(n, bits) * count, k, z[n]); });
     });
   }
 }
 
 /// 2^order numbers of each line: load(group, k) gives them, and store(place, frequency, k, numbers) takes the results;
-/// it may write to group `place` of `data`.
-template <class Load, class Store>
+/// it may write to group `place` of `data`. All lines end with transforms by Short<2> to Short<16>.
+template <template <int> class Short = ShortTransform, class Load, class Store>
 HWY_INLINE void transformColumns(ColumnGroups data, const Roots& roots, int order, const Load& load,
                                  const Store& store) {
   if (order < 5) {
@@ -43,13 +43,13 @@ HWY_INLINE void transformColumns(ColumnGroups data, const Roots& roots, int orde
   if (order == 0) {
     unrolled<ColumnGroups::vectors>([&](auto k) HWY_ATTR { store(0, 0, k, data.load(0, k)); });
   } else if (order == 1) {
-    endColumns<2>(data, order, store);
+    endColumns<Short, 2>(data, order, store);
   } else if (order == 2) {
-    endColumns<4>(data, order, store);
+    endColumns<Short, 4>(data, order, store);
   } else if (order % 2 != 0) {
-    endColumns<8>(data, order, store);
+    endColumns<Short, 8>(data, order, store);
   } else {
-    endColumns<16>(data, order, store);
+    endColumns<Short, 16>(data, order, store);
   }
 }
 

@@ -112,25 +112,99 @@ struct ShortTransform<8> {
   }
 };
 
+/// Products with w, w^3 and w^9 for w = exp(-2 pi i / 16).
+struct BySixteenths {
+  static constexpr float cosine = 0.92387953f, sine = 0.38268343f;
+
+  template <class V>
+  HWY_INLINE static ComplexLanes<V> first(ComplexLanes<V> z) {
+    return z * factor<V>(cosine, -sine);
+  }
+  template <class V>
+  HWY_INLINE static ComplexLanes<V> third(ComplexLanes<V> z) {
+    return z * factor<V>(sine, -cosine);
+  }
+  template <class V>
+  HWY_INLINE static ComplexLanes<V> ninth(ComplexLanes<V> z) {
+    return z * factor<V>(-cosine, sine);
+  }
+
+ private:
+  template <class V>
+  HWY_INLINE static ComplexLanes<V> factor(float re, float im) {
+    const hn::DFromV<V> d;
+    return {hn::Set(d, re), hn::Set(d, im)};
+  }
+};
+
+/// The same with half the error: each factor is w or its conjugate times whole quarters of a turn, and z w = z + z (w -
+/// 1), where only the sum is rounded as coarsely as z is.
+struct ByNearSixteenths {
+  template <class V>
+  HWY_INLINE static ComplexLanes<V> first(ComplexLanes<V> z) {
+    const auto [alongRe, alongIm, acrossRe, acrossIm] = partsOf(z);
+    return {hn::Add(z.re, hn::Sub(acrossIm, alongRe)), hn::Sub(z.im, hn::Add(alongIm, acrossRe))};
+  }
+  template <class V>
+  HWY_INLINE static ComplexLanes<V> third(ComplexLanes<V> z) {
+    const auto [alongRe, alongIm, acrossRe, acrossIm] = partsOf(z);
+    return {hn::Add(z.im, hn::Sub(acrossRe, alongIm)), hn::Sub(hn::Add(acrossIm, alongRe), z.re)};
+  }
+  template <class V>
+  HWY_INLINE static ComplexLanes<V> ninth(ComplexLanes<V> z) {
+    const auto [alongRe, alongIm, acrossRe, acrossIm] = partsOf(z);
+    return {hn::Sub(hn::Sub(alongRe, acrossIm), z.re), hn::Sub(hn::Add(alongIm, acrossRe), z.im)};
+  }
+
+ private:
+  template <class V>
+  struct Parts {
+    V alongRe, alongIm, acrossRe, acrossIm;
+  };
+
+  /// z times 1 - cos and times sin of an eighth of a half turn.
+  template <class V>
+  HWY_INLINE static Parts<V> partsOf(ComplexLanes<V> z) {
+    const hn::DFromV<V> d;
+    const V along = hn::Set(d, 0.076120467f), across = hn::Set(d, BySixteenths::sine);
+    return {hn::Mul(z.re, along), hn::Mul(z.im, along), hn::Mul(z.re, across), hn::Mul(z.im, across)};
+  }
+};
+
+template <class By, class V>
+HWY_INLINE void transformOfSixteen(ComplexLanes<V>* z) {
+  unrolled<4>([&](auto j) HWY_ATTR { butterfly(z[j], z[j + 4], z[j + 8], z[j + 12]); });
+  z[5] = turnedByEighth(z[5]);
+  z[9] = By::first(z[9]);
+  z[13] = By::third(z[13]);
+  z[6] = {z[6].im, hn::Neg(z[6].re)};
+  z[10] = turnedByEighth(z[10]);
+  z[14] = turnedByThreeEighths(z[14]);
+  z[7] = turnedByThreeEighths(z[7]);
+  z[11] = By::third(z[11]);
+  z[15] = By::ninth(z[15]);
+  unrolled<4>([&](auto j) HWY_ATTR { ShortTransform<4>::run(z + 4 * j); });
+}
+
 template <>
 struct ShortTransform<16> {
   template <class V>
   HWY_INLINE static void run(ComplexLanes<V>* z) {
-    const hn::DFromV<V> d;
-    const auto factor = [&](float re, float im) HWY_ATTR { return ComplexLanes<V>{hn::Set(d, re), hn::Set(d, im)}; };
-    constexpr float c = 0.92387953f, s = 0.38268343f;  // cos and sin of pi / 8
-    const auto w1 = factor(c, -s), w3 = factor(s, -c), w9 = factor(-c, s);
-    unrolled<4>([&](auto j) HWY_ATTR { butterfly(z[j], z[j + 4], z[j + 8], z[j + 12]); });
-    z[5] = turnedByEighth(z[5]);
-    z[9] = z[9] * w1;
-    z[13] = z[13] * w3;
-    z[6] = {z[6].im, hn::Neg(z[6].re)};
-    z[10] = turnedByEighth(z[10]);
-    z[14] = turnedByThreeEighths(z[14]);
-    z[7] = turnedByThreeEighths(z[7]);
-    z[11] = z[11] * w3;
-    z[15] = z[15] * w9;
-    unrolled<4>([&](auto j) HWY_ATTR { ShortTransform<4>::run(z + 4 * j); });
+    transformOfSixteen<BySixteenths>(z);
+  }
+};
+
+/// What Fourier transforms of images of powers of two end with, so that their errors are at most those of transforms
+/// with fused products. Those of other lengths are that exact by products, which cosine transforms and templates keep
+/// too.
+template <int points>
+struct PreciseTransform : ShortTransform<points> {};
+
+template <>
+struct PreciseTransform<16> {
+  template <class V>
+  HWY_INLINE static void run(ComplexLanes<V>* z) {
+    transformOfSixteen<ByNearSixteenths>(z);
   }
 };
 

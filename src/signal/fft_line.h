@@ -45,7 +45,7 @@ HWY_INLINE void transformAcross(ComplexLanes<V>* z, const Load& load) {
     transpose(d, im);
     unrolled<N>([&](auto i) HWY_ATTR { z[k * N + i] = {re[i], im[i]}; });
   });
-  ShortTransform<points>::run(z);
+  PreciseTransform<points>::run(z);
 }
 
 /// A tile whose groups lie `distance` groups apart: store(run, lane, numbers) for each vector of the 16 runs.

@@ -47,7 +47,7 @@ HWY_NOINLINE HWY_FLATTEN void shortRows(Floats image, ptrdiff_t height, const Ro
     const EightRows<float> to(y, height, [&](ptrdiff_t i) { return image.dst.row(i); });
     from.load(floats, [&](ptrdiff_t e, auto first, auto v)
                           HWY_ATTR { hn::StoreU(v, d8, data.at(e / 2, first) + (e % 2 != 0) * N); });
-    signal::transformColumns(
+    signal::transformColumns<signal::PreciseTransform>(
         data, roots, order, [&](ptrdiff_t x, auto k) HWY_ATTR { return turnedTo<isForward>(data.load(x, k)); },
         [&](ptrdiff_t place, ptrdiff_t, auto k, auto z) HWY_ATTR { data.store(place, k, turnedTo<isForward>(z)); });
     to.store<Alpha::none, false>(floats, [&](auto dOf, ptrdiff_t e, auto first) HWY_ATTR {
@@ -119,7 +119,7 @@ HWY_NOINLINE HWY_FLATTEN void columns(Image<float> dst, ptrdiff_t width, const R
   const ColumnGroups data{memory};
   const auto factor = hn::Set(d8, scale);
   for (ptrdiff_t x = 0; x < 2 * width; x += 16) {
-    signal::transformColumns(
+    signal::transformColumns<signal::PreciseTransform>(
         data, roots, order,
         [&](ptrdiff_t y, auto k) HWY_ATTR {
           const float* const numbers = dst.row(y) + x + k * N;
@@ -158,7 +158,7 @@ HWY_NOINLINE HWY_FLATTEN void fewColumns(Floats image, ptrdiff_t width, const Ro
     const ptrdiff_t own = std::min<ptrdiff_t>(width - k * N, N);
     if (own > 0) std::memcpy(image.dst.row(y) + 2 * k * N, numbers, static_cast<size_t>(own) * 2 * sizeof(float));
   };
-  signal::transformColumns(data, roots, order, load, store);
+  signal::transformColumns<signal::PreciseTransform>(data, roots, order, load, store);
 }
 
 template <bool isForward>

@@ -86,7 +86,7 @@ HWY_NOINLINE HWY_FLATTEN void columns(Image<const float> src, Image<float> dst, 
   const auto whole = hn::Set(d, scale), half = hn::Set(d, scale / 2);
   for (ptrdiff_t x = 0; x < floats; x = ColumnBlock<L>::behind(x)) {
     const ColumnBlock<L> block(x, floats);
-    signal::transformColumns(
+    signal::transformColumns<signal::PreciseTransform>(
         data, roots, order,
         [&](ptrdiff_t y, auto k) HWY_ATTR {
           block.askFor(src, y + rowsAhead);
@@ -129,7 +129,7 @@ HWY_NOINLINE HWY_FLATTEN void shortLines(Image<float> dst, const FFTFloats& spec
                 [&](ptrdiff_t e, auto first, auto v) HWY_ATTR { hn::StoreU(v, d, all.at(e, first) + columnLanes); });
     for (int channel = 0; channel < L::channels; ++channel) {
       const ColumnGroups own = lines.ofChannel(channel);
-      signal::transformColumns(
+      signal::transformColumns<signal::PreciseTransform>(
           own, spec.realSpecX->roots, order, [&](ptrdiff_t x, auto k) HWY_ATTR { return own.load(x, k); },
           [&](ptrdiff_t place, ptrdiff_t, auto k, ColumnGroups::Numbers z) HWY_ATTR { own.store(place, k, z); });
       for (ptrdiff_t i = 0; i < 8; ++i) {

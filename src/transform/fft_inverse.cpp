@@ -111,7 +111,7 @@ HWY_NOINLINE HWY_FLATTEN void columns(Image<float> dst, const FFTFloats& spec, f
         data.store(height - v, k, {hn::Sub(re.im, im.re), hn::Add(re.re, im.im)});
       });
     }
-    signal::transformColumns(
+    signal::transformColumns<signal::PreciseTransform>(
         data, roots, spec.orderY, [&](ptrdiff_t v, auto k) HWY_ATTR { return data.load(v, k); },
         [&](ptrdiff_t, ptrdiff_t y, auto k, ColumnGroups::Numbers z) HWY_ATTR {
           block.askFor(dst, y + rowsAhead);
@@ -158,7 +158,7 @@ HWY_NOINLINE HWY_FLATTEN void shortLines(Image<const float> src, Image<float> ds
           setNumber(side * (width / 2), i, edges.ofLine(side, channel, v));
         }
       }
-      signal::transformColumns(
+      signal::transformColumns<signal::PreciseTransform>(
           own, spec.realSpecX->roots, order, [&](ptrdiff_t u, auto k) HWY_ATTR { return swapped(own.load(u, k)); },
           [&](ptrdiff_t at, ptrdiff_t, auto k, ColumnGroups::Numbers z) HWY_ATTR { own.store(at, k, swapped(z)); });
     }
