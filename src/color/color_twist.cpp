@@ -1,7 +1,7 @@
 // vemiColorTwist, and vemiColorTwist32f of bytes.
 // Checks: null, size, step. Everything runs in the calling thread.
 
-#include <cstring>
+#include <bit>
 
 #include "color/twist.h"
 #include "core/exports.h"
@@ -44,46 +44,57 @@ struct NearTwist {
     return std::tuple(channel<0>(d, v0, v1, v2), channel<1>(d, v0, v1, v2), channel<2>(d, v0, v1, v2));
   }
 
-  /// Sums in lanes of 32 bits, and the least of their fractions.
+  /// With 16 bits behind the point.
+  template <int c, class V>
+  HWY_INLINE V fixedSum(V x0, V x1, V x2) const {
+    const hn::DFromV<V> di;
+    return rounded(di, floatSum(hn::RebindToFloat<decltype(di)>(), factor[c], x0, x1, x2));
+  }
+
+  /// In the lower halves; in the upper ones, anything.
+  template <class V>
+  HWY_INLINE static V leastFraction(V a, V b) {
+    const hn::DFromV<V> di;
+    const hn::Repartition<uint16_t, decltype(di)> dHalves;
+    return hn::BitCast(di, hn::Min(hn::BitCast(dHalves, a), hn::BitCast(dHalves, b)));
+  }
+  template <class V>
+  HWY_INLINE bool isBeyondWindow(V least) const {
+    const hn::DFromV<V> di;
+    return hn::AllTrue(di, hn::Gt(hn::And(least, hn::Set(di, 0xffff)), hn::Set(di, window)));
+  }
+
+  /// The integers of sums, in 16 bits by turns.
+  template <class V>
+  HWY_INLINE static auto halves(V even, V odd) {
+    const hn::Repartition<int16_t, hn::DFromV<V>> d;
+    return hn::OddEven(hn::BitCast(d, odd), hn::ShiftRightBytes<2>(d, hn::BitCast(d, even)));
+  }
+
+ private:
+  /// The sums of four lanes that share one of 32 bits.
   template <class D>
   struct Sums {
+    using V = hn::Vec<hn::Repartition<int32_t, D>>;
     const NearTwist& twist;
-    hn::Repartition<float, D> df;
-    hn::Repartition<int32_t, D> di;
-    hn::Repartition<uint16_t, D> dHalves;
-    mutable hn::Vec<hn::Repartition<uint16_t, D>> least;  // of the lower halves; in the upper ones, anything
+    mutable V least = hn::Set(hn::DFromV<V>(), 0xffff);
 
-    HWY_INLINE explicit Sums(const NearTwist& of) : twist(of), least(hn::Set(dHalves, 0xffff)) {}
-
-    template <int c, class V>
+    template <int c>
     HWY_INLINE V channel(V x0, V x1, V x2) const {
-      const V fixed = rounded(di, floatSum(df, twist.factor[c], x0, x1, x2));
-      least = hn::Min(least, hn::BitCast(dHalves, fixed));
+      const V fixed = twist.fixedSum<c>(x0, x1, x2);
+      least = leastFraction(least, fixed);
       return fixed;
     }
-
-    template <class V>
     HWY_INLINE static hn::Vec<D> join(D d, V v0, V v1, V v2, V v3) {
       return packedByTurns(d, halves(v0, v1), halves(v2, v3));
     }
-    template <class V>
-    HWY_INLINE static auto halves(V even, V odd) {
-      const hn::Repartition<int16_t, D> dHalf;
-      return hn::OddEven(hn::BitCast(dHalf, odd), hn::BitCast(dHalf, hn::ShiftRight<16>(even)));
-    }
-
-    HWY_INLINE bool areBeyondWindow() const {
-      const auto fraction = hn::And(hn::BitCast(di, least), hn::Set(di, 0xffff));
-      return hn::AllTrue(di, hn::Gt(fraction, hn::Set(di, twist.window)));
-    }
   };
 
- private:
   template <int c, class D, class V>
   HWY_INLINE V channel(D d, V v0, V v1, V v2) const {
-    const Sums<D> sums(*this);
+    const Sums<D> sums = {*this};
     const V near = channelOf<c>(d, sums, v0, v1, v2);
-    if (HWY_LIKELY(sums.areBeyondWindow())) return near;
+    if (HWY_LIKELY(isBeyondWindow(sums.least))) return near;
     return channelOf<c>(d, exact, v0, v1, v2);
   }
 
@@ -104,66 +115,24 @@ struct NearTwist {
 //
 // Four pixels are 12 bytes of a 128-bit block, and each of their channels is one shuffle away from lanes of 32 bits.
 
-/// Byte offset + 3 i of each block, in lane i. The last block may have been read from 4 bytes before its pixels.
-struct ChannelOfPixels {
-  alignas(laneAlignment) uint8_t index[laneCount<uint8_t>];
+/// A channel of the pixels that begin with byte `first` of a block.
+template <int channel, int first>
+alignas(16) inline constexpr uint8_t bytesOfChannel[16] = {
+    first + channel,     0x80, 0x80, 0x80, first + channel + 3, 0x80, 0x80, 0x80,
+    first + channel + 6, 0x80, 0x80, 0x80, first + channel + 9, 0x80, 0x80, 0x80};
 
-  constexpr ChannelOfPixels(int channel, int lastBlockOffset) : index() {
-    for (int i = 0; i < laneCount<uint8_t>; ++i) {
-      const int offset = i + 16 >= laneCount<uint8_t> ? lastBlockOffset : 0;
-      index[i] = static_cast<uint8_t>(i % 4 == 0 ? channel + offset + i % 16 / 4 * 3 : 0x80);
-    }
-  }
-};
-
-template <int channel, bool isLast>
-inline constexpr ChannelOfPixels channelOfPixels(channel, isLast ? 4 : 0);
-
-/// The first 12 bytes of each block, one behind the other; of the last block, 4 bytes before that and 12, where nothing
-/// behind its pixels may be read.
-template <bool isLast, class D>
-HWY_INLINE hn::Vec<D> loadPixels(D d, const uint8_t* in) {
-  if constexpr (hn::MaxLanes(d) == 16) {
-    return hn::LoadU(d, in - (isLast ? 4 : 0));
-  } else {
-    const hn::Half<D> dHalf;
-    return hn::Combine(d, loadPixels<isLast>(dHalf, in + 12 * (hn::MaxLanes(d) / 32)), loadPixels<false>(dHalf, in));
-  }
-}
-
-/// The inverse, from 12 bytes of each block. What lies behind the pixels of a block that is not the last is written
-/// too.
-template <bool isLast, class D>
-HWY_INLINE void storePixels(D d, hn::Vec<D> v, uint8_t* out) {
-  if constexpr (hn::MaxLanes(d) > 16) {
-    const hn::Half<D> dHalf;
-    storePixels<false>(dHalf, hn::LowerHalf(v), out);
-    storePixels<isLast>(dHalf, hn::UpperHalf(dHalf, v), out + 12 * (hn::MaxLanes(d) / 32));
-  } else if constexpr (isLast) {
-    alignas(16) uint8_t pixels[16];
-    hn::Store(v, d, pixels);
-    std::memcpy(out, pixels, 12);
-  } else {
-    hn::StoreU(v, d, out);
-  }
-}
-
-/// Pixels from red and green in the halves of each block, and blue: of the even or of the odd bytes.
-template <int odd, class D>
-HWY_INLINE hn::Vec<D> pixelsByTurns(D d, hn::Vec<D> firstTwo, hn::Vec<D> third) {
-  constexpr uint8_t o = odd, x = 0x80;
-  alignas(16) static constexpr uint8_t of01[16] = {o, o + 8, x,      o + 2, o + 10, x, o + 4, o + 12,
-                                                   x, o + 6, o + 14, x,     x,      x, x,     x};
-  alignas(16) static constexpr uint8_t of2[16] = {x, x, o, x, x, o + 2, x, x, o + 4, x, x, o + 6, x, x, x, x};
-  return hn::Or(hn::TableLookupBytesOr0(firstTwo, hn::LoadDup128(d, of01)),
-                hn::TableLookupBytesOr0(third, hn::LoadDup128(d, of2)));
-}
-
-/// As many pixels as a vector has bytes, by planes.
-HWY_NOINLINE void twistDoubtfulBlock(const NearTwist<uint8_t>& twist, const uint8_t* in, uint8_t* out) {
+/// f(each channel in lanes of 32 bits) of the pixels from `in` on. Where `isBehind`, what lies ahead of them is read
+/// instead of what follows.
+template <class F>
+HWY_INLINE auto withChannels(const uint8_t* in, bool isBehind, const F& f) {
   const Lanes<uint8_t> d;
-  const auto results = loadChannels<3>(d, in, [&](auto... v) VEMI_INLINED { return twist(d, v...); });
-  std::apply([&](auto... v) VEMI_INLINED { storeChannels(d, out, v...); }, results);
+  const auto pixels = loadPixels(d, in - (isBehind ? 4 : 0));
+  const auto channel = [&](const uint8_t(&places)[16], const uint8_t(&placesBehind)[16]) VEMI_INLINED {
+    const auto index = hn::LoadDup128(d, isBehind ? placesBehind : places);
+    return hn::BitCast(Lanes<int32_t>(), hn::TableLookupBytesOr0(pixels, index));
+  };
+  return f(channel(bytesOfChannel<0, 0>, bytesOfChannel<0, 4>), channel(bytesOfChannel<1, 0>, bytesOfChannel<1, 4>),
+           channel(bytesOfChannel<2, 0>, bytesOfChannel<2, 4>));
 }
 
 /// A type of this file, whose rows of interleaved pixels have a function of their own.
@@ -172,67 +141,129 @@ struct ExactByteTwist : ExactFloatTwist<T> {
   using ExactFloatTwist<T>::ExactFloatTwist;
 };
 
-/// The sums of a block where no exact sum has to decide.
+/// As many pixels as a vector has bytes: a quarter in each vector.
+constexpr ptrdiff_t quarterPixels = laneCount<uint8_t> / 4;
+template <class T>
+using Quarters = Vectors<hn::Vec<Lanes<T>>, 4>;
+
+/// Sums of a quarter's pixels where no exact sum has to decide.
 struct ExactSums {
+  static constexpr bool byTurns = false;
   const ExactByteTwist<uint8_t>& twist;
 
-  template <int c, class V>
-  HWY_INLINE V channel(V x0, V x1, V x2) const {
-    return twist.channel<c>(x0, x1, x2);
+  template <int quarter, class V>
+  HWY_INLINE Vectors<V, 3> channels(V x0, V x1, V x2) {
+    return {{twist.channel<0>(x0, x1, x2), twist.channel<1>(x0, x1, x2), twist.channel<2>(x0, x1, x2)}};
   }
   template <class V>
-  HWY_INLINE static auto halves(V even, V odd) {
-    return packedByTurns(hn::Repartition<int16_t, hn::DFromV<V>>(), even, odd);
+  HWY_INLINE static auto halves(V first, V second) {
+    return packHalves(hn::Repartition<int16_t, hn::DFromV<V>>(), first, second);
   }
 };
 
-/// Four pixels to a block of 128 bits, in 32-bit lanes. The last four of the pixels are those of `out`'s last 12 bytes.
-template <class Sums>
-HWY_INLINE Vectors<hn::Vec<Lanes<uint8_t>>, 4> twistedPixels(Sums& sums, const uint8_t* in) {
+/// Sums of a quarter's pixels, and the least of their fractions.
+struct NearSums {
+  static constexpr bool byTurns = true;
+  const NearTwist<uint8_t>& twist;
+  Quarters<int32_t> least;
+
+  explicit NearSums(const NearTwist<uint8_t>& of) : twist(of) {}
+
+  template <int quarter, class V>
+  HWY_INLINE Vectors<V, 3> channels(V x0, V x1, V x2) {
+    const V r = twist.fixedSum<0>(x0, x1, x2), g = twist.fixedSum<1>(x0, x1, x2), b = twist.fixedSum<2>(x0, x1, x2);
+    least.v[quarter] = twist.leastFraction(twist.leastFraction(r, g), b);
+    return {{r, g, b}};
+  }
+  template <class V>
+  HWY_INLINE static auto halves(V first, V second) {
+    return NearTwist<uint8_t>::halves(first, second);
+  }
+};
+
+/// Where the channels of four pixels are that were packed: red and green, then blue of these and of four others, the
+/// two of each half one behind the other, or by turns.
+struct PackedPixels {
+  alignas(16) uint8_t index[16];
+
+  constexpr PackedPixels(bool byTurns, bool areOthers) : index() {
+    for (int i = 0; i < 16; ++i) {
+      const int pixel = i / 3, channel = i % 3, half = channel / 2 * 8,
+                second = channel == 1 || (channel == 2 && areOthers);
+      index[i] = static_cast<uint8_t>(i < 12 ? half + (byTurns ? 2 * pixel + second : pixel + 4 * second) : 0x80);
+    }
+  }
+};
+
+template <bool byTurns, bool areOthers>
+inline constexpr PackedPixels packedPixels(byTurns, areOthers);
+
+template <class Sums, bool areOthers, class V, class W>
+HWY_INLINE auto pixelsOf(const Vectors<V, 3>& sums, W blues) {
   const Lanes<uint8_t> d;
-  const Lanes<int32_t> di;
-  constexpr ptrdiff_t quarter = laneCount<uint8_t> / 4 * 3;
-  Vectors<hn::Vec<Lanes<uint8_t>>, 4> pixels;
+  const auto packed = packHalves(d, Sums::halves(sums.v[0], sums.v[1]), blues);
+  return hn::TableLookupBytesOr0(packed, hn::LoadDup128(d, packedPixels<Sums::byTurns, areOthers>.index));
+}
+
+/// Each of the quarters.
+template <class Sums>
+HWY_INLINE Quarters<uint8_t> twistedPixels(Sums& sums, const uint8_t* in) {
+  Quarters<uint8_t> pixels;
   unrolled<2>([&](auto pair) VEMI_INLINED {
-    constexpr bool isLast = pair == 1;
-    const auto even = loadPixels<false>(d, in + 2 * pair * quarter);
-    const auto odd = loadPixels<isLast>(d, in + (2 * pair + 1) * quarter);
-    const auto lanes = [&](auto v, const auto& channel) VEMI_INLINED {
-      return hn::BitCast(di, hn::TableLookupBytesOr0(v, hn::Load(d, channel.index)));
+    const auto channels = [&](auto quarter) VEMI_INLINED {
+      return withChannels(in + 3 * quarterPixels * quarter, quarter == 3,
+                          [&](auto... x) VEMI_INLINED { return sums.template channels<quarter>(x...); });
     };
-    const auto e0 = lanes(even, channelOfPixels<0, false>), e1 = lanes(even, channelOfPixels<1, false>),
-               e2 = lanes(even, channelOfPixels<2, false>), o0 = lanes(odd, channelOfPixels<0, isLast>),
-               o1 = lanes(odd, channelOfPixels<1, isLast>), o2 = lanes(odd, channelOfPixels<2, isLast>);
-    const auto first = sums.halves(sums.template channel<0>(e0, e1, e2), sums.template channel<0>(o0, o1, o2));
-    const auto second = sums.halves(sums.template channel<1>(e0, e1, e2), sums.template channel<1>(o0, o1, o2));
-    const auto third = sums.halves(sums.template channel<2>(e0, e1, e2), sums.template channel<2>(o0, o1, o2));
-    const auto firstTwo = packHalves(d, first, second), last = packHalves(d, third, third);
-    pixels.v[2 * pair] = pixelsByTurns<0>(d, firstTwo, last);
-    pixels.v[2 * pair + 1] = pixelsByTurns<1>(d, firstTwo, last);
+    const auto first = channels(std::integral_constant<int, 2 * pair>());
+    const auto second = channels(std::integral_constant<int, 2 * pair + 1>());
+    const auto blues = Sums::halves(first.v[2], second.v[2]);
+    pixels.v[2 * pair] = pixelsOf<Sums, false>(first, blues);
+    pixels.v[2 * pair + 1] = pixelsOf<Sums, true>(second, blues);
   });
   return pixels;
 }
 
-HWY_INLINE void storeBlock(const Vectors<hn::Vec<Lanes<uint8_t>>, 4>& pixels, uint8_t* out) {
-  const Lanes<uint8_t> d;
+HWY_INLINE void storeBlock(const Quarters<uint8_t>& pixels, uint8_t* out) {
   unrolled<4>([&](auto k)
-                  VEMI_INLINED { storePixels<k == 3>(d, pixels.v[k], out + k * (laneCount<uint8_t> / 4 * 3)); });
+                  VEMI_INLINED { storePixels<k == 3>(Lanes<uint8_t>(), pixels.v[k], out + 3 * quarterPixels * k); });
+}
+
+/// Pixels of near sums, but for the quarters where exact sums have to decide. Vectors by themselves stay in registers.
+template <class V, class W>
+HWY_NOINLINE void storeSettled(const NearTwist<uint8_t>& twist, const uint8_t* in, uint8_t* out, V pixels0, V pixels1,
+                               V pixels2, V pixels3, W least0, W least1, W least2, W least3) {
+  Quarters<uint8_t> pixels = {{pixels0, pixels1, pixels2, pixels3}};
+  unsigned doubtful = 0;
+  for (const W least : {least3, least2, least1, least0}) doubtful = 2 * doubtful + !twist.isBeyondWindow(least);
+  for (; doubtful != 0; doubtful &= doubtful - 1) {
+    const int quarter = std::countr_zero(doubtful);
+    pixels.v[quarter] = withChannels(in + 3 * quarterPixels * quarter, quarter > 0, [&](auto... x) VEMI_INLINED {
+      const auto& exact = twist.exact;
+      const Vectors<W, 3> sums = {{exact.channel<0>(x...), exact.channel<1>(x...), exact.channel<2>(x...)}};
+      return pixelsOf<ExactSums, false>(sums, ExactSums::halves(sums.v[2], sums.v[2]));
+    });
+  }
+  storeBlock(pixels, out);
 }
 
 template <class Kernel>
 HWY_INLINE void twistRow(ptrdiff_t width, const Kernel& kernel, InterleavedRow<uint8_t, C3> dst,
                          InterleavedRow<const uint8_t, C3> src) {
-  forBlocks<laneCount<uint8_t>>(width, kernel, Strand<const uint8_t, 3>{src.first}, Strand<uint8_t, 3>{dst.first});
+  forBlocks<4 * quarterPixels>(width, kernel, Strand<const uint8_t, 3>{src.first}, Strand<uint8_t, 3>{dst.first});
 }
 
 HWY_NOINLINE void mapPixels(ptrdiff_t width, const NearTwist<uint8_t>& operation, InterleavedRow<uint8_t, C3> dst,
                             InterleavedRow<const uint8_t, C3> src) {
   const NearTwist<uint8_t> twist = operation;  // a local, which no store to the destination can change
   const auto kernel = [&](const uint8_t* in, uint8_t* out) VEMI_INLINED {
-    NearTwist<uint8_t>::Sums<Lanes<uint8_t>> sums(twist);
+    NearSums sums(twist);
     const auto pixels = twistedPixels(sums, in);
-    if (HWY_UNLIKELY(!sums.areBeyondWindow())) return twistDoubtfulBlock(twist, in, out);
-    storeBlock(pixels, out);
+    const auto& p = pixels.v;
+    const auto& least = sums.least.v;
+    const auto ofAll =
+        twist.leastFraction(twist.leastFraction(least[0], least[1]), twist.leastFraction(least[2], least[3]));
+    if (HWY_LIKELY(twist.isBeyondWindow(ofAll))) return storeBlock(pixels, out);
+    storeSettled(twist, in, out, p[0], p[1], p[2], p[3], least[0], least[1], least[2], least[3]);
   };
   twistRow(width, kernel, dst, src);
 }

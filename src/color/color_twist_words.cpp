@@ -4,145 +4,137 @@
 #include "color/twist.h"
 #include "core/exports.h"
 #include "core/inlined.h"
-#include "core/numbers.h"
+#include "core/processor_shuffles.h"
 #include "vemi/color.h"
 
 namespace vemi::color {
 namespace {
 
-/// Of sums of doubles by the caller's rounding, one vector of each channel.
+/// To nearest, where sums of doubles are exact and so may be taken in any order, with elements that are too large by
+/// `bias`: these are put together from bits.
 template <class T>
-HWY_NOINLINE void twistDoubtfulBlock(const ExactTwist<T>& exact, const T* in, T* out) {
-  const Lanes<T> d;
-  constexpr ptrdiff_t N = laneCount<T>;
-  const auto results = exact(d, hn::Load(d, in), hn::Load(d, in + N), hn::Load(d, in + 2 * N));
-  hn::Store(std::get<0>(results), d, out);
-  hn::Store(std::get<1>(results), d, out + N);
-  hn::Store(std::get<2>(results), d, out + 2 * N);
-}
+struct BiasedTwist {
+  /// What a double begins with whose bit 32 is 1. The element stands from there on.
+  static constexpr T exponent = 0x4130;
+  static constexpr double bias = 0x1p20 - double{std::numeric_limits<T>::min()};
 
-/// To nearest, by integers: sums with 14 bits behind the point, of elements from -32768 on and factors of two words,
-///   factor 2^14 = high + 2 low 2^-16,
-/// where the products with `low` are rounded down to a multiple of 2. With a half more, a sum is then only rounded
-/// down. It is made too large, by 1 to `window`: were it less beyond an integer than that, the exact sum would decide.
-template <class T>
-struct NearWordTwist {
-  static constexpr int places = 14;
-  static constexpr double one = 1 << places;
-  /// What is lost of a sum: by the factors' last place 1.5, by rounding down 6, by the constant's last place 0.5.
-  static constexpr int lost = 8, window = lost + 3;
-  static constexpr double bias = std::is_signed_v<T> ? 0 : 32768;
+  double factor[3][4];
 
-  ExactTwist<T> exact;
-  int16_t high[3][4], low[3][3];
-  int32_t constant[3];
-
-  explicit NearWordTwist(Twist twist) : exact(twist) {
+  explicit BiasedTwist(Twist twist) {
     for (int c = 0; c < 3; ++c) {
-      for (int k = 0; k < 3; ++k) {
-        const double factor = double{twist[c][k]} * one, whole = std::floor(factor + 0.5);
-        high[c][k] = static_cast<int16_t>(whole);
-        low[c][k] = static_cast<int16_t>(std::floor((factor - whole) * 0x1p15 + 0.5));
-      }
-      high[c][3] = 2;
-      constant[c] = static_cast<int32_t>(std::floor(constantOf(twist[c]))) + lost + 1;
+      for (int k = 0; k < 4; ++k) factor[c][k] = twist[c][k];
+      for (int k = 0; k < 3; ++k) factor[c][3] -= factor[c][k] * bias;
     }
   }
 
   static bool pays(Twist twist) {
-    bool all = FloatControl::current().roundsToNearest();
-    for (int c = 0; c < 3; ++c) {
-      const double products = sizeOfSum<int16_t>({twist[c][0], twist[c][1], twist[c][2], 0}) * one;
-      all = all && products + std::fabs(constantOf(twist[c])) < 0x1.fp30;
-      for (int k = 0; k < 3; ++k) all = all && std::fabs(double{twist[c][k]}) < 1.999;
-    }
-    return all;
+    return FloatControl::current().roundsToNearest() &&
+           std::all_of(twist, twist + 3, [](const float(&row)[4]) { return isExact(row); });
   }
 
   template <class D, class V>
   HWY_INLINE auto operator()(D d, V v0, V v1, V v2) const {
-    const hn::RebindToSigned<D> di;
-    const auto fromBias = [&](auto v) VEMI_INLINED {
-      if constexpr (std::is_unsigned_v<T>) v = hn::Xor(v, hn::Set(d, 0x8000));
-      return hn::BitCast(di, v);
-    };
-    const auto x0 = fromBias(v0), x1 = fromBias(v1), x2 = fromBias(v2);
-    Sums<decltype(di)> sums(*this);
-    const auto toBias = [&](auto v) VEMI_INLINED {
-      if constexpr (std::is_signed_v<T>) return v;
-      if constexpr (std::is_unsigned_v<T>) return hn::Xor(hn::BitCast(d, v), hn::Set(d, 0x8000));
-    };
-    V r0 = toBias(sums.template channel<0>(x0, x1, x2)), r1 = toBias(sums.template channel<1>(x0, x1, x2)),
-      r2 = toBias(sums.template channel<2>(x0, x1, x2));
-    if (HWY_UNLIKELY(!sums.areBeyondWindow())) {
-      constexpr ptrdiff_t N = laneCount<T>;
-      alignas(laneAlignment) T in[3 * N], out[3 * N];
-      hn::Store(v0, d, in);
-      hn::Store(v1, d, in + N);
-      hn::Store(v2, d, in + 2 * N);
-      twistDoubtfulBlock(exact, in, out);
-      r0 = hn::Load(d, out);
-      r1 = hn::Load(d, out + N);
-      r2 = hn::Load(d, out + 2 * N);
-    }
-    return std::tuple(r0, r1, r2);
+    const auto x0 = biased(d, v0), x1 = biased(d, v1), x2 = biased(d, v2);
+    return std::tuple(channel<0>(d, x0, x1, x2), channel<1>(d, x0, x1, x2), channel<2>(d, x0, x1, x2));
+  }
+
+  /// Integers in the lower halves of 64 bits.
+  template <int c, class V>
+  HWY_INLINE V sum(V x0, V x1, V x2) const {
+    const hn::DFromV<V> d;
+    const double(&f)[4] = factor[c];
+    const V first = hn::MulAdd(hn::Set(d, f[2]), x2, hn::Set(d, f[3]));
+    const V exact = hn::MulAdd(hn::Set(d, f[0]), x0, hn::MulAdd(hn::Set(d, f[1]), x1, first));
+    return hn::Add(exact, hn::Set(d, roundingSummand<double>));
+  }
+
+  template <class D, class V>
+  HWY_INLINE static V fromLowest(D d, V v) {
+    if constexpr (std::is_signed_v<T>) return hn::Xor(v, hn::Set(d, std::numeric_limits<T>::min()));
+    if constexpr (std::is_unsigned_v<T>) return v;
   }
 
  private:
-  /// What is added to the products: the row's constant, the bias of the elements and of the result, a half.
-  static double constantOf(const float (&row)[4]) {
-    const double factors = double{row[0]} + double{row[1]} + double{row[2]};
-    return (double{row[3]} + bias * (factors - 1) + 0.5) * one;
+  static bool isExact(const float (&row)[4]) {
+    const double size = 0x1p6 * sizeOfSum<uint16_t>(row);
+    return size < 0x1p36 && hasNoBitBelow(row, size, 53);
   }
 
-  /// The sums of the channels, and the least of their fractions.
-  template <class D>
-  struct Sums {
-    using DSums = hn::RepartitionToWide<D>;
-    const NearWordTwist& twist;
-    hn::Vec<D> least;  // in the lower halves of 32 bits
+  template <class D, class V>
+  HWY_INLINE static auto biased(D d, V v) {
+    const hn::Repartition<int32_t, D> dHalves;
+    const hn::Repartition<double, D> dSums;
+    const V elements = fromLowest(d, v), exponents = hn::Set(d, exponent);
+    const auto lower = hn::BitCast(dHalves, hn::InterleaveLower(d, elements, exponents));
+    const auto upper = hn::BitCast(dHalves, hn::InterleaveUpper(d, elements, exponents));
+    const auto zero = hn::Zero(dHalves);
+    return Vectors<hn::Vec<decltype(dSums)>, 4>{{hn::BitCast(dSums, hn::InterleaveLower(dHalves, zero, lower)),
+                                                 hn::BitCast(dSums, hn::InterleaveUpper(dHalves, zero, lower)),
+                                                 hn::BitCast(dSums, hn::InterleaveLower(dHalves, zero, upper)),
+                                                 hn::BitCast(dSums, hn::InterleaveUpper(dHalves, zero, upper))}};
+  }
 
-    HWY_INLINE explicit Sums(const NearWordTwist& of) : twist(of), least(hn::Set(D(), INT16_MAX)) {}
-
-    template <int c, class V>
-    HWY_INLINE V channel(V x0, V x1, V x2) {
-      const D d;
-      const int16_t(&upper)[4] = twist.high[c];
-      const int16_t(&lower)[3] = twist.low[c];
-      const V first = hn::Add(hn::MulHigh(x0, hn::Set(d, lower[0])), hn::MulHigh(x1, hn::Set(d, lower[1])));
-      const V rest = hn::Add(first, hn::MulHigh(x2, hn::Set(d, lower[2])));
-      const V high01 = weights(upper[0], upper[1]), high2 = weights(upper[2], upper[3]);
-      const auto sum = [&](V two, V third) VEMI_INLINED {
-        const auto withConstant = hn::Add(pairsOfProducts(two, high01), hn::Set(DSums(), twist.constant[c]));
-        return whole(hn::Add(withConstant, pairsOfProducts(third, high2)));
-      };
-      return packHalves(d, sum(hn::InterleaveLower(d, x0, x1), hn::InterleaveLower(d, x2, rest)),
-                        sum(hn::InterleaveUpper(d, x0, x1), hn::InterleaveUpper(d, x2, rest)));
-    }
-
-    HWY_INLINE bool areBeyondWindow() const {
-      const DSums d;
-      const auto fractions = hn::And(hn::BitCast(d, least), hn::Set(d, 0xffff));
-      return hn::AllTrue(d, hn::Gt(fractions, hn::Set(d, window)));
-    }
-
-   private:
-    template <class V>
-    HWY_INLINE V whole(V sum) {
-      const auto fraction = hn::And(sum, hn::Set(DSums(), (1 << places) - 1));
-      least = hn::Min(least, hn::BitCast(D(), fraction));
-      return hn::ShiftRight<places>(sum);
-    }
-    HWY_INLINE static hn::Vec<D> weights(int16_t first, int16_t second) {
-      const uint32_t pair = static_cast<uint16_t>(first) | static_cast<uint32_t>(static_cast<uint16_t>(second)) << 16;
-      return hn::BitCast(D(), hn::Set(DSums(), static_cast<int32_t>(pair)));
-    }
-  };
+  template <int c, class D, class V>
+  HWY_INLINE hn::Vec<D> channel(D d, const V& x0, const V& x1, const V& x2) const {
+    const hn::Repartition<int32_t, D> dHalves;
+    const auto half = [&](int k) VEMI_INLINED {
+      return lowerHalves(dHalves, sum<c>(x0.v[k], x1.v[k], x2.v[k]), sum<c>(x0.v[k + 1], x1.v[k + 1], x2.v[k + 1]));
+    };
+    return packHalves(d, half(0), half(2));
+  }
 };
+
+// ---- Interleaved words without a way through planes -----------------------------------------------------------------
+//
+// Two pixels are 12 bytes of a 128-bit block. Behind two bytes of the exponent, each of their channels is one shuffle
+// away from doubles.
+
+template <int channel>
+alignas(16) inline constexpr uint8_t doublesOfChannel[16] = {
+    0x80, 0x80, 0x80, 0x80, 4 + 2 * channel,  5 + 2 * channel,  0, 1,
+    0x80, 0x80, 0x80, 0x80, 10 + 2 * channel, 11 + 2 * channel, 0, 1};
+
+/// Of red, red, green, green and, in every other word, blue.
+alignas(16) inline constexpr uint8_t wordsOfPixels[16] = {0, 1, 4, 5, 8, 9, 2, 3, 6, 7, 12, 13, 0x80, 0x80, 0x80, 0x80};
+
+template <class T>
+HWY_NOINLINE void mapPixels(ptrdiff_t width, const BiasedTwist<T>& operation, InterleavedRow<T, C3> dst,
+                            InterleavedRow<const T, C3> src) {
+  constexpr ptrdiff_t pixels = laneCount<double>, vectors = 4;
+  const BiasedTwist<T> twist = operation;  // a local, which no store to the destination can change
+  const auto kernel = [&](const T* in, T* out) VEMI_INLINED {
+    const Lanes<T> d;
+    const Lanes<uint8_t> dBytes;
+    const Lanes<double> dSums;
+    const Lanes<int32_t> dHalves;
+    Vectors<hn::Vec<decltype(dBytes)>, vectors> results;
+    unrolled<vectors>([&](auto k) VEMI_INLINED {
+      constexpr bool isLast = k == vectors - 1;
+      const auto* first = reinterpret_cast<const uint8_t*>(in + 3 * pixels * k);
+      auto words = loadPixels(dBytes, first - (isLast ? 4 : 0));
+      if constexpr (isLast) words = hn::ShiftRightBytes<4>(dBytes, words);
+      const auto elements = twist.fromLowest(d, hn::BitCast(d, words));
+      const auto withExponent =
+          hn::BitCast(dBytes, hn::CombineShiftRightBytes<12>(d, elements, hn::Set(d, twist.exponent)));
+      const auto channel = [&](const uint8_t(&places)[16]) VEMI_INLINED {
+        return hn::BitCast(dSums, hn::TableLookupBytesOr0(withExponent, hn::LoadDup128(dBytes, places)));
+      };
+      const auto x0 = channel(doublesOfChannel<0>), x1 = channel(doublesOfChannel<1>),
+                 x2 = channel(doublesOfChannel<2>);
+      const auto firstTwo = lowerHalves(dHalves, twist.template sum<0>(x0, x1, x2), twist.template sum<1>(x0, x1, x2));
+      const auto packed = packHalves(d, firstTwo, hn::BitCast(dHalves, twist.template sum<2>(x0, x1, x2)));
+      results.v[k] = hn::TableLookupBytesOr0(hn::BitCast(dBytes, packed), hn::LoadDup128(dBytes, wordsOfPixels));
+    });
+    unrolled<vectors>([&](auto k) VEMI_INLINED {
+      storePixels<k == vectors - 1>(dBytes, results.v[k], reinterpret_cast<uint8_t*>(out + 3 * pixels * k));
+    });
+  };
+  forBlocks<vectors * pixels>(width, kernel, Strand<const T, 3>{src.first}, Strand<T, 3>{dst.first});
+}
 
 template <class T, class L, class Src, class Dst>
 VemiStatus twistIntegers(Src src, Dst dst, VemiSize roiSize, Twist twist) {
-  return twistIntegersBy<T, L, ExactFloatTwist<T>, NearWordTwist<T>>(src, dst, roiSize, twist);
+  return twistIntegersBy<T, L, BiasedTwist<T>>(src, dst, roiSize, twist);
 }
 
 }  // namespace

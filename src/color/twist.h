@@ -5,6 +5,7 @@
 #include <cfenv>
 #include <cmath>
 #include <cstdint>
+#include <cstring>
 #include <limits>
 #include <tuple>
 #include <type_traits>
@@ -17,6 +18,7 @@
 #include "core/lane_width.h"
 #include "core/pixel_region.h"
 #include "core/rounding.h"
+#include "core/vector_blocks.h"
 
 namespace vemi::color {
 
@@ -93,6 +95,16 @@ double sizeOfSum(const float (&row)[4]) {
   constexpr double largest = -double{std::numeric_limits<T>::min()}, highest = std::numeric_limits<T>::max();
   const double products = std::fabs(double{row[0]}) + std::fabs(double{row[1]}) + std::fabs(double{row[2]});
   return std::max(largest, highest) * products + std::fabs(double{row[3]});
+}
+
+/// Whether no factor has a bit below `places` places of the sum's size: sums of their multiples are exact.
+inline bool hasNoBitBelow(const float (&row)[4], double size, int places) {
+  int exponent;
+  std::frexp(size, &exponent);
+  return std::all_of(row, row + 4, [=](float f) {
+    const double inLastPlaces = std::ldexp(double{f}, places - exponent);
+    return std::trunc(inLastPlaces) == inLastPlaces;
+  });
 }
 
 // ---- Sums, by the caller's rounding --------------------------------------------------------------------------------
@@ -183,15 +195,34 @@ struct ExactFloatTwist {
  private:
   static bool isExact(const float (&row)[4]) {
     const double size = sizeOfSum<T>(row);
-    if (!(size >= 1 && size < 0x1p30)) return false;
-    int exponent;
-    std::frexp(size, &exponent);
-    return std::all_of(row, row + 4, [=](float f) {
-      const double inLastPlaces = std::ldexp(double{f}, 24 - exponent);
-      return std::trunc(inLastPlaces) == inLastPlaces;
-    });
+    return size >= 1 && size < 0x1p30 && hasNoBitBelow(row, size, 24);
   }
 };
+
+// ---- Interleaved pixels, 12 bytes to a block of 16 ------------------------------------------------------------------
+
+/// The first 12 bytes of each block, one behind the other.
+template <class D>
+HWY_INLINE hn::Vec<D> loadPixels(D d, const uint8_t* in) {
+  return blocksFrom(d, [&](int k) VEMI_INLINED { return in + ptrdiff_t{12} * k; });
+}
+
+/// The inverse, from 12 bytes of each block. What lies behind the pixels of a block that is not the last is written
+/// too.
+template <bool isLast, class D>
+HWY_INLINE void storePixels(D d, hn::Vec<D> v, uint8_t* out) {
+  if constexpr (hn::MaxLanes(d) > 16) {
+    const hn::Half<D> dHalf;
+    storePixels<false>(dHalf, hn::LowerHalf(v), out);
+    storePixels<isLast>(dHalf, hn::UpperHalf(dHalf, v), out + 12 * (hn::MaxLanes(d) / 32));
+  } else if constexpr (isLast) {
+    alignas(16) uint8_t pixels[16];
+    hn::Store(v, d, pixels);
+    std::memcpy(out, pixels, 12);
+  } else {
+    hn::StoreU(v, d, out);
+  }
+}
 
 // ---- Whole calls ---------------------------------------------------------------------------------------------------
 

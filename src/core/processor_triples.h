@@ -7,6 +7,7 @@
 #include <cstddef>
 
 #include "core/lanes.h"
+#include "core/processor_shuffles.h"
 #include "core/streaming.h"
 #include "core/vector_blocks.h"
 
@@ -15,29 +16,6 @@ namespace vemi {
 #if HWY_ARCH_X86
 
 namespace detail {
-
-template <int order>
-HWY_INLINE __m128 shuffle(__m128 a, __m128 b) {
-  return _mm_shuffle_ps(a, b, order);
-}
-#if HWY_TARGET <= HWY_AVX2
-template <int order>
-HWY_INLINE __m256 shuffle(__m256 a, __m256 b) {
-  return _mm256_shuffle_ps(a, b, order);
-}
-#endif
-#if HWY_TARGET <= HWY_AVX3
-template <int order>
-HWY_INLINE __m512 shuffle(__m512 a, __m512 b) {
-  return _mm512_shuffle_ps(a, b, order);
-}
-#endif
-
-/// Of each block of 128 bits: lanes a0 and a1 of `a`, b0 and b1 of `b`.
-template <int a0, int a1, int b0, int b1, class V>
-HWY_INLINE V lanesOfTwo(V a, V b) {
-  return V{shuffle<a0 | a1 << 2 | b0 << 4 | b1 << 6>(a.raw, b.raw)};
-}
 
 /// A block of 128 bits out of each 48 bytes from `in` on.
 template <class D>

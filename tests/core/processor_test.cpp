@@ -13,6 +13,7 @@
 
 #include "core/numbers.h"
 #include "core/processor_bytes.h"
+#include "core/processor_shuffles.h"
 #include "core/processor_triples.h"
 #include "support/for_types.h"
 
@@ -180,6 +181,14 @@ TEST(Processor, PairsOfProductsStandInOrder) {
   }
   hn::StoreU(pairsOfProducts(hn::LoadU(d, a), hn::LoadU(d, b)), dWide, sums);
   for (int i = 0; i < N / 2; ++i) EXPECT_EQ(sums[i], a[2 * i] * b[2 * i] + a[2 * i + 1] * b[2 * i + 1]) << i;
+}
+
+TEST(Processor, LowerHalvesWithinBlocks) {
+  const Lanes<int32_t> d;
+  constexpr int N = laneCount<int32_t>;
+  int32_t halves[N];
+  hn::StoreU(lowerHalves(d, hn::Iota(d, 0), hn::Iota(d, 100)), d, halves);
+  for (int i = 0; i < N; ++i) EXPECT_EQ(halves[i], i / 4 * 4 + i % 2 * 2 + (i % 4 < 2 ? 0 : 100)) << i;
 }
 
 TEST(Processor, TriplesGoToLanesAndBack) {
