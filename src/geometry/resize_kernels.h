@@ -155,6 +155,17 @@ HWY_INLINE void storeVectors(ptrdiff_t elements, T* dst, const At& at) {
   }
 }
 
+/// Rows of a destination out of two lines each: of(line, line, weight, row).
+template <class Pair, class T, class RowOf>
+HWY_INLINE void forPairs(const Pair* pairs, int count, const SourceLines& linesOfCaller,
+                         const SourceLines& othersOfCaller, Image<T> dst, const RowOf& rowOf) {
+  const SourceLines lines = linesOfCaller, others = othersOfCaller;  // locals, which no store can change
+  for (int y = 0; y < count; ++y) {
+    const Pair& pair = pairs[y];
+    rowOf(lines.row(pair.base), others.row(pair.other), pair.weight, dst.row(y));
+  }
+}
+
 // ---- Filters in single precision -----------------------------------------------------------------------------------
 
 /// Lanes of T out of floats: as they are, or to nearest, which the weights of integers leave far within 32 bits.
@@ -167,6 +178,15 @@ HWY_INLINE hn::Vec<D> elementsOf(D d, const At& at) {
     return packEach<int32_t>(d, [&](auto k) HWY_ATTR { return rounded(di, at(k * laneCount<float>)); });
   }
 }
+
+/// Rows and the weight of the second one.
+struct FloatPair {
+  int base, other;
+  float weight;
+
+  explicit FloatPair(const Node& node)
+      : base(node.first), other(node.first + 1), weight(static_cast<float>(node.fraction)) {}
+};
 
 /// A row of floats out of a source line: words of neighbouring samples, of which a group has 4 / sizeof(T).
 template <class F, class T, class L>
@@ -221,12 +241,13 @@ class FloatAcross {
   /// Whether both stages may be one: where samples are gathered it gains nothing.
   bool goesBetween() const { return L::elements == 3 || inTurn_; }
 
-  /// Both stages at once, of two lines.
-  void between(const uint8_t* line0, const uint8_t* line1, float weight, T* dst) const {
+  /// Both stages at once, of two lines each row.
+  void between(const FloatPair* pairs, int count, const SourceLines& lines, const SourceLines& others,
+               Image<T> dst) const {
     if constexpr (mayBeInTurn) {
-      runBetween<1, inTurn>(line0, line1, weight, dst);
+      runBetween<1, inTurn>(pairs, count, lines, others, dst);
     } else {
-      withSamples([&](auto windows, auto perWord) { runBetween<windows, perWord>(line0, line1, weight, dst); });
+      withSamples([&](auto windows, auto perWord) { runBetween<windows, perWord>(pairs, count, lines, others, dst); });
     }
   }
 
@@ -335,18 +356,33 @@ class FloatAcross {
     }
   }
 
-  template <int windows, int perWord>
-  HWY_NOINLINE void runBetween(const uint8_t* line0, const uint8_t* line1, float weight, T* dst) const {
+  /// From element i on.
+  template <int windows, int perWord, class D>
+  HWY_INLINE static hn::Vec<D> betweenAt(D d, const PickedBytes& picks, const uint8_t* line0, const uint8_t* line1,
+                                         const float* weights, V down, ptrdiff_t i) {
     const Lanes<float> df;
+    return elementsOf<T>(d, [&](ptrdiff_t place) HWY_ATTR {
+      const auto at = [&](const uint8_t* line)
+                          HWY_ATTR { return valuesAt<windows, perWord>(df, picks, line, weights, 0, i + place); };
+      return F::apply(df, Samples{{at(line0), at(line1)}}, Vectors<V, 1>{{down}});
+    });
+  }
+
+  template <int windows, int perWord>
+  HWY_NOINLINE void runBetween(const FloatPair* pairs, int count, const SourceLines& lines, const SourceLines& others,
+                               Image<T> dst) const {
     const PickedBytes picks = picks_;
     const float* const weights = weight_;
-    const Vectors<V, 1> down = {{hn::Set(df, weight)}};
-    storeVectors<L>(elements_, dst, [&](auto d, ptrdiff_t first) HWY_ATTR {
-      return elementsOf<T>(d, [&](ptrdiff_t place) HWY_ATTR {
-        const auto at = [&](const uint8_t* line)
-                            HWY_ATTR { return valuesAt<windows, perWord>(df, picks, line, weights, 0, first + place); };
-        return F::apply(df, Samples{{at(line0), at(line1)}}, down);
-      });
+    const ptrdiff_t elements = elements_;
+    forPairs(pairs, count, lines, others, dst, [&](auto line0, auto line1, float weight, T* out) HWY_ATTR {
+      const V down = hn::Set(Lanes<float>(), weight);
+      const auto at = [=, &picks](auto d, ptrdiff_t i)
+                          HWY_ATTR { return betweenAt<windows, perWord>(d, picks, line0, line1, weights, down, i); };
+      if constexpr (perWord == inTurn) {
+        vemi::detail::mapPlacesHere<alphaOf<L>>(elements, eachPlace<1>(at), out);
+      } else {
+        storeVectors<L>(elements, out, at);
+      }
     });
   }
 };
@@ -373,14 +409,6 @@ struct FloatDown {
   }
 };
 
-/// Rows and the weight of the second one.
-struct FloatPair {
-  static constexpr int first = 0;
-  float weight;
-
-  explicit FloatPair(const Node& node) : weight(static_cast<float>(node.fraction)) {}
-};
-
 template <class F, class T, class L>
 struct FloatStages {
   using Filter = F;
@@ -404,6 +432,20 @@ HWY_INLINE V betweenRows(D d, V base, V other, V weight) {
   const auto sum = hn::Add(base, hn::MulHigh(hn::Sub(base, other), weight));
   return hn::MulFixedPoint15(sum, hn::Set(d, int16_t{512}));
 }
+
+/// Of two rows, the one that has at least half of all weight is the base. The other one's weight, times -4, is one of
+/// 16 bits.
+struct BytePair {
+  int base, other;
+  int16_t weight;
+
+  explicit BytePair(const Node& node) {
+    const int second = linearWeight(node), isSecond = second >= 8192 ? 1 : 0;
+    base = node.first + isSecond;
+    other = node.first + 1 - isSecond;
+    weight = static_cast<int16_t>(-4 * (isSecond == 1 ? 16384 - second : second));
+  }
+};
 
 /// h = 64 p0 + (w (p1 - p0) + 128 >> 8), which is the formula in lanes of 16 bits: the rounded product shifts by 15, of
 /// which p0 - p1 has six in advance, and the weight -2 w one. It never leaves them, also where w is negative.
@@ -447,9 +489,10 @@ class ByteAcross {
 
   bool goesBetween() const { return true; }
 
-  /// Both stages at once, of two lines, with the weight of betweenRows.
-  void between(const uint8_t* base, const uint8_t* other, int16_t weight, uint8_t* dst) const {
-    withSamples([&](auto windows, auto samples) { runBetween<windows, samples>(base, other, weight, dst); });
+  /// Both stages at once, of two lines each row.
+  void between(const BytePair* pairs, int count, const SourceLines& lines, const SourceLines& others,
+               Image<uint8_t> dst) const {
+    withSamples([&](auto windows, auto samples) { runBetween<windows, samples>(pairs, count, lines, others, dst); });
   }
 
  private:
@@ -512,18 +555,33 @@ class ByteAcross {
     }
   }
 
-  template <int windows, Samples samples>
-  HWY_NOINLINE void runBetween(const uint8_t* base, const uint8_t* other, int16_t weight, uint8_t* dst) const {
+  /// From element i on.
+  template <int windows, Samples samples, class D>
+  HWY_INLINE static hn::Vec<D> betweenAt(D d, const PickedBytes& picks, const uint8_t* base, const uint8_t* other,
+                                         const int16_t* weights, int16_t down, ptrdiff_t i) {
     const Lanes<int16_t> d16;
+    const auto at = [&](ptrdiff_t place) HWY_ATTR {
+      const auto ofBase = valuesAt<windows, samples>(d16, picks, base, weights, place);
+      const auto ofOther = valuesAt<windows, samples>(d16, picks, other, weights, place);
+      return betweenRows(d16, ofBase, ofOther, hn::Set(d16, down));
+    };
+    return packInOrder(d, at(i), at(i + laneCount<int16_t>));
+  }
+
+  template <int windows, Samples samples>
+  HWY_NOINLINE void runBetween(const BytePair* pairs, int count, const SourceLines& lines, const SourceLines& others,
+                               Image<uint8_t> dst) const {
     const PickedBytes picks = picks_;
     const int16_t* const weights = weight_;
-    const auto down = hn::Set(d16, weight);
-    storeVectors<L>(elements_, dst, [&](auto d, ptrdiff_t first) HWY_ATTR {
-      const auto at = [&](ptrdiff_t i) HWY_ATTR {
-        const auto ofBase = valuesAt<windows, samples>(d16, picks, base, weights, i);
-        return betweenRows(d16, ofBase, valuesAt<windows, samples>(d16, picks, other, weights, i), down);
-      };
-      return packInOrder(d, at(first), at(first + laneCount<int16_t>));
+    const ptrdiff_t elements = elements_;
+    forPairs(pairs, count, lines, others, dst, [&](auto base, auto other, int16_t weight, uint8_t* out) HWY_ATTR {
+      const auto at = [=, &picks](auto d, ptrdiff_t i)
+                          HWY_ATTR { return betweenAt<windows, samples>(d, picks, base, other, weights, weight, i); };
+      if constexpr (samples == Samples::inTurn) {
+        vemi::detail::mapPlacesHere<alphaOf<L>>(elements, eachPlace<1>(at), out);
+      } else {
+        storeVectors<L>(elements, out, at);
+      }
     });
   }
 };
@@ -540,6 +598,12 @@ struct ByteDown {
       return betweenRows(d16, hn::LoadU(d16, base + place), hn::LoadU(d16, other + place), hn::Set(d16, weight));
     };
     return packInOrder(d, at(i), at(i + laneCount<int16_t>));
+  }
+};
+
+struct ByteDownOf {
+  HWY_INLINE auto operator()(const int16_t* base, const int16_t* other, int16_t weight) const {
+    return eachPlace(ByteDown{base, other, weight});
   }
 };
 
@@ -561,19 +625,6 @@ struct ByteDownBeyond {
   }
 };
 
-/// Of two rows, the one that has at least half of all weight comes first. The other one's weight, times -4, is one of
-/// 16 bits.
-struct BytePair {
-  int first;
-  int16_t weight;
-
-  explicit BytePair(const Node& node) : BytePair(linearWeight(node)) {}
-
- private:
-  explicit BytePair(int second)
-      : first(second >= 8192 ? 1 : 0), weight(static_cast<int16_t>(-4 * (first == 1 ? 16384 - second : second))) {}
-};
-
 template <class L>
 struct ByteStages {
   using Filter = LinearFilter;
@@ -587,7 +638,8 @@ struct ByteStages {
       return mapPlaces<alphaOf<L>>(elements, eachPlace<1>(ByteDownBeyond{rows[0], rows[1], weight}), dst);
     }
     const BytePair pair(node);
-    mapPlaces<alphaOf<L>>(elements, eachPlace(ByteDown{rows[pair.first], rows[1 - pair.first], pair.weight}), dst);
+    mapPlacesOf<alphaOf<L>, ByteDownOf>(elements, dst, rows[pair.base - node.first], rows[pair.other - node.first],
+                                        pair.weight);
   }
 };
 
@@ -601,37 +653,41 @@ VemiStatus resizeByStages(const T* const* src, int srcStep, T* const* dst, int d
   using F = typename Stages::Filter;
   using Across = typename Stages::Across;
   using E = typename Across::Element;
+  using Pair = typename Stages::Pair;
   constexpr bool isLinear = F::taps == 2;
+  const bool mayGoBetween = isLinear && plan.y.step >= 2 && plan.x.start >= 0 && plan.y.start >= 0;
   const Vemi64s elements = Vemi64s{plan.x.count} * L::elements;
   const ColumnRange range = ColumnRange::of<F::nodeOf>(plan.x, F::taps);
   SourceLines lines(range.first, range.columns(), pixelBytes<T, L>), others = lines;
   HeldRows<E, F::taps> held(elements);
   Pieces pieces;
   const typename Across::Room room(pieces, elements);
-  const auto copy = pieces.add<uint8_t>(lines.bytes()), otherCopy = pieces.add<uint8_t>(isLinear ? others.bytes() : 0);
+  const auto copy = pieces.add<uint8_t>(lines.bytes());
+  const auto otherCopy = pieces.add<uint8_t>(mayGoBetween ? others.bytes() : 0);
+  const auto pairsOfRows = pieces.add<Pair>(mayGoBetween ? plan.y.count : 0);
   const auto rowsOfStage = pieces.add<E>(held.elements());
   const Scratch scratch(pieces);
   if (!range.fits(pixelBytes<T, L>) || scratch.failed()) return vemiErrMemAlloc;
   const Across across(scratch, room, plan.x, range.first);
   lines.setCopy(scratch[copy]);
   held.place(scratch[rowsOfStage]);
+  if constexpr (isLinear) {
+    if (mayGoBetween && across.goesBetween()) {
+      Pair* const pairs = scratch[pairsOfRows];
+      forNodes<linearNode>(plan.y, [&](int y, const Node& node) { pairs[y] = Pair(node); });
+      others.setCopy(scratch[otherCopy]);
+      for (int n = 0; n < count; ++n) {
+        const Image<const T> source = {src[n], srcStep};
+        lines.setSource(source, plan.image);
+        others.setSource(source, plan.image);
+        across.between(pairs, plan.y.count, lines, others, Image<T>{dst[n], dstStep});
+      }
+      return vemiOk;
+    }
+  }
   for (int n = 0; n < count; ++n) {
     const Image<T> destination = {dst[n], dstStep};
-    const Image<const T> source = {src[n], srcStep};
-    lines.setSource(source, plan.image);
-    if constexpr (isLinear) {
-      if (plan.y.step >= 2 && plan.x.start >= 0 && plan.y.start >= 0 && across.goesBetween()) {
-        others.setCopy(scratch[otherCopy]);
-        others.setSource(source, plan.image);
-        forNodes<F::nodeOf>(plan.y, [&](int y, const Node& node) {
-          const typename Stages::Pair pair(node);
-          const ptrdiff_t first = node.first;
-          across.between(lines.row(first + pair.first), others.row(first + 1 - pair.first), pair.weight,
-                         destination.row(y));
-        });
-        continue;
-      }
-    }
+    lines.setSource(Image<const T>{src[n], srcStep}, plan.image);
     held.forget();
     forNodes<F::nodeOf>(plan.y, [&](int y, const Node& node) {
       const E* rows[F::taps];
@@ -930,23 +986,33 @@ struct AreaRange {
   }
 };
 
-/// Areas of two by two whole pixels: sums of integers are exact, so their order does not matter, and a quarter to
-/// nearest is a shift; those of floats have the order of all areas.
-template <class T, class L>
-class QuartersAcross {
+/// What the mean of four integers becomes halfway between two of them.
+enum class Halves { toEven, up };
+
+/// Means of two by two pixels: sums of integers are exact, so their order does not matter, and a quarter to nearest is
+/// a shift; those of floats have the order of areas.
+template <class T, class L, Halves halves>
+class MeansOfFour {
  public:
-  using Room = typename NearestAcross<T, L>::Room;
+  struct Room {
+    PickedBytes::Room picks = {};
+    Piece<int32_t> offset = {};
 
-  /// Whether all areas are such.
-  static bool suits(const Axis& x) {
-    return x.step == 2 && x.start == std::trunc(x.start) && x.start + 2.0 * x.count <= x.image;
-  }
+    Room(Pieces& pieces, Vemi64s elements) {
+      if (!byTable) return;
+      picks = PickedBytes::addTo(pieces, elements, wordBytes);
+      offset = pieces.add<int32_t>(elements);
+    }
+  };
 
-  QuartersAcross(const Scratch& scratch, const Room& room, const Axis& x)
-      : elements_(ptrdiff_t{x.count} * L::elements), picks_(scratch, room.picks) {
+  /// Bytes behind the pixels that are read: none where a row has a vector.
+  static Vemi64s slackOf(Vemi64s elements) { return byTable || elements < laneCount<T> ? windowSlack : 0; }
+
+  MeansOfFour(const Scratch& scratch, const Room& room, int count)
+      : elements_(ptrdiff_t{count} * L::elements), picks_(scratch, room.picks) {
     if constexpr (byTable) {
       int32_t* const offset = scratch[room.offset];
-      for (int column = 0; column < x.count; ++column) setOffsets<T, L>(offset, column, 2 * column);
+      for (int column = 0; column < count; ++column) setOffsets<T, L>(offset, column, 2 * column);
       picks_.make(offset, elements_, BytePattern::ofSamples(wordBytes, sizeof(T) == 1 ? 2 : 1, sizeof(T), pixel));
     }
   }
@@ -955,7 +1021,7 @@ class QuartersAcross {
     if constexpr (byTable) {
       picks_.template withWindows<sizeof(T) == 1 ? 8 : 4>([&](auto windows) { run<windows>(line0, line1, dst); });
     } else {
-      run<1>(line0, line1, dst);
+      mapPlacesOf<alphaOf<L>, StageOf>(elements_, dst, line0, line1);
     }
   }
 
@@ -968,58 +1034,80 @@ class QuartersAcross {
   ptrdiff_t elements_;
   PickedBytes picks_;
 
+  /// The stage of a row without a table.
+  struct Means {
+    const uint8_t *line0, *line1;
+
+    template <class D>
+    HWY_INLINE auto operator()(D d, ptrdiff_t i) const {
+      return meansAt<1>(d, nullptr, line0, line1, i);
+    }
+  };
+  struct StageOf {
+    HWY_INLINE auto operator()(const uint8_t* line0, const uint8_t* line1) const {
+      return eachPlace<1>(Means{line0, line1});
+    }
+  };
+
   template <int windows>
   HWY_NOINLINE void run(const uint8_t* line0, const uint8_t* line1, T* dst) const {
     const PickedBytes picks = picks_;
+    storeVectors<L>(elements_, dst,
+                    [&](auto d, ptrdiff_t i) HWY_ATTR { return meansAt<windows>(d, &picks, line0, line1, i); });
+  }
+
+  /// From element i on.
+  template <int windows, class D>
+  HWY_INLINE static hn::Vec<D> meansAt(D d, const PickedBytes* picks, const uint8_t* line0, const uint8_t* line1,
+                                       ptrdiff_t i) {
     if constexpr (sizeof(T) == 4) {
-      storeVectors<L>(elements_, dst, [&](auto d, ptrdiff_t i) HWY_ATTR {
-        const auto sum = [&](auto upper, auto lower) HWY_ATTR { return hn::Add(hn::Add(hn::Zero(d), upper), lower); };
-        hn::Vec<decltype(d)> left, right;
-        if constexpr (L::elements == 1) {
-          const auto at = [&](const uint8_t* line, ptrdiff_t k) HWY_ATTR {
-            return hn::LoadU(d, reinterpret_cast<const float*>(line) + 2 * i + k * laneCount<float>);
-          };
-          const auto first = sum(at(line0, 0), at(line1, 0)), second = sum(at(line0, 1), at(line1, 1));
-          left = hn::ConcatEven(d, second, first);
-          right = hn::ConcatOdd(d, second, first);
-        } else {
-          const auto at = [&](const uint8_t* line) HWY_ATTR {
-            if constexpr (byTable) return hn::BitCast(d, picks.words<windows>(line, i / 4));
-            return blocksFrom(d, [&](ptrdiff_t k) HWY_ATTR {
-              return reinterpret_cast<const float*>(line + (i / 4 + k) * 2 * pixel);
-            });
-          };
-          left = sum(at(line0), at(line1));
-          right = sum(at(line0 + pixel), at(line1 + pixel));
-        }
-        return hn::Mul(hn::Add(hn::Add(hn::Zero(d), left), right), hn::Set(d, 0.25f));
-      });
+      const auto sum = [&](auto upper, auto lower) HWY_ATTR { return hn::Add(hn::Add(hn::Zero(d), upper), lower); };
+      hn::Vec<D> left, right;
+      if constexpr (L::elements == 1) {
+        const auto at = [&](const uint8_t* line, ptrdiff_t k) HWY_ATTR {
+          return hn::LoadU(d, reinterpret_cast<const float*>(line) + 2 * i + k * laneCount<float>);
+        };
+        const auto first = sum(at(line0, 0), at(line1, 0)), second = sum(at(line0, 1), at(line1, 1));
+        left = hn::ConcatEven(d, second, first);
+        right = hn::ConcatOdd(d, second, first);
+      } else {
+        const auto at = [&](const uint8_t* line) HWY_ATTR {
+          if constexpr (byTable) return hn::BitCast(d, picks->words<windows>(line, i / 4));
+          return blocksFrom(
+              d, [&](ptrdiff_t k) HWY_ATTR { return reinterpret_cast<const float*>(line + (i / 4 + k) * 2 * pixel); });
+        };
+        left = sum(at(line0), at(line1));
+        right = sum(at(line0 + pixel), at(line1 + pixel));
+      }
+      return hn::Mul(hn::Add(hn::Add(hn::Zero(d), left), right), hn::Set(d, 0.25f));
     } else {
       using Wide = std::conditional_t<sizeof(T) == 1, int16_t, int32_t>;
-      using Words = std::make_unsigned_t<Wide>;
       const Lanes<Wide> dWide;
-      const Lanes<Words> dWords;
-      storeVectors<L>(elements_, dst, [&](auto d, ptrdiff_t i) HWY_ATTR {
-        const auto means = [&](ptrdiff_t element) HWY_ATTR {
-          const auto pairs = [&](const uint8_t* line) HWY_ATTR { return sumsOfPairs<windows>(picks, line, element); };
-          return hn::BitCast(dWide, quarterOf(dWords, hn::Add(pairs(line0), pairs(line1))));
-        };
-        return packInOrder(d, means(i), means(i + laneCount<Wide>));
-      });
+      const Lanes<std::make_unsigned_t<Wide>> dWords;
+      const auto means = [&](ptrdiff_t element) HWY_ATTR {
+        const auto pairs = [&](const uint8_t* line) HWY_ATTR { return sumsOfPairs<windows>(picks, line, element); };
+        return hn::BitCast(dWide, quarterOf(dWords, hn::Add(pairs(line0), pairs(line1))));
+      };
+      return packInOrder(d, means(i), means(i + laneCount<Wide>));
     }
   }
 
-  /// To nearest, ties to even; an average rounds up.
+  /// An average rounds up, and so does a product.
   template <class D, class V = hn::Vec<D>>
   HWY_INLINE static V quarterOf(D d, V sum) {
-    const V odd = hn::And(hn::ShiftRight<2>(sum), hn::Set(d, 1));
-    if constexpr (sizeof(T) == 1) return hn::ShiftRight<1>(hn::AverageRound(sum, odd));
-    return hn::ShiftRight<2>(hn::Add(sum, hn::Add(odd, hn::Set(d, 1))));
+    if constexpr (halves == Halves::up) {
+      const hn::RebindToSigned<D> di;
+      return hn::BitCast(d, hn::MulFixedPoint15(hn::BitCast(di, sum), hn::Set(di, 8192)));
+    } else {
+      const V odd = hn::And(hn::ShiftRight<2>(sum), hn::Set(d, 1));
+      if constexpr (sizeof(T) == 1) return hn::ShiftRight<1>(hn::AverageRound(sum, odd));
+      return hn::ShiftRight<2>(hn::Add(sum, hn::Add(odd, hn::Set(d, 1))));
+    }
   }
 
   /// Of integers that are neighbours in x, from an element on.
   template <int windows>
-  HWY_INLINE static auto sumsOfPairs(const PickedBytes& picks, const uint8_t* line, ptrdiff_t element) {
+  HWY_INLINE static auto sumsOfPairs(const PickedBytes* picks, const uint8_t* line, ptrdiff_t element) {
     using Words = hwy::UnsignedFromSize<wordBytes>;
     const Lanes<Words> d;
     constexpr int bits = 8 * sizeof(T);
@@ -1037,28 +1125,36 @@ class QuartersAcross {
       const auto order = hn::LoadDup128(dBytes, pairsOfBlock<T>.index);
       return sums(hn::TableLookupBytes(hn::LoadU(dBytes, line + byte), order));
     } else if constexpr (sizeof(T) == 1) {
-      return sums(picks.vector<windows>(line, byte / 16));
+      return sums(picks->vector<windows>(line, byte / 16));
     } else {  // each sample by itself needs fewer windows
       const auto at = [&](const uint8_t* from)
-                          HWY_ATTR { return hn::BitCast(d, picks.vector<windows>(from, byte / 16)); };
+                          HWY_ATTR { return hn::BitCast(d, picks->vector<windows>(from, byte / 16)); };
       return hn::Add(at(line), at(line + pixel));
     }
   }
 };
 
-template <class T, class L>
+/// Whether each column lies in the middle of two, `middle` from the first one, which no other column has.
+inline bool goesByPairs(const Axis& axis, double middle) {
+  const double first = axis.start - middle;
+  return axis.step == 2 && first >= 0 && first == std::trunc(first) && first + 2.0 * axis.count <= axis.image;
+}
+
+/// From the pixel on in which the first position lies.
+template <class T, class L, Halves halves>
 VemiStatus resizeToHalf(const T* const* src, int srcStep, T* const* dst, int dstStep, int count,
                         const ResizePlan& plan) {
+  using Means = MeansOfFour<T, L, halves>;
   const auto firstOf = [](const Axis& axis) { return static_cast<int>(axis.start); };
   const Vemi64s elements = Vemi64s{plan.x.count} * L::elements;
   const ColumnRange range = {firstOf(plan.x), firstOf(plan.x) + 2 * plan.x.count - 1};
-  SourceLines upper(range.first, range.columns(), pixelBytes<T, L>), lower = upper;
+  SourceLines upper(range.first, range.columns(), pixelBytes<T, L>, Means::slackOf(elements)), lower = upper;
   Pieces pieces;
-  const typename QuartersAcross<T, L>::Room room(pieces, elements);
+  const typename Means::Room room(pieces, elements);
   const auto upperCopy = pieces.add<uint8_t>(upper.bytes()), lowerCopy = pieces.add<uint8_t>(lower.bytes());
   const Scratch scratch(pieces);
   if (!range.fits(pixelBytes<T, L>) || scratch.failed()) return vemiErrMemAlloc;
-  const QuartersAcross<T, L> across(scratch, room, plan.x);
+  const Means across(scratch, room, plan.x.count);
   upper.setCopy(scratch[upperCopy]);
   lower.setCopy(scratch[lowerCopy]);
   for (int n = 0; n < count; ++n) {
@@ -1119,11 +1215,15 @@ VemiStatus resizeImages(const T* const* src, int srcStep, T* const* dst, int dst
     case vemiInterNearest:
       return by(resizeToNearest<T, L>);
     case vemiInterLinear:
+      if constexpr (sizeof(T) < 4) {
+        constexpr Halves halves = sizeof(T) == 1 ? Halves::up : Halves::toEven;
+        if (goesByPairs(plan.x, 0.5) && goesByPairs(plan.y, 0.5)) return by(resizeToHalf<T, L, halves>);
+      }
       return by(resizeByStages<Linear, T, L>);
     case vemiInterCubic:
       return by(resizeByStages<FloatStages<CubicFilter, T, L>, T, L>);
     case vemiInterSuper:
-      if (QuartersAcross<T, L>::suits(plan.x) && QuartersAcross<T, L>::suits(plan.y)) return by(resizeToHalf<T, L>);
+      if (goesByPairs(plan.x, 0) && goesByPairs(plan.y, 0)) return by(resizeToHalf<T, L, Halves::toEven>);
       return by(resizeByAreas<T, L>);
     default:
       return by(resizeByStages<FloatStages<LanczosFilter, T, L>, T, L>);

@@ -16,42 +16,38 @@ namespace vemi::geometry {
 /// its edge.
 class SourceLines {
  public:
-  /// The columns from `first` on, so many.
-  SourceLines(int first, Vemi64s columns, ptrdiff_t pixelBytes)
-      : first_(first), columns_(columns), pixel_(pixelBytes) {}
+  /// The columns from `first` on, so many, and the bytes behind them that can be read. Without such bytes, all columns
+  /// are the image's.
+  SourceLines(int first, Vemi64s columns, ptrdiff_t pixelBytes, Vemi64s slack = windowSlack)
+      : first_(first), columns_(columns), pixel_(pixelBytes), slack_(static_cast<ptrdiff_t>(slack)) {}
 
   /// Of a copy.
-  Vemi64s bytes() const { return limitedSum(limitedProduct(columns_, pixel_), windowSlack); }
+  Vemi64s bytes() const { return slack_ == 0 ? 0 : limitedSum(limitedProduct(columns_, pixel_), slack_); }
 
   void setCopy(uint8_t* copy) {
     copy_ = copy;
-    std::fill_n(copy + columns() * pixel_, windowSlack, uint8_t{0});
+    if (slack_ > 0) std::fill_n(copy + columns() * pixel_, slack_, uint8_t{0});
   }
 
   template <class T>
   void setSource(Image<const T> image, VemiSize size) {
-    source_ = {reinterpret_cast<const uint8_t*>(image.first), image.step};
     width_ = size.width;
-    end_ = source_.row(ptrdiff_t{size.height} - 1) + size.width * pixel_;
-    const ptrdiff_t wanted = first_ + columns();
-    isInside_ = first_ >= 0 && wanted <= width_;
-    reach_ = wanted * pixel_ + windowSlack;
+    image_ = {reinterpret_cast<const uint8_t*>(image.first), image.step};
+    lines_ = {image_.first + std::max(0, first_) * pixel_, image.step};
+    const ptrdiff_t wanted = first_ + columns(), more = (width_ - wanted) * pixel_ - slack_;
+    const ptrdiff_t last = ptrdiff_t{size.height} - 1, missing = more < 0 ? (image.step - 1 - more) / image.step : 0;
+    direct_ = first_ >= 0 && wanted <= width_ ? last - missing : -1;
   }
 
-  /// Valid until the next one is asked for; windowSlack bytes behind it can be read.
-  const uint8_t* row(ptrdiff_t y) const {
-    const uint8_t* const row = source_.row(y);
-    return isInside_ && end_ - row >= reach_ ? row + first_ * pixel_ : copyOf(row);
-  }
+  /// Valid until the next one is asked for.
+  const uint8_t* row(ptrdiff_t y) const { return y <= direct_ ? lines_.row(y) : copyOf(image_.row(y)); }
 
  private:
   int first_;
   Vemi64s columns_;
-  ptrdiff_t pixel_, width_ = 0;
-  Image<const uint8_t> source_ = {};
-  const uint8_t* end_ = nullptr;
-  bool isInside_ = false;  // all columns are the image's
-  ptrdiff_t reach_ = 0;    // bytes of a row up to the end of what can be read
+  ptrdiff_t pixel_, slack_, width_ = 0;
+  Image<const uint8_t> image_ = {}, lines_ = {};
+  ptrdiff_t direct_ = -1;  // up to this row, lines are where they are, with their slack within the image
   uint8_t* copy_ = nullptr;
 
   HWY_NOINLINE const uint8_t* copyOf(const uint8_t* row) const {

@@ -217,7 +217,45 @@ void expectTall(const char* operation) {
   }
 }
 
+/// Calls of all members with these numbers in place of those that a call draws, in all combinations.
+struct Choice {
+  const char *name, *alike;  // parameters that take the same
+  std::vector<double> numbers;
+};
+
+void expectChosen(const char* operation, int interpolation, const Choice& first, const Choice& second) {
+  unsigned seed = 1;
+  for (const Export* function : membersOf(operation)) {
+    for (const double one : first.numbers) {
+      for (const double other : second.numbers) {
+        for (int n = 0; n < 8; ++n, ++seed) {
+          const auto reference = [&](Call& call) {
+            call.set("interpolation", interpolation);
+            for (const char* const name : {first.name, first.alike}) call.set(name, one);
+            for (const char* const name : {second.name, second.alike}) call.set(name, other);
+            resized(call);
+          };
+          const VemiSize size = {1 + static_cast<int>(seed * 29 % 70), 1 + static_cast<int>(seed * 37 % 30)};
+          if (!expectCall(*function, {size, allRows[seed % 5], Edge::back, seed}, reference)) return;
+        }
+      }
+    }
+  }
+}
+
 }  // namespace
+
+TEST(Resize, AboutAHalf) {
+  const std::vector<double> about = {0.5, 0.4999, 0.5001, 0.51};
+  for (const int interpolation : {vemiInterLinear, vemiInterSuper}) {
+    expectChosen("vemiResize", interpolation, {"xFactor", "xFactor", about}, {"yFactor", "yFactor", about});
+  }
+}
+
+TEST(ResizeShift, ByStepsOfAboutTwo) {
+  expectChosen("vemiResizeShift", vemiInterLinear, {"xFr", "yFr", {2, 1.999, 2.001}},
+               {"xShift", "yShift", {0.5, 0.499, 0.501, 0, 1, 2.5, -0.5}});
+}
 
 TEST(Resize, EveryMember) {
   expectDefinition(membersOf("vemiResize"), resized);
