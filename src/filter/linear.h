@@ -138,11 +138,12 @@ class TapMemory {
 
 // ---- Sums ---------------------------------------------------------------------------------------------------------
 
-/// Each product rounded, and each sum.
+/// Each product rounded, and each sum. An addition waits for the one before it: the more sums at once, the better.
+template <int sums = 8>
 struct OfFloats {
   using Row = float;
   using Weight = float;
-  static constexpr int vectors = 8;  // an addition waits for the one before it
+  static constexpr int vectors = sums;
 
   static auto factor(Weight weight) { return hn::Set(Lanes<float>(), weight); }
   template <class V>
@@ -321,7 +322,12 @@ VemiStatus filterByFloats(Image<const T> src, Image<T> dst, VemiSize roiSize, co
           own.take(call.src.row(y));
         }
       };
-      status = filterBands<OfFloats, alphaOf<L>>(call, table, ring, window, Finish(), enter);
+      const auto bands = [&](auto arithmetic) {
+        return filterBands<decltype(arithmetic), alphaOf<L>>(call, table, ring, window, Finish(), enter);
+      };
+      // A block of the longest vectors is longer than a short row, or makes much of it twice.
+      constexpr int ofShortRows = static_cast<int>(std::min(ptrdiff_t{8}, 64 / laneCount<float>));
+      status = call.width < 512 ? bands(OfFloats<ofShortRows>()) : bands(OfFloats<>());
     }
     return status == vemiOk ? status : filterWithoutMemory<alphaOf<L>, float>(call, kernel, Finish());
   };
