@@ -6,19 +6,6 @@
 namespace vemi::geometry {
 namespace {
 
-struct Range {
-  int32_t least, most;
-};
-
-Range rangeOf(const int32_t* offset, ptrdiff_t count) {
-  Range range = {offset[0], offset[0]};
-  for (ptrdiff_t i = 1; i < count; ++i) {
-    range.least = std::min(range.least, offset[i]);
-    range.most = std::max(range.most, offset[i]);
-  }
-  return range;
-}
-
 template <class Word>
 void fillPlaces(const int32_t* offset, ptrdiff_t count, int32_t base, Word pattern, uint8_t* place) {
   constexpr Word ones = static_cast<Word>(0x01010101);
@@ -30,36 +17,43 @@ void fillPlaces(const int32_t* offset, ptrdiff_t count, int32_t base, Word patte
 
 }  // namespace
 
-int PickedBytes::windowsFor(const int32_t* offset, ptrdiff_t elements, const BytePattern& pattern) {
-  const int blockElements = 16 / pattern.bytes;
-  int windows = 1;
-  for (ptrdiff_t block = 0; block < elements; block += blockElements) {
-    const ptrdiff_t end = std::min<ptrdiff_t>(elements, block + blockElements);
-    for (ptrdiff_t i = block; i < end;) {
-      const ptrdiff_t part = blockElements / windows;
-      const Range range = rangeOf(offset + i, std::min(part, end - i));
-      if (part > 1 && range.most - range.least > 16 - pattern.reach) {  // one element always fits
-        windows *= 2;
-        i = block;
-      } else {
-        i += part;
+OffsetSpans::OffsetSpans(const int32_t* offset, ptrdiff_t elements) {
+  constexpr int size = 16;
+  for (ptrdiff_t block = 0; block < elements; block += size) {
+    const ptrdiff_t count = std::min<ptrdiff_t>(size, elements - block);
+    int32_t least[size], most[size];
+    std::copy_n(offset + block, count, least);
+    std::fill(least + count, least + size, least[count - 1]);
+    std::copy_n(least, size, most);
+    unrolled<4>([&](auto level) {
+      for (int i = 0; i < size >> (level + 1); ++i) {
+        least[i] = std::min(least[2 * i], least[2 * i + 1]);
+        most[i] = std::max(most[2 * i], most[2 * i + 1]);
+        of_[level + 1] = std::max(of_[level + 1], most[i] - least[i]);
       }
-    }
+    });
+  }
+}
+
+int OffsetSpans::windowsFor(const BytePattern& pattern) const {
+  int windows = 1;
+  for (int level = pattern.bytes == 4 ? 2 : pattern.bytes == 2 ? 3 : 4; of_[level] > 16 - pattern.reach; --level) {
+    windows *= 2;  // one element always fits
   }
   return windows;
 }
 
-void PickedBytes::make(const int32_t* offset, ptrdiff_t elements, const BytePattern& pattern) {
-  const int blockElements = 16 / pattern.bytes;
-  windows_ = windowsFor(offset, elements, pattern);
-  const ptrdiff_t part = blockElements / windows_;
+void PickedBytes::make(const int32_t* offset, ptrdiff_t elements, const OffsetSpans& spans,
+                       const BytePattern& pattern) {
+  windows_ = spans.windowsFor(pattern);
+  const ptrdiff_t part = 16 / pattern.bytes / windows_;
   uint32_t word;
   std::memcpy(&word, pattern.at, sizeof word);
   int32_t* base = base_;
   uint8_t* place = place_;
   for (ptrdiff_t i = 0; i < elements; i += part) {
     const ptrdiff_t count = std::min(part, elements - i);
-    *base = rangeOf(offset + i, count).least;
+    *base = *std::min_element(offset + i, offset + i + count);
     if (pattern.bytes == 4) {
       fillPlaces(offset + i, count, *base, word, place);
     } else if (pattern.bytes == 2) {

@@ -52,6 +52,18 @@ inline constexpr OutsideOfPart<windows> outsideOfPart;
 
 }  // namespace detail
 
+/// How far apart the offsets of a row's elements are, within its parts of 1, 2, 4, 8 and 16 elements.
+class OffsetSpans {
+ public:
+  OffsetSpans(const int32_t* offset, ptrdiff_t elements);
+
+  /// Windows of each block: 1, 2, 4, 8 or 16. Offsets are in bytes.
+  int windowsFor(const BytePattern& pattern) const;
+
+ private:
+  int32_t of_[5] = {};  // the most, by the logarithm of a part's elements
+};
+
 /// The table of a row.
 class PickedBytes {
  public:
@@ -68,13 +80,13 @@ class PickedBytes {
 
   PickedBytes(const Scratch& scratch, const Room& room) : base_(scratch[room.base]), place_(scratch[room.place]) {}
 
-  /// Windows of each block: 1, 2, 4, 8 or 16. Offsets in bytes, of each element.
-  static int windowsFor(const int32_t* offset, ptrdiff_t elements, const BytePattern& pattern);
-
   /// What the instructions of a vector with so many windows take, roughly.
   static constexpr int costOf(int windows) { return 7 * windows - 4; }
 
-  void make(const int32_t* offset, ptrdiff_t elements, const BytePattern& pattern);
+  void make(const int32_t* offset, ptrdiff_t elements, const OffsetSpans& spans, const BytePattern& pattern);
+  void make(const int32_t* offset, ptrdiff_t elements, const BytePattern& pattern) {
+    make(offset, elements, OffsetSpans(offset, elements), pattern);
+  }
 
   /// The vector of a row that begins with this block.
   template <int windows>
@@ -85,6 +97,11 @@ class PickedBytes {
     auto all = part<windows, 0>(row, base, place);
     unrolled<windows - 1>([&](auto w) HWY_ATTR { all = hn::Or(all, part<windows, w + 1>(row, base, place)); });
     return all;
+  }
+
+  /// The same where a block is a pixel, as the row has it.
+  HWY_INLINE hn::Vec<Lanes<uint8_t>> pixels(const uint8_t* row, ptrdiff_t block) const {
+    return blocksFrom(Lanes<uint8_t>(), [&](ptrdiff_t b) HWY_ATTR { return row + base_[block + b]; });
   }
 
   /// The same for elements of four neighbouring bytes.

@@ -227,11 +227,12 @@ class FloatAcross {
     const auto pattern = [](int samples) {
       return BytePattern::ofSamples(4, samples, sizeof(T), static_cast<int>(pixelBytes<T, L>));
     };
+    const OffsetSpans spans(offset, elements_);
     const auto cost = [&](int samples) {
-      return wordsOf(samples) * PickedBytes::costOf(PickedBytes::windowsFor(offset, elements_, pattern(samples)));
+      return wordsOf(samples) * PickedBytes::costOf(spans.windowsFor(pattern(samples)));
     };
     inWords_ = most > 1 && cost(most) <= cost(1);
-    picks_.make(offset, elements_, pattern(inWords_ ? most : 1));
+    picks_.make(offset, elements_, spans, pattern(inWords_ ? most : 1));
   }
 
   void operator()(const uint8_t* line, float* out) const {
@@ -308,7 +309,9 @@ class FloatAcross {
     } else {
       unrolled<wordsOf(perWord)>([&](auto group) HWY_ATTR {
         const uint8_t* const first = line + group * groupBytes;
-        const auto words = areNeighbours ? picks.words<windows>(first, i / 4) : picks.vector<windows>(first, i / 4);
+        const auto words = pixelBytes<T, L> == 16 ? picks.pixels(first, i / 4)
+                           : areNeighbours        ? picks.words<windows>(first, i / 4)
+                                                  : picks.vector<windows>(first, i / 4);
         unrolled<std::min(perWord, F::taps - group * perWord)>(
             [&](auto k) HWY_ATTR { p.v[group * perWord + k] = sample<k, perWord>(d, words); });
       });
@@ -478,9 +481,12 @@ class ByteAcross {
     });
     std::fill_n(weight_ + elements_, laneCount<uint8_t>, int16_t{0});
     const auto pattern = [](int samples) { return BytePattern::ofSamples(2, samples, 1, L::elements); };
-    const auto windows = [&](int samples) { return PickedBytes::windowsFor(offset, elements_, pattern(samples)); };
-    samples_ = inTurn ? Samples::inTurn : windows(2) == 1 || windows(1) > 1 ? Samples::inPairs : Samples::apart;
-    if (!inTurn) picks_.make(offset, elements_, pattern(samples_ == Samples::apart ? 1 : 2));
+    samples_ = Samples::inTurn;
+    if (inTurn) return;
+    const OffsetSpans spans(offset, elements_);
+    const auto windows = [&](int samples) { return spans.windowsFor(pattern(samples)); };
+    samples_ = windows(2) == 1 || windows(1) > 1 ? Samples::inPairs : Samples::apart;
+    picks_.make(offset, elements_, spans, pattern(samples_ == Samples::apart ? 1 : 2));
   }
 
   void operator()(const uint8_t* line, int16_t* out) const {
@@ -880,7 +886,7 @@ class LineOfSums {
   }
 };
 
-/// Sums of a row's weighted elements, so many of each; a weight of zero stands where there is none. Sums of integers
+/// Means of a row's weighted elements, so many of each; a weight of zero stands where there is none. Sums of integers
 /// stay as they are when nothing is added; others may meet what is no number there.
 template <class T, class L>
 class AreaAcross {
@@ -916,12 +922,13 @@ class AreaAcross {
     picks_.make(offset, elements_, BytePattern::ofSamples(4, 1, 4, 0));
   }
 
-  void operator()(const float* line, float* out) const {
+  /// Means: sums times `scale`.
+  void operator()(const float* line, float scale, T* dst) const {
     const auto* const bytes = reinterpret_cast<const uint8_t*>(line);
     picks_.template withWindows<4>([&](auto windows) {
-      if (taps_ == 2) return run<windows>(std::integral_constant<ptrdiff_t, 2>(), bytes, out);
-      if (taps_ == 3) return run<windows>(std::integral_constant<ptrdiff_t, 3>(), bytes, out);
-      run<windows>(ptrdiff_t{taps_}, bytes, out);
+      if (taps_ == 2) return run<windows>(std::integral_constant<ptrdiff_t, 2>(), bytes, scale, dst);
+      if (taps_ == 3) return run<windows>(std::integral_constant<ptrdiff_t, 3>(), bytes, scale, dst);
+      run<windows>(ptrdiff_t{taps_}, bytes, scale, dst);
     });
   }
 
@@ -933,37 +940,26 @@ class AreaAcross {
 
   /// Taps of any number, or of one that is known.
   template <int windows, class Taps>
-  HWY_NOINLINE void run(Taps taps, const uint8_t* line, float* out) const {
-    const Lanes<float> d;
-    constexpr ptrdiff_t N = laneCount<float>;
+  HWY_NOINLINE void run(Taps taps, const uint8_t* line, float scale, T* dst) const {
+    const Lanes<float> df;
     const PickedBytes picks = picks_;
     const float* const weights = weight_;
-    const ptrdiff_t elements = elements_, pitch = pitch_;
-    for (ptrdiff_t i = 0; i < elements; i += N) {
-      auto sum = hn::Zero(d);
+    const ptrdiff_t pitch = pitch_;
+    const auto sumAt = [&](ptrdiff_t i) HWY_ATTR {
+      auto sum = hn::Zero(df);
       for (ptrdiff_t k = 0; k < taps; ++k) {
-        const auto sample = hn::BitCast(d, picks.words<windows>(line + k * pixelBytes<float, L>, i / 4));
-        const auto weight = hn::LoadU(d, weights + k * pitch + i);
-        auto part = hn::Mul(weight, sample);
-        if constexpr (sizeof(T) == 4) part = hn::IfThenElseZero(hn::Ne(weight, hn::Zero(d)), part);
+        const uint8_t* const from = line + k * pixelBytes<float, L>;
+        const auto words = L::elements == 4 ? picks.pixels(from, i / 4) : picks.template words<windows>(from, i / 4);
+        const auto weight = hn::LoadU(df, weights + k * pitch + i);
+        auto part = hn::Mul(weight, hn::BitCast(df, words));
+        if constexpr (sizeof(T) == 4) part = hn::IfThenElseZero(hn::Ne(weight, hn::Zero(df)), part);
         sum = hn::Add(sum, part);
       }
-      hn::StoreU(sum, d, out + i);
-    }
-  }
-};
-
-/// Sums to means.
-template <class T>
-struct Scaled {
-  const float* row;
-  float scale;
-
-  template <class D>
-  HWY_INLINE auto operator()(D d, ptrdiff_t i) const {
-    const Lanes<float> df;
-    return elementsOf<T>(
-        d, [&](ptrdiff_t place) HWY_ATTR { return hn::Mul(hn::LoadU(df, row + i + place), hn::Set(df, scale)); });
+      return sum;
+    };
+    storeVectors<L>(elements_, dst, [&](auto d, ptrdiff_t i) HWY_ATTR {
+      return elementsOf<T>(d, [&](ptrdiff_t place) HWY_ATTR { return hn::Mul(sumAt(i + place), hn::Set(df, scale)); });
+    });
   }
 };
 
@@ -1180,14 +1176,13 @@ VemiStatus resizeByAreas(const T* const* src, int srcStep, T* const* dst, int ds
   Pieces pieces;
   const typename AreaAcross<T, L>::Room room(pieces, elements, area.taps);
   const auto sumsOfRows = pieces.add<float>(lineElements + Vemi64s{area.taps} * L::elements + laneCount<float>);
-  const auto sumsOfAreas = pieces.add<float>(withVectorEnd(elements));
   const Scratch scratch(pieces);
   if (!range.fits(pixelBytes<float, L>) || scratch.failed()) return vemiErrMemAlloc;
   const AreaAcross<T, L> across(scratch, room, plan.x, range.first, area.taps);
   const auto length = static_cast<ptrdiff_t>(lineElements);
   float* const line = scratch[sumsOfRows];
   std::fill_n(line + length, area.taps * L::elements + laneCount<float>, 0.0f);
-  const Scaled<T> means = {scratch[sumsOfAreas], static_cast<float>(plan.xFactor * plan.yFactor)};
+  const auto scale = static_cast<float>(plan.xFactor * plan.yFactor);
   for (int n = 0; n < count; ++n) {
     const Image<T> destination = {dst[n], dstStep};
     const Image<const T> source = {src[n] + ptrdiff_t{range.first} * L::elements, srcStep};
@@ -1197,8 +1192,7 @@ VemiStatus resizeByAreas(const T* const* src, int srcStep, T* const* dst, int ds
       forCovered(position, plan.y.step, plan.y.image,
                  [&](int row, float weight) { sums.add(source.row(row), weight); });
       sums.finish();
-      across(line, scratch[sumsOfAreas]);
-      mapPlaces<alphaOf<L>>(static_cast<ptrdiff_t>(elements), eachPlace<1>(means), destination.row(y));
+      across(line, scale, destination.row(y));
     }
   }
   return vemiOk;
