@@ -72,20 +72,21 @@ struct SquareScaledFarDown {
 /// result is the highest value.
 template <class T>
 struct SquareScaledUp {
-  int shift;
-  uint16_t limit;
+  uint16_t factor, limit;
 
-  explicit SquareScaledUp(int count)
-      : shift(std::min(count, 15)), limit(static_cast<uint16_t>(std::sqrt(std::numeric_limits<T>::max() >> count))) {}
+  explicit SquareScaledUp(int shift)
+      : factor(static_cast<uint16_t>(1 << std::min(shift, 15))),
+        limit(static_cast<uint16_t>(std::sqrt(std::numeric_limits<T>::max() >> shift))) {}
 
   template <class D, class V>
   HWY_INLINE V operator()(D d, V v) const {
     const hn::RebindToUnsigned<D> du;
     const auto x = magnitude(d, v);
     const auto limited = hn::Min(x, hn::Set(du, limit));
-    const auto square = hn::ShiftLeftSame(hn::Mul(limited, limited), shift);
-    const auto highest = hn::Set(du, std::numeric_limits<T>::max());
-    return hn::BitCast(d, hn::IfThenElse(hn::Eq(x, limited), square, highest));
+    const auto square = hn::Mul(limited, hn::Mul(limited, hn::Set(du, factor)));
+    const auto inRange = hn::VecFromMask(du, hn::Eq(x, limited));
+    const auto highest = hn::Set(du, std::numeric_limits<T>::max());  // all of its bits are set
+    return hn::BitCast(d, hn::Or(square, hn::AndNot(inRange, highest)));
   }
 };
 
