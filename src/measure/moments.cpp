@@ -3,21 +3,24 @@
 //
 // A row first gives its four sums of x^m f, which then join those of the other rows under y^n. Bytes are summed as
 // integers, so nothing is rounded before a sum leaves 64 bits (64s) or the 53 bits of a double (64f). Floats are summed
-// in double precision in eight fixed strands of columns. The accurate way is the plain one, pixel by pixel. Bytes of
-// one channel whose sums are exact in any order go by tiles of 32x64 pixels.
+// in double precision in eight fixed strands of columns. The accurate way is the plain one, pixel by pixel, but where
+// sums are exact in any order; bytes of one channel go there by tiles of 32x64 pixels.
 //
 // Checks: null, tag, step, size, stride.
 
 #include <algorithm>
+#include <cmath>
 #include <cstring>
 #include <type_traits>
 #include <utility>
 
+#include "core/any_element.h"
 #include "core/checks.h"
 #include "core/image.h"
 #include "core/lane_width.h"
 #include "core/lanes.h"
 #include "core/numbers.h"
+#include "core/processor.h"
 #include "core/row_pieces.h"
 #include "measure/exports.h"
 #include "measure/moment_state.h"
@@ -293,13 +296,43 @@ void sumByTiles(Image<const Vemi8u> src, VemiSize roiSize, Table<uint64_t>& tabl
   }
 }
 
-/// Whether the order of additions has no bearing on sums of bytes: integers wrap, doubles must hold them all. The sums
-/// of order 3 are the largest, and none is above a quarter of 255 width height (the longer side)^3.
-template <class A>
-bool anyOrder(VemiSize roiSize) {
-  if (std::is_integral_v<A>) return true;
+// ---- Whether the order of additions matters
+// --------------------------------------------------------------------------
+
+/// No sum over values of at most 1 is above this: those of order 3 are the largest, the longest side's above all.
+double largestSum(VemiSize roiSize) {
   const double side = std::max(roiSize.width, roiSize.height);
-  return 255.0 / 4 * roiSize.width * roiSize.height * side * side * side < 9007199254740992.0;
+  return 1.0 / 4 * roiSize.width * roiSize.height * side * side * side;
+}
+
+/// Any terms up to here add up in doubles without rounding, if they are integers.
+constexpr double exactEnd = 9007199254740992.0;
+
+struct IsNoIntegerUpTo {
+  float limit;
+
+  template <class D, class V>
+  HWY_INLINE auto operator()(D d, V v) const {
+    return hn::Not(hn::And(hn::Le(hn::Abs(v), hn::Set(d, limit)), hn::Eq(hn::Floor(v), v)));
+  }
+};
+
+/// Of bytes: sums of integers wrap, and doubles must hold them all.
+template <class L, class A>
+bool anyOrder(Image<const Vemi8u> /*src*/, VemiSize roiSize) {
+  return std::is_integral_v<A> || 255 * largestSum(roiSize) < exactEnd;
+}
+
+/// Of floats: of integers that are small enough, in the mode where a difference of zero has no sign.
+template <class L, class A>
+bool anyOrder(Image<const Vemi32f> src, VemiSize roiSize) {
+  const double limit = std::floor(exactEnd / 2 / largestSum(roiSize));  // halved for what a float rounds
+  if (limit < 1 || !FloatControl::current().roundsToNearest()) return false;
+  const IsNoIntegerUpTo unfit = {static_cast<float>(limit)};
+  for (ptrdiff_t y = 0; y < roiSize.height; ++y) {
+    if (anyElement(ptrdiff_t{roiSize.width} * L::elements, unfit, src.row(y))) return false;
+  }
+  return true;
 }
 
 // ---- Pixel by pixel -------------------------------------------------------------------------------------------------
@@ -358,10 +391,11 @@ void sumByPixels(Image<const T> src, VemiSize roiSize, Table<double>* table) {
   }
 }
 
+/// Byte rows shorter than a tile, and images of several channels, go by rows.
 template <class L, class A, class T>
 void sumFast(Image<const T> src, VemiSize roiSize, Table<A>* table) {
   if constexpr (std::is_same_v<T, Vemi8u> && L::elements == 1) {
-    if (roiSize.width >= tileWidth && anyOrder<A>(roiSize)) {
+    if (roiSize.width >= tileWidth && anyOrder<L, A>(src, roiSize)) {
       Table<uint64_t> sums = {};
       sumByTiles(src, roiSize, sums);
       std::copy_n(sums, momentEntries, table[0]);
@@ -381,12 +415,8 @@ VemiStatus moments(Image<const T> src, VemiSize roiSize, VemiMomentState* pState
   if (rowBytes > src.step) return vemiErrStride;
   using A = Arithmetic<Sum>;
   Table<A> table[3] = {};
-  if constexpr (std::is_same_v<Sum, Vemi64f>) {
-    if (pState->hint == vemiHintAccurate) {
-      sumByPixels<L>(src, roiSize, table);
-    } else {
-      sumFast<L>(src, roiSize, table);
-    }
+  if (pState->hint == vemiHintAccurate && std::is_same_v<Sum, Vemi64f> && !anyOrder<L, A>(src, roiSize)) {
+    if constexpr (std::is_same_v<Sum, Vemi64f>) sumByPixels<L>(src, roiSize, table);
   } else {
     sumFast<L>(src, roiSize, table);
   }

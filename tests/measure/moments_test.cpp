@@ -142,6 +142,31 @@ TEST(Moments, OfWhiteImagesFillTheirLanes) {
   }
 }
 
+/// Floats that are integers, as large as sums in any order can be, or just beyond; and one among them that is none. In
+/// the accurate way their sums are those of the pixels in their order.
+TEST(Moments, OfIntegersAsFloatsPixelByPixel) {
+  constexpr int width = 67, height = 41;
+  std::vector<float> pixels(ptrdiff_t{1} * width * height);
+  Random random(6);
+  for (const float scale : {1.0f, 300000.0f, 0x1p28f, 0x1p40f, 0x1p-30f}) {
+    for (const float other : {0.0f, 0.3f, -0x1p60f, std::numeric_limits<float>::infinity()}) {
+      for (float& value : pixels) value = scale * static_cast<float>(static_cast<int>(random.below(255)) - 60);
+      pixels[pixels.size() - 3] += other;
+      double sum[16] = {};
+      for (int i = 0; i < width * height; ++i) {
+        const double x = i % width, y = i / width, f = static_cast<double>(pixels[static_cast<size_t>(i)]);
+        const double ofColumns[4] = {1, x, x * x, x * x * x}, ofRows[4] = {f, y * f, y * y * f, y * y * y * f};
+        for (int n = 0; n < 4; ++n) {
+          for (int m = 0; m + n < 4; ++m) sum[m + 4 * n] += ofColumns[m] * ofRows[n];
+        }
+      }
+      VemiMomentState state = stateOf(33, vemiHintAccurate);
+      ASSERT_EQ(vemiMoments64f_32f_C1R(pixels.data(), width * 4, {width, height}, &state), vemiOk);
+      EXPECT_EQ(std::memcmp(state.sum.f[0], sum, sizeof sum), 0) << scale << " " << other;
+    }
+  }
+}
+
 /// Sums of 64f that leave 53 bits are rounded row by row.
 TEST(Moments, OfLargeBrightImagesAreRoundedByRows) {
   constexpr int width = 890, height = 700;
