@@ -13,7 +13,7 @@ using ColumnGroups = Groups<AcrossLines::width>;
 
 /// The transforms of `points` numbers that all lines end with: store(place, frequency, k, numbers).
 template <template <int> class Short, int points, class Store>
-HWY_INLINE void endColumns(ColumnGroups data, int order, const Store& store) {
+HWY_INLINE void endColumnsBy(ColumnGroups data, int order, const Store& store) {
   constexpr int bits = std::bit_width(unsigned{points}) - 1;
   const ptrdiff_t count = (ptrdiff_t{1} << order) / points;
   for (ptrdiff_t first = 0; first < count; ++first) {
@@ -27,8 +27,24 @@ HWY_INLINE void endColumns(ColumnGroups data, int order, const Store& store) {
   }
 }
 
+/// Those by Short<2> to Short<16> that are left of 2^order numbers of each line.
+template <template <int> class Short, class Store>
+HWY_INLINE void endColumns(ColumnGroups data, int order, const Store& store) {
+  if (order == 0) {
+    unrolled<ColumnGroups::vectors>([&](auto k) HWY_ATTR { store(0, 0, k, data.load(0, k)); });
+  } else if (order == 1) {
+    endColumnsBy<Short, 2>(data, order, store);
+  } else if (order == 2) {
+    endColumnsBy<Short, 4>(data, order, store);
+  } else if (order % 2 != 0) {
+    endColumnsBy<Short, 8>(data, order, store);
+  } else {
+    endColumnsBy<Short, 16>(data, order, store);
+  }
+}
+
 /// 2^order numbers of each line: load(group, k) gives them, and store(place, frequency, k, numbers) takes the results;
-/// it may write to group `place` of `data`. All lines end with transforms by Short<2> to Short<16>.
+/// it may write to group `place` of `data`.
 template <template <int> class Short = ShortTransform, class Load, class Store>
 HWY_INLINE void transformColumns(ColumnGroups data, const Roots& roots, int order, const Load& load,
                                  const Store& store) {
@@ -40,17 +56,16 @@ HWY_INLINE void transformColumns(ColumnGroups data, const Roots& roots, int orde
     levelByFour<AcrossLines>(data, roots, order, load);
     for (ptrdiff_t i = 0; i < 4; ++i) levelsByFour<AcrossLines>(data.from(i << (order - 2)), roots, order - 2, 4);
   }
-  if (order == 0) {
-    unrolled<ColumnGroups::vectors>([&](auto k) HWY_ATTR { store(0, 0, k, data.load(0, k)); });
-  } else if (order == 1) {
-    endColumns<Short, 2>(data, order, store);
-  } else if (order == 2) {
-    endColumns<Short, 4>(data, order, store);
-  } else if (order % 2 != 0) {
-    endColumns<Short, 8>(data, order, store);
-  } else {
-    endColumns<Short, 16>(data, order, store);
-  }
+  endColumns<Short>(data, order, store);
+}
+
+/// The same in place.
+template <template <int> class Short = ShortTransform>
+HWY_INLINE void transformColumns(ColumnGroups data, const Roots& roots, int order) {
+  levelsByFour<AcrossLines>(data, roots, order, 4);
+  endColumns<Short>(data, order, [&](ptrdiff_t place, ptrdiff_t, auto k, ColumnGroups::Numbers z) HWY_ATTR {
+    data.store(place, k, z);
+  });
 }
 
 }  // namespace vemi::signal

@@ -42,19 +42,21 @@ HWY_NOINLINE HWY_FLATTEN void shortRows(Floats image, ptrdiff_t height, const Ro
   alignas(laneAlignment) float memory[ColumnGroups{}.stride << 4];
   const ColumnGroups data{memory};
   const ptrdiff_t floats = ptrdiff_t{2} << order;
+  // Of the inverse, real and imaginary parts are changed over.
+  const auto part = [&](ptrdiff_t n, ptrdiff_t lane, bool isImaginary) {
+    return data.at(n, lane) + (isImaginary == isForward ? N : 0);
+  };
   for (ptrdiff_t y = 0; y < height; y += 8) {
     const EightRows<const float> from(y, height, [&](ptrdiff_t i) { return image.src.row(i); });
     const EightRows<float> to(y, height, [&](ptrdiff_t i) { return image.dst.row(i); });
-    from.load(floats, [&](ptrdiff_t e, auto first, auto v)
-                          HWY_ATTR { hn::StoreU(v, d8, data.at(e / 2, first) + (e % 2 != 0) * N); });
-    signal::transformColumns<signal::PreciseTransform>(
-        data, roots, order, [&](ptrdiff_t x, auto k) HWY_ATTR { return turnedTo<isForward>(data.load(x, k)); },
-        [&](ptrdiff_t place, ptrdiff_t, auto k, auto z) HWY_ATTR { data.store(place, k, turnedTo<isForward>(z)); });
+    from.load(floats,
+              [&](ptrdiff_t e, auto first, auto v) HWY_ATTR { hn::StoreU(v, d8, part(e / 2, first, e % 2 != 0)); });
+    signal::transformColumns<signal::PreciseTransform>(data, roots, order);
     to.store<Alpha::none, false>(floats, [&](auto dOf, ptrdiff_t e, auto first) HWY_ATTR {
       const bool inEights = order >= 3;
       const ptrdiff_t x = inEights ? e / 16 * 8 + e % 8 : e / 2;
       const bool isImaginary = (inEights ? e / 8 : e) % 2 != 0;
-      return hn::LoadU(dOf, data.at(placeOf(x, order), first) + (isImaginary ? N : 0));
+      return hn::LoadU(dOf, part(placeOf(x, order), first, isImaginary));
     });
   }
 }

@@ -129,9 +129,7 @@ HWY_NOINLINE HWY_FLATTEN void shortLines(Image<float> dst, const FFTFloats& spec
                 [&](ptrdiff_t e, auto first, auto v) HWY_ATTR { hn::StoreU(v, d, all.at(e, first) + columnLanes); });
     for (int channel = 0; channel < L::channels; ++channel) {
       const ColumnGroups own = lines.ofChannel(channel);
-      signal::transformColumns<signal::PreciseTransform>(
-          own, spec.realSpecX->roots, order, [&](ptrdiff_t x, auto k) HWY_ATTR { return own.load(x, k); },
-          [&](ptrdiff_t place, ptrdiff_t, auto k, ColumnGroups::Numbers z) HWY_ATTR { own.store(place, k, z); });
+      signal::transformColumns<signal::PreciseTransform>(own, spec.realSpecX->roots, order);
       for (ptrdiff_t i = 0; i < 8; ++i) {
         for (int side = 0; side < 2; ++side) {
           const float* const at = own.at(side, i);  // W / 2 has its bits reversed in 1

@@ -127,6 +127,7 @@ HWY_NOINLINE HWY_FLATTEN void shortLines(Image<const float> src, Image<float> ds
   const ColumnGroups::D d;
   const int order = spec.orderX;
   const ptrdiff_t width = spec.width(), height = spec.height(), floats = width * L::elements;
+  // Imaginary parts come first.
   ShortLines<L> lines;
   const ColumnGroups all = lines.all();
   for (ptrdiff_t v0 = 0; v0 < height / 2; v0 += 8) {
@@ -136,7 +137,7 @@ HWY_NOINLINE HWY_FLATTEN void shortLines(Image<const float> src, Image<float> ds
         if (pixel == 0 || pixel == width - 1) return;
         const bool isImaginary = pixel % 2 == 0;
         float* const at = all.at((isBelow ? width - u : u) * L::elements + e % L::elements, first);
-        hn::StoreU(isBelow && isImaginary ? hn::Neg(v) : v, d, at + (isImaginary ? columnLanes : 0));
+        hn::StoreU(isBelow && isImaginary ? hn::Neg(v) : v, d, at + (isImaginary ? 0 : columnLanes));
       };
     };
     topRows(src, v0, height).load(floats, place(false));
@@ -145,8 +146,8 @@ HWY_NOINLINE HWY_FLATTEN void shortLines(Image<const float> src, Image<float> ds
       const ColumnGroups own = lines.ofChannel(channel);
       const auto setNumber = [&](ptrdiff_t u, ptrdiff_t lane, ComplexNumber z) {
         float* const at = own.at(u, lane);
-        at[0] = z.re;
-        at[columnLanes] = z.im;
+        at[columnLanes] = z.re;
+        at[0] = z.im;
       };
       for (ptrdiff_t i = 0; i < 8; ++i) {
         const ptrdiff_t v = std::min(v0 + i, height / 2 - 1);
@@ -158,19 +159,17 @@ HWY_NOINLINE HWY_FLATTEN void shortLines(Image<const float> src, Image<float> ds
           setNumber(side * (width / 2), i, edges.ofLine(side, channel, v));
         }
       }
-      signal::transformColumns<signal::PreciseTransform>(
-          own, spec.realSpecX->roots, order, [&](ptrdiff_t u, auto k) HWY_ATTR { return swapped(own.load(u, k)); },
-          [&](ptrdiff_t at, ptrdiff_t, auto k, ColumnGroups::Numbers z) HWY_ATTR { own.store(at, k, swapped(z)); });
+      signal::transformColumns<signal::PreciseTransform>(own, spec.realSpecX->roots, order);
     }
     const auto element = [&](ptrdiff_t e, auto first) {
       return all.at(placeOf(e / L::elements, order) * L::elements + e % L::elements, first);
     };
     constexpr Alpha alpha = alphaOf<L>;
     topRows(dst, v0, height).template store<alpha, false>(floats, [&](auto dOf, ptrdiff_t e, auto first) HWY_ATTR {
-      return hn::LoadU(dOf, element(e, first));
+      return hn::LoadU(dOf, element(e, first) + columnLanes);
     });
     bottomRows(dst, v0, height).template store<alpha, false>(floats, [&](auto dOf, ptrdiff_t e, auto first) HWY_ATTR {
-      return hn::LoadU(dOf, element(e, first) + columnLanes);
+      return hn::LoadU(dOf, element(e, first));
     });
   }
 }
