@@ -204,7 +204,21 @@ HWY_NOINLINE HWY_FLATTEN void levelOf(ColumnGroups data, const From& from, ptrdi
   }
 }
 
-/// The same of any prime, up to the longest of direct sums.
+/// The last level, in place: each block is one transform, whose groups lie at fixed distances, without factors.
+template <int radix>
+HWY_NOINLINE HWY_FLATTEN void lastLevelOf(ColumnGroups data, ptrdiff_t blocks) {
+  for (ptrdiff_t block = 0; block < blocks; ++block) {
+    const ColumnGroups own{data.first + block * radix * ColumnGroups{}.stride};
+    unrolled<ColumnGroups::vectors>([&](auto k) VEMI_INLINED {
+      ColumnGroups::Numbers z[radix];
+      unrolled<radix>([&](auto i) HWY_ATTR { z[i] = own.load(i, k); });
+      ShortTransform<radix>::run(z);
+      unrolled<radix>([&](auto i) HWY_ATTR { own.store(i, k, z[i]); });
+    });
+  }
+}
+
+/// A level of any prime, up to the longest of direct sums.
 inline constexpr int longestPrime = 179;
 
 template <class From>

@@ -8,6 +8,7 @@
 #include <climits>
 #include <iterator>
 #include <numeric>
+#include <type_traits>
 
 #include "signal/dft_levels.h"
 
@@ -340,32 +341,37 @@ template <class From>
 void DFTLines::runLevel(int index, ColumnGroups data, const From& from, ptrdiff_t blocks) const {
   const Level& level = level_[index];
   const ptrdiff_t count = level.length / level.radix;
-  const auto run = [&](auto levelOfRadix) { levelOfRadix(data, from, count, blocks, level.factors); };
+  const auto run = [&](auto radix) {
+    if constexpr (std::is_same_v<From, ColumnGroups>) {
+      if (count == 1) return lastLevelOf<radix>(data, blocks);
+    }
+    levelOf<radix>(data, from, count, blocks, level.factors);
+  };
   switch (level.radix) {
     case 2:
-      return run(levelOf<2, From>);
+      return run(std::integral_constant<int, 2>());
     case 3:
-      return run(levelOf<3, From>);
+      return run(std::integral_constant<int, 3>());
     case 4:
-      return run(levelOf<4, From>);
+      return run(std::integral_constant<int, 4>());
     case 5:
-      return run(levelOf<5, From>);
+      return run(std::integral_constant<int, 5>());
     case 6:
-      return run(levelOf<6, From>);
+      return run(std::integral_constant<int, 6>());
     case 7:
-      return run(levelOf<7, From>);
+      return run(std::integral_constant<int, 7>());
     case 8:
-      return run(levelOf<8, From>);
+      return run(std::integral_constant<int, 8>());
     case 9:
-      return run(levelOf<9, From>);
+      return run(std::integral_constant<int, 9>());
     case 10:
-      return run(levelOf<10, From>);
+      return run(std::integral_constant<int, 10>());
     case 12:
-      return run(levelOf<12, From>);
+      return run(std::integral_constant<int, 12>());
     case 15:
-      return run(levelOf<15, From>);
+      return run(std::integral_constant<int, 15>());
     case 16:
-      return run(levelOf<16, From>);
+      return run(std::integral_constant<int, 16>());
     default:
       return levelOfPrime(data, from, level.radix, count, blocks, level.factors, level.waves);
   }
