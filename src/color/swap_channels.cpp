@@ -91,6 +91,47 @@ class SwappedRow {
   alignas(16) uint8_t index_[16], lastIndex_[16], restIndex_[16];
 };
 
+/// Three channels of 32 bits: a block is three vectors, and what each of them becomes lies in two at most, which begin
+/// up to a pixel's length apart from it.
+template <>
+class SwappedRow<4> {
+  using D = Lanes<int32_t>;
+  static constexpr int N = static_cast<int>(laneCount<int32_t>), reach = 2;
+  static constexpr int early[3] = {0, N - reach, 2 * N - reach}, late[3] = {reach, N + reach, 2 * N};
+
+ public:
+  explicit SwappedRow(const int order[3]) {
+    for (int i = 0; i < 3 * N; ++i) {
+      const int vector = i / N, source = i - i % 3 + order[i % 3];
+      const bool isLate = source >= early[vector] + N;
+      index_[i] = source - (isLate ? late : early)[vector];
+      isLate_[i] = isLate ? -1 : 0;
+    }
+  }
+
+  void operator()(ptrdiff_t width, const uint8_t* src, uint8_t* dst) const {
+    const D d;
+    const auto index = [&](int k) HWY_ATTR { return hn::SetTableIndices(d, index_ + k * N); };
+    const auto isLate = [&](int k) HWY_ATTR { return hn::MaskFromVec(hn::Load(d, isLate_ + k * N)); };
+    const decltype(index(0)) indices[3] = {index(0), index(1), index(2)};
+    const decltype(isLate(0)) areLate[3] = {isLate(0), isLate(1), isLate(2)};
+    const auto kernel = [&](const uint8_t* in, uint8_t* out) HWY_ATTR {
+      Vectors<hn::Vec<D>, 3> block;
+      unrolled<3>([&](auto k) HWY_ATTR {
+        const auto swapped = [&](int first) HWY_ATTR {
+          return hn::TableLookupLanes(hn::LoadU(d, reinterpret_cast<const int32_t*>(in) + first), indices[k]);
+        };
+        block.v[k] = hn::IfThenElse(areLate[k], swapped(late[k]), swapped(early[k]));
+      });
+      unrolled<3>([&](auto k) HWY_ATTR { hn::StoreU(block.v[k], d, reinterpret_cast<int32_t*>(out) + k * N); });
+    };
+    forBlocks<N>(width, kernel, Strand<const uint8_t, 12>{src}, Strand<uint8_t, 12>{dst});
+  }
+
+ private:
+  alignas(laneAlignment) int32_t index_[3 * N], isLate_[3 * N];
+};
+
 VemiStatus checkOrder(const int order[3]) {
   const bool good = std::all_of(order, order + 3, [](int channel) { return channel >= 0 && channel <= 2; });
   return good ? vemiOk : vemiErrChannelOrder;
