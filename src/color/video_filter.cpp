@@ -2,11 +2,11 @@
 // two others, and the members that take the flicker of two fields out of a 4:2:0 frame, luma by (1, 2, 1) / 4.
 // Checks: null, size; no steps.
 
-#include "color/shared_chroma.h"
 #include "color/video_exports.h"
 #include "color/video_frames.h"
+#include "core/inlined.h"
 #include "core/lane_width.h"
-#include "core/rows.h"
+#include "core/processor_bytes.h"
 #include "vemi/color.h"
 
 namespace vemi::color {
@@ -14,32 +14,40 @@ namespace {
 
 // ---- Chroma rows between two others -------------------------------------------------------------------------------
 
-/// (9 b + 9 c - a - d + 8) >> 4 of rows a to d in 16-bit lanes, which is not limited to bytes yet.
-template <class V>
-HWY_INLINE auto betweenRows(V a, V b, V c, V d) {
-  const hn::DFromV<V> dWide;
-  const hn::RebindToSigned<decltype(dWide)> dSigned;
-  const auto near = hn::Add(hn::Mul(hn::Add(b, c), hn::Set(dWide, 9)), hn::Set(dWide, 8));
-  return hn::ShiftRight<4>(hn::BitCast(dSigned, hn::Sub(near, hn::Add(a, d))));
+/// (9 b + 9 c - a - d + 8) >> 4 of rows a to d.
+template <class D, class V>
+HWY_INLINE V betweenRows(D d, V a, V b, V c, V e) {
+  const hn::Repartition<int16_t, D> dWide;
+  const auto half = [&](V outer, V inner) VEMI_INLINED {
+    const auto sum = hn::Add(pairsOfByteProducts<9, 9>(dWide, inner), pairsOfByteProducts<-1, -1>(dWide, outer));
+    return hn::MulFixedPoint15(sum, hn::Set(dWide, 1 << 11));
+  };
+  return packHalves(d, half(hn::InterleaveLower(d, a, e), hn::InterleaveLower(d, b, c)),
+                    half(hn::InterleaveUpper(d, a, e), hn::InterleaveUpper(d, b, c)));
 }
 
+/// The second row as well, which stands ahead of the gap.
 struct BetweenRows {
   template <class D, class V>
-  HWY_INLINE V operator()(D d, V v0, V v1, V v2, V v3) const {
-    const auto a = evenAndOdd(v0), b = evenAndOdd(v1), c = evenAndOdd(v2), e = evenAndOdd(v3);
-    return bytesOfPixels(d, betweenRows(a.lower, b.lower, c.lower, e.lower),
-                         betweenRows(a.upper, b.upper, c.upper, e.upper));
+  HWY_INLINE auto operator()(D d, V v0, V v1, V v2, V v3) const {
+    return std::tuple(v1, betweenRows(d, v0, v1, v2, v3));
   }
 };
 
 /// Of bytes Cb, Cr, Cb, Cr: each byte counts as a pixel, of which two share a sample.
 struct BetweenRowsOfPairs {
   template <class D, class V>
-  HWY_INLINE auto operator()(D, V v0, V v1, V v2, V v3) const {
+  HWY_INLINE auto operator()(D d, V v0, V v1, V v2, V v3) const {
     const hn::Half<D> dHalf;
-    const auto a = evenAndOdd(v0), b = evenAndOdd(v1), c = evenAndOdd(v2), e = evenAndOdd(v3);
-    return std::tuple(hn::DemoteTo(dHalf, betweenRows(a.lower, b.lower, c.lower, e.lower)),
-                      hn::DemoteTo(dHalf, betweenRows(a.upper, b.upper, c.upper, e.upper)));
+    const auto row = evenAndOdd(v1), between = evenAndOdd(betweenRows(d, v0, v1, v2, v3));
+    return std::tuple(hn::DemoteTo(dHalf, signedLanes(row.lower)), hn::DemoteTo(dHalf, signedLanes(row.upper)),
+                      hn::DemoteTo(dHalf, signedLanes(between.lower)), hn::DemoteTo(dHalf, signedLanes(between.upper)));
+  }
+
+ private:
+  template <class V>
+  HWY_INLINE static auto signedLanes(V v) {
+    return hn::BitCast(hn::RebindToSigned<hn::DFromV<V>>(), v);
   }
 };
 
@@ -57,8 +65,7 @@ void interpolateChroma(SteppedPlanes<const Vemi8u, 3> from, const PlanarVideo<2,
   const auto interpolate = [&](Image<const Vemi8u> plane, Image<Vemi8u> to) {
     const ptrdiff_t width = size.width / 2, rows = size.height / 2;
     for (ptrdiff_t k = 0; k < rows; ++k) {
-      rowCopyBytes(plane.row(k), to.row(2 * k), width);
-      mapPixels(width, BetweenRows(), planeRow(to.row(2 * k + 1)),
+      mapPixels(width, BetweenRows(), planeRow(to.row(2 * k), to.row(2 * k + 1)),
                 fourRows(k, rows, [&](ptrdiff_t i) { return plane.row(i); }));
     }
   };
@@ -70,10 +77,9 @@ template <Chroma>
 void interpolateChroma(LumaAndPairs<const Vemi8u> from, const PlanarVideo<2, 1>::Frame<Vemi8u>& dst, VemiSize size) {
   const ptrdiff_t rows = size.height / 2;
   for (ptrdiff_t k = 0; k < rows; ++k) {
-    movePixels(size.width / 2, dst.chroma(2 * k), pairsOfBytes(from.pairs.row(k)));
-    const auto between = planeRow<2>(dst.cb().row(2 * k + 1), dst.cr().row(2 * k + 1));
-    mapPixels(size.width, BetweenRowsOfPairs(), between,
-              fourRows(k, rows, [&](ptrdiff_t i) { return from.pairs.row(i); }));
+    const auto to =
+        planeRow<2>(dst.cb().row(2 * k), dst.cr().row(2 * k), dst.cb().row(2 * k + 1), dst.cr().row(2 * k + 1));
+    mapPixels(size.width, BetweenRowsOfPairs(), to, fourRows(k, rows, [&](ptrdiff_t i) { return from.pairs.row(i); }));
   }
 }
 
