@@ -96,15 +96,15 @@ class SwappedRow {
 template <>
 class SwappedRow<4> {
   using D = Lanes<int32_t>;
-  static constexpr int N = static_cast<int>(laneCount<int32_t>), reach = 2;
-  static constexpr int early[3] = {0, N - reach, 2 * N - reach}, late[3] = {reach, N + reach, 2 * N};
+  static constexpr ptrdiff_t N = laneCount<int32_t>, reach = 2;
+  static constexpr ptrdiff_t early[3] = {0, N - reach, 2 * N - reach}, late[3] = {reach, N + reach, 2 * N};
 
  public:
   explicit SwappedRow(const int order[3]) {
-    for (int i = 0; i < 3 * N; ++i) {
-      const int vector = i / N, source = i - i % 3 + order[i % 3];
+    for (ptrdiff_t i = 0; i < 3 * N; ++i) {
+      const ptrdiff_t vector = i / N, source = i - i % 3 + order[i % 3];
       const bool isLate = source >= early[vector] + N;
-      index_[i] = source - (isLate ? late : early)[vector];
+      index_[i] = static_cast<int32_t>(source - (isLate ? late : early)[vector]);
       isLate_[i] = isLate ? -1 : 0;
     }
   }
@@ -118,7 +118,7 @@ class SwappedRow<4> {
     const auto kernel = [&](const uint8_t* in, uint8_t* out) HWY_ATTR {
       Vectors<hn::Vec<D>, 3> block;
       unrolled<3>([&](auto k) HWY_ATTR {
-        const auto swapped = [&](int first) HWY_ATTR {
+        const auto swapped = [&](ptrdiff_t first) HWY_ATTR {
           return hn::TableLookupLanes(hn::LoadU(d, reinterpret_cast<const int32_t*>(in) + first), indices[k]);
         };
         block.v[k] = hn::IfThenElse(areLate[k], swapped(late[k]), swapped(early[k]));
