@@ -925,11 +925,16 @@ class AreaAcross {
   /// Means: sums times `scale`.
   void operator()(const float* line, float scale, T* dst) const {
     const auto* const bytes = reinterpret_cast<const uint8_t*>(line);
-    picks_.template withWindows<4>([&](auto windows) {
+    const auto sums = [&](auto windows) {
       if (taps_ == 2) return run<windows>(std::integral_constant<ptrdiff_t, 2>(), bytes, scale, dst);
       if (taps_ == 3) return run<windows>(std::integral_constant<ptrdiff_t, 3>(), bytes, scale, dst);
       run<windows>(ptrdiff_t{taps_}, bytes, scale, dst);
-    });
+    };
+    if constexpr (L::elements == 4) {
+      sums(std::integral_constant<int, 1>());
+    } else {
+      picks_.template withWindows<4>(sums);
+    }
   }
 
  private:
