@@ -21,6 +21,7 @@
 #include "core/inlined.h"
 #include "core/lanes.h"
 #include "core/layout.h"
+#include "core/processor_quads.h"
 #include "core/streaming.h"
 
 namespace vemi {
@@ -42,7 +43,11 @@ HWY_INLINE auto loadChannels(D d, const hn::TFromD<D>* pixels, const F& f) {
     return f(c0, c1, c2);
   } else {
     static_assert(channels == 4);
-    hn::LoadInterleaved4(d, pixels, c0, c1, c2, c3);
+    if constexpr (std::is_same_v<hn::TFromD<D>, uint8_t>) {
+      loadQuads(d, pixels, c0, c1, c2, c3);
+    } else {
+      hn::LoadInterleaved4(d, pixels, c0, c1, c2, c3);
+    }
     return f(c0, c1, c2, c3);
   }
 }
@@ -500,42 +505,51 @@ struct PerChannel {
 
 namespace detail {
 
-/// Where the 32 bits of each place are, so that the first three of every block of four come to the vector's front.
-struct FrontOfVector {
-  alignas(laneAlignment) uint32_t index[laneCount<uint32_t>];
+/// Vectors of blocks of four words, of which the first three of each count, become one run: where the words of vector k
+/// are for their places in the run, which repeat after a vector's length. The fourth words fill what is left.
+struct PlacesInRun {
+  static constexpr uint32_t words = laneCount<uint32_t>, counting = words / 4 * 3;
+  alignas(laneAlignment) uint32_t index[4][words];
 
-  constexpr FrontOfVector() : index() {
-    constexpr uint32_t words = laneCount<uint32_t>;
-    for (uint32_t i = 0; i < words; ++i) index[i] = i < words / 4 * 3 ? i / 3 * 4 + i % 3 : 3;
+  constexpr PlacesInRun() : index() {
+    for (uint32_t k = 0; k < 4; ++k) {
+      for (uint32_t i = 0; i < words; ++i) {
+        const uint32_t from = (i + k * words - k * counting) % words;
+        index[k][i] = from < counting ? from / 3 * 4 + from % 3 : 3;
+      }
+    }
   }
 };
 
-inline constexpr FrontOfVector frontOfVector;
+inline constexpr PlacesInRun placesInRun;
 
 }  // namespace detail
 
-/// Three of four channels, bytes as they are. The pixels of a vector are packed to its front; whole vectors are stored,
-/// each over the empty end of the one before, but the last of a block is cut.
+/// Three of four channels, bytes as they are: four vectors become three, each the end of one and the beginning of the
+/// next.
 HWY_NOINLINE inline void mapPixels(ptrdiff_t width, const IdenticalChannels&, InterleavedRow<uint8_t, C3> dst,
                                    InterleavedRow<const uint8_t, AC4> src) {
   const Lanes<uint8_t> d;
-  const Lanes<uint32_t> dPixels;
-  constexpr ptrdiff_t N = laneCount<uint8_t>, packed = N / 4 * 3;
-  constexpr int vectors = 4;
-  alignas(16) static constexpr uint8_t frontOfBlock[16] = {0, 1, 2, 4, 5, 6, 8, 9, 10, 12, 13, 14, 3, 7, 11, 15};
+  const Lanes<uint32_t> dWords;
+  constexpr ptrdiff_t N = laneCount<uint8_t>;
+  alignas(16) static constexpr uint8_t frontOfBlock[16] = {0, 1, 2, 4, 5, 6, 8, 9, 10, 12, 13, 14, 128, 128, 128, 128};
   const auto blocks = hn::LoadDup128(d, frontOfBlock);
-  const auto lanes = hn::SetTableIndices(dPixels, detail::frontOfVector.index);
   const auto kernel = [&](const uint8_t* in, uint8_t* out) VEMI_INLINED {
-    const auto pack = [&](auto k) VEMI_INLINED {
-      const auto inBlocks = hn::TableLookupBytes(hn::LoadU(d, in + k * N), blocks);
-      return hn::BitCast(d, hn::TableLookupLanes(hn::BitCast(dPixels, inBlocks), lanes));
+    const auto placed = [&](auto k) VEMI_INLINED {
+      const auto inBlocks = hn::TableLookupBytesOr0(hn::LoadU(d, in + k * N), blocks);
+      const auto places = hn::SetTableIndices(dWords, detail::placesInRun.index[k]);
+      return hn::TableLookupLanes(hn::BitCast(dWords, inBlocks), places);
     };
-    alignas(laneAlignment) uint8_t last[N];
-    hn::Store(pack(std::integral_constant<int, vectors - 1>()), d, last);
-    unrolled<vectors - 1>([&](auto k) VEMI_INLINED { hn::StoreU(pack(k), d, out + k * packed); });
-    std::memcpy(out + (vectors - 1) * packed, last, packed);
+    const auto v0 = placed(std::integral_constant<int, 0>()), v1 = placed(std::integral_constant<int, 1>());
+    const auto v2 = placed(std::integral_constant<int, 2>()), v3 = placed(std::integral_constant<int, 3>());
+    const auto end1 = hn::VecFromMask(dWords, hn::FirstN(dWords, N / 8)),
+               end2 = hn::VecFromMask(dWords, hn::FirstN(dWords, N / 16));
+    const auto store = [&](int place, auto v) VEMI_INLINED { hn::StoreU(hn::BitCast(d, v), d, out + place * N); };
+    store(0, hn::Or(v0, hn::AndNot(end1, v1)));
+    store(1, hn::Or(hn::And(end1, v1), hn::AndNot(end2, v2)));
+    store(2, hn::Or(hn::And(end2, v2), v3));
   };
-  forBlocks<vectors * N / 4>(width, kernel, Strand<const uint8_t, 4>{src.first}, Strand<uint8_t, 3>{dst.first});
+  forBlocks<N>(width, kernel, Strand<const uint8_t, 4>{src.first}, Strand<uint8_t, 3>{dst.first});
 }
 
 template <class Dst, class... Src>

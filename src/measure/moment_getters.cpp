@@ -8,7 +8,6 @@
 #include <limits>
 
 #include "core/checks.h"
-#include "core/lanes.h"
 #include "core/processor.h"
 #include "core/rounding.h"
 #include "measure/moment_state.h"
@@ -32,9 +31,8 @@ Sums sumsOf(const VemiMomentState* pState, int channel) {
   return sums;
 }
 
-/// Of the picture whose first pixel stands at (X, Y). Inline, since behind the call of a function without vectors GCC
-/// returns without clearing the upper halves of its caller's, and the user's next SSE instruction waits 100 ns.
-HWY_INLINE double spatialMoment(const Sums& S, int m, int n, double X, double Y) {
+/// Of the picture whose first pixel stands at (X, Y).
+double spatialMoment(const Sums& S, int m, int n, double X, double Y) {
   switch (momentEntry(m, n)) {
     case momentEntry(0, 0):
       return S(0, 0);

@@ -1,6 +1,9 @@
 // What holds for every exported function, whatever it computes: its memory is given back, and its rows may lie
 // anywhere.
 
+#ifdef __AVX__
+#include <cpuid.h>
+#endif
 #include <gtest/gtest.h>
 #include <omp.h>
 #include <sys/mman.h>
@@ -245,5 +248,36 @@ TEST(EveryExport, ReachesRowsAnywhere) {
   }
   omp_set_num_threads(threads);
 }
+
+#ifdef __AVX__
+/// Whether the upper halves of vector registers are anything but zero.
+bool upperHalvesAreInUse() {
+  unsigned low, high;
+  __asm__ volatile("xgetbv" : "=a"(low), "=d"(high) : "c"(1));
+  return (low & 4) != 0;
+}
+bool upperHalvesAreTold() {
+  unsigned a, b, c, d;
+  return __get_cpuid_count(0xd, 1, &a, &b, &c, &d) != 0 && (a & 4) != 0;
+}
+
+// A caller's SSE instruction behind them would wait.
+TEST(EveryExport, LeavesNoUpperHalves) {
+  if (!upperHalvesAreTold()) GTEST_SKIP() << "this processor does not tell";
+  const int threads = omp_get_max_threads();
+  omp_set_num_threads(1);
+  for (const Export& function : exports()) {
+    if (function.call == nullptr) continue;
+    for (const VemiSize size : {VemiSize{1, 1}, VemiSize{37, 6}, VemiSize{450, 6}}) {
+      Call call(function, {size, Rows::padded, Edge::back, 3, 1});
+      __asm__ volatile("vzeroupper");
+      call.invoke();
+      const bool inUse = upperHalvesAreInUse();
+      EXPECT_FALSE(inUse) << call.text();
+    }
+  }
+  omp_set_num_threads(threads);
+}
+#endif
 
 }  // namespace

@@ -13,6 +13,7 @@
 
 #include "core/numbers.h"
 #include "core/processor_bytes.h"
+#include "core/processor_quads.h"
 #include "core/processor_shuffles.h"
 #include "core/processor_triples.h"
 #include "support/for_types.h"
@@ -189,6 +190,27 @@ TEST(Processor, LowerHalvesWithinBlocks) {
   int32_t halves[N];
   hn::StoreU(lowerHalves(d, hn::Iota(d, 0), hn::Iota(d, 100)), d, halves);
   for (int i = 0; i < N; ++i) EXPECT_EQ(halves[i], i / 4 * 4 + i % 2 * 2 + (i % 4 < 2 ? 0 : 100)) << i;
+}
+
+template <class D>
+void expectQuadsInLanes(D d) {
+  constexpr size_t N = hn::MaxLanes(D());
+  std::vector<uint8_t> in(4 * N), place[4];  // of exactly this size, which the address sanitizer guards
+  for (size_t i = 0; i < in.size(); ++i) in[i] = static_cast<uint8_t>(i);
+  hn::Vec<D> c0, c1, c2, c3;
+  loadQuads(d, in.data(), c0, c1, c2, c3);
+  for (auto& bytes : place) bytes.resize(N);
+  hn::StoreU(c0, d, place[0].data());
+  hn::StoreU(c1, d, place[1].data());
+  hn::StoreU(c2, d, place[2].data());
+  hn::StoreU(c3, d, place[3].data());
+  for (size_t i = 0; i < in.size(); ++i) EXPECT_EQ(place[i % 4][i / 4], in[i]) << i;
+}
+
+TEST(Processor, QuadsGoToLanes) {
+  expectQuadsInLanes(Lanes<uint8_t>());
+  expectQuadsInLanes(hn::CappedTag<uint8_t, 16>());
+  expectQuadsInLanes(hn::CappedTag<uint8_t, 4>());
 }
 
 TEST(Processor, TriplesGoToLanesAndBack) {
