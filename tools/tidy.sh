@@ -9,7 +9,7 @@ shift
 [ $# -gt 0 ] || set -- src/*/*.cpp
 
 mkdir -p "$build/tidy"
-sed -E 's/ -m(memcpy-strategy|memset-strategy|move-max|store-max)=[^ ]*//g' "$build/compile_commands.json" \
+sed -E 's/ -m(memcpy-strategy|memset-strategy|move-max|store-max)=[^ ]*| -fno-ipa-ra//g' "$build/compile_commands.json" \
   >"$build/tidy/compile_commands.json"
 printf '%s\0' "$@" |
   xargs -0 -n 1 -P "$(nproc)" clang-tidy --quiet -p "$build/tidy" \

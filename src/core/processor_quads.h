@@ -1,6 +1,7 @@
 // Four interleaved bytes as a vector of each, by what the processor has for it.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 
 #include "core/vector_blocks.h"
@@ -17,8 +18,8 @@ HWY_INLINE void loadQuads(D d, const uint8_t* quads, V& c0, V& c1, V& c2, V& c3)
     const hn::Repartition<uint64_t, D> d64;
     alignas(16) static constexpr uint8_t byPlace[16] = {0, 4, 8, 12, 1, 5, 9, 13, 2, 6, 10, 14, 3, 7, 11, 15};
     const auto order = hn::LoadDup128(d, byPlace);
-    const auto at = [&](int i) HWY_ATTR {
-      const V blocks = blocksFrom(d, [&](int k) HWY_ATTR { return quads + 64 * k + 16 * i; });
+    const auto at = [&](ptrdiff_t i) HWY_ATTR {
+      const V blocks = blocksFrom(d, [&](ptrdiff_t k) HWY_ATTR { return quads + 64 * k + 16 * i; });
       return hn::BitCast(d32, hn::TableLookupBytes(blocks, order));
     };
     const auto v0 = at(0), v1 = at(1), v2 = at(2), v3 = at(3);

@@ -326,8 +326,9 @@ VemiStatus filterByFloats(Image<const T> src, Image<T> dst, VemiSize roiSize, co
         return filterBands<decltype(arithmetic), alphaOf<L>>(call, table, ring, window, Finish(), enter);
       };
       // A block of the longest vectors is longer than a short row, or makes much of it twice.
-      constexpr int ofShortRows = static_cast<int>(std::min(ptrdiff_t{8}, 64 / laneCount<float>));
-      status = call.width < 512 ? bands(OfFloats<ofShortRows>()) : bands(OfFloats<>());
+      const OfFloats<static_cast<int>(std::min(ptrdiff_t{8}, 64 / laneCount<float>))> ofShortRows;
+      const OfFloats<> ofLongRows;
+      status = call.width < 512 ? bands(ofShortRows) : bands(ofLongRows);
     }
     return status == vemiOk ? status : filterWithoutMemory<alphaOf<L>, float>(call, kernel, Finish());
   };

@@ -26,7 +26,7 @@ OffsetSpans::OffsetSpans(const int32_t* offset, ptrdiff_t elements) {
     std::fill(least + count, least + size, least[count - 1]);
     std::copy_n(least, size, most);
     unrolled<4>([&](auto level) {
-      for (int i = 0; i < size >> (level + 1); ++i) {
+      for (ptrdiff_t i = 0; i < size >> (level + 1); ++i) {
         least[i] = std::min(least[2 * i], least[2 * i + 1]);
         most[i] = std::max(most[2 * i], most[2 * i + 1]);
         of_[level + 1] = std::max(of_[level + 1], most[i] - least[i]);

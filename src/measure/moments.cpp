@@ -130,10 +130,10 @@ HWY_INLINE RowSums<Sum> sumsOfPiece(ptrdiff_t x, const Vemi8u* values, ptrdiff_t
   const auto of = [&](double number) HWY_ATTR { return hn::Set(dSums, number); };
   auto total = noSums(dSums);
   const auto addLanes = [&](ptrdiff_t first, const auto& part) HWY_ATTR {
-    const auto sums = ofPowers(decltype(total){{part(0), part(1), part(2), part(3)}}).v;
+    const auto sums = ofPowers(decltype(total){{part(0), part(1), part(2), part(3)}});
     const auto end = hn::Iota(dSums, static_cast<double>(padded + first));
-    const auto d1 = of(-n) * sums[1], d2 = of(n * n) * sums[2], d3 = of(-n * n * n) * sums[3];
-    addTo(total, shifted(end, decltype(total){{sums[0], d1, d2, d3}}));
+    const auto d1 = of(-n) * sums.v[1], d2 = of(n * n) * sums.v[2], d3 = of(-n * n * n) * sums.v[3];
+    addTo(total, shifted(end, decltype(total){{sums.v[0], d1, d2, d3}}));
   };
   unrolled<ladders>([&](auto k) HWY_ATTR {
     const auto lower = [&](int m) HWY_ATTR { return hn::PromoteTo(dSums, hn::LowerHalf(sum[k].v[m])); };
@@ -240,7 +240,7 @@ constexpr ColumnPowers columnPowers;
 constexpr uint64_t largestOfTile(int m) {
   uint64_t largest = static_cast<uint64_t>(255 * tileWidth / laneCount<uint32_t>);
   for (int i = 0; i < m; ++i) largest *= tileWidth - 1;
-  for (int k = 0; k < momentOrders - m; ++k) largest = largest * static_cast<uint64_t>(tileHeight + k) / (k + 1);
+  for (uint64_t k = 1; k <= static_cast<uint64_t>(momentOrders - m); ++k) largest = largest * (tileHeight + k - 1) / k;
   return largest;
 }
 static_assert(std::max({largestOfTile(0), largestOfTile(1), largestOfTile(2), largestOfTile(3)}) < uint64_t{1} << 32);
@@ -289,8 +289,9 @@ void sumByTiles(Image<const Vemi8u> src, VemiSize roiSize, Table<uint64_t>& tabl
       addTile({src.row(y) + first, src.step}, rows, x - first, static_cast<uint64_t>(x), band);
     }
     for (int m = 0; m < momentOrders; ++m) {
-      const auto d = ofPowers(RowSums<uint64_t>{{band[0].v[m], band[1].v[m], band[2].v[m], band[3].v[m]}}).v;
-      const auto sums = shifted(static_cast<uint64_t>(y + rows), RowSums<uint64_t>{{d[0], 0 - d[1], d[2], 0 - d[3]}});
+      const auto d = ofPowers(RowSums<uint64_t>{{band[0].v[m], band[1].v[m], band[2].v[m], band[3].v[m]}});
+      const RowSums<uint64_t> upwards = {{d.v[0], 0 - d.v[1], d.v[2], 0 - d.v[3]}};
+      const auto sums = shifted(static_cast<uint64_t>(y + rows), upwards);
       for (int n = 0; n < momentOrders - m; ++n) table[momentEntry(m, n)] += sums.v[n];
     }
   }
