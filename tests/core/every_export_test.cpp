@@ -258,7 +258,11 @@ bool upperHalvesAreInUse() {
 }
 bool upperHalvesAreTold() {
   unsigned a, b, c, d;
-  return __get_cpuid_count(0xd, 1, &a, &b, &c, &d) != 0 && (a & 4) != 0;
+  if (__get_cpuid_count(0xd, 1, &a, &b, &c, &d) == 0 || (a & 4) == 0) return false;
+  __asm__ volatile("vcmptrueps %%ymm0, %%ymm0, %%ymm0" : : : "xmm0");
+  const bool filled = upperHalvesAreInUse();
+  __asm__ volatile("vzeroupper");
+  return filled && !upperHalvesAreInUse();
 }
 
 // A caller's SSE instruction behind them would wait.
@@ -271,7 +275,7 @@ TEST(EveryExport, LeavesNoUpperHalves) {
     for (const VemiSize size : {VemiSize{1, 1}, VemiSize{37, 6}, VemiSize{450, 6}}) {
       Call call(function, {size, Rows::padded, Edge::back, 3, 1});
       __asm__ volatile("vzeroupper");
-      call.invoke();
+      function.call(function.function, call.arguments.data());
       const bool inUse = upperHalvesAreInUse();
       EXPECT_FALSE(inUse) << call.text();
     }
