@@ -1,7 +1,7 @@
 // What holds for every exported function, whatever it computes: its memory is given back, and its rows may lie
 // anywhere.
 
-#ifdef __AVX__
+#if defined(__AVX__) && defined(NDEBUG)
 #include <cpuid.h>
 #endif
 #include <gtest/gtest.h>
@@ -249,7 +249,8 @@ TEST(EveryExport, ReachesRowsAnywhere) {
   omp_set_num_threads(threads);
 }
 
-#ifdef __AVX__
+// Only optimised code clears them.
+#if defined(__AVX__) && defined(NDEBUG)
 /// Whether the upper halves of vector registers are anything but zero.
 bool upperHalvesAreInUse() {
   unsigned low, high;
@@ -272,6 +273,7 @@ TEST(EveryExport, LeavesNoUpperHalves) {
   omp_set_num_threads(1);
   for (const Export& function : exports()) {
     if (function.call == nullptr) continue;
+    if (has(function, Role::newRecord) || has(function, Role::freedRecord)) continue;  // Call::invoke keeps account
     for (const VemiSize size : {VemiSize{1, 1}, VemiSize{37, 6}, VemiSize{450, 6}}) {
       Call call(function, {size, Rows::padded, Edge::back, 3, 1});
       __asm__ volatile("vzeroupper");
