@@ -20,10 +20,10 @@ namespace {
 template <class T>
 using Resize = VemiStatus(const T*, VemiSize, int, VemiRect, T*, int, VemiSize, double, double, int);
 
-/// The source of a destination that is `factor` times as large.
 template <class T>
 using Peer = std::function<std::function<void()>(const Image<T>&, const Image<T>&)>;
 
+/// The source of a destination that is `factor` times as large.
 template <class T, int channels, Resize<T>* resize>
 Contest contest(VemiSize size, double factor, int interpolation, const Peer<T>& peer) {
   const auto reduced = [&](int extent) { return std::max(8, static_cast<int>(std::lround(extent / factor))); };

@@ -98,9 +98,7 @@ struct EmptiedLanes {
   }
 };
 
-namespace detail {
-
-/// To a local, which stays in registers.
+/// Adds blocks to a local, which stays in registers.
 template <class A, class Reduction, class... Src>
 HWY_INLINE void addBlocksTo(A& sums, ptrdiff_t blocks, const Reduction& reduction, const Src*... src) {
   const Lanes<typename A::Element> d;
@@ -112,14 +110,6 @@ HWY_INLINE void addBlocksTo(A& sums, ptrdiff_t blocks, const Reduction& reductio
     });
     ((src += A::items), ...);
   }
-}
-
-/// A function of its own, so that the accumulators have the registers to themselves.
-template <class A, class Reduction, class... Src>
-HWY_NOINLINE void addBlocks(A& accumulators, ptrdiff_t blocks, const Reduction& reduction, const Src*... src) {
-  A sums = accumulators;
-  addBlocksTo(sums, blocks, reduction, src...);
-  accumulators = sums;
 }
 
 /// A row's last elements, `count` modulo a block's, at the end of a block.
@@ -152,6 +142,16 @@ struct RowEnd {
     });
   }
 };
+
+namespace detail {
+
+/// A function of its own, so that the accumulators have the registers to themselves.
+template <class A, class Reduction, class... Src>
+HWY_NOINLINE void addBlocks(A& accumulators, ptrdiff_t blocks, const Reduction& reduction, const Src*... src) {
+  A sums = accumulators;
+  addBlocksTo(sums, blocks, reduction, src...);
+  accumulators = sums;
+}
 
 }  // namespace detail
 
@@ -186,7 +186,7 @@ HWY_NOINLINE void reduceRegion(VemiSize roiSize, const Reduction& reduction, Sin
   for (ptrdiff_t y = 0; y < pixels.height; ++y) {
     add(elements / A::items, src.row(y), others.row(y)...);
     if (elements % A::items != 0) {
-      const auto endOf = [&](const T* row) { return detail::RowEnd<L, A>(reduction, row, elements); };
+      const auto endOf = [&](const T* row) { return RowEnd<L, A>(reduction, row, elements); };
       [&](const auto&... end) { add(1, end.element...); }(endOf(src.row(y)), endOf(others.row(y))...);
     }
   }

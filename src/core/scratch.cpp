@@ -5,10 +5,8 @@
 namespace vemi {
 
 Vemi64s Pieces::place(Vemi64s count, Vemi64s elementBytes) {
-  // Divisions are for sizes that may exceed the limit, as small images would notice them. Alignments are powers of 2.
-  const Vemi64s offset = bytes_ > mostBytes - alignment_ ? mostBytes : (bytes_ + alignment_ - 1) & -alignment_;
-  const bool isSmall = static_cast<uint64_t>(count) >> 40 == 0 && elementBytes < 1 << 20;
-  bytes_ = limitedSum(offset, isSmall ? count * elementBytes : limitedProduct(count, elementBytes));
+  const Vemi64s offset = roundedUp(bytes_, alignment_);
+  bytes_ = limitedSum(offset, limitedProduct(count, elementBytes));
   return offset;
 }
 

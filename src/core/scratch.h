@@ -24,13 +24,15 @@ namespace vemi {
 inline constexpr Vemi64s mostBytes = std::numeric_limits<Vemi64s>::max();
 
 constexpr Vemi64s limitedProduct(Vemi64s a, Vemi64s b) {
-  return a < 0 || b < 0 || (b > 0 && a > mostBytes / b) ? mostBytes : a * b;
+  Vemi64s product = 0;
+  return a < 0 || b < 0 || __builtin_mul_overflow(a, b, &product) ? mostBytes : product;
 }
 
 constexpr Vemi64s limitedSum(Vemi64s a, Vemi64s b) { return a > mostBytes - b ? mostBytes : a + b; }
 
+/// The alignment is a power of two.
 constexpr Vemi64s roundedUp(Vemi64s bytes, Vemi64s alignment) {
-  return bytes > mostBytes - alignment ? mostBytes : (bytes + alignment - 1) / alignment * alignment;
+  return bytes > mostBytes - alignment ? mostBytes : (bytes + alignment - 1) & -alignment;
 }
 
 template <class T>

@@ -194,8 +194,7 @@ EachPlace<vectors, Op> eachPlace(Op op) {
   return {op};
 }
 
-namespace detail {
-
+/// mapPlaces within the function that calls it; the stage is a local of that.
 template <Alpha alpha, class T, class Stage>
 HWY_INLINE void mapPlacesHere(ptrdiff_t count, const Stage& stage, T* dst) {
   const Lanes<T> d;
@@ -224,21 +223,19 @@ HWY_INLINE void mapPlacesHere(ptrdiff_t count, const Stage& stage, T* dst) {
   }
 }
 
-}  // namespace detail
-
 /// A row of `count` elements: stage(d, place) gives the Vectors of a block from a place on. The stage holds the rows
 /// that it reads, none of which may be the destination.
 template <Alpha alpha = Alpha::none, class T, class Stage>
 HWY_NOINLINE void mapPlaces(ptrdiff_t count, const Stage& stageOfCaller, T* dst) {
   const Stage stage = stageOfCaller;  // a local, which no store to the destination can change
-  detail::mapPlacesHere<alpha>(count, stage, dst);
+  mapPlacesHere<alpha>(count, stage, dst);
 }
 
 /// The same for a stage that is made of pointers and numbers: stageOf(argument...). They arrive in registers; a stage
 /// in memory that was written just before is waited for.
 template <Alpha alpha, class StageOf, class T, class... Argument>
 HWY_NOINLINE void mapPlacesOf(ptrdiff_t count, T* dst, Argument... argument) {
-  detail::mapPlacesHere<alpha>(count, StageOf()(argument...), dst);
+  mapPlacesHere<alpha>(count, StageOf()(argument...), dst);
 }
 
 }  // namespace vemi

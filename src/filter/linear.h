@@ -20,6 +20,7 @@
 #include <cstring>
 
 #include "core/checks.h"
+#include "core/element.h"
 #include "core/exports.h"
 #include "core/float_control.h"
 #include "core/numbers.h"
@@ -265,8 +266,7 @@ HWY_NOINLINE VemiStatus filterWithoutMemory(const LinearCall<T>& call, const Use
     Sum sum = 0;
     for (ptrdiff_t j = 0; j < kernel.size.height; ++j) {
       for (ptrdiff_t c = 0; c < kernel.size.width; ++c) {
-        T element;
-        std::memcpy(&element, call.src.row(y + j) + i + c * call.pixel, sizeof element);
+        const T element = elementOf(call.src.row(y + j) + i + c * call.pixel);
         sum += static_cast<Sum>(element) * static_cast<Sum>(kernel.at(c, j));
       }
     }

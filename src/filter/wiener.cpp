@@ -13,6 +13,7 @@
 #include <limits>
 
 #include "core/checks.h"
+#include "core/element.h"
 #include "core/exports.h"
 #include "core/float_control.h"
 #include "core/numbers.h"
@@ -299,9 +300,7 @@ struct OneWindow {
   OneWindow(const WienerCall<T>& call, ptrdiff_t i, ptrdiff_t y) {
     const Window& window = call.window;
     const auto at = [&](ptrdiff_t column, ptrdiff_t row) {
-      T element;
-      std::memcpy(&element, windowed<L>(call.src, window).row(y + row) + i + column * L::elements, sizeof element);
-      return element;
+      return elementOf(windowed<L>(call.src, window).row(y + row) + i + column * L::elements);
     };
     for (ptrdiff_t c = 0; c < window.width; ++c) {
       double column = 0, squaresOfColumn = 0;

@@ -382,7 +382,7 @@ class FloatAcross {
       const auto at = [=, &picks](auto d, ptrdiff_t i)
                           HWY_ATTR { return betweenAt<windows, perWord>(d, picks, line0, line1, weights, down, i); };
       if constexpr (perWord == inTurn) {
-        vemi::detail::mapPlacesHere<alphaOf<L>>(elements, eachPlace<1>(at), out);
+        mapPlacesHere<alphaOf<L>>(elements, eachPlace<1>(at), out);
       } else {
         storeVectors<L>(elements, out, at);
       }
@@ -584,7 +584,7 @@ class ByteAcross {
       const auto at = [=, &picks](auto d, ptrdiff_t i)
                           HWY_ATTR { return betweenAt<windows, samples>(d, picks, base, other, weights, weight, i); };
       if constexpr (samples == Samples::inTurn) {
-        vemi::detail::mapPlacesHere<alphaOf<L>>(elements, eachPlace<1>(at), out);
+        mapPlacesHere<alphaOf<L>>(elements, eachPlace<1>(at), out);
       } else {
         storeVectors<L>(elements, out, at);
       }

@@ -7,6 +7,7 @@
 #include <cstring>
 
 #include "core/checks.h"
+#include "core/element.h"
 #include "core/exports.h"
 #include "core/map_row.h"
 #include "measure/keep_best.h"
@@ -39,11 +40,7 @@ class Search {
     return x;
   }
 
-  T at(const T* row, ptrdiff_t x) const {
-    T element;
-    std::memcpy(&element, row + x * L::elements + channel_, sizeof element);
-    return element;
-  }
+  T at(const T* row, ptrdiff_t x) const { return elementOf(row + x * L::elements + channel_); }
 
  private:
   static constexpr int vectors = L::elements == 3 ? 3 : 1;

@@ -3,8 +3,8 @@
 #pragma once
 
 #include <algorithm>
-#include <cstring>
 
+#include "core/element.h"
 #include "core/processor.h"
 #include "core/reduce_region.h"
 
@@ -101,11 +101,11 @@ HWY_NOINLINE void fastSums(VemiSize roiSize, double (&sum)[L::elements], Image<S
       A sums;
       sums.restart();
       const ptrdiff_t some = std::min(A::capacity, whole - block);
-      vemi::detail::addBlocksTo(sums, some, reduction, src.row(y) + block * A::items...);
+      addBlocksTo(sums, some, reduction, src.row(y) + block * A::items...);
       if (some < A::capacity && hasEnd) {
         [&](const auto&... end) HWY_ATTR {
-          vemi::detail::addBlocksTo(sums, 1, reduction, end.element...);
-        }(vemi::detail::RowEnd<L, A>(reduction, src.row(y), elements)...);
+          addBlocksTo(sums, 1, reduction, end.element...);
+        }(RowEnd<L, A>(reduction, src.row(y), elements)...);
       }
       detail::addByHalves<L>(sums, totals.next());
     }
@@ -119,14 +119,7 @@ template <class L, class Term, class... Src>
 HWY_NOINLINE void accurateSums(VemiSize roiSize, double (&sum)[L::elements], Image<Src>... src) {
   constexpr int count = L::elements == 1 ? 2 : L::elements;
   const ptrdiff_t elements = ptrdiff_t{roiSize.width} * L::elements;
-  const auto term = [](ptrdiff_t i, auto... row) {
-    const auto at = [&](const float* each) {
-      float element;
-      std::memcpy(&element, each + i, sizeof element);
-      return static_cast<double>(element);
-    };
-    return Term()(at(row)...);
-  };
+  const auto term = [](ptrdiff_t i, auto... row) { return Term()(static_cast<double>(elementOf(row + i))...); };
   double kept[count] = {};
   int turn = 0;  // the accumulator of the row's first element
   const auto addRow = [&](auto... row) {

@@ -16,6 +16,7 @@
 
 #include "core/any_element.h"
 #include "core/checks.h"
+#include "core/element.h"
 #include "core/image.h"
 #include "core/lane_width.h"
 #include "core/lanes.h"
@@ -297,8 +298,7 @@ void sumByTiles(Image<const Vemi8u> src, VemiSize roiSize, Table<uint64_t>& tabl
   }
 }
 
-// ---- Whether the order of additions matters
-// --------------------------------------------------------------------------
+// ---- Whether the order of additions matters -------------------------------------------------------------------------
 
 /// No sum over values of at most 1 is above this: those of order 3 are the largest, the longest side's above all.
 double largestSum(VemiSize roiSize) {
@@ -346,9 +346,7 @@ struct PixelsSetOut {
   template <class L, class T>
   void take(int x, const T* pixels, int count) {
     for (int i = 0; i < count; ++i) {
-      T value;
-      std::memcpy(&value, pixels + ptrdiff_t{i} * L::elements, sizeof value);
-      f[i] = static_cast<double>(value);
+      f[i] = static_cast<double>(elementOf(pixels + ptrdiff_t{i} * L::elements));
       column[i] = x + i;
       square[i] = column[i] * column[i];
       cube[i] = square[i] * column[i];
