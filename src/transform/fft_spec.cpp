@@ -32,7 +32,7 @@ Vemi64s complexBytes(int orderX, int orderY) {
 /// Room for an image and a row of four floats a pixel, beside what the float transform asks for.
 Vemi64s integerBytes(int orderX, int orderY) {
   const Vemi64s width = Vemi64s{1} << orderX, height = Vemi64s{1} << orderY;
-  return realBytes(orderX, orderY) + 16 * (width + width * height) + bufferSlack;
+  return limitedSum(realBytes(orderX, orderY) + bufferSlack + 16 * width, limitedProduct(16 * width, height));
 }
 
 VemiStatus checkOrders(int orderX, int orderY, int flag, Vemi64s (*bytes)(int, int)) {

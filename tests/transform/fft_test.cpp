@@ -220,11 +220,14 @@ TEST(FFT, BufferSizesAreTheStatedOnes) {
   EXPECT_EQ(vemiFFTFree_R_32s(integers), vemiOk);
   // Buffers of 2^31 bytes and more are none.
   VemiFFTSpec_R_32f* floats = nullptr;
-  for (const auto& [x, y] : {std::pair{27, 0}, {0, 25}, {30, 30}}) {
+  integers = nullptr;
+  for (const auto& [x, y] : {std::pair{27, 0}, {0, 25}, {29, 30}, {30, 30}}) {
     EXPECT_EQ(vemiFFTInitAlloc_R_32f(&floats, x, y, 8, 0), vemiErrMemAlloc);
+    EXPECT_EQ(vemiFFTInitAlloc_R_32s(&integers, x, y, 8, 0), vemiErrMemAlloc);
   }
-  EXPECT_EQ(floats, nullptr);
   EXPECT_EQ(vemiFFTInitAlloc_R_32s(&integers, 14, 13, 8, 0), vemiErrMemAlloc);
+  EXPECT_EQ(floats, nullptr);
+  EXPECT_EQ(integers, nullptr);
 }
 
 }  // namespace
