@@ -26,17 +26,24 @@ auto pixelsIn(Images images) {
   }
 }
 
+/// Of interleaved pixels whose arithmetic takes about as long as memory. A vector that is a line goes past the caches
+/// as it is; halves of lines wait for the others, and calls take up to half as long again as with cached stores.
+inline constexpr Stores storesBesideArithmetic =
+    sizeof(hn::Vec<Lanes<uint8_t>>) == 64 ? Stores::streamed : Stores::cached;
+
 /// dst = Op()(channels of src), by a team. Conversions of integers give the same under any rounding mode, those of
-/// floats round as the caller has set it.
+/// floats round as the caller has set it. `how` is of floats; integers take more arithmetic to the byte.
 template <class Op, class SrcLayout, class DstLayout = SrcLayout, Stores how = Stores::cached, class Src, class Dst>
 VemiStatus convertPixels(Src src, Dst dst, VemiSize roiSize) {
   if (const VemiStatus bad = firstOf(checkNull(src, dst), checkSize(roiSize), checkStep(src, dst))) return bad;
+  using Row = decltype(pixelsIn<SrcLayout>(src).row(0));
+  constexpr bool areFloats = std::is_same_v<typename Row::Element, Vemi32f>;
   const auto convert = [&] {
-    mapPixelRegion<how>(TeamRows{false}, roiSize, Op(), pixelsIn<DstLayout>(dst), pixelsIn<SrcLayout>(src));
+    constexpr Stores stores = areFloats || how == Stores::cached ? how : storesBesideArithmetic;
+    mapPixelRegion<stores>(TeamRows{false}, roiSize, Op(), pixelsIn<DstLayout>(dst), pixelsIn<SrcLayout>(src));
     return vemiOk;
   };
-  using Row = decltype(pixelsIn<SrcLayout>(src).row(0));
-  if constexpr (std::is_same_v<typename Row::Element, Vemi32f>)
+  if constexpr (areFloats)
     return convert();
   else
     return roundingToNearest(convert);

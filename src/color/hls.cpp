@@ -105,7 +105,7 @@ VEMI_DEFINE(vemiRGBToHLS_16u_C3R, VEMI_SRC_DST(Vemi16u), convertPixels<FromInteg
 VEMI_DEFINE(vemiRGBToHLS_16u_AC4R, VEMI_SRC_DST(Vemi16u), convertPixels<FromIntegers, AC4>)
 VEMI_DEFINE(vemiRGBToHLS_16s_C3R, VEMI_SRC_DST(Vemi16s), convertPixels<OfSigned<FromIntegers>, C3>)
 VEMI_DEFINE(vemiRGBToHLS_16s_AC4R, VEMI_SRC_DST(Vemi16s), convertPixels<OfSigned<FromIntegers>, AC4>)
-VEMI_DEFINE(vemiRGBToHLS_32f_C3R, VEMI_SRC_DST(Vemi32f), convertPixels<FromFloats, C3, C3, Stores::streamed>)
+VEMI_DEFINE(vemiRGBToHLS_32f_C3R, VEMI_SRC_DST(Vemi32f), convertPixels<FromFloats, C3, C3, storesBesideArithmetic>)
 VEMI_DEFINE(vemiRGBToHLS_32f_AC4R, VEMI_SRC_DST(Vemi32f), convertPixels<FromFloats, AC4>)
 
 VEMI_DEFINE(vemiHLSToRGB_8u_C3R, VEMI_SRC_DST(Vemi8u), convertPixels<ToIntegers, C3>)

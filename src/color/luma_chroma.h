@@ -30,11 +30,12 @@ VemiStatus checkConversion(Src src, Dst dst, VemiSize roiSize) {
   return firstOf(checkImages(src, dst, roiSize), checkStep(src, dst));
 }
 
-/// dst = Op()(channels of src), in the calling thread.
+/// dst = Op()(channels of src), in the calling thread. To take interleaved pixels apart is arithmetic, too.
 template <class SL, class DL, class Op, class Src, class Dst>
 VemiStatus convert(Src src, Dst dst, VemiSize roiSize) {
   if (const VemiStatus bad = checkConversion(src, dst, roiSize)) return bad;
-  mapPixelRegion(CallerRows(), roiSize, Op(), pixelsIn<DL>(dst), pixelsIn<SL>(src));
+  constexpr Stores how = std::is_same_v<SL, Planar> ? Stores::streamed : storesBesideArithmetic;
+  mapPixelRegion<how>(CallerRows(), roiSize, Op(), pixelsIn<DL>(dst), pixelsIn<SL>(src));
   return vemiOk;
 }
 

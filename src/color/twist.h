@@ -236,13 +236,13 @@ VemiStatus leavingNoException(const F& f) {
   return status;
 }
 
-/// By the operations of the list that pays first, or by sums of doubles.
+/// By the operations of the list that pays first, or by sums of doubles. All of them take longer than memory.
 template <class T, class L, class... Fast, class Src, class Dst>
 VemiStatus twistIntegersBy(Src src, Dst dst, VemiSize roiSize, Twist twist) {
   if (const VemiStatus bad = firstOf(checkNull(src, dst, twist), checkSize(roiSize), checkStep(src, dst))) return bad;
   return leavingNoException([&] {
     const auto run = [&](const auto& op) {
-      mapPixelRegion(CallerRows(), roiSize, op, pixelsIn<L>(dst), pixelsIn<L>(src));
+      mapPixelRegion<Stores::cached>(CallerRows(), roiSize, op, pixelsIn<L>(dst), pixelsIn<L>(src));
     };
     const bool isDone = (... || (Fast::pays(twist) && (run(Fast(twist)), true)));
     if (!isDone) run(ExactTwist<T>(twist));

@@ -81,7 +81,7 @@ struct ToRGB32f {
 using BytesToXyz = Regimes<8, SumOfTwoParts<rgbToXyz8u>, Affine<rgbToXyz8uRest>>;
 using BytesToRGB = Regimes<8, SumOfTwoParts<xyzToRgb8u>, Affine<xyzToRgb8uRest>>;
 
-/// By so little arithmetic that stores past the caches count.
+/// Floats take so little arithmetic that stores past the caches count.
 template <class Op, class L>
 VemiStatus convertStreamed(auto src, auto dst, VemiSize roiSize) {
   return convertPixels<Op, L, L, Stores::streamed>(src, dst, roiSize);

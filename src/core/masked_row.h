@@ -39,51 +39,54 @@ HWY_NOINLINE void mapRowMasked(ptrdiff_t width, const Vemi8u* mask, const Indexe
   }
   const IndexedOp op = indexedOp;  // a local, which no store to the destination can change
   const Lanes<T> d;
-  const hn::RebindToSigned<Lanes<T>> dFlags;
-  const hn::Rebind<int8_t, decltype(d)> dMask;
+  const hn::RebindToUnsigned<Lanes<T>> dFlags;
+  const hn::Rebind<uint8_t, decltype(d)> dMask;
   using Flag = hn::TFromD<decltype(dFlags)>;
   static_assert(!L::keepsAlpha || N % 4 == 0, "every vector begins with a pixel");
   constexpr int vectors = L::elements;
   // Short elements of one channel: a blend costs less than the breaks that skipped blocks make in the streams of loads.
   constexpr bool blendsAll = L::elements == 1 && sizeof(T) <= 2 && sizeof...(Src) > 0;
-  const auto colour = colourLanes(d);
+  [[maybe_unused]] const auto alpha = hn::Not(colourLanes(d));
 
   const auto kernel = [&](T* out, const T* old, const Vemi8u* selection, const Src*... in) HWY_ATTR {
     const auto result = [&](auto k) HWY_ATTR { return op(d, k, hn::LoadU(d, in + k * N)...); };
-    const auto store = [&](auto chosen, auto k) HWY_ATTR {
-      hn::StoreU(hn::IfThenElse(chosen, result(k), hn::LoadU(d, old + k * N)), d, out + k * N);
+    const auto storeUnless = [&](auto stays, auto k) HWY_ATTR {
+      hn::StoreU(hn::IfThenElse(stays, hn::LoadU(d, old + k * N), result(k)), d, out + k * N);
     };
-    const auto skipped = hn::Eq(hn::LoadU(dMask, reinterpret_cast<const int8_t*>(selection)), hn::Zero(dMask));
+    const auto ofPixels = hn::LoadU(dMask, selection);
     if constexpr (!blendsAll) {
+      const auto skipped = hn::Eq(ofPixels, hn::Zero(dMask));
       if (hn::AllTrue(dMask, skipped)) return;
       if (hn::AllFalse(dMask, skipped)) {
         if constexpr (L::keepsAlpha) {
-          unrolled<vectors>([&](auto k) HWY_ATTR { store(colour, k); });
+          unrolled<vectors>([&](auto k) HWY_ATTR { storeUnless(alpha, k); });
         } else {
           unrolled<vectors>([&](auto k) HWY_ATTR { hn::StoreU(result(k), d, out + k * N); });
         }
         return;
       }
     }
-    const auto chosenPixels = hn::VecFromMask(dMask, hn::Not(skipped));
+    // Flags that are not zero become masks where elements are stored: masks of bytes that were widened as vectors of
+    // 64 bytes and became masks again took three times as long.
+    const auto isZero = [&](auto flags) HWY_ATTR { return hn::RebindMask(d, hn::Eq(flags, hn::Zero(dFlags))); };
     const auto pixelFlags = [&] {
       if constexpr (sizeof(T) == 1)
-        return chosenPixels;
+        return ofPixels;
       else
-        return hn::PromoteTo(dFlags, chosenPixels);
+        return hn::PromoteTo(dFlags, ofPixels);
     }();
     if constexpr (L::elements == 1) {
-      store(hn::RebindMask(d, hn::MaskFromVec(pixelFlags)), std::integral_constant<int, 0>());
+      storeUnless(isZero(pixelFlags), std::integral_constant<int, 0>());
       return;
     }
     alignas(laneAlignment) Flag flags[vectors * N];
     detail::storeRepeated<L>(dFlags, pixelFlags, flags);
     unrolled<vectors>([&](auto k) HWY_ATTR {
-      const auto chosen = hn::RebindMask(d, hn::MaskFromVec(hn::Load(dFlags, flags + k * N)));
+      const auto stays = isZero(hn::Load(dFlags, flags + k * N));
       if constexpr (L::keepsAlpha) {
-        store(hn::And(chosen, colour), k);
+        storeUnless(hn::Or(stays, alpha), k);
       } else {
-        store(chosen, k);
+        storeUnless(stays, k);
       }
     });
   };
