@@ -1,4 +1,5 @@
-// Times the library against its peers, single-threaded, and prints how many times as fast it is.
+// Times the library against its peers, single-threaded, or its teams against its single threads, and prints how many
+// times as fast it is.
 
 #include <omp.h>
 
@@ -9,6 +10,7 @@
 #include <exception>
 #include <map>
 #include <optional>
+#include <set>
 #include <tuple>
 
 #include "contest.h"
@@ -37,17 +39,19 @@ constexpr FamilyTable families[] = {
 };
 
 constexpr const char* usage =
-    "usage: vemi_bench [--quick] [--size WIDTHxHEIGHT]... [WORD]...\n"
+    "usage: vemi_bench [--quick] [--team THREADS] [--size WIDTHxHEIGHT]... [WORD]...\n"
     "       vemi_bench --errors\n"
     "  Runs the rows whose family, name or peer contains all of the WORDs; without one, all rows.\n"
     "  --size   an image size; default 64x64, 320x240, 1920x1080 and 4096x4096\n"
     "  --quick  one round instead of three: rougher figures in a third of the time\n"
+    "  --team   the library with a team of so many threads against itself in one thread, by the clock on the wall\n"
     "  --errors the errors of transforms beside those of FFTW's, instead of any times\n";
 
 struct Options {
   std::vector<VemiSize> sizes;
   std::vector<std::string> words;
-  Effort effort = {.batchSeconds = 0.001, .patience = 5, .rounds = 3};
+  Effort effort = {.clock = Clock::thread, .batchSeconds = 0.001, .patience = 5, .rounds = 3};
+  int team = 0;  // 0: against peers
 };
 
 std::optional<Options> parse(int count, char** arguments) {
@@ -56,6 +60,9 @@ std::optional<Options> parse(int count, char** arguments) {
     const std::string argument = arguments[i];
     if (argument == "--quick") {
       options.effort.rounds = 1;
+    } else if (argument == "--team" && i + 1 < count) {
+      if (std::sscanf(arguments[++i], "%d", &options.team) != 1 || options.team < 1) return std::nullopt;
+      options.effort.clock = Clock::wall;
     } else if (argument == "--size" && i + 1 < count) {
       VemiSize size{};
       if (std::sscanf(arguments[++i], "%dx%d", &size.width, &size.height) != 2) return std::nullopt;
@@ -80,6 +87,15 @@ bool selected(const Family& family, const Row& row, const std::vector<std::strin
 }
 
 std::string sizeName(VemiSize size) { return std::to_string(size.width) + "x" + std::to_string(size.height); }
+
+// The same call on both sides, by a team on ours.
+Contest ofTeam(const Contest& contest, int team) {
+  const auto by = [call = contest.ours](int threads) {
+    omp_set_num_threads(threads);
+    return call();
+  };
+  return {[=] { return by(team); }, [=] { by(1); }, contest.results};
+}
 
 // Geometric means of ratios, one for each size.
 class Means {
@@ -109,8 +125,10 @@ class Report {
 
   void run(const Family& family) {
     Means means(options_.sizes.size());
+    teamRows_.clear();
     for (const Row& row : family.rows) {
       if (!selected(family, row, options_.words)) continue;
+      if (options_.team > 0 && !teamRows_.insert(row.name).second) continue;  // against another peer
       if (!headed_) printHead();
       const std::vector<double> ratios = run(row, family.against);
       means.add(ratios);
@@ -121,7 +139,7 @@ class Report {
 
   // Returns whether every row was a fair one.
   bool finish() {
-    overall_.print("== all families against peers");
+    overall_.print(options_.team > 0 ? "== all families by teams" : "== all families against peers");
     std::sort(slower_.begin(), slower_.end());
     printSlower("Below 1.0 in what memcpy needs for as much memory, or hardly more", 90, 1e9);
     printSlower("Below 1.0 otherwise", 0, 90);
@@ -140,7 +158,8 @@ class Report {
   }
 
   void printHead() {
-    std::printf("Each column: peer's time / our time, our megapixels a second, our share of the speed of memcpy.\n");
+    std::printf("Each column: %s time / our time, our megapixels a second, our share of the speed of memcpy.\n",
+                options_.team > 0 ? "one thread's" : "peer's");
     std::printf("%-27s%-21s", "row", "peer");
     for (const VemiSize size : options_.sizes) std::printf("%19s  ", sizeName(size).c_str());
     std::printf("\n");
@@ -148,10 +167,11 @@ class Report {
   }
 
   std::vector<double> run(const Row& row, Against against) {
-    std::printf("%-27s%-21s", row.name.c_str(), row.peer.c_str());
+    const std::string peer = options_.team > 0 ? "one thread" : row.peer;
+    std::printf("%-27s%-21s", row.name.c_str(), peer.c_str());
     std::vector<double> ratios;
     for (const VemiSize size : options_.sizes) {
-      const std::string line = sizeName(size) + "  " + row.name + ", " + row.peer;
+      const std::string line = sizeName(size) + "  " + row.name + ", " + peer;
       const Times times = medianOfRaces(row, size, line);
       ratios.push_back(ratioOf(times));
       const double share = 100 * secondsOfCopy(bytesMoved) / times.ours;
@@ -169,7 +189,8 @@ class Report {
     std::vector<Times> races;
     for (int round = 0; round < options_.effort.rounds; ++round) {
       bytesMoved = 0;
-      const Contest contest = row.prepare(size);
+      const Contest prepared = row.prepare(size),
+                    contest = options_.team > 0 ? ofTeam(prepared, options_.team) : prepared;
       if (round == 0 && !agree(contest)) unfair_.push_back(line);
       races.push_back(race(contest, options_.effort));
     }
@@ -186,6 +207,7 @@ class Report {
 
   const Options& options_;
   std::map<size_t, double> copySeconds_;
+  std::set<std::string> teamRows_;
   Means overall_;
   bool headed_ = false;
   std::vector<std::tuple<double, double, std::string>> slower_;  // ratio, share, line

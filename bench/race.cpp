@@ -9,32 +9,33 @@
 namespace bench {
 namespace {
 
-double threadSeconds() {
+double secondsBy(Clock clock) {
   timespec time;
-  clock_gettime(CLOCK_THREAD_CPUTIME_ID, &time);
+  clock_gettime(clock == Clock::thread ? CLOCK_THREAD_CPUTIME_ID : CLOCK_MONOTONIC, &time);
   return static_cast<double>(time.tv_sec) + 1e-9 * static_cast<double>(time.tv_nsec);
 }
 
 template <class Call>
-double secondsOf(const Call& call, int calls) {
-  const double start = threadSeconds();
+double secondsOf(Clock clock, const Call& call, int calls) {
+  const double start = secondsBy(clock);
   for (int i = 0; i < calls; ++i) call();
-  return threadSeconds() - start;
+  return secondsBy(clock) - start;
 }
 
 template <class Call>
 class Side {
  public:
-  Side(const Call& call, double batchSeconds) : call_(call) {
+  Side(const Call& call, Effort effort) : call_(call), clock_(effort.clock) {
     call_();
-    calls_ = static_cast<int>(std::clamp(batchSeconds / std::max(secondsOf(call_, 1), 1e-9), 1.0, 1e6));
+    const double ofOne = std::max(secondsOf(clock_, call_, 1), 1e-9);
+    calls_ = static_cast<int>(std::clamp(effort.batchSeconds / ofOne, 1.0, 1e6));
   }
 
   // Returns whether this was the best batch by a percent or more. The first call is not timed: it leaves the caches as
   // this side leaves them, not as the other one did.
   bool runBatch() {
     call_();
-    const double seconds = secondsOf(call_, calls_) / calls_;
+    const double seconds = secondsOf(clock_, call_, calls_) / calls_;
     const bool improved = seconds < 0.99 * best_;
     best_ = std::min(best_, seconds);
     return improved;
@@ -44,6 +45,7 @@ class Side {
 
  private:
   const Call& call_;
+  const Clock clock_;
   int calls_;
   double best_ = std::numeric_limits<double>::infinity();
 };
@@ -73,14 +75,14 @@ bool agree(const Contest& contest) {
 double secondsOfCopy(size_t bytes, Effort effort) {
   std::vector<char> from(bytes / 2, 1), to(bytes / 2);
   const auto copy = [&] { std::memcpy(to.data(), from.data(), from.size()); };
-  Side side(copy, effort.batchSeconds);
+  Side side(copy, effort);
   for (int idle = 0; idle < effort.patience;) idle = side.runBatch() ? 0 : idle + 1;
   return side.best();
 }
 
 Times race(const Contest& contest, Effort effort) {
-  Side ours(contest.ours, effort.batchSeconds);
-  Side peers(contest.peers, effort.batchSeconds);
+  Side ours(contest.ours, effort);
+  Side peers(contest.peers, effort);
   for (int idle = 0; idle < effort.patience;) {
     const bool oursImproved = ours.runBatch(), peersImproved = peers.runBatch();
     idle = oursImproved || peersImproved ? 0 : idle + 1;

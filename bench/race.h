@@ -5,7 +5,10 @@
 
 namespace bench {
 
+enum class Clock { thread, wall };
+
 struct Effort {
+  Clock clock;
   double batchSeconds;
   int patience;  // turns in a row that improve on neither side's best batch by a percent, and so end the race
   int rounds;    // races in fresh images, of which the one in the middle counts: much depends on which pages they get
@@ -24,8 +27,8 @@ bool agree(const Contest& contest);
 double secondsOfCopy(size_t bytes, Effort effort);
 
 // Lets both sides run in turns, in batches of about effort.batchSeconds, and takes the fastest batch of each: whatever
-// else the machine does can only make a batch slower, and a slow minute meets both sides. What counts is the processor
-// time of the calling thread, which stands still while another program has the core.
+// else the machine does can only make a batch slower, and a slow minute meets both sides. Clock::thread is the
+// processor time of the calling thread, which stands still while another program has the core; teams want Clock::wall.
 Times race(const Contest& contest, Effort effort);
 
 }  // namespace bench
