@@ -361,8 +361,8 @@ VEMI_API VemiStatus vemiGetResizeFract(VemiSize srcSize, VemiRect srcRoi, double
  *     y' = c10 x + c11 y + c12        coeffs = {{c00, c01, c02}, {c10, c11, c12}}
  *
  * in the destination. It makes a parallelogram of the source region: of its pixels' middles, so that its corners are
- * those of the pixels at the region's corners. All destination pixels whose middles lie in it, or on its edge, and in
- * dstRoi, get what the inverse map fetches from the source; no other byte is written.
+ * those of the pixels at the region's corners. All destination pixels whose middles lie in it, or on its edge (but for
+ * the rounding of doubles), and in dstRoi, get what the inverse map fetches from the source; no other byte is written.
  *
  *     function                 map
  *     vemiRotate               (cos a, sin a, xShift; -sin a, cos a, yShift): about the pixel (0, 0), then moved. On
@@ -395,8 +395,10 @@ VEMI_API VemiStatus vemiGetResizeFract(VemiSize srcSize, VemiRect srcRoi, double
  *              pixels beside the region; at the image's edge through the outermost four. Bytes: with weights of 14 bits
  *              for each 1/512 of a pixel, (sum of a row) >> 8, and (sum + 0x80000) >> 20. 16u and 32f: in floats.
  *
- * 16u results are rounded to nearest and limited to 0..65535. Places outside the region, where rounding leads there,
- * are not fetched, and the pixel stays as it is. Results do not depend on the caller's rounding mode.
+ * 16u results are rounded to nearest and limited to 0..65535. Rounding may lead places out of the region. Fetched are
+ * those from srcRoi.x up to a pixel behind the region's last column, and rows likewise; by vemiInterCubic those up to a
+ * pixel outside of the image on any side. Outside of the image they count as its edge. Where a place lies farther out,
+ * the pixel stays as it is. Results do not depend on the caller's rounding mode.
  *
  * **Smooth edges.** With vemiSmoothEdge beside the interpolation (vemiInterLinear | vemiSmoothEdge), pixels in the
  * quadrangle that lie less than half a pixel from one of its edges are mixed with what was there: old (1 - a) + new a

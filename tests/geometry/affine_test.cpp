@@ -262,6 +262,18 @@ TEST(AffineQueries, EveryMember) {
   expectDefinition(membersOf("vemiGetAffineTransform"), transformOfQuad);
 }
 
+// By their relative difference, down to products of 1e-200.
+TEST(AffineQueries, TinyQuadrangles) {
+  double coeffs[2][3];
+  const auto transform = [&](double scale) {
+    const double quad[4][2] = {{0, 0}, {2 * scale, scale}, {3 * scale, 4 * scale}, {0, 2 * scale}};
+    return vemiGetAffineTransform({0, 0, 2, 2}, quad, coeffs);
+  };
+  EXPECT_EQ(transform(1e-60), vemiWarnNotParallelogram);
+  EXPECT_EQ(transform(1e-99), vemiWarnNotParallelogram);
+  EXPECT_EQ(transform(1e-101), vemiOk);
+}
+
 // Whole degrees mostly, and images in which spans are cut into several pieces.
 TEST(Rotate, AllAngles) {
   for (unsigned seed = 1; seed <= 300; ++seed) {
@@ -367,6 +379,33 @@ TEST(WarpAffine, WhatIsNoNumberMovesNothing) {
   EXPECT_EQ(rotate(nan, 0), vemiErrQuad);
   EXPECT_EQ(rotate(90, nan), vemiErrQuad);
   for (const Vemi8u byte : dst) EXPECT_EQ(byte, 3);
+}
+
+TEST(WarpAffine, TinyDeterminants) {
+  const Vemi8u src[4] = {1, 2, 3, 4};
+  Vemi8u dst[4] = {};
+  const auto warp = [&](double scale) {
+    const double map[2][3] = {{scale, 0, 0}, {0, 1, 0}};
+    return vemiWarpAffine_8u_C1R(src, {2, 2}, 2, {0, 0, 2, 2}, dst, 2, {0, 0, 2, 2}, map, vemiInterLinear);
+  };
+  EXPECT_EQ(warp(1e-201), vemiErrQuad);
+  EXPECT_EQ(dst[0], 0);
+  EXPECT_EQ(warp(1e-199), vemiOk);
+  EXPECT_EQ(dst[0], 1);
+  EXPECT_EQ(dst[1], 0);
+  EXPECT_EQ(dst[2], 3);
+}
+
+// A map so steep that the place of the only pixel that it reaches lies behind the last column, by doubles' rounding.
+TEST(WarpAffineBack, FetchesPlacesJustBehindTheRegion) {
+  const Vemi8u src[14] = {1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14};
+  const double steep = 1851785216, back[2][3] = {{steep, 0, 6.000001 - 4 * steep}, {0, 1, 0}};
+  for (const int interpolation : {vemiInterNearest, vemiInterLinear}) {
+    Vemi8u dst[12] = {};
+    EXPECT_EQ(vemiWarpAffineBack_8u_C1R(src, {7, 2}, 7, {0, 0, 7, 2}, dst, 6, {0, 0, 6, 2}, back, interpolation),
+              vemiOk);
+    for (int i = 0; i < 12; ++i) EXPECT_EQ(dst[i], i == 4 ? 7 : i == 10 ? 14 : 0) << i;
+  }
 }
 
 // Half of a pixel on the edge is covered; the sides of the destination's region are no edges.
