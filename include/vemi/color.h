@@ -1425,7 +1425,8 @@ VEMI_API VemiStatus vemiSplit420_8u_P2P3R(const Vemi8u* pSrcY, int srcYStep, con
  * So a frame that is worked through from top to bottom comes out as in one call, a band of it at a time: rows that wait
  * for the next band's first ones are made with that band. The pointers of each call address the band's first row. A
  * middle or a bottom band reads three rows of luma and one row of pairs above its pointers, and writes two rows of the
- * result above its pointer (of a chroma plane one). They must be there; nothing tests that.
+ * result above its pointer (of a chroma plane one). They must be there, so the band at the top has four rows or more;
+ * nothing tests that.
  *
  *     vemiJoin420_Filter_8u_P2C2R(y, yStep, uv, uvStep, yuyv, yuyvStep, size, 21);
  *

@@ -265,6 +265,19 @@ TEST(Video, PlanesThatOverlap) {
     const bool isMoved = n % 64 < 62 && n / 64 < 6;
     ASSERT_EQ(frame[n], original[isMoved ? n + 65 : n]) << n;
   }
+
+  // One byte ahead of itself, the other way up too: each byte that moves is the one that has just been written.
+  for (const int step : {64, -64}) {
+    Bytes smeared = original;
+    Vemi8u* const first = smeared.data() + (step < 0 ? 5 * 64 : 0);
+    Vemi8u* const ahead[] = {first + 1, cb.data(), cr.data()};
+    const int aheadSteps[] = {step, 32, 32};
+    EXPECT_EQ(vemiYCbCr420ToYCbCr420_8u_P2P3R(first, step, pairs.data(), 64, ahead, aheadSteps, {62, 6}), vemiOk);
+    for (size_t n = 0; n < smeared.size(); ++n) {
+      const bool isSmeared = n % 64 > 0 && n % 64 <= 62 && n / 64 < 6;
+      ASSERT_EQ(smeared[n], original[isSmeared ? n / 64 * 64 : n]) << n << ", step " << step;
+    }
+  }
 }
 
 // Luma, chroma rows that are repeated, and chroma at another rate.
