@@ -262,9 +262,13 @@ TEST(AffineQueries, EveryMember) {
   expectDefinition(membersOf("vemiGetAffineTransform"), transformOfQuad);
 }
 
-// By their relative difference, down to products of 1e-200.
-TEST(AffineQueries, TinyQuadrangles) {
+// By the relative difference of products, of 1e-12 at most, down to products of 1e-200.
+TEST(AffineQueries, QuadranglesThatAreNearlyParallelograms) {
   double coeffs[2][3];
+  for (const double miss : {0x1p-40, 0x1p-39}) {
+    const double quad[4][2] = {{0, 0}, {2, 1}, {3, 3}, {1, 2 + miss}};
+    EXPECT_EQ(vemiGetAffineTransform({0, 0, 2, 2}, quad, coeffs), miss < 1e-12 ? vemiOk : vemiWarnNotParallelogram);
+  }
   const auto transform = [&](double scale) {
     const double quad[4][2] = {{0, 0}, {2 * scale, scale}, {3 * scale, 4 * scale}, {0, 2 * scale}};
     return vemiGetAffineTransform({0, 0, 2, 2}, quad, coeffs);
@@ -381,19 +385,31 @@ TEST(WarpAffine, WhatIsNoNumberMovesNothing) {
   for (const Vemi8u byte : dst) EXPECT_EQ(byte, 3);
 }
 
+// Singular are those of at most 1e-12 of the first product, or where that is at most 1e-200, of the second one alone.
 TEST(WarpAffine, TinyDeterminants) {
   const Vemi8u src[4] = {1, 2, 3, 4};
   Vemi8u dst[4] = {};
-  const auto warp = [&](double scale) {
-    const double map[2][3] = {{scale, 0, 0}, {0, 1, 0}};
+  const auto warpBy = [&](const double(&map)[2][3]) {
     return vemiWarpAffine_8u_C1R(src, {2, 2}, 2, {0, 0, 2, 2}, dst, 2, {0, 0, 2, 2}, map, vemiInterLinear);
   };
+  const auto warp = [&](double scale) { return warpBy({{scale, 0, 0}, {0, 1, 0}}); };
   EXPECT_EQ(warp(1e-201), vemiErrQuad);
   EXPECT_EQ(dst[0], 0);
   EXPECT_EQ(warp(1e-199), vemiOk);
   EXPECT_EQ(dst[0], 1);
   EXPECT_EQ(dst[1], 0);
   EXPECT_EQ(dst[2], 3);
+  EXPECT_EQ(warpBy({{1, 1, 0}, {1, 1 + 0x1p-40, 0}}), vemiErrQuad);
+  EXPECT_EQ(warpBy({{1, 1, 0}, {1, 1 + 0x1p-39, 0}}), vemiOk);
+}
+
+TEST(WarpAffine, RegionsOfOneColumnOrRow) {
+  const Vemi8u src[16] = {};
+  Vemi8u dst[16] = {};
+  const double map[2][3] = {{1, 0, 0}, {0, 1, 0}};
+  for (const VemiRect region : {VemiRect{0, 0, 4, 1}, {0, 0, 1, 4}, {0, 3, 4, 4}, {3, 0, 4, 4}}) {
+    EXPECT_EQ(vemiWarpAffine_8u_C1R(src, {4, 4}, 4, region, dst, 4, {0, 0, 4, 4}, map, vemiInterNearest), vemiErrRect);
+  }
 }
 
 // A map so steep that the place of the only pixel that it reaches lies behind the last column, by doubles' rounding.

@@ -257,6 +257,30 @@ TEST(ResizeShift, ByStepsOfAboutTwo) {
                {"xShift", "yShift", {0.5, 0.499, 0.501, 0, 1, 2.5, -0.5}});
 }
 
+// A column that is missing 1e-7 of a pixel or less is written.
+TEST(Resize, NearlyWholeCounts) {
+  const Vemi8u src[4] = {200, 200, 200, 200};
+  const auto expectCount = [&](int expected, const auto& resizeInto) {
+    Vemi8u dst[12] = {};
+    EXPECT_EQ(resizeInto(dst), vemiOk);
+    EXPECT_EQ(std::count(dst, dst + 12, 200), expected);
+  };
+  for (const int kind : {vemiInterNearest, vemiInterLinear}) {
+    for (const double missing : {0.4e-7, 2e-7}) {
+      const double size = 10 - missing;
+      const int count = missing < 1e-7 ? 10 : 9;
+      expectCount(count, [&](Vemi8u* dst) {
+        return vemiResize_8u_C1R(src, {2, 2}, 2, {0, 0, 2, 2}, dst, 12, {12, 1}, size / 2, 1, kind);
+      });
+      const bool nearest = kind == vemiInterNearest;
+      expectCount(nearest ? count : count + 1, [&](Vemi8u* dst) {
+        return vemiResizeShift_8u_C1R(src, {2, 2}, 2, {0, 0, 2, 2}, dst, 12, {12, 1}, (nearest ? 2 : 1) / size, 1, 0, 0,
+                                      kind);
+      });
+    }
+  }
+}
+
 TEST(Resize, EveryMember) {
   expectDefinition(membersOf("vemiResize"), resized);
   expectTall("vemiResize");
