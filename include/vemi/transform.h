@@ -527,8 +527,8 @@ VEMI_API VemiStatus vemiZigzagInv8x8_16s_C1(const Vemi16s pSrc[64], Vemi16s pDst
  * @param pBuffer            working memory of the size that vemiWT...GetBufSize tells, at any address, of one call at a
  *                           time
  *
- * **Exactness.** Sums are of single precision, the products added from the first pixel to the last, vertically and then
- * horizontally; forward horizontally those of every second tap first, inverse those of the low pass first.
+ * **Exactness.** Sums are of single precision, the products added from the first pixel to the last, vertically, then
+ * horizontally: forward every second pixel from the first that either filter reads, then the rest; inverse low first.
  *
  * **Overlap.** What is written must not overlap with what is read.
  *
