@@ -22,6 +22,8 @@ set_target_properties(vemi_objects PROPERTIES POSITION_INDEPENDENT_CODE ON)
 if(VEMI_PRECOMPILED_HEADERS)
   target_precompile_headers(vemi_objects PRIVATE
     <algorithm> <cmath> ${PROJECT_SOURCE_DIR}/src/core/exports.h ${PROJECT_SOURCE_DIR}/src/core/map_region.h)
+  # GCC's headers of intrinsics silence these about themselves, by pragmas that do not last as precompiled headers do.
+  target_compile_options(vemi_objects PRIVATE "$<$<CXX_COMPILER_ID:GNU>:-Wno-uninitialized;-Wno-maybe-uninitialized>")
 endif()
 
 add_library(vemi SHARED ${vemi_allocator} $<TARGET_OBJECTS:vemi_objects>)
