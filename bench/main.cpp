@@ -10,7 +10,6 @@
 #include <exception>
 #include <map>
 #include <optional>
-#include <set>
 #include <tuple>
 
 #include "contest.h"
@@ -88,13 +87,28 @@ bool selected(const Family& family, const Row& row, const std::vector<std::strin
 
 std::string sizeName(VemiSize size) { return std::to_string(size.width) + "x" + std::to_string(size.height); }
 
-// The same call on both sides, by a team on ours.
-Contest ofTeam(const Contest& contest, int team) {
-  const auto by = [call = contest.ours](int threads) {
-    omp_set_num_threads(threads);
-    return call();
-  };
-  return {[=] { return by(team); }, [=] { by(1); }, contest.results};
+// Each function once, with a team against itself in one thread.
+Family byTeams(const Family& family, int team) {
+  Family teams = {family.name, {}, family.against};
+  for (const Row& row : family.rows) {
+    const auto isSame = [&](const Row& other) { return other.name == row.name; };  // against another peer
+    if (std::ranges::any_of(teams.rows, isSame)) continue;
+    teams.rows.push_back({row.name, "one thread", [team, prepare = row.prepare](VemiSize size) -> Contest {
+                            const Contest contest = prepare(size);
+                            const auto by = [call = contest.ours](int threads) {
+                              omp_set_num_threads(threads);
+                              return call();
+                            };
+                            return {[=] { return by(team); }, [=] { by(1); }, contest.results};
+                          }});
+  }
+  return teams;
+}
+
+// The rows that the options select, as they are to be run.
+Family chosen(Family family, const Options& options) {
+  std::erase_if(family.rows, [&](const Row& row) { return !selected(family, row, options.words); });
+  return options.team > 0 ? byTeams(family, options.team) : family;
 }
 
 // Geometric means of ratios, one for each size.
@@ -125,10 +139,7 @@ class Report {
 
   void run(const Family& family) {
     Means means(options_.sizes.size());
-    teamRows_.clear();
     for (const Row& row : family.rows) {
-      if (!selected(family, row, options_.words)) continue;
-      if (options_.team > 0 && !teamRows_.insert(row.name).second) continue;  // against another peer
       if (!headed_) printHead();
       const std::vector<double> ratios = run(row, family.against);
       means.add(ratios);
@@ -167,11 +178,10 @@ class Report {
   }
 
   std::vector<double> run(const Row& row, Against against) {
-    const std::string peer = options_.team > 0 ? "one thread" : row.peer;
-    std::printf("%-27s%-21s", row.name.c_str(), peer.c_str());
+    std::printf("%-27s%-21s", row.name.c_str(), row.peer.c_str());
     std::vector<double> ratios;
     for (const VemiSize size : options_.sizes) {
-      const std::string line = sizeName(size) + "  " + row.name + ", " + peer;
+      const std::string line = sizeName(size) + "  " + row.name + ", " + row.peer;
       const Times times = medianOfRaces(row, size, line);
       ratios.push_back(ratioOf(times));
       const double share = 100 * secondsOfCopy(bytesMoved) / times.ours;
@@ -189,8 +199,7 @@ class Report {
     std::vector<Times> races;
     for (int round = 0; round < options_.effort.rounds; ++round) {
       bytesMoved = 0;
-      const Contest prepared = row.prepare(size),
-                    contest = options_.team > 0 ? ofTeam(prepared, options_.team) : prepared;
+      const Contest contest = row.prepare(size);
       if (round == 0 && !agree(contest)) unfair_.push_back(line);
       races.push_back(race(contest, options_.effort));
     }
@@ -207,7 +216,6 @@ class Report {
 
   const Options& options_;
   std::map<size_t, double> copySeconds_;
-  std::set<std::string> teamRows_;
   Means overall_;
   bool headed_ = false;
   std::vector<std::tuple<double, double, std::string>> slower_;  // ratio, share, line
@@ -220,7 +228,7 @@ int run(const Options& options) {
   cv::setNumThreads(1);
 #endif
   Report report(options);
-  for (const FamilyTable family : families) report.run(family());
+  for (const FamilyTable family : families) report.run(chosen(family(), options));
   return report.finish() ? EXIT_SUCCESS : EXIT_FAILURE;
 }
 
